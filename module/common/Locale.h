@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+namespace tellurix::common {
+
+/// How numbers and names of days and months are written for the user.
+struct Locale {
+    char decimal = ',';
+    char grouping = '.';
+    bool germanNames = true; ///< day and month names: German, else English
+
+    static constexpr Locale german() { return {}; }
+    static constexpr Locale english() { return {'.', ',', false}; }
+};
+
+} // namespace tellurix::common

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace tellurix::common {
+
+/// A statement that was refused before it was sent, because a value in it would have changed what
+/// the statement does: the place where the server would have reported a syntax error.
+class StatementError : public std::runtime_error {
+public:
+    StatementError(const std::string& message, std::string statement, std::string value)
+        : std::runtime_error(message), statement_(std::move(statement)), value_(std::move(value)) {}
+
+    const std::string& statement() const { return statement_; }
+    const std::string& value() const { return value_; }
+
+private:
+    std::string statement_;
+    std::string value_;
+};
+
+/// Composes one statement text piece by piece. The fixed text is the program's own; every value
+/// enters through a function that says how it is written, and these ways are never unified: which
+/// one a statement uses is part of that statement.
+///
+///     StatementText{"UPDATE VERTRAEGE SET KOPF1 = "}.quotedAsItStands(text).fixed(" WHERE ID_VERTRAG = ").number(id)
+///
+/// A value that would break out of its place makes `text` throw, so nothing a user can type
+/// changes what a statement does.
+class StatementText {
+public:
+    explicit StatementText(std::string_view fixed = {}) : text_(fixed) {}
+
+    /// Text of the program itself.
+    StatementText& fixed(std::string_view text);
+    StatementText& number(std::int64_t value);
+    /// A number as the user typed it; every "," becomes ".". Refused unless the result is a plain number.
+    StatementText& number(std::string_view typed);
+    /// A text between single quotes, each quote inside it doubled.
+    StatementText& quoted(std::string_view value);
+    /// A text between single quotes exactly as it is. Refused when a single quote in it is not
+    /// doubled, because that would end the literal.
+    StatementText& quotedAsItStands(std::string_view value);
+    /// As `quotedAsItStands`, for a value inside a literal that the fixed text opens and closes.
+    StatementText& insideLiteral(std::string_view value);
+    /// A table or column name: letters, digits and "_". Anything else is refused.
+    StatementText& identifier(std::string_view name);
+    StatementText& null() { return fixed("NULL"); }
+
+    /// The finished statement.
+    /// @throws StatementError naming the statement and the first refused value
+    const std::string& text() const;
+
+private:
+    void refuse(std::string_view value, std::string_view reason);
+
+    std::string text_;
+    std::string refusedValue_;
+    std::string refusal_;
+};
+
+} // namespace tellurix::common
