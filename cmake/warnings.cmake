@@ -2,7 +2,7 @@
 # headers, so that a warning is always about our own code, and always an error.
 add_library(tellurix_warnings INTERFACE)
 target_compile_options(tellurix_warnings INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wsign-conversion -Wnon-virtual-dtor
   -Woverloaded-virtual -Wold-style-cast -Wnull-dereference -Wimplicit-fallthrough -Werror)
 
 if(TELLURIX_SANITIZE)

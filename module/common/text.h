@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tellurix::common {
+
+/// UTF-8 texts by their characters (code points). Invalid bytes count as one character each.
+
+std::u32string decodeUtf8(std::string_view text);
+std::string encodeUtf8(std::u32string_view characters);
+std::string encodeUtf8(char32_t character);
+
+/// Upper-case letters, those of the western European languages included: "grün" becomes "GRÜN".
+/// "ß" stays, as it has no single upper-case letter in the trade's data.
+std::string toUpper(std::string_view text);
+char32_t toUpper(char32_t character);
+
+/// Without blanks, tabs and line ends at both ends.
+std::string_view trim(std::string_view text);
+
+/// Every `from` replaced by `to`.
+std::string replaceAll(std::string text, std::string_view from, std::string_view to);
+
+} // namespace tellurix::common

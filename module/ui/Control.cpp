@@ -1,0 +1,24 @@
+#include "ui/Control.h"
+
+#include "ui/Form.h"
+
+namespace tellurix::ui {
+
+Control::Control(Form& form, std::string name) : form_(form), name_(std::move(name)), id_(form.add(*this)) {}
+
+bool Control::showing() const {
+    if (!visible_) return false;
+    if (container_ == nullptr) return true;
+    if (container_->kind() == ControlKind::tabs && static_cast<const Tabs*>(container_)->selected() != page_)
+        return false;
+    return container_->showing();
+}
+
+bool Control::usable() const {
+    for (const Control* control = this; control != nullptr; control = control->container_) {
+        if (!control->enabled_) return false;
+    }
+    return showing();
+}
+
+} // namespace tellurix::ui

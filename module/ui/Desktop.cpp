@@ -1,0 +1,378 @@
+#include "ui/Desktop.h"
+
+#include "common/text.h"
+#include "ui/Button.h"
+#include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
+#include "ui/Grid.h"
+#include "ui/ListBox.h"
+#include "ui/TextBox.h"
+#include "ui/UpDown.h"
+
+#include <algorithm>
+
+namespace tellurix::ui {
+
+namespace {
+
+template <typename C>
+C* as(Control* control, ControlKind kind) {
+    return control != nullptr && control->kind() == kind ? static_cast<C*>(control) : nullptr;
+}
+
+TextBox* asTextBox(Control* control) {
+    return as<TextBox>(control, ControlKind::textBox);
+}
+
+ItemList* asItemList(Control* control) {
+    if (ItemList* list = as<ComboBox>(control, ControlKind::comboBox)) return list;
+    return as<ListBox>(control, ControlKind::listBox);
+}
+
+std::string captionOf(const Control& control) {
+    switch (control.kind()) {
+    case ControlKind::button:
+        return static_cast<const Button&>(control).caption();
+    case ControlKind::checkBox:
+        return static_cast<const CheckBox&>(control).caption();
+    case ControlKind::label:
+        return static_cast<const Label&>(control).caption();
+    default:
+        return {};
+    }
+}
+
+bool editable(const TextBox* box) {
+    return box != nullptr && box->usable() && !box->locked();
+}
+
+void call(const std::function<void()>& handler) {
+    if (handler) handler();
+}
+
+/// The index that a navigation key leads to in a list of `count` entries, `page` of them visible.
+int movedIndex(Key key, int current, int count, int page) {
+    switch (key) {
+    case Key::up:
+        return std::max(current - 1, 0);
+    case Key::down:
+        return std::min(current + 1, count - 1);
+    case Key::pageUp:
+        return std::max(current - page, 0);
+    case Key::pageDown:
+        return std::min(current + page, count - 1);
+    case Key::home:
+        return 0;
+    case Key::end:
+        return count - 1;
+    default:
+        return current;
+    }
+}
+
+} // namespace
+
+char32_t accessKeyOf(std::string_view caption) {
+    const std::u32string characters = common::decodeUtf8(caption);
+    for (std::size_t i = 0; i + 1 < characters.size(); ++i) {
+        if (characters[i] != U'&') continue;
+        if (characters[i + 1] != U'&') return common::toUpper(characters[i + 1]);
+        ++i;
+    }
+    return 0;
+}
+
+std::string plainCaption(std::string_view caption) {
+    std::string plain;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && i + 1 < caption.size()) ++i;
+        plain += caption[i];
+    }
+    return plain;
+}
+
+void Desktop::runModal(Form& form, const std::function<Event()>& nextEvent) {
+    struct Window {
+        Window(std::vector<Form*>& windows, Form& form) : windows_(windows) { windows_.push_back(&form); }
+        ~Window() { windows_.pop_back(); }
+        std::vector<Form*>& windows_;
+    } window{windows_, form};
+
+    form.load();
+    ctrlAlone_ = false;
+    if (const auto order = form.tabOrder(); !order.empty()) dispatch(FocusEvent{order.front()});
+    while (form.loaded())
+        dispatch(nextEvent());
+    ctrlAlone_ = false;
+}
+
+void Desktop::dispatch(const Event& event) {
+    Form* form = top();
+    if (form == nullptr || !form->loaded()) return;
+    if (!std::holds_alternative<KeyUpEvent>(event) && !std::holds_alternative<KeyDownEvent>(event))
+        ctrlAlone_ = false;
+    try {
+        std::visit([this, form](const auto& happened) { handle(*form, happened); }, event);
+    } catch (const std::exception& error) {
+        errors_.report(error);
+    }
+}
+
+bool Desktop::moveFocus(Form& form, Control& to) {
+    Control* from = form.focused();
+    if (from == &to) return true;
+    if (!to.takesFocus() || !to.usable()) return false;
+    if (from != nullptr && from->onLeave && from->usable() && !from->onLeave()) {
+        form.setFocus(*from);
+        return false;
+    }
+    // The handler may have closed the window, sent the focus elsewhere, or disabled the target.
+    if (!form.loaded() || form.focused() != from) return false;
+    if (!form.setFocus(to)) return false;
+    if (TextBox* box = asTextBox(&to)) box->selectAll();
+    return true;
+}
+
+void Desktop::moveByTab(Form& form, bool backwards) {
+    const std::vector<Control*> before = form.tabOrder();
+    if (before.empty()) return;
+    Control* from = form.focused();
+    if (from != nullptr && from->onLeave && from->usable() && !from->onLeave()) {
+        form.setFocus(*from);
+        return;
+    }
+    if (!form.loaded() || form.focused() != from) return;
+
+    // What leaving changed (a frame that became usable) counts for where Tab goes.
+    const std::vector<Control*> order = form.tabOrder();
+    if (order.empty()) return;
+    const auto at = std::ranges::find(order, from);
+    std::size_t next = 0;
+    if (at != order.end()) {
+        const auto index = static_cast<std::size_t>(at - order.begin());
+        next = (index + (backwards ? order.size() - 1 : 1)) % order.size();
+    }
+    form.setFocus(*order[next]);
+    if (TextBox* box = asTextBox(order[next])) box->selectAll();
+}
+
+void Desktop::press(Form& form, Control& control) {
+    if (!control.usable()) return;
+    Button* button = as<Button>(&control, ControlKind::button);
+    const bool checks = button == nullptr || button->causesValidation();
+    if (checks ? !moveFocus(form, control) : !form.setFocus(control)) return;
+    if (button != nullptr) {
+        call(button->onClick);
+    } else if (CheckBox* check = as<CheckBox>(&control, ControlKind::checkBox)) {
+        check->setChecked(!check->checked());
+        call(check->onClick);
+    }
+}
+
+void Desktop::pick(Form& form, Control& control) {
+    TextBox* box = asTextBox(&control);
+    if (!editable(box) || !box->onPick || !moveFocus(form, control)) return;
+    box->onPick();
+    box->selectAll();
+}
+
+bool Desktop::editKey(Control& control, const KeyDown& key) {
+    TextBox* box = asTextBox(&control);
+    if (!editable(box) || (key.key != Key::backspace && key.key != Key::del)) return false;
+    box->erase(key.key == Key::backspace ? -1 : +1);
+    call(box->onChange);
+    return true;
+}
+
+bool Desktop::moveInList(Control& control, Key key) {
+    if (Grid* grid = as<Grid>(&control, ControlKind::grid)) {
+        const int count = static_cast<int>(grid->rows().size());
+        const int row =
+            count == 0 ? Grid::none : movedIndex(key, grid->currentRow(), count, grid->visibleRows());
+        const int lastColumn = static_cast<int>(grid->columns().size()) - 1;
+        int column = grid->currentColumn();
+        if (key == Key::left) column = std::max(column - 1, 0);
+        if (key == Key::right) column = std::min(column + 1, lastColumn);
+        if (row == grid->currentRow() && column == grid->currentColumn()) return false;
+        grid->setCurrent(row, column);
+        call(grid->onCurrentChange);
+        return true;
+    }
+    if (ItemList* list = asItemList(&control)) {
+        const int count = static_cast<int>(list->items().size());
+        const int index = count == 0 ? ItemList::none : movedIndex(key, list->selected(), count, 8);
+        if (index == list->selected()) return false;
+        list->select(index);
+        call(list->onChange);
+        return true;
+    }
+    return false;
+}
+
+void Desktop::typeCharacter(TextBox& box, char32_t character) {
+    if (box.onKeyPress) box.onKeyPress(character);
+    if (character == 0) return;
+    box.typeOver(common::encodeUtf8(character));
+    call(box.onChange);
+}
+
+void Desktop::handle(Form& form, const KeyDownEvent& event) {
+    KeyDown key = event.key;
+    ctrlAlone_ = key.key == Key::ctrl && !key.alt && !key.shift;
+    Control* control = form.focused();
+    if (control != nullptr && control->onKeyDown) {
+        control->onKeyDown(key);
+        if (key.key == Key::none || !form.loaded()) return;
+    }
+    if (key.key == Key::escape) {
+        if (form.cancelButton() != nullptr) {
+            press(form, *form.cancelButton());
+        } else {
+            form.unload();
+        }
+        return;
+    }
+    if (key.key == Key::f4 && key.alt) {
+        form.unload();
+        return;
+    }
+    if (key.key == Key::tab && !key.ctrl && !key.alt) {
+        moveByTab(form, key.shift);
+        return;
+    }
+    if (control == nullptr) return;
+    if (key.key == Key::enter) {
+        if (control->kind() == ControlKind::button) {
+            press(form, *control);
+        } else if (Grid* grid = as<Grid>(control, ControlKind::grid);
+                   grid != nullptr && grid->onDoubleClick) {
+            grid->onDoubleClick();
+        } else if (ListBox* list = as<ListBox>(control, ControlKind::listBox);
+                   list != nullptr && list->onDoubleClick) {
+            list->onDoubleClick();
+        } else if (TextBox* box = asTextBox(control); key.ctrl && editable(box) && box->lines() > 1) {
+            typeCharacter(*box, U'\n');
+        } else {
+            moveByTab(form, key.shift);
+        }
+        return;
+    }
+    if (key.key == Key::f4) {
+        pick(form, *control);
+        return;
+    }
+    if (key.key == Key::space &&
+        (control->kind() == ControlKind::button || control->kind() == ControlKind::checkBox)) {
+        press(form, *control);
+        return;
+    }
+    if (UpDown* upDown = as<UpDown>(control, ControlKind::upDown)) {
+        if (key.key == Key::up) call(upDown->onUp);
+        if (key.key == Key::down) call(upDown->onDown);
+        return;
+    }
+    if (Tabs* tabs = as<Tabs>(control, ControlKind::tabs)) {
+        const int last = static_cast<int>(tabs->captions().size()) - 1;
+        const int step = key.key == Key::right ? 1 : key.key == Key::left ? -1 : 0;
+        handle(form, SelectEvent{tabs, std::clamp(tabs->selected() + step, 0, last), 0});
+        return;
+    }
+    if (!editKey(*control, key)) moveInList(*control, key.key);
+}
+
+void Desktop::handle(Form& form, const KeyUpEvent& event) {
+    if (event.key != Key::ctrl || !ctrlAlone_) return;
+    ctrlAlone_ = false;
+    if (form.focused() != nullptr) pick(form, *form.focused());
+}
+
+void Desktop::handle(Form& form, const KeyPressEvent& event) {
+    // Control characters are keys, not text: their key-down event has dealt with them.
+    if (event.character < 32 || event.character == 127) return;
+    if (TextBox* box = asTextBox(form.focused()); editable(box)) typeCharacter(*box, event.character);
+}
+
+void Desktop::handle(Form& form, const AccessKeyEvent& event) {
+    const char32_t wanted = common::toUpper(event.character);
+    for (Control* control : form.controls()) {
+        if (accessKeyOf(captionOf(*control)) != wanted || !control->usable()) continue;
+        if (const Label* label = as<Label>(control, ControlKind::label)) {
+            if (Control* named = form.labelled(*label); named != nullptr && named->usable()) {
+                moveFocus(form, *named);
+                return;
+            }
+            continue;
+        }
+        press(form, *control);
+        return;
+    }
+}
+
+void Desktop::handle(Form& form, const FocusEvent& event) {
+    if (event.control != nullptr) moveFocus(form, *event.control);
+}
+
+void Desktop::handle(Form& form, const TextEditedEvent& event) {
+    if (!editable(event.box) || !moveFocus(form, *event.box)) return;
+    event.box->edited(event.text, event.selectionStart, event.selectionLength);
+    call(event.box->onChange);
+}
+
+void Desktop::handle(Form& form, const SelectionEvent& event) {
+    if (event.box != nullptr && form.focused() == event.box) event.box->select(event.start, event.length);
+}
+
+void Desktop::handle(Form& form, const PasteEvent& event) {
+    if (!editable(event.box) || !moveFocus(form, *event.box)) return;
+    for (const char32_t character : common::decodeUtf8(event.text)) {
+        const bool isText = character >= 32 || (character == U'\n' && event.box->lines() > 1);
+        if (isText) typeCharacter(*event.box, character);
+    }
+}
+
+void Desktop::handle(Form& form, const ClickEvent& event) {
+    if (event.control != nullptr) press(form, *event.control);
+}
+
+void Desktop::handle(Form& form, const StepEvent& event) {
+    UpDown* upDown = as<UpDown>(event.control, ControlKind::upDown);
+    if (upDown == nullptr || !upDown->usable() || !moveFocus(form, *upDown)) return;
+    call(event.up ? upDown->onUp : upDown->onDown);
+}
+
+void Desktop::handle(Form& form, const SelectEvent& event) {
+    if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
+    if (Grid* grid = as<Grid>(event.control, ControlKind::grid)) {
+        if (event.index == grid->currentRow() && event.column == grid->currentColumn()) return;
+        grid->setCurrent(event.index, event.column);
+        call(grid->onCurrentChange);
+    } else if (ItemList* list = asItemList(event.control)) {
+        if (event.index == list->selected()) return;
+        list->select(event.index);
+        call(list->onChange);
+    } else if (Tabs* tabs = as<Tabs>(event.control, ControlKind::tabs)) {
+        if (event.index == tabs->selected()) return;
+        tabs->select(event.index);
+        call(tabs->onChange);
+    }
+}
+
+void Desktop::handle(Form& form, const DoubleClickEvent& event) {
+    if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
+    if (Grid* grid = as<Grid>(event.control, ControlKind::grid)) call(grid->onDoubleClick);
+    if (ListBox* list = as<ListBox>(event.control, ControlKind::listBox)) call(list->onDoubleClick);
+}
+
+void Desktop::handle(Form&, const ScrollEvent& event) {
+    if (Grid* grid = as<Grid>(event.control, ControlKind::grid)) call(grid->onScroll);
+}
+
+void Desktop::handle(Form& form, const PickEvent& event) {
+    if (event.control != nullptr) pick(form, *event.control);
+}
+
+void Desktop::handle(Form& form, const CloseEvent&) {
+    form.unload();
+}
+
+} // namespace tellurix::ui

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "ui/Display.h"
+#include "ui/events.h"
+
+#include <functional>
+#include <vector>
+
+namespace tellurix::ui {
+
+/// The windows that one user has open, the topmost of which gets the input, and the rules of input
+/// that are the same on every display:
+///
+/// - Tab and Shift+Tab go through the layout's order; Enter in a box acts as Tab.
+/// - Getting the focus selects the whole text of a box.
+/// - Leaving a control asks its `onLeave` first, and a refusal takes the focus back. A click on a
+///   button leaves the box before it presses the button, unless the button throws input away.
+/// - Ctrl pressed and released with no other key between, F4, and the small button beside a box
+///   open its picker.
+/// - Alt with a letter presses the button, ticks the box or goes to the field with that access key.
+/// - Esc presses the cancel button, or closes the window.
+/// - Characters go through the box's key filter, pasted ones too.
+///
+/// An error inside an event goes to the host's error handling, and the window stays as it is.
+class Desktop {
+public:
+    explicit Desktop(ErrorHandling& errors) : errors_(errors) {}
+
+    /// Shows a form and handles events for it until it has been unloaded.
+    /// @param nextEvent draws what is dirty and waits for the user; an exception thrown by it that is
+    ///        no std::exception ends all open windows without asking them
+    void runModal(Form& form, const std::function<Event()>& nextEvent);
+
+    /// The open windows, the topmost last.
+    const std::vector<Form*>& windows() const { return windows_; }
+    Form* top() const { return windows_.empty() ? nullptr : windows_.back(); }
+
+    /// Handles one event for the topmost window. Never throws an std::exception.
+    void dispatch(const Event& event);
+
+private:
+    void handle(Form& form, const KeyDownEvent& event);
+    void handle(Form& form, const KeyUpEvent& event);
+    void handle(Form& form, const KeyPressEvent& event);
+    void handle(Form& form, const AccessKeyEvent& event);
+    void handle(Form& form, const FocusEvent& event);
+    void handle(Form& form, const TextEditedEvent& event);
+    void handle(Form& form, const SelectionEvent& event);
+    void handle(Form& form, const PasteEvent& event);
+    void handle(Form& form, const ClickEvent& event);
+    void handle(Form& form, const StepEvent& event);
+    void handle(Form& form, const SelectEvent& event);
+    void handle(Form& form, const DoubleClickEvent& event);
+    void handle(Form& form, const ScrollEvent& event);
+    void handle(Form& form, const PickEvent& event);
+    void handle(Form& form, const CloseEvent& event);
+
+    /// Goes from the focused control to another one, by the rules of leaving.
+    bool moveFocus(Form& form, Control& to);
+    void moveByTab(Form& form, bool backwards);
+    /// Does what a click, Space or Enter on a button or check box does.
+    void press(Form& form, Control& control);
+    void pick(Form& form, Control& control);
+    bool editKey(Control& control, const KeyDown& key);
+    bool moveInList(Control& control, Key key);
+    void typeCharacter(TextBox& box, char32_t character);
+
+    ErrorHandling& errors_;
+    std::vector<Form*> windows_;
+    bool ctrlAlone_ = false;
+};
+
+/// The access key of a caption: the capital of the character behind "&", or 0. "&&" is a plain "&".
+char32_t accessKeyOf(std::string_view caption);
+/// The caption as it is read: without the access key mark.
+std::string plainCaption(std::string_view caption);
+
+} // namespace tellurix::ui

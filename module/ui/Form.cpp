@@ -1,0 +1,118 @@
+#include "ui/Form.h"
+
+#include "ui/Tabs.h"
+
+#include <algorithm>
+
+namespace tellurix::ui {
+
+namespace {
+
+void collectFocusable(const Layout& layout, std::vector<Control*>& order) {
+    if (layout.control != nullptr && layout.control->takesFocus() && layout.control->usable()) {
+        order.push_back(layout.control);
+    }
+    for (const Layout& child : layout.children)
+        collectFocusable(child, order);
+}
+
+/// The field node that `matches`, or null.
+template <typename Predicate>
+const Layout* findField(const Layout& layout, const Predicate& matches) {
+    if (layout.kind == Layout::Kind::field && matches(layout)) return &layout;
+    for (const Layout& child : layout.children) {
+        if (const Layout* found = findField(child, matches)) return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Form::Form(std::string name, std::string title) : name_(std::move(name)), title_(std::move(title)) {}
+
+void Form::setTitle(std::string title) {
+    if (title == title_) return;
+    title_ = std::move(title);
+    titleDirty_ = true;
+}
+
+std::size_t Form::add(Control& control) {
+    controls_.push_back(&control);
+    return controls_.size() - 1;
+}
+
+Control* Form::find(std::string_view name) const {
+    const auto found =
+        std::ranges::find_if(controls_, [name](const Control* c) { return c->name() == name; });
+    return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::setLayout(Layout layout) {
+    layout_ = std::move(layout);
+    adopt(layout_, nullptr, -1);
+}
+
+void Form::adopt(const Layout& layout, Control* container, int page) {
+    Control* inner = container;
+    if (layout.control != nullptr) {
+        layout.control->container_ = container;
+        layout.control->page_ = page;
+        if (layout.kind == Layout::Kind::frame || layout.kind == Layout::Kind::tabs) {
+            inner = layout.control;
+            page = -1;
+        }
+    }
+    for (std::size_t i = 0; i < layout.children.size(); ++i) {
+        adopt(layout.children[i], inner, layout.kind == Layout::Kind::tabs ? static_cast<int>(i) : page);
+    }
+}
+
+std::vector<Control*> Form::tabOrder() const {
+    std::vector<Control*> order;
+    collectFocusable(layout_, order);
+    return order;
+}
+
+Control* Form::labelled(const Label& label) const {
+    const Layout* field = findField(layout_, [&label](const Layout& node) { return node.control == &label; });
+    return field == nullptr || field->children.empty() ? nullptr : field->children.front().control;
+}
+
+Label* Form::labelOf(const Control& control) const {
+    const Layout* field = findField(layout_, [&control](const Layout& node) {
+        return std::ranges::any_of(node.children,
+                                   [&control](const Layout& c) { return c.control == &control; });
+    });
+    return field == nullptr ? nullptr : static_cast<Label*>(field->control);
+}
+
+bool Form::setFocus(Control& control) {
+    if (!control.takesFocus() || !control.usable()) return false;
+    focused_ = &control;
+    if (control.onFocus) control.onFocus();
+    return true;
+}
+
+void Form::load() {
+    loaded_ = true;
+    focused_ = nullptr;
+    titleDirty_ = true;
+    for (Control* control : controls_)
+        control->markDirty();
+}
+
+bool Form::unload() {
+    if (!loaded_) return true;
+    // A question asked while closing must not start the closing again.
+    if (unloading_) return false;
+    struct Closing {
+        explicit Closing(bool& flag) : flag_(flag) { flag_ = true; }
+        ~Closing() { flag_ = false; }
+        bool& flag_;
+    } closing{unloading_};
+    if (!queryUnload()) return false;
+    loaded_ = false;
+    return true;
+}
+
+} // namespace tellurix::ui

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "ui/Layout.h"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tellurix::ui {
+
+class Button;
+
+/// A screen: its controls are its members, its constructor connects their handlers and says the
+/// layout, and its methods are the screen's logic. It knows nothing of how it is drawn.
+///
+/// A form lives longer than its window. A display loads it, shows it and unloads it; the object
+/// and what its members hold stay for the next time.
+class Form {
+public:
+    explicit Form(std::string name, std::string title = {});
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& name() const { return name_; }
+    const std::string& title() const { return title_; }
+    void setTitle(std::string title);
+
+    /// All controls in the order of their ids.
+    std::span<Control* const> controls() const { return controls_; }
+    /// The control of that name, or null.
+    Control* find(std::string_view name) const;
+    const Layout& layout() const { return layout_; }
+    /// The controls that can take the focus by Tab at the moment, in their order.
+    std::vector<Control*> tabOrder() const;
+    /// The control that the layout puts with a label, or null.
+    Control* labelled(const Label& label) const;
+    /// The label that the layout puts with a control, or null.
+    Label* labelOf(const Control& control) const;
+
+    /// The control that gets what the user types, or null.
+    Control* focused() const { return focused_; }
+    /// Gives a control the focus and calls its `onFocus`.
+    /// @return false when it is hidden or disabled: then nothing changes.
+    bool setFocus(Control& control);
+    /// Pressed by Esc; null lets Esc close the window.
+    Button* cancelButton() const { return cancelButton_; }
+
+    /// Shown in a window at the moment.
+    bool loaded() const { return loaded_; }
+    /// For displays: the window is about to be shown.
+    void load();
+    /// Closes the window if `queryUnload` allows it: a user who closes it, a button and the program
+    /// all go this way.
+    /// @return false when it stays open
+    bool unload();
+
+    bool titleDirty() const { return titleDirty_; }
+    /// For displays: the title has been drawn.
+    void titleDrawn() { titleDirty_ = false; }
+
+protected:
+    void setLayout(Layout layout);
+    void setCancelButton(Button& button) { cancelButton_ = &button; }
+    /// Asked before the window closes; false keeps it open.
+    virtual bool queryUnload() { return true; }
+
+private:
+    friend class Control;
+    std::size_t add(Control& control);
+    void adopt(const Layout& layout, Control* container, int page);
+
+    std::string name_;
+    std::string title_;
+    std::vector<Control*> controls_;
+    Layout layout_{Layout::Kind::column, nullptr, {}};
+    Control* focused_ = nullptr;
+    Button* cancelButton_ = nullptr;
+    bool loaded_ = false;
+    bool unloading_ = false;
+    bool titleDirty_ = true;
+};
+
+} // namespace tellurix::ui

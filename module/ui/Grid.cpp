@@ -1,0 +1,56 @@
+#include "ui/Grid.h"
+
+#include <algorithm>
+
+namespace tellurix::ui {
+
+void Grid::markContentDirty() {
+    contentDirty_ = true;
+    markDirty();
+}
+
+void Grid::setColumns(std::vector<Column> columns) {
+    columns_ = std::move(columns);
+    markContentDirty();
+}
+
+void Grid::setRows(std::vector<Row> rows) {
+    rows_ = std::move(rows);
+    currentRow_ = std::clamp(currentRow_, rows_.empty() ? none : 0, static_cast<int>(rows_.size()) - 1);
+    markContentDirty();
+}
+
+void Grid::addRow(Row row) {
+    rows_.push_back(std::move(row));
+    markContentDirty();
+}
+
+void Grid::removeRow(int row) {
+    rows_.erase(rows_.begin() + row);
+    currentRow_ = std::min(currentRow_, static_cast<int>(rows_.size()) - 1);
+    markContentDirty();
+}
+
+const std::string& Grid::cell(int row, int column) const {
+    return rows_.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column));
+}
+
+void Grid::setCell(int row, int column, std::string text) {
+    std::string& cell = rows_.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column));
+    if (cell == text) return;
+    cell = std::move(text);
+    markContentDirty();
+}
+
+void Grid::setCurrent(int row, int column) {
+    const bool inside = row >= 0 && row < static_cast<int>(rows_.size());
+    change(currentRow_, inside ? row : none);
+    change(currentColumn_, std::clamp(column, 0, std::max(0, static_cast<int>(columns_.size()) - 1)));
+}
+
+void Grid::drawn() {
+    Control::drawn();
+    contentDirty_ = false;
+}
+
+} // namespace tellurix::ui

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "ui/Control.h"
+
+#include <vector>
+
+namespace tellurix::ui {
+
+/// A table of texts with a header row and a current cell. Rows and columns count from 0, the
+/// header not included.
+class Grid final : public Control {
+public:
+    struct Column {
+        std::string caption;
+        int width = 10; ///< room for how many average characters
+        bool rightAligned = false;
+        bool visible = true;
+    };
+    using Row = std::vector<std::string>;
+
+    static constexpr int none = -1;
+
+    /// @param rows how many rows are seen without scrolling
+    Grid(Form& form, std::string name, int rows = 8) : Control(form, std::move(name)), visibleRows_(rows) {}
+
+    ControlKind kind() const override { return ControlKind::grid; }
+
+    int visibleRows() const { return visibleRows_; }
+    const std::vector<Column>& columns() const { return columns_; }
+    void setColumns(std::vector<Column> columns);
+    const std::vector<Row>& rows() const { return rows_; }
+    /// Replaces all rows; the current row stays where it was as far as there is one.
+    void setRows(std::vector<Row> rows);
+    void addRow(Row row);
+    void removeRow(int row);
+    const std::string& cell(int row, int column) const;
+    void setCell(int row, int column, std::string text);
+
+    int currentRow() const { return currentRow_; }
+    int currentColumn() const { return currentColumn_; }
+    /// Moves the current cell without calling `onCurrentChange`. A row outside selects none.
+    void setCurrent(int row, int column = 0);
+
+    /// Rows or columns changed since the last drawing, not only the current cell.
+    bool contentDirty() const { return contentDirty_; }
+    void drawn() override;
+
+    /// The user moved the current cell.
+    std::function<void()> onCurrentChange;
+    /// A double click on the current cell, or Enter on it.
+    std::function<void()> onDoubleClick;
+    /// The user scrolled.
+    std::function<void()> onScroll;
+
+private:
+    void markContentDirty();
+
+    std::vector<Column> columns_;
+    std::vector<Row> rows_;
+    int visibleRows_;
+    int currentRow_ = none;
+    int currentColumn_ = 0;
+    bool contentDirty_ = true;
+};
+
+} // namespace tellurix::ui

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui/Control.h"
+
+namespace tellurix::ui {
+
+/// A caption beside or above a control. "&" marks the access key that leads to the control which
+/// the layout puts it with.
+class Label final : public Control {
+public:
+    Label(Form& form, std::string name, std::string caption = {})
+        : Control(form, std::move(name)), caption_(std::move(caption)) {}
+
+    ControlKind kind() const override { return ControlKind::label; }
+    bool takesFocus() const override { return false; }
+
+    const std::string& caption() const { return caption_; }
+    void setCaption(std::string caption) { change(caption_, std::move(caption)); }
+
+private:
+    std::string caption_;
+};
+
+} // namespace tellurix::ui

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui/ItemList.h"
+
+namespace tellurix::ui {
+
+/// A list that shows several items at once.
+class ListBox final : public ItemList {
+public:
+    ListBox(Form& form, std::string name, int width = 40, int rows = 8)
+        : ItemList(form, std::move(name), width), rows_(rows) {}
+
+    ControlKind kind() const override { return ControlKind::listBox; }
+
+    /// How many items are seen without scrolling.
+    int rows() const { return rows_; }
+    /// The user chose the selected item: a double click, or Enter.
+    std::function<void()> onDoubleClick;
+
+private:
+    int rows_;
+};
+
+} // namespace tellurix::ui

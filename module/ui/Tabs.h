@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ui/Control.h"
+
+#include <vector>
+
+namespace tellurix::ui {
+
+/// Pages of controls of which one is shown; the layout says what stands on each.
+class Tabs final : public Control {
+public:
+    Tabs(Form& form, std::string name, std::vector<std::string> captions)
+        : Control(form, std::move(name)), captions_(std::move(captions)) {}
+
+    ControlKind kind() const override { return ControlKind::tabs; }
+
+    const std::vector<std::string>& captions() const { return captions_; }
+    void setCaptions(std::vector<std::string> captions) { change(captions_, std::move(captions)); }
+    int selected() const { return selected_; }
+    void select(int page) { change(selected_, page); }
+
+    /// The user chose another page.
+    std::function<void()> onChange;
+
+private:
+    std::vector<std::string> captions_;
+    int selected_ = 0;
+};
+
+} // namespace tellurix::ui

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "ui/Control.h"
+
+#include <string_view>
+
+namespace tellurix::ui {
+
+/// A box to type text into. Positions and lengths count characters.
+///
+/// `tag` is a second text beside the shown one that the user does not see: lookup boxes keep the
+/// database key of their value in it, empty for none.
+class TextBox final : public Control {
+public:
+    /// @param width the room for how many average characters
+    TextBox(Form& form, std::string name, int width = 20) : Control(form, std::move(name)), width_(width) {}
+
+    ControlKind kind() const override { return ControlKind::textBox; }
+
+    const std::string& text() const { return text_; }
+    /// Shows a text; the caret goes behind it. Does not call `onChange`: that tells what the user did.
+    void setText(std::string text);
+    const std::string& tag() const { return tag_; }
+    void setTag(std::string tag) { tag_ = std::move(tag); }
+
+    /// A locked box shows its text and can be read and copied, not changed.
+    bool locked() const { return locked_; }
+    void setLocked(bool locked) { change(locked_, locked); }
+    int width() const { return width_; }
+    /// How many lines are shown; more than one makes it a box for longer texts with line breaks.
+    int lines() const { return lines_; }
+    void setLines(int lines) { change(lines_, lines); }
+    /// Greatest number of characters that can be typed, 0 for no limit.
+    int maxLength() const { return maxLength_; }
+    void setMaxLength(int characters) { change(maxLength_, characters); }
+    bool rightAligned() const { return rightAligned_; }
+    void setRightAligned(bool right) { change(rightAligned_, right); }
+
+    int selectionStart() const { return selectionStart_; }
+    int selectionLength() const { return selectionLength_; }
+    void select(int start, int length);
+    void selectAll();
+
+    /// What the user's editing made of the text. For displays that edit by themselves.
+    void edited(std::string text, int selectionStart, int selectionLength);
+    /// Types text in place of the selection, as far as `maxLength` allows.
+    void typeOver(std::string_view typed);
+    /// What would stand in the box after typing `typed` in place of the selection.
+    std::string textAfterTyping(std::string_view typed) const;
+    /// Removes the selection, or the character before (`-1`) or behind (`+1`) the caret.
+    void erase(int direction);
+
+    /// A filter for typed characters: may replace the character, or swallow it by setting it to 0.
+    std::function<void(char32_t&)> onKeyPress;
+    /// The user changed the text.
+    std::function<void()> onChange;
+    /// Opens the box's picker; set for boxes that have one. The displays then offer Ctrl, F4 and a
+    /// small button for it.
+    std::function<void()> onPick;
+
+private:
+    std::string text_;
+    std::string tag_;
+    int width_;
+    int lines_ = 1;
+    int maxLength_ = 0;
+    int selectionStart_ = 0;
+    int selectionLength_ = 0;
+    bool locked_ = false;
+    bool rightAligned_ = false;
+};
+
+} // namespace tellurix::ui

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "ui/Control.h"
+
+namespace tellurix::ui {
+
+/// A pair of small buttons, up and down.
+class UpDown final : public Control {
+public:
+    UpDown(Form& form, std::string name) : Control(form, std::move(name)) {}
+
+    ControlKind kind() const override { return ControlKind::upDown; }
+
+    std::function<void()> onUp;
+    std::function<void()> onDown;
+};
+
+} // namespace tellurix::ui

@@ -1,0 +1,28 @@
+#include "ui/date_box.h"
+
+#include "common/date_format.h"
+#include "common/text.h"
+
+namespace tellurix::ui {
+
+void makeDateBox(TextBox& box, std::function<void()> showInvalid) {
+    box.onKeyPress = [](char32_t& key) {
+        const bool digit = key >= U'0' && key <= U'9';
+        if (!digit && key != U'.' && key != U'-' && key != U'/') key = 0;
+    };
+    box.onLeave = [&box, showInvalid = std::move(showInvalid)] {
+        if (common::trim(box.text()).empty()) {
+            box.setText("");
+            return true;
+        }
+        const auto date = common::parseDate(box.text());
+        if (!date) {
+            showInvalid();
+            return false;
+        }
+        box.setText(common::formatDate(*date, "dd.mm.yyyy", common::Locale::german()));
+        return true;
+    };
+}
+
+} // namespace tellurix::ui

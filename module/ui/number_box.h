@@ -1,0 +1,15 @@
+#pragma once
+
+#include "common/Locale.h"
+#include "ui/TextBox.h"
+
+namespace tellurix::ui {
+
+/// Makes a box a number box: only what the mask can show is typed in it, with the locale's decimal
+/// character or the point, and on leaving a number is shown in the mask. Another text stays as it is.
+void makeNumberBox(TextBox& box, std::string mask, const common::Locale& locale);
+
+/// Lets only digits be typed into a box, as for a person's number.
+void makeDigitBox(TextBox& box);
+
+} // namespace tellurix::ui
