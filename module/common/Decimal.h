@@ -3,6 +3,7 @@
 #include <compare>
 #include <cstdint>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -16,16 +17,25 @@ namespace tellurix::common {
 class Decimal {
 public:
     static constexpr int maxScale = 18;
+    /// The largest amount of units, 18 digits of 9; the smallest is its negative.
+    static constexpr std::int64_t maxUnits = 999'999'999'999'999'999;
 
     constexpr Decimal() = default;
-    constexpr explicit Decimal(std::int64_t units, int scale = 0) : units_(units), scale_(scale) {}
+    /// @throws std::out_of_range when `units` has more than 18 digits or `scale` is not 0 to 18.
+    constexpr explicit Decimal(std::int64_t units, int scale = 0) : units_(units), scale_(scale) {
+        if (units > maxUnits || units < -maxUnits)
+            throw std::out_of_range("decimal number of more than 18 digits");
+        if (scale < 0 || scale > maxScale) throw std::out_of_range("decimal number of more than 18 decimals");
+    }
 
-    /// Reads a number with "." as decimal point: "-12.50", "+7", ".5", "5.", "1e2".
+    /// Reads a plain number (see `isPlainNumber`). The scale is the number of decimals as written,
+    /// so "1.50" has two; zeros at either end that are beyond the 18 digits do not count.
     /// @return nothing when the text is no such number or has more than 18 digits.
     static std::optional<Decimal> parse(std::string_view text);
 
-    /// The decimal nearest to a floating-point number, by its shortest decimal form.
-    /// @throws std::out_of_range when it has no such form within 18 digits.
+    /// The decimal nearest to a floating-point number, by its shortest decimal form (0.1 is 0.1).
+    /// Decimals after the eighteenth are rounded half away from zero.
+    /// @throws std::out_of_range when it is not finite or has more than 18 digits before the point.
     static Decimal fromDouble(double value);
 
     std::int64_t units() const { return units_; }
@@ -47,5 +57,9 @@ private:
     std::int64_t units_ = 0;
     int scale_ = 0;
 };
+
+/// Whether the text is a number with "." as decimal point and nothing else, however long:
+/// "-12.50", "+7", ".5", "5.", "1e2". What a T-SQL server takes for a number, too.
+bool isPlainNumber(std::string_view text);
 
 } // namespace tellurix::common

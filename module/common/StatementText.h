@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tellurix::common {
 
@@ -26,7 +27,8 @@ private:
 /// enters through a function that says how it is written, and these ways are never unified: which
 /// one a statement uses is part of that statement.
 ///
-///     StatementText{"UPDATE VERTRAEGE SET KOPF1 = "}.quotedAsItStands(text).fixed(" WHERE ID_VERTRAG = ").number(id)
+///     StatementText{"UPDATE VERTRAEGE SET KOPF1 = "}.quotedAsItStands(text).fixed(" WHERE ID_VERTRAG =
+///     ").number(id)
 ///
 /// A value that would break out of its place makes `text` throw, so nothing a user can type
 /// changes what a statement does.
@@ -37,7 +39,8 @@ public:
     /// Text of the program itself.
     StatementText& fixed(std::string_view text);
     StatementText& number(std::int64_t value);
-    /// A number as the user typed it; every "," becomes ".". Refused unless the result is a plain number.
+    /// A number as the user typed it; every "," becomes ".". Refused unless the result is a plain
+    /// number (`isPlainNumber`), without blanks.
     StatementText& number(std::string_view typed);
     /// A text between single quotes, each quote inside it doubled.
     StatementText& quoted(std::string_view value);
@@ -46,18 +49,21 @@ public:
     StatementText& quotedAsItStands(std::string_view value);
     /// As `quotedAsItStands`, for a value inside a literal that the fixed text opens and closes.
     StatementText& insideLiteral(std::string_view value);
-    /// A table or column name: letters, digits and "_". Anything else is refused.
+    /// A table or column name: ASCII letters, digits and "_", no digit first. Anything else is refused.
     StatementText& identifier(std::string_view name);
     StatementText& null() { return fixed("NULL"); }
 
-    /// The finished statement.
-    /// @throws StatementError naming the statement and the first refused value
-    const std::string& text() const;
+    /// The finished statement; a value of its own, because a statement is mostly composed in a temporary.
+    /// @throws StatementError naming the statement and the first refused value, with a message for the
+    /// user (German) that says which value was refused, why, and what to do
+    std::string text() const;
 
 private:
+    /// Keeps the first refusal; the text is composed on, so that the error can name the whole statement.
     void refuse(std::string_view value, std::string_view reason);
 
     std::string text_;
+    bool refused_ = false;
     std::string refusedValue_;
     std::string refusal_;
 };

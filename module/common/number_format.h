@@ -16,11 +16,13 @@ namespace tellurix::common {
 /// whatever the locale; "0" is a digit that is always shown, "#" one that is shown when needed. A
 /// leading "-" only says that negative numbers are typed there. Rounds half away from zero. Digits
 /// beyond the mask's places are shown, never cut. With "##,###" zero is the empty text.
+/// @throws std::invalid_argument when the mask is none; the other functions with a mask do the same.
 std::string formatNumber(const Decimal& number, std::string_view mask, const Locale& locale);
 
 /// Reads a number as a user types it: the locale's decimal character, grouping characters between
-/// digits, a sign in front, blanks around. "12,5", "-1.250,00", ",5", "+7".
-/// @return nothing when the text is no number.
+/// thousands, a sign in front, blanks around. "12,5", "-1.250,00", ",5", "5,", "+7". A grouping
+/// character anywhere else makes it no number: "12.5" must not silently become 125.
+/// @return nothing when the text is no number, or one of more than 18 digits.
 std::optional<Decimal> parseNumber(std::string_view text, const Locale& locale);
 
 /// Whether `parseNumber` would read the text.
@@ -33,7 +35,8 @@ std::string reformatNumber(std::string_view text, std::string_view mask, const L
 
 /// Whether `text` can be the beginning of a number that `mask` can show: digits up to the mask's
 /// places before and after the decimal character, one decimal character, a leading minus where the
-/// mask starts with "-". The key filter of every number box.
+/// mask starts with "-", grouping characters between thousands where the mask groups. The key
+/// filter of every number box.
 bool fitsNumberMask(std::string_view text, std::string_view mask, const Locale& locale);
 
 } // namespace tellurix::common

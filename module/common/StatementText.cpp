@@ -1,0 +1,112 @@
+#include "common/StatementText.h"
+
+#include "common/Decimal.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace tellurix::common {
+
+namespace {
+
+/// Whether the text stays inside the literal that it is put into.
+bool staysInLiteral(std::string_view value) {
+    for (auto quote = value.find('\''); quote != std::string_view::npos; quote = value.find('\'', quote)) {
+        const auto end = std::min(value.find_first_not_of('\'', quote), value.size());
+        if ((end - quote) % 2 != 0) return false;
+        quote = end;
+    }
+    return true;
+}
+
+bool isName(std::string_view text) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const auto isNamePart = [&](char c) {
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || isDigit(c) || c == '_';
+    };
+    return !text.empty() && !isDigit(text.front()) && std::all_of(text.begin(), text.end(), isNamePart);
+}
+
+/// A value as a message can show it: a pasted page of text is cut, between two characters.
+std::string shortened(std::string_view value) {
+    constexpr std::size_t longest = 80;
+    if (value.size() <= longest) return std::string(value);
+    auto end = longest;
+    while (end > 0 && (static_cast<unsigned char>(value[end]) & 0xC0U) == 0x80U)
+        --end;
+    return std::string(value.substr(0, end)) + "…";
+}
+
+} // namespace
+
+StatementText& StatementText::fixed(std::string_view text) {
+    text_ += text;
+    return *this;
+}
+
+StatementText& StatementText::number(std::int64_t value) {
+    return number(std::to_string(value));
+}
+
+StatementText& StatementText::number(std::string_view typed) {
+    std::string plain(typed);
+    std::replace(plain.begin(), plain.end(), ',', '.');
+    if (!isPlainNumber(plain)) {
+        refuse(typed, typed.empty()
+                          ? "Hier fehlt eine Zahl. Bitte eine Zahl eingeben, zum Beispiel 12,5."
+                          : "Das ist keine Zahl, die gespeichert werden kann. Bitte nur Ziffern und ein "
+                            "Komma eingeben, ohne Punkte zwischen den Tausendern, zum Beispiel 1250,5.");
+    }
+    // Two minus signs in a row would turn the rest of the line into a comment.
+    if (text_.ends_with('-') && plain.starts_with('-')) text_ += ' ';
+    text_ += plain;
+    return *this;
+}
+
+StatementText& StatementText::quoted(std::string_view value) {
+    text_ += '\'';
+    for (const char character : value)
+        text_.append(character == '\'' ? 2 : 1, character);
+    text_ += '\'';
+    return *this;
+}
+
+StatementText& StatementText::quotedAsItStands(std::string_view value) {
+    return fixed("'").insideLiteral(value).fixed("'");
+}
+
+StatementText& StatementText::insideLiteral(std::string_view value) {
+    if (!staysInLiteral(value)) {
+        refuse(value, "Der Text enthält einen Apostroph ('), den dieses Feld nicht speichern kann. Bitte den "
+                      "Apostroph weglassen oder durch ´ ersetzen.");
+    }
+    return fixed(value);
+}
+
+StatementText& StatementText::identifier(std::string_view name) {
+    if (!isName(name)) {
+        refuse(
+            name,
+            "Das ist kein Name einer Tabelle oder Spalte. Bitte die Betreuung der Anwendung verständigen.");
+    }
+    return fixed(name);
+}
+
+std::string StatementText::text() const {
+    if (refused_) {
+        const auto message =
+            refusedValue_.empty() ? refusal_ : "„" + shortened(refusedValue_) + "“: " + refusal_;
+        throw StatementError(message + " Die Anweisung wurde nicht an die Datenbank gesendet.", text_,
+                             refusedValue_);
+    }
+    return text_;
+}
+
+void StatementText::refuse(std::string_view value, std::string_view reason) {
+    if (refused_) return;
+    refused_ = true;
+    refusedValue_ = value;
+    refusal_ = reason;
+}
+
+} // namespace tellurix::common
