@@ -1,0 +1,57 @@
+# tellurix_embed_files(<target> <namespace> <folder> <file>…)
+#
+# Puts files into the executable, so that it runs from wherever it lies. Generates
+# "<namespace>.h" with
+#     namespace tellurix::workbench::<namespace> { std::string_view file(std::string_view name); }
+# which returns the bytes of a file by its name relative to <folder>, or throws std::out_of_range.
+function(tellurix_embed_files target namespace folder)
+  set(generated ${CMAKE_CURRENT_BINARY_DIR}/embedded_${namespace})
+  set(arrays "")
+  set(cases "")
+  set(index 0)
+  foreach(name IN LISTS ARGN)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${folder}/${name})
+    file(READ ${folder}/${name} bytes HEX)
+    string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${bytes}")
+    string(APPEND arrays "const unsigned char file${index}[] = {${bytes}0};\n")
+    string(APPEND cases "    if (name == \"${name}\") return view(file${index}, sizeof file${index} - 1);\n")
+    math(EXPR index "${index} + 1")
+  endforeach()
+  file(CONFIGURE OUTPUT ${generated}/${namespace}.h CONTENT
+"#pragma once
+
+#include <string_view>
+
+namespace tellurix::workbench::${namespace} {
+
+/// The bytes of a file that was built in. Throws std::out_of_range for an unknown name.
+std::string_view file(std::string_view name);
+
+} // namespace tellurix::workbench::${namespace}
+" @ONLY)
+  file(CONFIGURE OUTPUT ${generated}/${namespace}.cpp CONTENT
+"#include \"${namespace}.h\"
+
+#include <stdexcept>
+#include <string>
+
+namespace tellurix::workbench::${namespace} {
+
+namespace {
+
+${arrays}
+std::string_view view(const unsigned char* bytes, std::size_t size) {
+    return {reinterpret_cast<const char*>(bytes), size};
+}
+
+} // namespace
+
+std::string_view file(std::string_view name) {
+${cases}    throw std::out_of_range{\"no built-in file \" + std::string{name}};
+}
+
+} // namespace tellurix::workbench::${namespace}
+" @ONLY)
+  target_sources(${target} PRIVATE ${generated}/${namespace}.cpp)
+  target_include_directories(${target} PUBLIC ${generated})
+endfunction()
