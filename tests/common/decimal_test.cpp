@@ -82,6 +82,7 @@ TEST(Decimal, RefusesWhatDoesNotFit18Digits) {
     EXPECT_THROW(Decimal(1).rounded(-1), std::out_of_range);
     EXPECT_THROW(Decimal(1).rounded(19), std::out_of_range);
     EXPECT_THROW(Decimal(1).rounded(18), std::out_of_range);
+    EXPECT_THROW(Decimal(Decimal::maxUnits).rounded(18), std::out_of_range);
     EXPECT_THROW(Decimal(-Decimal::maxUnits, 2).rounded(3), std::out_of_range);
     EXPECT_THROW(Decimal::fromDouble(1e18), std::out_of_range);
     EXPECT_THROW(Decimal::fromDouble(std::numeric_limits<double>::infinity()), std::out_of_range);
