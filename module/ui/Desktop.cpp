@@ -8,6 +8,7 @@
 #include "ui/ListBox.h"
 #include "ui/TextBox.h"
 #include "ui/UpDown.h"
+#include "ui/caption.h"
 
 #include <algorithm>
 
@@ -71,25 +72,6 @@ int movedIndex(Key key, int current, int count, int page) {
 }
 
 } // namespace
-
-char32_t accessKeyOf(std::string_view caption) {
-    const std::u32string characters = common::decodeUtf8(caption);
-    for (std::size_t i = 0; i + 1 < characters.size(); ++i) {
-        if (characters[i] != U'&') continue;
-        if (characters[i + 1] != U'&') return common::toUpper(characters[i + 1]);
-        ++i;
-    }
-    return 0;
-}
-
-std::string plainCaption(std::string_view caption) {
-    std::string plain;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && i + 1 < caption.size()) ++i;
-        plain += caption[i];
-    }
-    return plain;
-}
 
 void Desktop::runModal(Form& form, const std::function<Event()>& nextEvent) {
     struct Window {
@@ -294,17 +276,23 @@ void Desktop::handle(Form& form, const KeyPressEvent& event) {
 
 void Desktop::handle(Form& form, const AccessKeyEvent& event) {
     const char32_t wanted = common::toUpper(event.character);
+    std::vector<Control*> targets;
     for (Control* control : form.controls()) {
-        if (accessKeyOf(captionOf(*control)) != wanted || !control->usable()) continue;
-        if (const Label* label = as<Label>(control, ControlKind::label)) {
-            if (Control* named = form.labelled(*label); named != nullptr && named->usable()) {
-                moveFocus(form, *named);
-                return;
-            }
-            continue;
-        }
-        press(form, *control);
-        return;
+        if (accessKeyOf(captionOf(*control)) != wanted) continue;
+        const Label* label = as<Label>(control, ControlKind::label);
+        Control* target = label == nullptr ? control : form.labelled(*label);
+        if (target != nullptr && target->takesFocus() && target->usable()) targets.push_back(target);
+    }
+    if (targets.empty()) return;
+    if (targets.size() > 1) {
+        // A key that several controls share goes from one to the next and presses none of them.
+        const auto at = std::ranges::find(targets, form.focused());
+        moveFocus(form, at == targets.end() || at + 1 == targets.end() ? *targets.front() : **(at + 1));
+    } else if (targets.front()->kind() == ControlKind::button ||
+               targets.front()->kind() == ControlKind::checkBox) {
+        press(form, *targets.front());
+    } else {
+        moveFocus(form, *targets.front());
     }
 }
 

@@ -17,7 +17,8 @@ namespace tellurix::ui {
 ///   button leaves the box before it presses the button, unless the button throws input away.
 /// - Ctrl pressed and released with no other key between, F4, and the small button beside a box
 ///   open its picker.
-/// - Alt with a letter presses the button, ticks the box or goes to the field with that access key.
+/// - Alt with a letter presses the button, ticks the box or goes to the field with that access key;
+///   where several have it, it goes from one to the next.
 /// - Esc presses the cancel button, or closes the window.
 /// - Characters go through the box's key filter, pasted ones too.
 ///
@@ -69,10 +70,5 @@ private:
     std::vector<Form*> windows_;
     bool ctrlAlone_ = false;
 };
-
-/// The access key of a caption: the capital of the character behind "&", or 0. "&&" is a plain "&".
-char32_t accessKeyOf(std::string_view caption);
-/// The caption as it is read: without the access key mark.
-std::string plainCaption(std::string_view caption);
 
 } // namespace tellurix::ui

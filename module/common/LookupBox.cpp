@@ -1,0 +1,31 @@
+#include "common/LookupBox.h"
+
+#include "common/StatementText.h"
+
+namespace tellurix::common {
+
+LookupBox::LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
+                     std::function<std::string()> title, Lookup lookup)
+    : box_(box), services_(services), session_(session), lookup_(std::move(lookup)) {
+    box_.onPick = [this, title = std::move(title)] {
+        box_.setText(services_.listPicker.choose(session_, lookup_.listQuery, title(), box_.text()));
+    };
+    box_.onLeave = [this] { return leave(); };
+}
+
+void LookupBox::show(const std::string& text, const std::string& key) {
+    box_.setText(text);
+    box_.setTag(key);
+    resolvedText_ = text;
+}
+
+bool LookupBox::leave() {
+    if (box_.text() == resolvedText_) return true;
+    StatementText query{lookup_.keyQuery};
+    query.insideLiteral(box_.text()).fixed("'");
+    if (!services_.lookupValidation.resolve(session_, query.text(), box_, nullptr, "")) return false;
+    resolvedText_ = box_.text();
+    return true;
+}
+
+} // namespace tellurix::common

@@ -1,0 +1,128 @@
+#include "common/M_Common.h"
+
+#include "common/StatementText.h"
+#include "common/number_format.h"
+#include "common/text.h"
+#include "ui/TextBox.h"
+
+#include <limits>
+
+namespace tellurix::common {
+
+namespace {
+
+constexpr std::int16_t backspace = 8;
+constexpr std::int16_t rejected = 0;
+
+/// Whether a typed number, rounded to a whole one, lies in the range of an integer type.
+template <typename Integer>
+bool fitsInteger(const std::string& text, const Locale& locale) {
+    const auto number = parseNumber(text, locale);
+    if (!number) return false;
+    const std::int64_t whole = number->rounded(0).units();
+    return whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max();
+}
+
+bool convertsTo(FieldType type, const std::string& text, const Locale& locale) {
+    switch (type) {
+    case FieldType::smallInteger:
+        return fitsInteger<std::int16_t>(text, locale);
+    case FieldType::integer:
+        return fitsInteger<std::int32_t>(text, locale);
+    case FieldType::tinyInteger:
+        return fitsInteger<std::uint8_t>(text, locale);
+    case FieldType::floating:
+    case FieldType::decimal:
+        return isNumeric(text, locale);
+    case FieldType::flag: {
+        const std::string upper = toUpper(text);
+        return isNumeric(text, locale) || upper == "TRUE" || upper == "FALSE" || upper == "WAHR" ||
+               upper == "FALSCH";
+    }
+    default:
+        return true;
+    }
+}
+
+std::string focusedText(const ui::Form& form) {
+    const ui::Control* focused = form.focused();
+    if (focused == nullptr) return {};
+    switch (focused->kind()) {
+    case ui::ControlKind::textBox:
+        return static_cast<const ui::TextBox*>(focused)->text();
+    case ui::ControlKind::comboBox:
+        return static_cast<const ui::ComboBox*>(focused)->selectedText();
+    default:
+        return {};
+    }
+}
+
+/// The digit of "A1" … "A8" as text, empty for "R", nothing for any other code.
+std::optional<std::string> typeDigit(const std::string& type) {
+    if (type == "R") return "";
+    if (type.size() == 2 && type[0] == 'A' && type[1] >= '1' && type[1] <= '8') return type.substr(1);
+    return std::nullopt;
+}
+
+} // namespace
+
+ui::Answer ShowMessage(ui::Display& display, const std::string& prompt, int flags, const std::string& title,
+                       const std::string& /*helpFile*/, int /*helpContext*/) {
+    return display.messageBox(prompt, flags, title.empty() ? "Tellurix" : title);
+}
+
+void SelectActiveText(ui::Form& form) {
+    ui::Control* focused = form.focused();
+    if (focused != nullptr && focused->kind() == ui::ControlKind::textBox) {
+        static_cast<ui::TextBox*>(focused)->selectAll();
+    }
+}
+
+std::int16_t CheckKeyForColumn(const host::TlxVar& session, const ui::Form& form, std::int16_t keyCode,
+                               const std::string& table, const std::string& column, const Locale& locale) {
+    if (keyCode == backspace) return keyCode;
+    std::string text = focusedText(form);
+    if (keyCode != 0) text += encodeUtf8(static_cast<char32_t>(static_cast<std::uint16_t>(keyCode)));
+    if (text == "-") return keyCode;
+    if (text.empty()) text = "0";
+
+    StatementText statement{"SELECT "};
+    statement.identifier(column).fixed(" FROM ").identifier(table);
+    // Only the column's type is asked for: no row of the table is fetched for a key press.
+    const auto rows = session.connection->open(statement.text());
+    return convertsTo(rows->fieldType(0), text, locale) ? keyCode : rejected;
+}
+
+void SafeSetFocus(ui::Control& control) {
+    try {
+        control.form().setFocus(control);
+    } catch (const std::exception&) {
+        // The focus is a courtesy; what its handler could not do must not stop the caller.
+    }
+}
+
+void SelectComboItem(ui::ComboBox& combo, const std::string& text) {
+    const std::string wanted = toUpper(text);
+    int found = 0;
+    for (std::size_t i = 0; i < combo.items().size(); ++i) {
+        if (toUpper(combo.items()[i].text) == wanted) {
+            found = static_cast<int>(i);
+            break;
+        }
+    }
+    combo.select(found);
+}
+
+std::string GetTypeColumn(const std::string& kind, const std::string& type,
+                          host::HostMainWindow* mainWindow) {
+    const auto digit = typeDigit(type);
+    if (!digit) return {};
+    const std::string upperKind = toUpper(kind);
+    if (upperKind == "ABSCHLAG") {
+        const bool articles = mainWindow != nullptr && mainWindow->IsArtikel();
+        return "ABSCHLAG" + *digit + (articles ? "_A" : "");
+    }
+    return upperKind == "RECHZUSATZ" ? "KONF_RECHZUSATZ" + *digit : std::string{};
+}
+
+} // namespace tellurix::common

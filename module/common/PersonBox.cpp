@@ -1,0 +1,66 @@
+#include "common/PersonBox.h"
+
+#include "common/StatementText.h"
+#include "common/number_format.h"
+#include "host/module_state.h"
+#include "ui/number_box.h"
+
+#include <charconv>
+
+namespace tellurix::common {
+
+namespace {
+
+std::int32_t personKey(const std::string& tag) {
+    std::int32_t key = 0;
+    std::from_chars(tag.data(), tag.data() + tag.size(), key);
+    return key;
+}
+
+} // namespace
+
+PersonBox::PersonBox(ui::TextBox& number, ui::TextBox& shortName, host::HostServices& services,
+                     const host::TlxVar& session, Choice choice)
+    : number_(number),
+      shortName_(shortName),
+      services_(services),
+      session_(session),
+      choice_(std::move(choice)) {
+    shortName_.setLocked(true);
+    ui::makeDigitBox(number_);
+    number_.onPick = [this] { pick(); };
+    number_.onLeave = [this] { return leave(); };
+}
+
+void PersonBox::show(const std::string& key, const std::string& number, const std::string& shortName) {
+    number_.setTag(key);
+    number_.setText(number);
+    shortName_.setText(shortName);
+    resolvedNumber_ = number;
+}
+
+void PersonBox::pick() {
+    host::HostContext& context = host::moduleState().context;
+    const std::int32_t person = services_.personalPicker.choose(
+        session_, choice_.pickerMode, choice_.accessLevel(), context.g_intStandardMandanten,
+        personKey(number_.tag()), context.blnOK);
+    if (person <= 0) return;
+    StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
+    const auto row = session_.connection->open(query.number(std::int64_t{person}).text());
+    if (!row->atEnd()) number_.setText(row->text("NUMMER"));
+}
+
+bool PersonBox::leave() {
+    if (number_.text() == resolvedNumber_) return true;
+    if (!isNumeric(number_.text(), services_.locale)) number_.setText("");
+    const std::string query = number_.text().empty()
+                                  ? std::string{}
+                                  : services_.personQuery.build(session_, "PERSONAL", number_.text(),
+                                                                choice_.accessLevel(), choice_.validFilter);
+    if (!services_.lookupValidation.resolve(session_, query, number_, &shortName_, "KURZBEZEICHNUNG"))
+        return false;
+    resolvedNumber_ = number_.text();
+    return true;
+}
+
+} // namespace tellurix::common

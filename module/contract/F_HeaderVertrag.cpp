@@ -1,0 +1,261 @@
+#include "contract/F_HeaderVertrag.h"
+
+#include "common/M_Common.h"
+#include "common/StatementText.h"
+#include "common/field_text.h"
+#include "common/number_format.h"
+#include "common/text.h"
+#include "contract/header_captions.h"
+#include "ui/caption.h"
+#include "ui/date_box.h"
+#include "ui/number_box.h"
+
+namespace tellurix::contract {
+
+using common::StatementText;
+using ui::column;
+using ui::field;
+using ui::fields;
+using ui::frame;
+using ui::row;
+
+namespace {
+
+constexpr int invalidEntryText = 223;
+constexpr const char* numberMask = "#########0.00";
+constexpr const char* euro = "EUR";
+
+std::string numbered(const std::string& base, std::size_t index) {
+    return base + std::to_string(index + 1);
+}
+
+} // namespace
+
+F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
+    : Form("F_HeaderVertrag", "Kopf"),
+      services_(services),
+      rechnungsart_(txtRechn, services, session_,
+                    [this] { return ui::plainCaption(lblRechnungsArt.caption()); },
+                    {.listQuery = "SELECT RECHNUNGSART AS SHORT FROM RECHNUNGSART",
+                     .keyQuery = "SELECT RART_ID,RECHNUNGSART  FROM RECHNUNGSART WHERE RECHNUNGSART = '"}),
+      buchungsart_(txtBuchn, services, session_,
+                   [this] { return ui::plainCaption(lblBuchnungsArt.caption()); },
+                   {.listQuery = "SELECT BUCHUNGSTEXT AS SHORT FROM BUCHNR",
+                    .keyQuery = "SELECT BUCHNR_ID,BUCHUNGSTEXT  FROM BUCHNR WHERE BUCHUNGSTEXT = '"}),
+      mandant_(txtMandant[0], txtMandant[1], services, session_,
+               {.pickerMode = "2PVM",
+                .validFilter = "PERSONAL_VALID_MANDANTEN",
+                .accessLevel = [this] { return accessLevel_; }}),
+      lieferadresse_(txtLieferadresse[0], txtLieferadresse[1], services, session_,
+                     {.pickerMode = "2PVAP", .validFilter = "PERSONAL_VALID", .accessLevel = [this] {
+                          return accessLevel_;
+                      }}) {
+    connectDates();
+    for (ui::TextBox& box : txtNumber)
+        ui::makeNumberBox(box, numberMask, services_.locale);
+    connectCurrency();
+    btnOk.onClick = [this] { save(); };
+    btnCancel.onClick = [this] { unload(); };
+    btnCancel.setCausesValidation(false);
+    setCancelButton(btnCancel);
+    arrange();
+}
+
+void F_HeaderVertrag::connectDates() {
+    const auto connect = [this](ui::TextBox& box, std::function<std::string()> title) {
+        ui::makeDateBox(box, [this] {
+            common::ShowMessage(services_.display, services_.localizer.text(invalidEntryText, session_),
+                                ui::box::exclamation);
+        });
+        box.onPick = [this, &box, title = std::move(title)] {
+            box.setText(
+                services_.listPicker.choose(session_, host::ListPicker::calendar, title(), box.text()));
+        };
+    };
+    connect(txtDate1, [this] { return lblVertragsDatum.caption(); });
+    connect(txtDate2, [this] { return lblDate2.caption(); });
+    connect(txtDate3, [this] { return lblDate3.caption(); });
+    connect(txtDate4, [this] { return lblDate4.caption(); });
+    connect(txtLieferVon, [this] { return frmLieferVon.caption() + " " + lblLieferVon.caption(); });
+    connect(txtLieferBis, [this] { return frmLieferVon.caption() + " " + lblLieferBis.caption(); });
+}
+
+void F_HeaderVertrag::connectCurrency() {
+    txtWahrung.onPick = [this] {
+        StatementText query{"SELECT 'EUR' AS SHORT UNION ALL SELECT '"};
+        query.insideLiteral(homeCurrency_).fixed("'");
+        txtWahrung.setText(
+            services_.listPicker.choose(session_, query.text(), lblWahrung.caption(), txtWahrung.text()));
+    };
+    txtWahrung.onLeave = [this] {
+        leaveCurrency();
+        return true;
+    };
+}
+
+void F_HeaderVertrag::arrange() {
+    std::vector<ui::Layout> numbers;
+    std::vector<ui::Layout> texts;
+    for (std::size_t i = 0; i < txtNumber.size(); ++i) {
+        numbers.push_back(field(lblNumber[i], txtNumber[i]));
+        texts.push_back(field(LabelKopf[i], txtKopf[i]));
+    }
+    setLayout(column({
+        row({
+            column({
+                frame(frmDates, {fields(1, {field(lblVertragsDatum, txtDate1), field(lblDate2, txtDate2),
+                                            field(lblDate3, txtDate3), field(lblDate4, txtDate4)})}),
+                frame(frmLieferVon,
+                      {fields(1, {field(lblLieferVon, txtLieferVon), field(lblLieferBis, txtLieferBis)})}),
+            }),
+            column({
+                       frame(frmRechnung,
+                             {fields(1, {field(lblRechnungsArt, txtRechn), field(lblBuchnungsArt, txtBuchn),
+                                         field(lblWahrung, txtWahrung)})}),
+                       frame(Frame1, {field(lblMandant, txtMandant[0], txtMandant[1])}),
+                       frame(Frame2, {field(Label1, txtLieferadresse[0], txtLieferadresse[1])}),
+                   })
+                .growing(),
+        }),
+        row({
+                frame(frmNumbers, {fields(1, std::move(numbers))}),
+                frame(frmKopfs, {fields(1, std::move(texts))}).growing(),
+            })
+            .growing(),
+        row({btnOk, btnCancel}),
+    }));
+}
+
+int F_HeaderVertrag::Run(const host::TlxVar& session, std::int32_t contract) {
+    session_ = session;
+    contract_ = contract;
+    homeCurrency_ = session.homeCurrency;
+    host::moduleState().context.blnOK = host::Boolean16::False;
+    setCaptions();
+    LoadHeader();
+    services_.display.showModal(*this);
+    return 0;
+}
+
+void F_HeaderVertrag::setCaptions() {
+    services_.localizer.localize(session_, *this);
+    const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
+    const auto caption = [this](ui::Label& label, int number) {
+        label.setCaption(services_.localizer.text(number, session_));
+    };
+    for (std::size_t i = 0; i < LabelKopf.size(); ++i) {
+        caption(LabelKopf[i], captions.kopf[i]);
+        caption(lblNumber[i], captions.numbers[i]);
+    }
+    caption(lblDate2, captions.dates[0]);
+    caption(lblDate3, captions.dates[1]);
+    caption(lblDate4, captions.dates[2]);
+    caption(lblRechnungsArt, captions.rechnungsart);
+    caption(lblBuchnungsArt, captions.buchungsart);
+    caption(lblWahrung, captions.wahrung);
+}
+
+void F_HeaderVertrag::LoadHeader() {
+    // clang-format off
+    StatementText query{"SELECT "
+        "VERTRAEGE.INVDATE,VERTRAEGE.DATE1,VERTRAEGE.DATE2,VERTRAEGE.DATE3,VERTRAEGE.LIEFERVON,VERTRAEGE.LIEFERBIS,"
+        "VERTRAEGE.KOPF1,VERTRAEGE.KOPF2,VERTRAEGE.KOPF3,VERTRAEGE.KOPF4,VERTRAEGE.KOPF5,VERTRAEGE.KOPF6,VERTRAEGE.KOPF7,VERTRAEGE.KOPF8,VERTRAEGE.KOPF9,VERTRAEGE.KOPF10,"
+        "VERTRAEGE.NUMM1,VERTRAEGE.NUMM2,VERTRAEGE.NUMM3,VERTRAEGE.NUMM4,VERTRAEGE.NUMM5,VERTRAEGE.NUMM6,VERTRAEGE.NUMM7,VERTRAEGE.NUMM8,VERTRAEGE.NUMM9,VERTRAEGE.NUMM10,"
+        "VERTRAEGE.RART_ID,RECHNUNGSART.RECHNUNGSART,"
+        "VERTRAEGE.BUCHNR_ID,BUCHNR.BUCHUNGSTEXT,"
+        "ISNULL(VERTRAEGE.EURO,0) AS EURO,"
+        "VERTRAEGE.ID_ACCESS_LEVELS,"
+        "VERTRAEGE.ID_MANDANTEN,MANDANTEN.NUMMER AS MANDANTENNUMMER,MANDANTEN.KURZBEZEICHNUNG AS MANDANTENKURZBEZEICHNUNG, "
+        "VERTRAEGE.ID_PERSONAL_LIEFERADRESSE,PLA.NUMMER AS PLANUMMER,PLA.KURZBEZEICHNUNG AS PLAKURZBEZEICHNUNG"
+        " FROM VERTRAEGE"
+        " LEFT JOIN RECHNUNGSART ON RECHNUNGSART.RART_ID = VERTRAEGE.RART_ID"
+        " LEFT JOIN BUCHNR ON BUCHNR.BUCHNR_ID = VERTRAEGE.BUCHNR_ID"
+        " LEFT JOIN PERSONAL MANDANTEN ON MANDANTEN.ID_PERSONAL = VERTRAEGE.ID_MANDANTEN"
+        " LEFT JOIN PERSONAL PLA ON PLA.ID_PERSONAL = VERTRAEGE.ID_PERSONAL_LIEFERADRESSE "
+        " WHERE VERTRAEGE.ID_VERTRAG = "};
+    // clang-format on
+    const auto row = session_.connection->open(query.number(std::int64_t{contract_}).text());
+
+    txtDate1.setText(common::dateText(row->field("INVDATE")));
+    txtDate2.setText(common::dateText(row->field("DATE1")));
+    txtDate3.setText(common::dateText(row->field("DATE2")));
+    txtDate4.setText(common::dateText(row->field("DATE3")));
+    txtLieferVon.setText(common::dateText(row->field("LIEFERVON")));
+    txtLieferBis.setText(common::dateText(row->field("LIEFERBIS")));
+    for (std::size_t i = 0; i < txtNumber.size(); ++i) {
+        txtNumber[i].setText(common::numberText(row->field(numbered("NUMM", i)), "0.00", services_.locale));
+        txtKopf[i].setText(row->text(numbered("KOPF", i)));
+    }
+    rechnungsart_.show(row->text("RECHNUNGSART"), row->text("RART_ID"));
+    buchungsart_.show(row->text("BUCHUNGSTEXT"), row->text("BUCHNR_ID"));
+    const bool inEuro = row->flag("EURO");
+    txtWahrung.setText(inEuro ? euro : homeCurrency_);
+    txtWahrung.setTag(inEuro ? "1" : "0");
+    accessLevel_ = static_cast<int>(row->integer("ID_ACCESS_LEVELS", session_.accessLevel));
+    mandant_.show(row->text("ID_MANDANTEN"), row->text("MANDANTENNUMMER"),
+                  row->text("MANDANTENKURZBEZEICHNUNG"));
+    lieferadresse_.show(row->text("ID_PERSONAL_LIEFERADRESSE"), row->text("PLANUMMER"),
+                        row->text("PLAKURZBEZEICHNUNG"));
+}
+
+void F_HeaderVertrag::leaveCurrency() {
+    const bool home =
+        txtWahrung.text().empty() || common::toUpper(txtWahrung.text()) == common::toUpper(homeCurrency_);
+    txtWahrung.setText(home ? homeCurrency_ : euro);
+    txtWahrung.setTag(home ? "0" : "1");
+}
+
+std::string F_HeaderVertrag::updateStatement() const {
+    StatementText statement{"UPDATE VERTRAEGE SET "};
+    const auto date = [&](std::string_view assignment, const ui::TextBox& box) {
+        statement.fixed(assignment);
+        if (box.text().empty()) {
+            statement.null();
+        } else {
+            statement.quotedAsItStands(services_.dateConverter.toSql(box.text(), session_));
+        }
+    };
+    const auto numberOrNull = [&](std::string_view assignment, const std::string& text, bool isNumber) {
+        statement.fixed(assignment);
+        if (isNumber) {
+            statement.number(text);
+        } else {
+            statement.null();
+        }
+    };
+    const auto isNumeric = [this](const std::string& text) {
+        return common::isNumeric(text, services_.locale);
+    };
+
+    date("INVDATE = ", txtDate1);
+    date(",DATE1 = ", txtDate2);
+    date(",DATE2 = ", txtDate3);
+    date(",DATE3 = ", txtDate4);
+    date(",LIEFERVON = ", txtLieferVon);
+    date(",LIEFERBIS = ", txtLieferBis);
+    for (std::size_t i = 0; i < txtNumber.size(); ++i) {
+        numberOrNull(numbered(",NUMM", i) + " = ", txtNumber[i].text(), isNumeric(txtNumber[i].text()));
+    }
+    for (std::size_t i = 0; i < txtKopf.size(); ++i) {
+        statement.fixed(numbered(",KOPF", i) + " = ");
+        if (txtKopf[i].text().empty()) {
+            statement.null();
+        } else {
+            statement.quotedAsItStands(txtKopf[i].text());
+        }
+    }
+    numberOrNull(",RART_ID = ", rechnungsart_.key(), !rechnungsart_.key().empty());
+    numberOrNull(",BUCHNR_ID = ", buchungsart_.key(), !buchungsart_.key().empty());
+    numberOrNull(",ID_MANDANTEN = ", mandant_.key(), isNumeric(mandant_.key()));
+    numberOrNull(",ID_PERSONAL_LIEFERADRESSE = ", lieferadresse_.key(), isNumeric(lieferadresse_.key()));
+    statement.fixed(",EURO = ").fixed(txtWahrung.tag() == "1" ? "1" : "0");
+    statement.fixed(" WHERE ID_VERTRAG = ").number(std::int64_t{contract_});
+    return statement.text();
+}
+
+void F_HeaderVertrag::save() {
+    session_.connection->execute(updateStatement());
+    unload();
+}
+
+} // namespace tellurix::contract

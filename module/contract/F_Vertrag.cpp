@@ -1,0 +1,364 @@
+#include "contract/F_Vertrag.h"
+
+#include "common/M_Common.h"
+#include "common/StatementText.h"
+#include "common/date_format.h"
+#include "common/field_text.h"
+#include "common/text.h"
+#include "contract/F_HeaderVertrag.h"
+#include "contract/header_captions.h"
+#include "host/contract_type.h"
+#include "ui/caption.h"
+
+namespace tellurix::contract {
+
+using common::StatementText;
+using ui::column;
+using ui::field;
+using ui::fields;
+using ui::frame;
+using ui::row;
+
+namespace {
+
+constexpr int discardQuestion = 1078;
+
+} // namespace
+
+F_Vertrag::F_Vertrag(host::HostServices& services) : Form("F_Vertrag"), services_(services) {
+    txtKunde.setLocked(true);
+    txtAbschlag.setLocked(true);
+    btnZusatz.setToolTip("Zusatztext");
+    cmdZusatzText.setToolTip("Zusatztext");
+    btnDeleteMan.setToolTip("Kunde aus dem Vertrag entfernen");
+    picZusatzText.setVisible(false);
+    ProgressBar1.setVisible(false);
+    txtMessage.setVisible(false);
+    // Their screens are not part of the module yet.
+    ui::Control* const later[] = {&PreisButton,   &PosButton, &btnAbschlag, &btnLieferprofil_WVO,
+                                  &btnUbernehmen, &btnWord,   &txtVertrag,  &txtTypeOfVertrag};
+    for (ui::Control* control : later)
+        control->setEnabled(false);
+    connect();
+    arrange();
+}
+
+void F_Vertrag::connect() {
+    KundeButton.onClick = [this] { chooseCustomer(); };
+    btnDeleteMan.onClick = [this] { removeCustomer(); };
+    btnHeader.onClick = [this] { openHeader(); };
+    btnZusatz.onClick = [this] { toggleAdditionalTexts(); };
+    cmdZusatzText.onClick = [this] { toggleAdditionalTexts(); };
+    btnSpeichern.onClick = [this] { save(); };
+    btnAbbrechen.onClick = [this] { unload(); };
+    setCancelButton(btnAbbrechen);
+    for (AdditionalText& text : additionalTexts_) {
+        text.box.setLines(2);
+        text.box.onLeave = [this, &text] {
+            writeAdditionalText(text);
+            return true;
+        };
+    }
+}
+
+void F_Vertrag::arrange() {
+    setLayout(column({
+        row({
+            frame(frmKunde, {row({txtKunde, KundeButton, btnDeleteMan}), List1, row({btnHeader, btnZusatz})})
+                .growing(),
+            column({
+                row({btnAbschlag, txtAbschlag}),
+                chkAbgeschlossen,
+                chkAClEmpty,
+                btnLieferprofil_WVO,
+                frame(frmUbernehmen,
+                      {fields(1, {field(lblVertrag, txtVertrag), field(lblTypeOfVertrag, txtTypeOfVertrag)}),
+                       row({btnUbernehmen, ProgressBar1})}),
+            }),
+        }),
+        frame(picZusatzText,
+              {fields(1, {field(lblZusatz, txtZusatz), field(lblZusatzText[0], txtZusatzText[0]),
+                          field(lblZusatzText[1], txtZusatzText[1])}),
+               row({cmdZusatzText})}),
+        row({
+                frame(frmPreise, {Grid1, row({PreisButton})}).growing(),
+                frame(frmMengen, {Grid2, row({PosButton})}).growing(),
+            })
+            .growing(),
+        row({btnWord, txtMessage, btnSpeichern, btnAbbrechen}),
+    }));
+}
+
+void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::string& /*name*/,
+                    bool newVertrag, const std::string& strCaption, const bool& enableKLR) {
+    id_ = id;
+    enableKLR_ = enableKLR;
+    session_ = session;
+    notYetSaved_ = true;
+    newContract_ = newVertrag;
+    picZusatzText.setVisible(false);
+    btnLieferprofil_WVO.setVisible(true);
+
+    name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
+                                           " ID_VERTRAG = " + std::to_string(id_));
+    if (newContract_) {
+        SetContractField("INVDATE",
+                         common::formatDate(services_.clock.today(), "dd.mm.yyyy", common::Locale::german()),
+                         id_);
+    }
+    loadContract();
+    loadAdditionalTexts();
+    ShowHeader();
+    showPriceLines();
+    showQuantityLines();
+    services_.localizer.localize(session_, *this);
+    setTitle(strCaption + " (" + name_ + ")");
+    txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
+    loadFlags();
+    services_.display.showModal(*this);
+}
+
+void F_Vertrag::SetContractField(const std::string& column, const std::string& value, std::int32_t contract) {
+    StatementText statement{"UPDATE VERTRAEGE SET "};
+    statement.identifier(column).fixed(" = ");
+    if (value.empty()) {
+        statement.null();
+    } else {
+        statement.quotedAsItStands(value);
+    }
+    statement.fixed(" WHERE ID_VERTRAG = ").number(std::int64_t{contract});
+    session_.connection->execute(statement.text());
+}
+
+void F_Vertrag::loadContract() {
+    StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    const auto contract = session_.connection->open(query.number(std::int64_t{id_}).text());
+    customer_ = static_cast<std::int32_t>(contract->integer("ID_PERSONAL"));
+    accessLevel_ = contract->integer("ID_ACCESS_LEVELS");
+    showCustomer();
+}
+
+void F_Vertrag::showCustomer() {
+    StatementText query{"SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = "};
+    const auto person = session_.connection->open(query.number(std::int64_t{customer_}).text());
+    txtKunde.setText(person->atEnd() ? std::string{} : person->text("KURZBEZEICHNUNG"));
+}
+
+void F_Vertrag::loadAdditionalTexts() {
+    StatementText query{"SELECT ZUSATZTEXT, ZUSATZTEXT_1, ZUSATZTEXT_2 FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    const auto texts = session_.connection->open(query.number(std::int64_t{id_}).text());
+    for (AdditionalText& text : additionalTexts_) {
+        text.written = texts->text(text.column);
+        text.box.setText(text.written);
+    }
+}
+
+void F_Vertrag::ShowHeader() {
+    // clang-format off
+    StatementText query{"SELECT "
+        "VERTRAEGE.INVDATE,VERTRAEGE.DATE1,VERTRAEGE.DATE2,VERTRAEGE.DATE3,VERTRAEGE.LIEFERVON,VERTRAEGE.LIEFERBIS,"
+        "VERTRAEGE.KOPF1,VERTRAEGE.KOPF2,VERTRAEGE.KOPF3,VERTRAEGE.KOPF4,VERTRAEGE.KOPF5,VERTRAEGE.KOPF6,VERTRAEGE.KOPF7,VERTRAEGE.KOPF8,VERTRAEGE.KOPF9,VERTRAEGE.KOPF10,"
+        "VERTRAEGE.NUMM1,VERTRAEGE.NUMM2,VERTRAEGE.NUMM3,VERTRAEGE.NUMM4,VERTRAEGE.NUMM5,VERTRAEGE.NUMM6,VERTRAEGE.NUMM7,VERTRAEGE.NUMM8,VERTRAEGE.NUMM9,VERTRAEGE.NUMM10,"
+        "RECHNUNGSART.RECHNUNGSART,BUCHNR.BUCHUNGSTEXT,"
+        "ISNULL(VERTRAEGE.EURO,0) AS EURO,"
+        "PLA.NUMMER AS PLANUMMER,PLA.KURZBEZEICHNUNG AS PLAKURZBEZEICHNUNG"
+        " FROM VERTRAEGE"
+        " LEFT JOIN RECHNUNGSART ON RECHNUNGSART.RART_ID = VERTRAEGE.RART_ID"
+        " LEFT JOIN BUCHNR ON BUCHNR.BUCHNR_ID = VERTRAEGE.BUCHNR_ID"
+        " LEFT JOIN PERSONAL PLA ON PLA.ID_PERSONAL = VERTRAEGE.ID_PERSONAL_LIEFERADRESSE AND PLA.ID_PERSONAL > 0"
+        " WHERE VERTRAEGE.ID_VERTRAG = "};
+    // clang-format on
+    const auto header = session_.connection->open(query.number(std::int64_t{id_}).text());
+    List1.clear();
+    const auto add = [this](const std::string& caption, const std::string& value) {
+        if (!value.empty()) List1.add(ui::plainCaption(caption) + ": " + value);
+    };
+    const auto caption = [this](int number) { return services_.localizer.text(number, session_); };
+    const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
+
+    add("Vertragsdatum", common::dateText(header->field("INVDATE")));
+    const std::string from = common::dateText(header->field("LIEFERVON"));
+    const std::string to = common::dateText(header->field("LIEFERBIS"));
+    if (!from.empty() || !to.empty()) add("Lieferzeitraum", from + " – " + to);
+    for (std::size_t i = 0; i < captions.dates.size(); ++i) {
+        add(caption(captions.dates[i]), common::dateText(header->field("DATE" + std::to_string(i + 1))));
+    }
+    add("Lieferadresse", header->text("PLAKURZBEZEICHNUNG"));
+    add(caption(captions.rechnungsart), header->text("RECHNUNGSART"));
+    add(caption(captions.buchungsart), header->text("BUCHUNGSTEXT"));
+    add(caption(captions.wahrung), header->flag("EURO") ? "EUR" : session_.homeCurrency);
+    for (std::size_t i = 0; i < captions.kopf.size(); ++i) {
+        add(caption(captions.kopf[i]), header->text("KOPF" + std::to_string(i + 1)));
+    }
+    for (std::size_t i = 0; i < captions.numbers.size(); ++i) {
+        const common::Value number = header->field("NUMM" + std::to_string(i + 1));
+        add(caption(captions.numbers[i]), common::numberText(number, "0.00", services_.locale));
+    }
+}
+
+void F_Vertrag::CopyGrid(const ui::Grid& source, ui::Grid& target) {
+    target.setColumns(source.columns());
+    target.setRows(source.rows());
+}
+
+void F_Vertrag::showPriceLines() {
+    // clang-format off
+    StatementText query{"SELECT VERTRAG_PREISE.BEZEICHNUNG,VERTRAG_PREISE.PREIS,"
+        "(SELECT WARENEINHEIT.EINHEIT FROM WARENEINHEIT WHERE WARENEINHEIT.EINHEIT_ID = VERTRAG_PREISE.ID_WARENEINHEIT) AS EINHEIT,"
+        "VERTRAG_PREISE.EURO"
+        " FROM VERTRAG_PREISE"
+        " WHERE ID_VERTRAG = "};
+    // clang-format on
+    query.number(std::int64_t{id_}).fixed(" ORDER BY ORDNUNG");
+    std::vector<ui::Grid::Row> lines;
+    for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext()) {
+        lines.push_back({line->text("BEZEICHNUNG"),
+                         common::numberText(line->field("PREIS"), "##0.00", services_.locale),
+                         line->text("EINHEIT"), line->flag("EURO") ? "EUR" : session_.homeCurrency});
+    }
+    Grid1.setColumns({{.caption = "Bezeichnung", .width = 34},
+                      {.caption = "Preis", .width = 12, .rightAligned = true},
+                      {.caption = "Einheit", .width = 9},
+                      {.caption = "Währung", .width = 9}});
+    Grid1.setRows(std::move(lines));
+}
+
+void F_Vertrag::showQuantityLines() {
+    // clang-format off
+    StatementText query{"SELECT VERTRAG_MENGEN.BEZEICHNUNG,VERTRAG_MENGEN.MENGE,"
+        "(SELECT WARENEINHEIT.EINHEIT FROM WARENEINHEIT WHERE WARENEINHEIT.EINHEIT_ID = VERTRAG_MENGEN.ID_WARENEINHEIT) AS EINHEIT"
+        " FROM VERTRAG_MENGEN"
+        " WHERE VERTRAG_MENGEN.ID_VERTRAG = "};
+    // clang-format on
+    query.number(std::int64_t{id_}).fixed(" ORDER BY VERTRAG_MENGEN.ORDNUNG");
+    std::vector<ui::Grid::Row> lines;
+    for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext()) {
+        lines.push_back({line->text("BEZEICHNUNG"),
+                         common::numberText(line->field("MENGE"), "##,##0.00", services_.locale),
+                         line->text("EINHEIT")});
+    }
+    Grid2.setColumns({{.caption = "Bezeichnung", .width = 34},
+                      {.caption = "Menge", .width = 14, .rightAligned = true},
+                      {.caption = "Einheit", .width = 9}});
+    Grid2.setRows(std::move(lines));
+}
+
+std::string F_Vertrag::GetAbschlagValue(const std::string& column) {
+    StatementText query{"SELECT "};
+    query.identifier(column)
+        .fixed(" FROM ABSCHLAG WHERE RECH_NAME = ")
+        .quotedAsItStands(name_)
+        .fixed(" AND VER_TYPE = ")
+        .quotedAsItStands(common::toUpper(host::moduleState().context.VerType));
+    const auto model = session_.connection->open(query.text());
+    return model->atEnd() ? std::string{} : model->text(column);
+}
+
+void F_Vertrag::loadFlags() {
+    chkAbgeschlossen.setChecked(false);
+    chkAClEmpty.setChecked(false);
+    StatementText query{
+        "SELECT ISNULL(ABGESCHLOSSEN,0) AS ABGESCHLOSSEN,ISNULL(ACL_EMPTY,0) AS ACL_EMPTY   FROM VERTRAEGE"
+        " WHERE ID_VERTRAG = "};
+    const auto flags = session_.connection->open(query.number(std::int64_t{id_}).text());
+    chkAbgeschlossen.setChecked(flags->integer("ABGESCHLOSSEN") != 0);
+    chkAClEmpty.setChecked(flags->integer("ACL_EMPTY") != 0);
+}
+
+std::string F_Vertrag::GetRightsCode(const std::string& typeCode) {
+    const int type = host::contractTypeNumber(common::toUpper(typeCode));
+    if (type < 0) return {};
+    return type == 0 ? "2PVK" : "2PVA" + std::to_string(type);
+}
+
+void F_Vertrag::chooseCustomer() {
+    host::HostContext& context = host::moduleState().context;
+    services_.moduleService.request(session_, "2PVK", common::toUpper(context.StrVer_Type),
+                                    context.strServiceOut1, context.strServiceOut2);
+    const std::int32_t chosen = services_.personalPicker.choose(
+        session_, GetRightsCode(context.StrVer_Type), static_cast<int>(accessLevel_),
+        context.g_intStandardMandanten, customer_, context.blnOK);
+    if (chosen <= 0 || chosen == customer_) return;
+    SetContractField("ID_PERSONAL", std::to_string(chosen), id_);
+    customer_ = chosen;
+    showCustomer();
+}
+
+void F_Vertrag::removeCustomer() {
+    StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    const auto contract = session_.connection->openUpdatable(query.number(std::int64_t{id_}).text());
+    contract->setField("id_personal", common::Null{});
+    contract->update();
+    customer_ = 0;
+    txtKunde.setText("");
+}
+
+void F_Vertrag::openHeader() {
+    auto& header = host::moduleState().screen<F_HeaderVertrag>(
+        "F_HeaderVertrag", [this] { return std::make_unique<F_HeaderVertrag>(services_); });
+    header.Run(session_, id_);
+    ShowHeader();
+    StatementText query{"SELECT ID_ACCESS_LEVELS FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    accessLevel_ =
+        session_.connection->open(query.number(std::int64_t{id_}).text())->integer("ID_ACCESS_LEVELS");
+}
+
+void F_Vertrag::toggleAdditionalTexts() {
+    picZusatzText.setVisible(!picZusatzText.visible());
+    common::SafeSetFocus(picZusatzText.visible() ? static_cast<ui::Control&>(txtZusatz) : btnZusatz);
+}
+
+void F_Vertrag::writeAdditionalText(AdditionalText& text) {
+    if (text.box.text() == text.written) return;
+    SetContractField(text.column, text.box.text(), id_);
+    text.written = text.box.text();
+}
+
+void F_Vertrag::save() {
+    StatementText statement{"UPDATE VERTRAEGE SET ABGESCHLOSSEN = "};
+    statement.fixed(chkAbgeschlossen.checked() ? "1" : "0");
+    if (chkAClEmpty.checked()) {
+        statement.fixed(",ACL_EMPTY = 1,ID_ACCESS_LEVELS = NULL");
+    } else {
+        statement.fixed(",ACL_EMPTY = 0,ID_ACCESS_LEVELS = CASE WHEN ")
+            .number(accessLevel_)
+            .fixed(" = 0 THEN NULL ELSE ")
+            .number(accessLevel_)
+            .fixed(" END");
+    }
+    statement.fixed(" WHERE ID_VERTRAG = ").number(std::int64_t{id_});
+    session_.connection->execute(statement.text());
+    notYetSaved_ = false;
+    unload();
+}
+
+bool F_Vertrag::queryUnload() {
+    if (newContract_ && notYetSaved_) {
+        const std::string question = services_.localizer.text(discardQuestion, session_);
+        if (common::ShowMessage(services_.display, question, ui::box::yesNo) != ui::Answer::yes) return false;
+        discard();
+        return true;
+    }
+    // The window's close box leaves no field; what was typed last is written all the same.
+    for (AdditionalText& text : additionalTexts_)
+        writeAdditionalText(text);
+    return true;
+}
+
+void F_Vertrag::discard() {
+    const ui::BusyPointer busy{services_.display};
+    const auto run = [this](std::string_view before, std::string_view after = {}) {
+        StatementText statement{before};
+        session_.connection->execute(statement.number(std::int64_t{id_}).fixed(after).text());
+    };
+    run("DELETE FROM VERTRAG_PREISE WHERE ID_VERTRAG = ");
+    run("DELETE FROM VERTRAG_MENGEN WHERE ID_VERTRAG = ");
+    run("DELETE FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG in (SELECT ID FROM WVO_VERTRAG WHERE ID_VERTRAEGE = ",
+        ")");
+    run("DELETE FROM WVO_VERTRAG_WALDHELFER WHERE ID_WVO_VERTRAG in (SELECT ID FROM WVO_VERTRAG WHERE ID_VERTRAEGE = ",
+        ")");
+    run("DELETE FROM WVO_VERTRAG WHERE ID_VERTRAEGE = ");
+    run("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = ");
+}
+
+} // namespace tellurix::contract

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "host/module_state.h"
+#include "host/services.h"
+#include "ui/Button.h"
+#include "ui/CheckBox.h"
+#include "ui/Form.h"
+#include "ui/Grid.h"
+#include "ui/ListBox.h"
+#include "ui/ProgressBar.h"
+#include "ui/TextBox.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace tellurix::contract {
+
+/// The contract editor: the overview of one contract and the way to all its other screens.
+///
+/// Only the closed flag, the visibility flag and the access level wait for "Speichern"; everything
+/// else is written at the moment of the change. A contract that the host has just created survives
+/// only if it is saved at least once: closing it otherwise asks, and deletes it.
+class F_Vertrag final : public ui::Form, public host::Screen {
+public:
+    explicit F_Vertrag(host::HostServices& services);
+
+    /// Opens a contract and returns when the editor is closed.
+    /// @param name not shown; the name in the title is read from the database
+    /// @param newVertrag the host has just created the row
+    /// @param strCaption what the title starts with
+    /// @param enableKLR kept for the child screens
+    void Run(const host::TlxVar& session, std::int32_t id, const std::string& name, bool newVertrag,
+             const std::string& strCaption, const bool& enableKLR);
+
+    /// Writes one column of the contract's row; an empty value becomes NULL. The value goes into the
+    /// statement as it stands.
+    void SetContractField(const std::string& column, const std::string& value, std::int32_t contract);
+    /// Shows the summary of the head data.
+    void ShowHeader();
+    /// Copies columns and cells of a line screen's table into one of the editor's.
+    static void CopyGrid(const ui::Grid& source, ui::Grid& target);
+    /// One column of the contract's deduction model, empty when it has none.
+    std::string GetAbschlagValue(const std::string& column);
+    /// The person picker's code for the customers of a contract type; empty for an unknown type.
+    static std::string GetRightsCode(const std::string& typeCode);
+
+private:
+    /// An additional text: its column, the box that edits it, and what the database has.
+    struct AdditionalText {
+        const char* column;
+        ui::TextBox& box;
+        std::string written;
+    };
+
+    void arrange();
+    void connect();
+    void loadContract();
+    void loadAdditionalTexts();
+    void loadFlags();
+    void showCustomer();
+    void showPriceLines();
+    void showQuantityLines();
+
+    void chooseCustomer();
+    void removeCustomer();
+    void openHeader();
+    void toggleAdditionalTexts();
+    void writeAdditionalText(AdditionalText& text);
+    void save();
+    void discard();
+    bool queryUnload() override;
+
+    host::HostServices& services_;
+    host::TlxVar session_;
+    std::int32_t id_ = 0;
+    std::string name_;             ///< `VERTRAG_NAME`, which is also the accounting name
+    std::int32_t customer_ = 0;    ///< `ID_PERSONAL`, 0 for none
+    std::int64_t accessLevel_ = 0; ///< `ID_ACCESS_LEVELS`, 0 for none
+    bool notYetSaved_ = true;
+    bool newContract_ = false;
+    bool enableKLR_ = false;
+
+    ui::Frame frmKunde{*this, "frmKunde", "Kunde und Kopf"};
+    ui::TextBox txtKunde{*this, "txtKunde", 36};
+    ui::Button KundeButton{*this, "KundeButton", "&Kunde"};
+    ui::Button btnDeleteMan{*this, "btnDeleteMan", "Kunde entfernen", "delete"};
+    ui::ListBox List1{*this, "List1", 60, 9};
+    ui::Button btnHeader{*this, "btnHeader", "&Kopf"};
+    ui::Button btnZusatz{*this, "btnZusatz", "&Zus.text"};
+
+    ui::Frame frmPreise{*this, "frmPreise", "Preise"};
+    ui::Grid Grid1{*this, "Grid1", 6};
+    ui::Button PreisButton{*this, "PreisButton", "&Preis"};
+    ui::Frame frmMengen{*this, "frmMengen", "Mengen"};
+    ui::Grid Grid2{*this, "Grid2", 6};
+    ui::Button PosButton{*this, "PosButton", "&Art.Pos."};
+
+    ui::Frame picZusatzText{*this, "picZusatzText", "Zusatztexte"};
+    ui::Label lblZusatz{*this, "lblZusatz", "Zusatztext"};
+    ui::TextBox txtZusatz{*this, "txtZusatz", 60};
+    std::array<ui::Label, 2> lblZusatzText{ui::Label{*this, "lblZusatzText(0)", "Zusatztext 1"},
+                                           ui::Label{*this, "lblZusatzText(1)", "Zusatztext 2"}};
+    std::array<ui::TextBox, 2> txtZusatzText = ui::controlArray<ui::TextBox, 2>(*this, "txtZusatzText", 60);
+    ui::Button cmdZusatzText{*this, "cmdZusatzText", "&Zus.text"};
+
+    ui::Button btnAbschlag{*this, "btnAbschlag", "Abschlag"};
+    ui::TextBox txtAbschlag{*this, "txtAbschlag", 26};
+    ui::CheckBox chkAbgeschlossen{*this, "chkAbgeschlossen", "Abgeschlossen"};
+    ui::CheckBox chkAClEmpty{*this, "chkAClEmpty", "Auf allen Ebenen sichtbar"};
+    ui::Button btnLieferprofil_WVO{*this, "btnLieferprofil_WVO", "Lieferprofil Vertragsdefinition"};
+
+    ui::Frame frmUbernehmen{*this, "frmUbernehmen", "Aus anderem Vertrag"};
+    ui::Label lblVertrag{*this, "lblVertrag", "Vertrag"};
+    ui::TextBox txtVertrag{*this, "txtVertrag", 20};
+    ui::Label lblTypeOfVertrag{*this, "lblTypeOfVertrag", "Vertragsart"};
+    ui::TextBox txtTypeOfVertrag{*this, "txtTypeOfVertrag", 14};
+    ui::Button btnUbernehmen{*this, "btnUbernehmen", "Ubernehmen"};
+    ui::ProgressBar ProgressBar1{*this, "ProgressBar1"};
+    ui::Label txtMessage{*this, "txtMessage", "Umschalten zu MS-Word"};
+
+    ui::Button btnWord{*this, "btnWord", "Vertragsdokument", "document"};
+    ui::Button btnSpeichern{*this, "btnSpeichern", "Speichern"};
+    ui::Button btnAbbrechen{*this, "btnAbbrechen", "Abbrechen"};
+
+    std::array<AdditionalText, 3> additionalTexts_{{{"ZUSATZTEXT", txtZusatz, {}},
+                                                    {"ZUSATZTEXT_1", txtZusatzText[0], {}},
+                                                    {"ZUSATZTEXT_2", txtZusatzText[1], {}}}};
+};
+
+} // namespace tellurix::contract
