@@ -1,0 +1,38 @@
+#pragma once
+
+#include "common/database.h"
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+namespace tellurix::tracing {
+
+/// One statement as it went through a connection.
+struct Statement {
+    std::string text; ///< the statement, or "[update] …" / "[delete] …" for a row edited in place
+    std::chrono::system_clock::time_point sent;
+    std::chrono::microseconds duration{};
+    std::int64_t rowsAffected = -1; ///< -1 where nothing was counted
+    std::string error{};            ///< empty when it succeeded
+};
+
+/// A connection that lets another one do the work and tells an observer of every statement. The
+/// trace file, the tests and the measurements look at the module's statements through it.
+class TracingConnection final : public common::Connection {
+public:
+    using Observer = std::function<void(const Statement&)>;
+
+    /// @param inner does the work, and lives longer than this
+    TracingConnection(common::Connection& inner, Observer observer)
+        : inner_(inner), observer_(std::move(observer)) {}
+
+    common::ExecuteResult execute(std::string_view statement) override;
+    std::unique_ptr<common::UpdatableRecordset> openUpdatable(std::string_view query) override;
+
+private:
+    common::Connection& inner_;
+    Observer observer_;
+};
+
+} // namespace tellurix::tracing

@@ -1,0 +1,184 @@
+#include "support/ScriptedDisplay.h"
+
+#include "common/text.h"
+#include "ui/Button.h"
+#include "ui/CheckBox.h"
+#include "ui/ItemList.h"
+#include "ui/TextBox.h"
+
+#include <gtest/gtest.h>
+
+namespace tellurix::tests {
+
+namespace {
+
+/// Ends the test from inside a window. No std::exception, so that no event loop takes it for an
+/// error of the screen.
+struct ScriptFailed {};
+
+[[noreturn]] void fail(const std::string& why) {
+    ADD_FAILURE() << why;
+    throw ScriptFailed{};
+}
+
+} // namespace
+
+ui::Form& User::window() {
+    if (desktop_.top() == nullptr) fail("no window is open");
+    return *desktop_.top();
+}
+
+ui::Control& User::find(std::string_view name) {
+    ui::Control* control = window().find(name);
+    if (control == nullptr) fail(window().name() + " has no control " + std::string{name});
+    return *control;
+}
+
+void User::type(std::string_view control, std::string_view text) {
+    focus(control);
+    auto& box = this->control<ui::TextBox>(control);
+    if (window().focused() != &box) return;
+    box.selectAll();
+    if (text.empty()) key(ui::Key::del);
+    type(text);
+}
+
+void User::type(std::string_view text) {
+    for (const char32_t character : common::decodeUtf8(text)) {
+        const char32_t capital = common::toUpper(character);
+        const bool named = (capital >= U'A' && capital <= U'Z') || (capital >= U'0' && capital <= U'9');
+        desktop_.dispatch(ui::KeyDownEvent{{.key = named ? static_cast<ui::Key>(capital) : ui::Key::none}});
+        desktop_.dispatch(ui::KeyPressEvent{character});
+    }
+}
+
+void User::key(ui::Key key, bool shift) {
+    desktop_.dispatch(ui::KeyDownEvent{{.key = key, .shift = shift}});
+    desktop_.dispatch(ui::KeyUpEvent{key});
+}
+
+void User::ctrl() {
+    key(ui::Key::ctrl);
+}
+
+void User::alt(char32_t letter) {
+    desktop_.dispatch(ui::AccessKeyEvent{letter});
+}
+
+void User::click(std::string_view control) {
+    desktop_.dispatch(ui::ClickEvent{&find(control)});
+}
+
+void User::focus(std::string_view control) {
+    desktop_.dispatch(ui::FocusEvent{&find(control)});
+}
+
+void User::replaceText(std::string_view control, std::string_view text) {
+    const std::string typed{text};
+    const int length = static_cast<int>(common::decodeUtf8(typed).size());
+    desktop_.dispatch(ui::TextEditedEvent{&this->control<ui::TextBox>(control), typed, length, 0});
+}
+
+void User::paste(std::string_view control, std::string_view text) {
+    desktop_.dispatch(ui::PasteEvent{&this->control<ui::TextBox>(control), std::string{text}});
+}
+
+void User::select(std::string_view control, int index, int column) {
+    desktop_.dispatch(ui::SelectEvent{&find(control), index, column});
+}
+
+void User::doubleClick(std::string_view control) {
+    desktop_.dispatch(ui::DoubleClickEvent{&find(control)});
+}
+
+void User::close() {
+    desktop_.dispatch(ui::CloseEvent{});
+}
+
+std::string User::focused() {
+    const ui::Control* focused = window().focused();
+    return focused == nullptr ? std::string{} : focused->name();
+}
+
+std::string User::text(std::string_view control) {
+    return this->control<ui::TextBox>(control).text();
+}
+
+std::string User::tag(std::string_view control) {
+    return this->control<ui::TextBox>(control).tag();
+}
+
+std::string User::caption(std::string_view control) {
+    return this->control<ui::Label>(control).caption();
+}
+
+bool User::checked(std::string_view control) {
+    return this->control<ui::CheckBox>(control).checked();
+}
+
+bool User::usable(std::string_view control) {
+    return find(control).usable();
+}
+
+ui::Grid& User::grid(std::string_view control) {
+    return this->control<ui::Grid>(control);
+}
+
+std::string User::items(std::string_view control) {
+    std::string lines;
+    for (const auto& item : this->control<ui::ItemList>(control).items())
+        lines += item.text + "\n";
+    return lines;
+}
+
+ScriptedDisplay::~ScriptedDisplay() {
+    for (const Expected& window : windows_)
+        ADD_FAILURE() << "the window " << window.form << " was never shown";
+    for (const Reply& reply : replies_)
+        ADD_FAILURE() << "the message \"" << reply.containing << "\" was never shown";
+    EXPECT_EQ(busy_, 0) << "the hourglass was left on";
+}
+
+void ScriptedDisplay::onWindow(std::string form, Script script) {
+    windows_.push_back({std::move(form), std::move(script)});
+}
+
+void ScriptedDisplay::onMessage(std::string containing, ui::Answer answer) {
+    replies_.push_back({std::move(containing), answer});
+}
+
+void ScriptedDisplay::showModal(ui::Form& form) {
+    if (windows_.empty()) fail("unexpected window " + form.name());
+    const Expected expected = std::move(windows_.front());
+    windows_.pop_front();
+    if (expected.form != form.name()) fail("expected the window " + expected.form + ", got " + form.name());
+    desktop_.runModal(form, [&]() -> ui::Event {
+        User user{desktop_};
+        expected.script(user);
+        if (form.loaded()) fail("the script left the window " + form.name() + " open");
+        return ui::ScrollEvent{};
+    });
+}
+
+ui::Answer ScriptedDisplay::messageBox(const std::string& text, int flags, const std::string& title) {
+    messages_.push_back({text, flags, title});
+    if (replies_.empty()) fail("unexpected message: " + text);
+    const Reply reply = std::move(replies_.front());
+    replies_.pop_front();
+    EXPECT_NE(text.find(reply.containing), std::string::npos) << "the message was: " << text;
+    return reply.answer;
+}
+
+std::optional<std::string> ScriptedDisplay::openFile(const std::string& title, const std::string&) {
+    fail("unexpected file dialog: " + title);
+}
+
+void ScriptedDisplay::setBusy(bool busy) {
+    busy_ += busy ? 1 : -1;
+}
+
+void ScriptedDisplay::report(const std::exception& error) {
+    errors_.emplace_back(error.what());
+}
+
+} // namespace tellurix::tests

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "ui/Desktop.h"
+#include "ui/Grid.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tellurix::tests {
+
+/// Acts for a user on the topmost window: finds controls by name, types keys, presses, closes. Every
+/// action goes through the desktop, as a real display's events do.
+class User {
+public:
+    explicit User(ui::Desktop& desktop) : desktop_(desktop) {}
+
+    /// Goes to a box as with the pointer and types over its text, key by key.
+    void type(std::string_view control, std::string_view text);
+    /// Types into whatever has the focus.
+    void type(std::string_view text);
+    void key(ui::Key key, bool shift = false);
+    /// Ctrl pressed and released alone.
+    void ctrl();
+    /// Alt with a letter.
+    void alt(char32_t letter);
+    void click(std::string_view control);
+    void focus(std::string_view control);
+    /// Puts a text into a box as a paste does that passes no key filter of the display.
+    void replaceText(std::string_view control, std::string_view text);
+    void paste(std::string_view control, std::string_view text);
+    void select(std::string_view control, int index, int column = 0);
+    void doubleClick(std::string_view control);
+    /// The window's close box.
+    void close();
+
+    ui::Form& window();
+    /// Name of the focused control, empty for none.
+    std::string focused();
+    std::string text(std::string_view control);
+    std::string tag(std::string_view control);
+    std::string caption(std::string_view control);
+    bool checked(std::string_view control);
+    bool usable(std::string_view control);
+    ui::Grid& grid(std::string_view control);
+    /// The items of a list, one a line.
+    std::string items(std::string_view control);
+
+    template <typename C>
+    C& control(std::string_view name) {
+        return dynamic_cast<C&>(find(name));
+    }
+
+private:
+    ui::Control& find(std::string_view name);
+
+    ui::Desktop& desktop_;
+};
+
+/// A display for tests. Each window that opens is worked by the next script; each message box gets
+/// the next answer. A window without a script, a window that a script leaves open, and a message
+/// without an answer fail the test.
+class ScriptedDisplay final : public ui::Display, public ui::ErrorHandling {
+public:
+    using Script = std::function<void(User&)>;
+
+    struct Message {
+        std::string text;
+        int flags = 0;
+        std::string title;
+    };
+
+    ~ScriptedDisplay() override;
+
+    /// The next window is the form of that name, and this is what the user does in it.
+    void onWindow(std::string form, Script script);
+    /// The next message box holds this text and is answered so.
+    void onMessage(std::string containing, ui::Answer answer = ui::Answer::ok);
+
+    /// All message boxes shown so far.
+    const std::vector<Message>& messages() const { return messages_; }
+    /// Messages of the errors handed to the host's error handling so far.
+    const std::vector<std::string>& errors() const { return errors_; }
+
+    void showModal(ui::Form& form) override;
+    ui::Answer messageBox(const std::string& text, int flags, const std::string& title) override;
+    std::optional<std::string> openFile(const std::string& title, const std::string& filter) override;
+    void setBusy(bool busy) override;
+    void refresh() override {}
+    void report(const std::exception& error) override;
+
+private:
+    struct Expected {
+        std::string form;
+        Script script;
+    };
+    struct Reply {
+        std::string containing;
+        ui::Answer answer;
+    };
+
+    ui::Desktop desktop_{*this};
+    std::deque<Expected> windows_;
+    std::deque<Reply> replies_;
+    std::vector<Message> messages_;
+    std::vector<std::string> errors_;
+    int busy_ = 0;
+};
+
+} // namespace tellurix::tests
