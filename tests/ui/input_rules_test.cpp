@@ -1,0 +1,262 @@
+#include "support/ScriptedDisplay.h"
+#include "ui/Button.h"
+#include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
+#include "ui/TextBox.h"
+#include "ui/date_box.h"
+#include "ui/number_box.h"
+
+#include <gtest/gtest.h>
+
+namespace tellurix::tests {
+namespace {
+
+using ui::Key;
+
+/// A screen with a little of everything that the rules of input speak of.
+class Order final : public ui::Form {
+public:
+    Order() : Form("Order", "Bestellung") {
+        ui::makeDateBox(txtDatum, [this] { ++invalidDates; });
+        ui::makeNumberBox(txtMenge, "#####0.00", common::Locale::german());
+        txtKunde.onPick = [this] {
+            ++picks;
+            txtKunde.setText("Maier");
+        };
+        txtGesperrt.setLocked(true);
+        btnOk.onClick = [this] { unload(); };
+        btnFail.onClick = [] { throw std::runtime_error{"der Server ist weg"}; };
+        btnKunden.onClick = [this] { ++customersOpened; };
+        btnCancel.onClick = [this] { unload(); };
+        btnCancel.setCausesValidation(false);
+        setCancelButton(btnCancel);
+        setLayout(ui::column({
+            ui::field(lblName, txtName),
+            ui::field(lblDatum, txtDatum),
+            ui::field(lblMenge, txtMenge),
+            ui::field(lblKunde, txtKunde),
+            txtGesperrt,
+            ui::frame(frmExtra, {chkExtra}),
+            btnKunden,
+            btnFail,
+            btnOk,
+            btnCancel,
+        }));
+    }
+
+    int invalidDates = 0;
+    int picks = 0;
+    int customersOpened = 0;
+    bool mayClose = true;
+
+    ui::Label lblName{*this, "lblName", "&Name"};
+    ui::TextBox txtName{*this, "txtName"};
+    ui::Label lblDatum{*this, "lblDatum", "Datum"};
+    ui::TextBox txtDatum{*this, "txtDatum"};
+    ui::Label lblMenge{*this, "lblMenge", "&Menge"};
+    ui::TextBox txtMenge{*this, "txtMenge"};
+    ui::Label lblKunde{*this, "lblKunde", "Ku&nde"};
+    ui::TextBox txtKunde{*this, "txtKunde"};
+    ui::TextBox txtGesperrt{*this, "txtGesperrt"};
+    ui::Frame frmExtra{*this, "frmExtra", "Extra"};
+    ui::CheckBox chkExtra{*this, "chkExtra", "E&xtra"};
+    ui::Button btnKunden{*this, "btnKunden", "K&unden"};
+    ui::Button btnFail{*this, "btnFail", "Fehler"};
+    ui::Button btnOk{*this, "btnOk", "Ok"};
+    ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};
+
+private:
+    bool queryUnload() override { return mayClose; }
+};
+
+class InputRules : public testing::Test {
+protected:
+    void work(const ScriptedDisplay::Script& script) {
+        display.onWindow("Order", script);
+        display.showModal(order);
+    }
+
+    ScriptedDisplay display;
+    Order order;
+};
+
+TEST_F(InputRules, TabAndEnterGoThroughTheLayoutAndSkipWhatCannotBeUsed) {
+    order.frmExtra.setEnabled(false);
+    work([&](User& user) {
+        std::vector<std::string> visited{user.focused()};
+        for (int i = 0; i < 5; ++i) {
+            user.key(i % 2 == 0 ? Key::enter : Key::tab);
+            visited.push_back(user.focused());
+        }
+        EXPECT_EQ(visited, (std::vector<std::string>{"txtName", "txtDatum", "txtMenge", "txtKunde",
+                                                     "txtGesperrt", "btnKunden"}));
+        user.key(Key::tab, true);
+        EXPECT_EQ(user.focused(), "txtGesperrt");
+        user.key(Key::escape);
+    });
+}
+
+TEST_F(InputRules, TheFocusSelectsTheWholeTextSoThatTypingReplacesIt) {
+    order.txtName.setText("alt");
+    work([&](User& user) {
+        user.type("neü");
+        EXPECT_EQ(user.text("txtName"), "neü");
+        user.key(Key::backspace);
+        EXPECT_EQ(user.text("txtName"), "ne");
+        user.key(Key::tab);
+        user.key(Key::tab, true);
+        user.key(Key::del);
+        EXPECT_EQ(user.text("txtName"), "");
+        user.type("txtGesperrt", "x");
+        EXPECT_EQ(user.text("txtGesperrt"), "") << "a locked box takes no keys";
+        user.close();
+    });
+}
+
+TEST_F(InputRules, ADateIsRewrittenAndABadOneKeepsTheFocusAndTheText) {
+    work([&](User& user) {
+        user.type("txtDatum", "5.6.25");
+        user.key(Key::tab);
+        EXPECT_EQ(user.text("txtDatum"), "05.06.2025");
+        user.type("txtDatum", "31.02.2025x");
+        EXPECT_EQ(user.text("txtDatum"), "31.02.2025") << "letters are no part of a date";
+        user.key(Key::tab);
+        user.click("btnOk");
+        user.alt(U'm');
+        EXPECT_EQ(user.focused(), "txtDatum");
+        EXPECT_EQ(user.text("txtDatum"), "31.02.2025");
+        EXPECT_EQ(order.invalidDates, 3) << "the click on Ok was not taken either";
+        user.click("btnCancel");
+    });
+    EXPECT_EQ(order.invalidDates, 3) << "nobody has to correct a date in order to cancel";
+}
+
+TEST_F(InputRules, ANumberBoxTakesWhatItsMaskCanShow) {
+    struct Case {
+        const char* rule;
+        const char* typed;
+        const char* shown;
+        const char* left;
+    };
+    const Case cases[] = {
+        {"decimal comma", "12,5", "12,5", "12,50"},
+        {"the point is a second way to type it", "12.5", "12,5", "12,50"},
+        {"letters and a second comma are dropped", "1a2,3,4", "12,34", "12,34"},
+        {"no more decimals than the mask", "1,239", "1,23", "1,23"},
+        {"no minus without one in the mask", "-3", "3", "3,00"},
+        {"a lone comma is no number and stays", ",", ",", ","},
+    };
+    work([&](User& user) {
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.rule);
+            user.type("txtMenge", c.typed);
+            EXPECT_EQ(user.text("txtMenge"), c.shown);
+            user.key(Key::tab);
+            EXPECT_EQ(user.text("txtMenge"), c.left);
+        }
+        user.focus("txtMenge");
+        user.control<ui::TextBox>("txtMenge").selectAll();
+        user.paste("txtMenge", " 3,1x4 ");
+        EXPECT_EQ(user.text("txtMenge"), "3,14") << "pasted characters pass the filter, too";
+        user.close();
+    });
+}
+
+TEST_F(InputRules, CtrlAloneF4AndTheSmallButtonOpenThePicker) {
+    work([&](User& user) {
+        user.focus("txtKunde");
+        user.ctrl();
+        EXPECT_EQ(order.picks, 1);
+        EXPECT_EQ(user.text("txtKunde"), "Maier");
+        user.key(Key::f4);
+        EXPECT_EQ(order.picks, 2);
+        user.key(Key::tab);
+        user.ctrl();
+        EXPECT_EQ(order.picks, 2) << "a box without a picker";
+        user.close();
+    });
+    ui::Desktop desktop{display};
+    desktop.runModal(order, [&]() -> ui::Event {
+        desktop.dispatch(ui::PickEvent{&order.txtKunde});
+        desktop.dispatch(ui::KeyDownEvent{{.key = Key::ctrl, .ctrl = true}});
+        desktop.dispatch(ui::KeyDownEvent{{.key = static_cast<Key>('C'), .ctrl = true}});
+        desktop.dispatch(ui::KeyUpEvent{Key::ctrl});
+        return ui::CloseEvent{};
+    });
+    EXPECT_EQ(order.picks, 3) << "Ctrl+C copies and opens nothing";
+}
+
+TEST_F(InputRules, AccessKeysPressTickAndGo) {
+    work([&](User& user) {
+        user.alt(U'M');
+        EXPECT_EQ(user.focused(), "txtMenge");
+        user.alt(U'x');
+        EXPECT_TRUE(user.checked("chkExtra"));
+        user.alt(U'u');
+        EXPECT_EQ(order.customersOpened, 1);
+        user.alt(U'n');
+        EXPECT_EQ(user.focused(), "txtName") << "a shared key goes to the first …";
+        user.alt(U'N');
+        EXPECT_EQ(user.focused(), "txtKunde") << "… and on to the next";
+        user.close();
+    });
+}
+
+TEST_F(InputRules, AnErrorInAnEventIsReportedAndTheWindowStaysWithWhatWasTyped) {
+    work([&](User& user) {
+        user.type("txtName", "Grün");
+        user.click("btnFail");
+        EXPECT_EQ(display.errors(), std::vector<std::string>{"der Server ist weg"});
+        EXPECT_EQ(user.text("txtName"), "Grün");
+        user.click("btnOk");
+    });
+}
+
+TEST_F(InputRules, ClosingCanBeRefused) {
+    order.mayClose = false;
+    work([&](User& user) {
+        user.close();
+        user.key(Key::escape);
+        user.click("btnOk");
+        EXPECT_TRUE(user.window().loaded());
+        order.mayClose = true;
+        user.close();
+    });
+}
+
+TEST_F(InputRules, GridsAndListsAreWorkedByKeys) {
+    struct Lists final : ui::Form {
+        Lists() : Form("Lists") {
+            grid.setColumns({{.caption = "A"}, {.caption = "B"}});
+            for (int i = 0; i < 20; ++i)
+                grid.addRow({std::to_string(i), "b"});
+            grid.onCurrentChange = [this] { moved += std::to_string(grid.currentRow()) + " "; };
+            grid.onDoubleClick = [this] { chosen = grid.currentRow(); };
+            for (const char* unit : {"Fm", "Rm", "Stück"})
+                combo.add(unit);
+            combo.onChange = [this] { chosenUnit = combo.selectedText(); };
+            setLayout(ui::column({grid, combo}));
+        }
+        ui::Grid grid{*this, "grid", 5};
+        ui::ComboBox combo{*this, "combo"};
+        std::string moved;
+        std::string chosenUnit;
+        int chosen = -1;
+    } lists;
+    display.onWindow("Lists", [&](User& user) {
+        for (const Key key : {Key::down, Key::down, Key::pageDown, Key::up, Key::end, Key::down, Key::home})
+            user.key(key);
+        EXPECT_EQ(lists.moved, "0 1 6 5 19 0 ") << "the last row has none below it";
+        user.key(Key::enter);
+        EXPECT_EQ(lists.chosen, 0);
+        user.key(Key::tab);
+        user.key(Key::down);
+        user.key(Key::down);
+        EXPECT_EQ(lists.chosenUnit, "Rm");
+        user.close();
+    });
+    display.showModal(lists);
+}
+
+} // namespace
+} // namespace tellurix::tests
