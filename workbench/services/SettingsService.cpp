@@ -1,0 +1,13 @@
+#include "services/SettingsService.h"
+
+#include "common/StatementText.h"
+
+namespace tellurix::workbench {
+
+std::string SettingsService::text(const host::TlxVar& session, const std::string& name) {
+    common::StatementText query{"SELECT VALUE FROM WORKBENCH_SETTING WHERE NAME = "};
+    const auto setting = session.connection->open(query.quoted(name).text());
+    return setting->atEnd() ? std::string{} : setting->text("VALUE");
+}
+
+} // namespace tellurix::workbench

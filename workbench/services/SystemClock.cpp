@@ -1,0 +1,20 @@
+#include "services/SystemClock.h"
+
+#include <ctime>
+
+namespace tellurix::workbench {
+
+common::DateTime SystemClock::now() const {
+    using namespace std::chrono;
+    const auto moment = system_clock::now();
+    const std::time_t seconds = system_clock::to_time_t(floor<std::chrono::seconds>(moment));
+    std::tm local{};
+    localtime_r(&seconds, &local);
+    const year_month_day day{year{local.tm_year + 1900}, month{static_cast<unsigned>(local.tm_mon + 1)},
+                             std::chrono::day{static_cast<unsigned>(local.tm_mday)}};
+    const auto fraction = duration_cast<milliseconds>(moment.time_since_epoch() % 1s);
+    return common::startOf(day) + hours{local.tm_hour} + minutes{local.tm_min} +
+           std::chrono::seconds{local.tm_sec} + fraction;
+}
+
+} // namespace tellurix::workbench
