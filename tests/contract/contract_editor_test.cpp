@@ -1,0 +1,284 @@
+#include "support/ContractTest.h"
+
+namespace tellurix::tests {
+namespace {
+
+using ui::Answer;
+using ui::Key;
+
+class ContractEditor : public ContractTest {
+protected:
+    void edit(std::int32_t contract, const ScriptedDisplay::Script& script, bool newVertrag = false,
+              const std::string& type = "R") {
+        host.display.onWindow("F_Vertrag", script);
+        host.openContract(contract, type, newVertrag);
+    }
+
+    /// Creates a contract with rows in all its tables, as the host and earlier work would.
+    std::int32_t newContract() {
+        common::Connection& db = host.database;
+        db.execute("INSERT INTO VERTRAEGE (VERTRAG_NAME,VER_TYPE) VALUES ('Neu','R')");
+        const std::string id = value("SELECT MAX(ID_VERTRAG) FROM VERTRAEGE");
+        db.execute("INSERT INTO VERTRAG_PREISE (ID_VERTRAG,ORDNUNG) VALUES (" + id + ",1)");
+        db.execute("INSERT INTO VERTRAG_MENGEN (ID_VERTRAG,ORDNUNG) VALUES (" + id + ",1)");
+        db.execute("INSERT INTO WVO_VERTRAG (ID_VERTRAEGE) VALUES (" + id + ")");
+        const std::string logistics = value("SELECT MAX(ID) FROM WVO_VERTRAG");
+        db.execute("INSERT INTO WVO_VERTAG_KALENDER (ID_WVO_VERTRAG,JAHR,WOCHE) VALUES (" + logistics +
+                   ",2026,5)");
+        db.execute("INSERT INTO WVO_VERTRAG_WALDHELFER (ID_WVO_VERTRAG,ID_PERSONAL) VALUES (" + logistics +
+                   ",20)");
+        return std::stoi(id);
+    }
+
+    /// How many rows all contract tables hold together.
+    std::string rowCounts() {
+        std::string counts;
+        for (const char* table : {"VERTRAEGE", "VERTRAG_PREISE", "VERTRAG_MENGEN", "WVO_VERTRAG",
+                                  "WVO_VERTAG_KALENDER", "WVO_VERTRAG_WALDHELFER"}) {
+            counts += value(std::string{"SELECT COUNT(*) FROM "} + table) + " ";
+        }
+        return counts;
+    }
+};
+
+TEST_F(ContractEditor, ShowsTheContract) {
+    edit(1, [&](User& user) {
+        EXPECT_EQ(user.window().title(), "Vertrag (R-2025-001 Fichte Wolfsberg)");
+        EXPECT_EQ(user.text("txtKunde"),
+                  value("SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = 10"));
+        EXPECT_NE(user.items("List1").find("Vertragsdatum: 07.01.2025\n"), std::string::npos);
+        EXPECT_NE(user.items("List1").find("Text 3062: Lieferung frei Werk Wolfsberg, Tor 2\n"),
+                  std::string::npos);
+        EXPECT_NE(user.items("List1").find("Text 4110: 12,50\n"), std::string::npos);
+        EXPECT_EQ(std::to_string(user.grid("Grid1").rows().size()),
+                  value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"));
+        EXPECT_EQ(user.grid("Grid2").cell(0, 0),
+                  value("SELECT BEZEICHNUNG FROM VERTRAG_MENGEN WHERE ID_VERTRAG = 1 AND ORDNUNG = 1"));
+        EXPECT_EQ(
+            user.text("txtAbschlag"),
+            value(
+                "SELECT ABS_MODEL FROM ABSCHLAG WHERE RECH_NAME = 'R-2025-001 Fichte Wolfsberg' AND VER_TYPE = 'V'"));
+        EXPECT_FALSE(user.checked("chkAbgeschlossen"));
+        for (const char* later : {"PreisButton", "PosButton", "btnAbschlag", "btnLieferprofil_WVO", "btnWord",
+                                  "btnUbernehmen", "txtVertrag"}) {
+            EXPECT_FALSE(user.usable(later)) << later;
+        }
+        user.close();
+    });
+}
+
+TEST_F(ContractEditor, NullFlagsReadAsClearAndAContractWithoutCustomerIsEmpty) {
+    edit(7, [&](User& user) {
+        EXPECT_FALSE(user.checked("chkAbgeschlossen"));
+        EXPECT_FALSE(user.checked("chkAClEmpty"));
+        EXPECT_EQ(user.text("txtKunde"), "");
+        user.close();
+    });
+    edit(2, [&](User& user) {
+        EXPECT_TRUE(user.checked("chkAClEmpty"));
+        user.close();
+    });
+    edit(5, [&](User& user) {
+        EXPECT_TRUE(user.checked("chkAbgeschlossen"));
+        user.close();
+    });
+}
+
+TEST_F(ContractEditor, SavingWritesFlagsAndAccessLevel) {
+    struct Case {
+        const char* rule;
+        std::int32_t contract;
+        std::vector<const char*> clicks;
+        const char* written; // ABGESCHLOSSEN | ACL_EMPTY | ID_ACCESS_LEVELS
+    };
+    const Case cases[] = {
+        {"access level 0 is NULL", 1, {}, "false | false | NULL"},
+        {"closed", 1, {"chkAbgeschlossen"}, "true | false | NULL"},
+        {"the contract's own level stays", 6, {}, "false | false | 5"},
+        {"visible on all levels takes the level away", 6, {"chkAClEmpty"}, "false | true | NULL"},
+        {"and does not bring it back", 6, {"chkAClEmpty"}, "false | false | NULL"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        edit(c.contract, [&](User& user) {
+            for (const char* box : c.clicks)
+                user.click(box);
+            user.click("btnSpeichern");
+        });
+        EXPECT_EQ(row("SELECT ABGESCHLOSSEN,ACL_EMPTY,ID_ACCESS_LEVELS FROM VERTRAEGE WHERE ID_VERTRAG = " +
+                      std::to_string(c.contract)),
+                  c.written);
+    }
+}
+
+TEST_F(ContractEditor, AnExistingContractClosesWithoutAQuestionAndWithoutSavingTheFlags) {
+    const auto before = rowCounts();
+    edit(1, [&](User& user) {
+        user.click("chkAbgeschlossen");
+        user.click("btnAbbrechen");
+    });
+    EXPECT_EQ(rowCounts(), before);
+    EXPECT_EQ(value("SELECT ABGESCHLOSSEN FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "false");
+    EXPECT_TRUE(host.display.messages().empty());
+}
+
+TEST_F(ContractEditor, ANewContractIsDiscardedOnYesOnly) {
+    const auto before = rowCounts();
+    const std::int32_t id = newContract();
+    const std::string key = std::to_string(id);
+    host.display.onMessage("Text 1078", Answer::no);
+    host.display.onMessage("Text 1078", Answer::no);
+    host.display.onMessage("Text 1078", Answer::yes);
+    edit(
+        id,
+        [&](User& user) {
+            EXPECT_EQ(value("SELECT INVDATE FROM VERTRAEGE WHERE ID_VERTRAG = " + key), "2026-03-09");
+            user.click("btnAbbrechen");
+            EXPECT_TRUE(user.window().loaded()) << "No keeps the editor open";
+            user.close();
+            EXPECT_EQ(host.display.messages().back().flags, ui::box::yesNo);
+            host.statements.clear();
+            user.key(Key::escape);
+        },
+        true);
+    EXPECT_EQ(
+        host.statements,
+        (std::vector<std::string>{
+            "DELETE FROM VERTRAG_PREISE WHERE ID_VERTRAG = " + key,
+            "DELETE FROM VERTRAG_MENGEN WHERE ID_VERTRAG = " + key,
+            "DELETE FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG in (SELECT ID FROM WVO_VERTRAG WHERE "
+            "ID_VERTRAEGE = " +
+                key + ")",
+            "DELETE FROM WVO_VERTRAG_WALDHELFER WHERE ID_WVO_VERTRAG in (SELECT ID FROM WVO_VERTRAG WHERE "
+            "ID_VERTRAEGE = " +
+                key + ")",
+            "DELETE FROM WVO_VERTRAG WHERE ID_VERTRAEGE = " + key,
+            "DELETE FROM VERTRAEGE WHERE ID_VERTRAG = " + key,
+        }));
+    EXPECT_EQ(rowCounts(), before) << "nothing of it is left, nothing else is gone";
+}
+
+TEST_F(ContractEditor, ANewContractThatWasSavedStays) {
+    const std::int32_t id = newContract();
+    const auto before = rowCounts();
+    edit(
+        id, [](User& user) { user.click("btnSpeichern"); }, true);
+    EXPECT_EQ(rowCounts(), before);
+}
+
+TEST_F(ContractEditor, ADiscardThatFailsInTheMiddleKeepsTheEditorOpen) {
+    const std::int32_t id = newContract();
+    host.display.onMessage("Text 1078", Answer::yes);
+    host.display.onMessage("Text 1078", Answer::yes);
+    edit(
+        id,
+        [&](User& user) {
+            host.database.failOn("DELETE FROM WVO_VERTRAG WHERE");
+            user.close();
+            EXPECT_EQ(host.display.errors(), std::vector<std::string>{"connection lost"});
+            EXPECT_TRUE(user.window().loaded());
+            EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id)), "1");
+            host.database.failOn("");
+            user.close();
+        },
+        true);
+    EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id)), "0");
+}
+
+TEST_F(ContractEditor, AFailingSaveKeepsTheEditorOpenAndTheContractUnsaved) {
+    const std::int32_t id = newContract();
+    host.display.onMessage("Text 1078", Answer::no);
+    edit(
+        id,
+        [&](User& user) {
+            user.click("chkAbgeschlossen");
+            host.database.failOn("SET ABGESCHLOSSEN");
+            user.click("btnSpeichern");
+            EXPECT_TRUE(user.checked("chkAbgeschlossen"));
+            host.database.failOn("");
+            user.close();
+            user.click("btnSpeichern");
+        },
+        true);
+    EXPECT_EQ(value("SELECT ABGESCHLOSSEN FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id)), "true");
+}
+
+TEST_F(ContractEditor, AFailureWhileOpeningFailsTheCallAndNotifiesNobody) {
+    host.database.failOn("ZUSATZTEXT_1");
+    EXPECT_THROW(host.openContract(1), common::DatabaseError);
+    EXPECT_TRUE(host.requests.empty());
+    EXPECT_TRUE(host.display.errors().empty());
+}
+
+TEST_F(ContractEditor, RemovingAndChoosingTheCustomerWritesAtOnce) {
+    edit(1, [&](User& user) {
+        user.click("btnDeleteMan");
+        EXPECT_EQ(user.text("txtKunde"), "");
+        EXPECT_EQ(value("SELECT ID_PERSONAL FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "NULL");
+        user.close();
+    });
+    EXPECT_EQ(value("SELECT ID_PERSONAL FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "NULL")
+        << "survives without saving";
+    EXPECT_EQ(value("SELECT KOPF1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"),
+              "Lieferung frei Werk Wolfsberg, Tor 2");
+
+    host.pickedPerson = 11;
+    edit(1, [&](User& user) {
+        user.alt(U'K'); // shared by "&Kunde" and "&Kopf": goes to the first and presses nothing
+        user.key(Key::enter);
+        EXPECT_EQ(user.text("txtKunde"),
+                  value("SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = 11"));
+        host.pickedPerson = 0;
+        user.click("KundeButton");
+        EXPECT_NE(user.text("txtKunde"), "") << "choosing nobody changes nothing";
+        user.close();
+    });
+    EXPECT_EQ(value("SELECT ID_PERSONAL FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "11");
+    EXPECT_EQ(host.picks, (std::vector<std::string>{"2PVK/0", "2PVK/0"}));
+    EXPECT_EQ(host.requests, (std::vector<std::string>{"1VVM/R", "2PVK/R", "2PVK/R", "1VVM/R"}));
+}
+
+TEST_F(ContractEditor, AdditionalTextsAreWrittenWhenTheyAreLeft) {
+    edit(1, [&](User& user) {
+        EXPECT_FALSE(user.usable("txtZusatz"));
+        user.click("btnZusatz");
+        EXPECT_EQ(user.focused(), "txtZusatz");
+        user.type("Holz vom Käfer");
+        user.key(Key::tab);
+        EXPECT_EQ(value("SELECT ZUSATZTEXT FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "Holz vom Käfer");
+        user.type("txtZusatzText(1)", "");
+        user.key(Key::tab);
+        EXPECT_EQ(value("SELECT ZUSATZTEXT_2 FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "NULL");
+        user.type("txtZusatzText(0)", "Förster's Auflage");
+        user.click("btnSpeichern");
+        EXPECT_EQ(user.focused(), "txtZusatzText(0)");
+        EXPECT_EQ(host.display.errors().size(), 1u);
+        user.type("txtZusatzText(0)", "Auflage");
+        user.click("cmdZusatzText");
+        EXPECT_FALSE(user.usable("txtZusatz"));
+        user.click("btnZusatz");
+        user.type("txtZusatz", "zuletzt getippt");
+        user.close();
+    });
+    EXPECT_EQ(row("SELECT ZUSATZTEXT,ZUSATZTEXT_1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"),
+              "zuletzt getippt | Auflage");
+}
+
+TEST_F(ContractEditor, TheHeaderIsShownAgainAfterItWasEdited) {
+    host.display.onWindow("F_Vertrag", [&](User& user) {
+        user.click("btnHeader");
+        EXPECT_NE(user.items("List1").find("Text 3062: geändert\n"), std::string::npos);
+        user.click("btnSpeichern");
+    });
+    host.display.onWindow("F_HeaderVertrag", [&](User& user) {
+        user.type("txtKopf(0)", "geändert");
+        // Another user gives the contract a level while the header is open; saving must not undo it.
+        host.database.execute("UPDATE VERTRAEGE SET ID_ACCESS_LEVELS = 7 WHERE ID_VERTRAG = 1");
+        user.click("btnOk");
+    });
+    host.openContract(1);
+    EXPECT_EQ(value("SELECT ID_ACCESS_LEVELS FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "7");
+}
+
+} // namespace
+} // namespace tellurix::tests

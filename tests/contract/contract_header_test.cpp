@@ -1,0 +1,264 @@
+#include "support/ContractTest.h"
+#include "ui/Grid.h"
+
+#include <thread>
+
+namespace tellurix::tests {
+namespace {
+
+using ui::Answer;
+using ui::Key;
+
+class ContractHeader : public ContractTest {
+protected:
+    /// Opens the head data of a contract from its editor, and closes the editor afterwards.
+    void editHeader(std::int32_t contract, const ScriptedDisplay::Script& script,
+                    const std::string& type = "R") {
+        host.display.onWindow("F_Vertrag", [](User& user) {
+            user.click("btnHeader");
+            user.click("btnAbbrechen");
+        });
+        host.display.onWindow("F_HeaderVertrag", script);
+        host.openContract(contract, type);
+    }
+};
+
+TEST_F(ContractHeader, ShowsTheRow) {
+    editHeader(1, [](User& user) {
+        EXPECT_EQ(user.text("txtDate1"), "07.01.2025");
+        EXPECT_EQ(user.text("txtDate2"), "10.01.2025");
+        EXPECT_EQ(user.text("txtDate4"), "") << "NULL is an empty box";
+        EXPECT_EQ(user.text("txtLieferBis"), "31.12.2025");
+        EXPECT_EQ(user.text("txtNumber(0)"), "12,50");
+        EXPECT_EQ(user.text("txtNumber(9)"), "");
+        EXPECT_EQ(user.text("txtKopf(0)"), "Lieferung frei Werk Wolfsberg, Tor 2");
+        EXPECT_EQ(user.tag("txtRechn"), "1");
+        EXPECT_EQ(user.text("txtWahrung"), "EUR");
+        EXPECT_EQ(user.tag("txtMandant(0)"), "1");
+        EXPECT_NE(user.text("txtMandant(1)"), "");
+        EXPECT_EQ(user.tag("txtLieferadresse(0)"), "50");
+        user.click("btnCancel");
+    });
+}
+
+TEST_F(ContractHeader, CaptionsFollowTheContractType) {
+    struct Case {
+        const char* type;
+        std::vector<int> captions; // LabelKopf(0), LabelKopf(9), lblDate2, lblWahrung, lblNumber(9)
+    };
+    const Case cases[] = {
+        {"R", {3062, 3063, 3024, 748, 4119}},   {"r", {3062, 3063, 3024, 748, 4119}},
+        {"A1", {3300, 3309, 3311, 3316, 4131}}, {"A4", {3351, 3360, 3362, 3367, 4161}},
+        {"A8", {3419, 3428, 3430, 3435, 4201}}, {"Z", {0, 9, 11, 16, 9}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.type);
+        editHeader(
+            1,
+            [&](User& user) {
+                const char* labels[] = {"LabelKopf(0)", "LabelKopf(9)", "lblDate2", "lblWahrung",
+                                        "lblNumber(9)"};
+                for (std::size_t i = 0; i < std::size(labels); ++i) {
+                    EXPECT_EQ(user.caption(labels[i]), "Text " + std::to_string(c.captions[i])) << labels[i];
+                }
+                EXPECT_EQ(user.caption("lblVertragsDatum"), "Vertragsdatum*");
+                user.key(Key::escape);
+            },
+            c.type);
+    }
+}
+
+TEST_F(ContractHeader, OkWritesWhatTheBoxesShow) {
+    struct Case {
+        const char* rule;
+        const char* box;
+        const char* typed;
+        const char* column;
+        const char* written;
+    };
+    const Case cases[] = {
+        {"an empty contract date is NULL", "txtDate1", "", "INVDATE", "NULL"},
+        {"a short date is completed", "txtDate2", "1.2.26", "DATE1", "2026-02-01"},
+        {"a cleared delivery end is NULL", "txtLieferBis", "", "LIEFERBIS", "NULL"},
+        {"a decimal comma becomes a point", "txtNumber(0)", "12,5", "NUMM1", "12.5000"},
+        {"a grouped number is none in this mask", "txtNumber(1)", "1.250", "NUMM2", "1.2500"},
+        {"what is not numeric is NULL", "txtNumber(2)", ",", "NUMM3", "NULL"},
+        {"a free text as it stands", "txtKopf(3)", "Länge \"4,0\"; -- 10 % [Übermaß]", "KOPF4",
+         "Länge \"4,0\"; -- 10 % [Übermaß]"},
+        {"an empty free text is NULL", "txtKopf(0)", "", "KOPF1", "NULL"},
+        {"a doubled quote is no end of the text", "txtKopf(1)", "D''Angelo", "KOPF2", "D'Angelo"},
+        {"an emptied lookup is NULL", "txtRechn", "", "RART_ID", "NULL"},
+        {"a cleared client is NULL", "txtMandant(0)", "", "ID_MANDANTEN", "NULL"},
+        {"the home currency in any case", "txtWahrung", "chf", "EURO", "false"},
+        {"an empty currency is the home currency", "txtWahrung", "", "EURO", "false"},
+        {"any other currency is the euro", "txtWahrung", "usd", "EURO", "true"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        editHeader(1, [&](User& user) {
+            user.type(c.box, c.typed);
+            user.click("btnOk");
+        });
+        EXPECT_EQ(value(std::string{"SELECT "} + c.column + " FROM VERTRAEGE WHERE ID_VERTRAG = 1"),
+                  c.written);
+    }
+    EXPECT_TRUE(host.display.errors().empty());
+}
+
+TEST_F(ContractHeader, CancellingWritesNothingEvenWithABadDate) {
+    const auto before = value("SELECT KOPF1 FROM VERTRAEGE WHERE ID_VERTRAG = 1");
+    editHeader(1, [](User& user) {
+        user.type("txtKopf(0)", "geändert");
+        user.type("txtDate1", "99");
+        user.key(Key::escape);
+    });
+    EXPECT_EQ(value("SELECT KOPF1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"), before);
+}
+
+TEST_F(ContractHeader, ABadDateShowsTheMessageAndKeepsTheFocus) {
+    host.display.onMessage("Text 223");
+    editHeader(1, [&](User& user) {
+        user.type("txtLieferVon", "31.2.2025");
+        user.click("btnOk");
+        EXPECT_EQ(user.focused(), "txtLieferVon");
+        EXPECT_EQ(user.text("txtLieferVon"), "31.2.2025");
+        EXPECT_EQ(host.display.messages().back().title, "Tellurix");
+        user.type("txtLieferVon", "28.2.2025");
+        user.click("btnOk");
+    });
+    EXPECT_EQ(value("SELECT LIEFERVON FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "2025-02-28");
+}
+
+TEST_F(ContractHeader, AValueThatWouldBreakTheStatementIsRefusedAndEverythingStays) {
+    const std::string hostile[] = {"Käufer's Wahl", "x', KOPF2='y", "'; DELETE FROM VERTRAEGE --", "''' "};
+    const auto rows = value("SELECT COUNT(*) FROM VERTRAEGE");
+    const auto before = row("SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = 1");
+    for (int box = 0; box < 10; ++box) {
+        const std::string name = "txtKopf(" + std::to_string(box) + ")";
+        for (const std::string& text : hostile) {
+            SCOPED_TRACE(name + " " + text);
+            const auto errors = host.display.errors().size();
+            editHeader(1, [&](User& user) {
+                user.type("txtNumber(0)", "99");
+                user.type(name, text);
+                user.click("btnOk");
+                EXPECT_EQ(host.display.errors().size(), errors + 1);
+                EXPECT_NE(host.display.errors().back().find(text), std::string::npos)
+                    << "names the refused value";
+                EXPECT_EQ(user.text(name), text);
+                EXPECT_EQ(user.text("txtNumber(0)"), "99,00");
+                user.click("btnCancel");
+            });
+        }
+    }
+    EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAEGE"), rows);
+    EXPECT_EQ(row("SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = 1"), before);
+}
+
+TEST_F(ContractHeader, HostileTextInALookupIsRefusedWhenTheBoxIsLeft) {
+    for (const char* box : {"txtRechn", "txtBuchn"}) {
+        const auto errors = host.display.errors().size();
+        editHeader(1, [&](User& user) {
+            user.type(box, "x' OR '1'='1' --'");
+            user.key(Key::tab);
+            EXPECT_EQ(host.display.errors().size(), errors + 1);
+            EXPECT_EQ(user.focused(), box);
+            EXPECT_EQ(user.text(box), "x' OR '1'='1' --'");
+            user.click("btnCancel");
+        });
+    }
+}
+
+TEST_F(ContractHeader, LookupsResolveToKeysAndUnresolvedOnesKeepTheFocus) {
+    editHeader(3, [&](User& user) {
+        user.type("txtBuchn", "gibt es nicht");
+        user.click("btnOk");
+        EXPECT_EQ(user.focused(), "txtBuchn");
+        EXPECT_EQ(user.text("txtBuchn"), "gibt es nicht");
+        host.pickedText = value("SELECT BUCHUNGSTEXT FROM BUCHNR WHERE BUCHNR_ID = 2");
+        user.ctrl();
+        EXPECT_EQ(host.picks.back(), "SELECT BUCHUNGSTEXT AS SHORT FROM BUCHNR/Text 294");
+        user.click("btnOk");
+    });
+    EXPECT_EQ(value("SELECT BUCHNR_ID FROM VERTRAEGE WHERE ID_VERTRAG = 3"), "2");
+}
+
+TEST_F(ContractHeader, PersonsAreTypedByNumberOrPicked) {
+    const auto number = value("SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = 2");
+    editHeader(1, [&](User& user) {
+        user.type("txtMandant(0)", "1x" + number.substr(1));
+        EXPECT_EQ(user.text("txtMandant(0)"), "1" + number.substr(1)) << "digits only";
+        user.type("txtMandant(0)", number);
+        user.key(Key::tab);
+        EXPECT_EQ(user.tag("txtMandant(0)"), "2");
+        EXPECT_EQ(user.text("txtMandant(1)"),
+                  value("SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = 2"));
+        host.pickedPerson = 52;
+        user.focus("txtLieferadresse(0)");
+        user.key(Key::f4);
+        EXPECT_EQ(host.picks.back(), "2PVAP/2") << "a contract without a level uses the user's";
+        user.click("btnOk");
+    });
+    EXPECT_EQ(row("SELECT ID_MANDANTEN,ID_PERSONAL_LIEFERADRESSE FROM VERTRAEGE WHERE ID_VERTRAG = 1"),
+              "2 | 52");
+}
+
+TEST_F(ContractHeader, PickersOpenWithTheirTitles) {
+    struct Case {
+        const char* box;
+        const char* pick;
+    };
+    const Case cases[] = {
+        {"txtDate1", "DATUM/Vertragsdatum*"},
+        {"txtDate3", "DATUM/Text 3025"},
+        {"txtLieferBis", "DATUM/Lieferzeitraum bis"},
+        {"txtWahrung", "SELECT 'EUR' AS SHORT UNION ALL SELECT 'CHF'/Text 748"},
+        {"txtRechn", "SELECT RECHNUNGSART AS SHORT FROM RECHNUNGSART/Text 293"},
+    };
+    editHeader(6, [&](User& user) {
+        for (const Case& c : cases) {
+            user.focus(c.box);
+            user.ctrl();
+            EXPECT_EQ(host.picks.back(), c.pick);
+        }
+        host.pickedPerson = 0;
+        user.focus("txtMandant(0)");
+        user.ctrl();
+        EXPECT_EQ(host.picks.back(), "2PVM/5") << "a contract's own access level comes first";
+        user.click("btnCancel");
+    });
+}
+
+TEST_F(ContractHeader, AFailingSaveLeavesTheScreenWithEverythingTyped) {
+    editHeader(1, [&](User& user) {
+        user.type("txtKopf(0)", "neu");
+        host.database.failOn("UPDATE VERTRAEGE SET INVDATE");
+        user.click("btnOk");
+        EXPECT_EQ(host.display.errors(), std::vector<std::string>{"connection lost"});
+        EXPECT_EQ(user.text("txtKopf(0)"), "neu");
+        host.database.failOn("");
+        user.click("btnOk");
+    });
+    EXPECT_EQ(value("SELECT KOPF1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "neu");
+}
+
+TEST_F(ContractHeader, SavingIsOneStatementInTheGivenOrder) {
+    editHeader(
+        14,
+        [&](User& user) {
+            host.statements.clear();
+            user.click("btnOk");
+        },
+        "A7");
+    ASSERT_FALSE(host.statements.empty());
+    EXPECT_EQ(
+        host.statements.front(),
+        "UPDATE VERTRAEGE SET INVDATE = '20240110',DATE1 = NULL,DATE2 = NULL,DATE3 = NULL,LIEFERVON = "
+        "'20240115',LIEFERBIS = '20241215',NUMM1 = NULL,NUMM2 = NULL,NUMM3 = NULL,NUMM4 = NULL,NUMM5 = NULL,NUMM6 "
+        "= NULL,NUMM7 = NULL,NUMM8 = NULL,NUMM9 = NULL,NUMM10 = NULL,KOPF1 = NULL,KOPF2 = NULL,KOPF3 = NULL,KOPF4 "
+        "= NULL,KOPF5 = NULL,KOPF6 = NULL,KOPF7 = NULL,KOPF8 = NULL,KOPF9 = NULL,KOPF10 = NULL,RART_ID = "
+        "NULL,BUCHNR_ID = 4,ID_MANDANTEN = 1,ID_PERSONAL_LIEFERADRESSE = NULL,EURO = 1 WHERE ID_VERTRAG = 14");
+}
+
+} // namespace
+} // namespace tellurix::tests

@@ -1,0 +1,112 @@
+#include "support/TestHost.h"
+
+#include "common/date_format.h"
+
+namespace tellurix::tests {
+
+void FaultyConnection::check(std::string_view statement) const {
+    if (part_.empty() || statement.find(part_) == std::string_view::npos) return;
+    throw common::DatabaseError{common::DatabaseErrorCategory::connection, "connection lost",
+                                std::string{statement}};
+}
+
+common::ExecuteResult FaultyConnection::execute(std::string_view statement) {
+    check(statement);
+    return inner_.execute(statement);
+}
+
+std::unique_ptr<common::UpdatableRecordset> FaultyConnection::openUpdatable(std::string_view query) {
+    check(query);
+    return inner_.openUpdatable(query);
+}
+
+TestHost::TestHost(common::Connection& inner)
+    : database(inner),
+      services{.display = display,
+               .errors = display,
+               .clock = *this,
+               .locale = common::Locale::german(),
+               .dataAccess = *this,
+               .moduleService = *this,
+               .localizer = *this,
+               .personalPicker = *this,
+               .listPicker = *this,
+               .lookupValidation = *this,
+               .personQuery = *this,
+               .dateConverter = *this,
+               .settings = *this,
+               .gridLayouts = *this,
+               .columnUpdate = *this},
+      traced_(database,
+              [this](const tracing::Statement& statement) { statements.push_back(statement.text); }),
+      module_(services) {
+    session = {.connection = &traced_, .accessLevel = 2, .homeCurrency = "CHF", .site = {}, .user = "test"};
+}
+
+TestHost::~TestHost() {
+    host::releaseModuleState();
+}
+
+void TestHost::openContract(std::int32_t id, const std::string& type, bool newVertrag) {
+    // The main window is this object, which outlives the call and all screens.
+    const std::shared_ptr<host::HostMainWindow> mainWindow{std::shared_ptr<void>{}, this};
+    module_.Vertrag_Run(session, id, "", type, ".", ",", "", blnOK, bolEuroChange, mainWindow, 1, newVertrag,
+                        "Vertrag", false);
+}
+
+std::string TestHost::readValue(const host::TlxVar& with, const std::string& column, const std::string& table,
+                                const std::string& condition) {
+    const auto row = with.connection->open("SELECT " + column + " FROM " + table + " WHERE" + condition);
+    return row->atEnd() ? std::string{} : row->text(column);
+}
+
+void TestHost::request(const host::TlxVar&, const std::string& code, const std::string& type, std::string&,
+                       std::string&) {
+    requests.push_back(code + "/" + type);
+}
+
+std::int32_t TestHost::choose(const host::TlxVar&, const std::string& mode, int accessLevel, std::int16_t,
+                              std::int32_t, host::Boolean16& confirmed) {
+    picks.push_back(mode + "/" + std::to_string(accessLevel));
+    confirmed = host::toBoolean16(pickedPerson > 0);
+    return pickedPerson;
+}
+
+std::string TestHost::choose(const host::TlxVar&, const std::string& query, const std::string& title,
+                             const std::string& current) {
+    picks.push_back(query + "/" + title);
+    return pickedText.empty() ? current : pickedText;
+}
+
+bool TestHost::resolve(const host::TlxVar& with, const std::string& query, ui::TextBox& box,
+                       ui::TextBox* shown, const std::string& displayColumn) {
+    box.setTag("");
+    if (shown != nullptr) shown->setText("");
+    if (box.text().empty()) return true;
+    const auto row = with.connection->open(query);
+    if (row->atEnd()) return false;
+    box.setTag(row->text(row->fieldName(0)));
+    if (shown != nullptr) shown->setText(row->text(displayColumn));
+    return true;
+}
+
+std::string TestHost::build(const host::TlxVar&, const std::string& table, const std::string& number, int,
+                            const std::string& filter) {
+    return "SELECT ID_PERSONAL,NUMMER,KURZBEZEICHNUNG FROM " + table + " WHERE NUMMER = " + number +
+           (filter == "PERSONAL_VALID_MANDANTEN" ? " AND ISNULL(MANDANT,0) = 1" : "");
+}
+
+std::string TestHost::toSql(const std::string& text, const host::TlxVar&) {
+    return common::formatDate(common::parseDate(text).value(), "yyyymmdd", common::Locale::german());
+}
+
+std::string TestHost::text(const host::TlxVar&, const std::string&) {
+    return {};
+}
+
+common::DateTime TestHost::now() const {
+    using namespace std::chrono_literals;
+    return common::startOf(common::Date{2026y / 3 / 9}) + 8h;
+}
+
+} // namespace tellurix::tests

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "host/clsVertrag.h"
+#include "host/services.h"
+#include "support/ScriptedDisplay.h"
+#include "tracing/TracingConnection.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tellurix::tests {
+
+/// A connection on which a chosen statement fails, as when the server goes away in between.
+class FaultyConnection final : public common::Connection {
+public:
+    explicit FaultyConnection(common::Connection& inner) : inner_(inner) {}
+
+    /// Every statement with this text in it fails from now on; empty for none.
+    void failOn(std::string part) { part_ = std::move(part); }
+
+    common::ExecuteResult execute(std::string_view statement) override;
+    std::unique_ptr<common::UpdatableRecordset> openUpdatable(std::string_view query) override;
+
+private:
+    void check(std::string_view statement) const;
+
+    common::Connection& inner_;
+    std::string part_;
+};
+
+/// A host for tests: a scripted display, a fixed day, services that answer what a test told them,
+/// and a memory of every statement and every request. Letting go of it forgets the module state of
+/// the thread, as unloading the module does.
+class TestHost final : host::HostDataAccess,
+                       host::HostModuleService,
+                       host::HostLocalizer,
+                       host::HostPersonalPicker,
+                       host::ListPicker,
+                       host::LookupValidation,
+                       host::PersonQueryBuilder,
+                       host::DateConverter,
+                       host::NamedSettings,
+                       host::GridLayoutStore,
+                       host::ColumnUpdate,
+                       host::HostMainWindow,
+                       common::Clock {
+public:
+    explicit TestHost(common::Connection& database);
+    ~TestHost() override;
+
+    /// The way the host calls the module for a contract of the given type.
+    void openContract(std::int32_t id, const std::string& type = "R", bool newVertrag = false);
+
+    ScriptedDisplay display;
+    FaultyConnection database;
+    host::HostServices services;
+    host::TlxVar session;
+    host::Variant blnOK = false;
+    host::Boolean16 bolEuroChange = host::Boolean16::False;
+
+    std::vector<std::string> statements; ///< sent to the database by the module
+    std::vector<std::string> requests;   ///< to the module service: "code/type"
+    std::vector<std::string> picks;      ///< pickers opened: "query/title" or "mode/level"
+    std::string pickedText;              ///< what the list picker answers next
+    std::int32_t pickedPerson = 0;       ///< what the person picker answers next
+    bool articles = false;
+
+private:
+    std::string readValue(const host::TlxVar&, const std::string& column, const std::string& table,
+                          const std::string& condition) override;
+    void request(const host::TlxVar&, const std::string& code, const std::string& type, std::string& out1,
+                 std::string& out2) override;
+    void localize(const host::TlxVar&, ui::Form&) override {}
+    std::string text(int number, const host::TlxVar&) override { return "Text " + std::to_string(number); }
+    std::int32_t choose(const host::TlxVar&, const std::string& mode, int accessLevel,
+                        std::int16_t standardClient, std::int32_t currentPerson,
+                        host::Boolean16& confirmed) override;
+    std::string choose(const host::TlxVar&, const std::string& query, const std::string& title,
+                       const std::string& current) override;
+    bool resolve(const host::TlxVar&, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
+                 const std::string& displayColumn) override;
+    std::string build(const host::TlxVar&, const std::string& table, const std::string& number,
+                      int accessLevel, const std::string& filter) override;
+    std::string toSql(const std::string& text, const host::TlxVar&) override;
+    std::string text(const host::TlxVar&, const std::string& name) override;
+    void save(const host::TlxVar&, const ui::Grid&, const std::string&) override {}
+    void restore(const host::TlxVar&, ui::Grid&, const std::string&) override {}
+    void set(const host::TlxVar&, const std::string&, const std::string&, const std::string&,
+             const std::string&) override {}
+    bool IsArtikel() override { return articles; }
+    common::DateTime now() const override;
+
+    tracing::TracingConnection traced_;
+    host::clsVertrag module_;
+};
+
+} // namespace tellurix::tests
