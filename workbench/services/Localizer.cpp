@@ -48,6 +48,12 @@ std::string Localizer::named(std::string_view key, const host::TlxVar& session) 
     return catalogue_.text(session.language, key);
 }
 
+std::string Localizer::namedOr(std::string_view key, const host::TlxVar& session,
+                               const std::string& otherwise) const {
+    const std::string* text = catalogue_.find(session.language, key);
+    return text == nullptr ? otherwise : *text;
+}
+
 std::string Localizer::translated(const host::TlxVar& session, const std::string& key,
                                   const std::string& shown) {
     if (const std::string* text = catalogue_.find(session.language, key)) {

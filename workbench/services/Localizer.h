@@ -20,6 +20,9 @@ public:
     std::string text(int number, const host::TlxVar& session) override;
     /// A text of the services' own.
     std::string named(std::string_view key, const host::TlxVar& session) const;
+    /// The same, or `otherwise` when the language has none.
+    std::string namedOr(std::string_view key, const host::TlxVar& session,
+                        const std::string& otherwise) const;
 
 private:
     std::string translated(const host::TlxVar& session, const std::string& key, const std::string& shown);

@@ -1,0 +1,69 @@
+#include "services/ListPickerService.h"
+
+#include "common/date_format.h"
+#include "common/field_text.h"
+#include "common/text.h"
+#include "services/F_Calendar.h"
+#include "services/F_ListPicker.h"
+
+namespace tellurix::workbench {
+
+namespace {
+
+/// A field as an entry of the list shows it and as it is answered: dates as they are typed, all else
+/// as the database writes it, because the answer goes back into a query.
+std::string entryText(common::Recordset& rows, std::size_t field) {
+    if (rows.fieldType(field) == common::FieldType::dateTime) return common::dateText(rows.field(field));
+    return rows.text(rows.fieldName(field));
+}
+
+F_ListPicker::List listOf(common::Recordset& rows) {
+    F_ListPicker::List list;
+    for (std::size_t i = 0; i < rows.fieldCount(); ++i)
+        list.headings.push_back(rows.fieldName(i));
+    for (; !rows.atEnd(); rows.moveNext()) {
+        ui::Grid::Row entry;
+        for (std::size_t i = 0; i < rows.fieldCount(); ++i)
+            entry.push_back(entryText(rows, i));
+        list.entries.push_back(std::move(entry));
+    }
+    return list;
+}
+
+} // namespace
+
+std::string ListPickerService::choose(const host::TlxVar& session, const std::string& query,
+                                      const std::string& title, const std::string& current) {
+    return query == calendar ? chooseDay(session, title, current)
+                             : chooseEntry(session, query, title, current);
+}
+
+std::string ListPickerService::chooseEntry(const host::TlxVar& session, const std::string& query,
+                                           const std::string& title, const std::string& current) {
+    F_ListPicker::List list = listOf(*session.connection->open(query));
+    for (std::string& heading : list.headings)
+        heading = headingOf(session, heading);
+    F_ListPicker form{
+        title,
+        std::move(list),
+        {.all = localizer_.named("list.count", session), .some = localizer_.named("list.more", session)},
+        current};
+    localizer_.localize(session, form);
+    display_.showModal(form);
+    return form.chosen().value_or(current);
+}
+
+std::string ListPickerService::chooseDay(const host::TlxVar& session, const std::string& title,
+                                         const std::string& current) {
+    const common::Date today = clock_.today();
+    F_Calendar form{title, common::parseDate(current).value_or(today), today, locale_};
+    localizer_.localize(session, form);
+    display_.showModal(form);
+    return form.chosen() ? common::formatDate(*form.chosen(), "dd.mm.yyyy", locale_) : current;
+}
+
+std::string ListPickerService::headingOf(const host::TlxVar& session, const std::string& column) const {
+    return localizer_.namedOr("column." + common::toUpper(column), session, column);
+}
+
+} // namespace tellurix::workbench

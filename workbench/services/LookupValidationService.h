@@ -1,0 +1,22 @@
+#pragma once
+
+#include "services/Localizer.h"
+
+namespace tellurix::workbench {
+
+/// Resolves typed texts with the query that the screen gives. A text that is not found is told with
+/// text 223 and the name of the box; the key and the second box are emptied then, the text stays.
+class LookupValidationService final : public host::LookupValidation {
+public:
+    LookupValidationService(ui::Display& display, Localizer& localizer)
+        : display_(display), localizer_(localizer) {}
+
+    bool resolve(const host::TlxVar& session, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
+                 const std::string& displayColumn) override;
+
+private:
+    ui::Display& display_;
+    Localizer& localizer_;
+};
+
+} // namespace tellurix::workbench

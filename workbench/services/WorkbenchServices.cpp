@@ -1,0 +1,33 @@
+#include "services/WorkbenchServices.h"
+
+namespace tellurix::workbench {
+
+WorkbenchServices::WorkbenchServices(ui::Display& display, const host::TlxVar& session,
+                                     const TextCatalogue& catalogue, const common::Locale& locale,
+                                     std::unique_ptr<common::Clock> clock)
+    : clock_(std::move(clock)),
+      errors_(display, catalogue, session),
+      localizer_(catalogue),
+      moduleService_(*clock_),
+      personalPicker_(display, localizer_),
+      listPicker_(display, *clock_, localizer_, locale),
+      lookupValidation_(display, localizer_),
+      personQuery_(locale),
+      mainWindow_(std::make_shared<MainWindow>(settings_, session)),
+      host_{.display = display,
+            .errors = errors_,
+            .clock = *clock_,
+            .locale = locale,
+            .dataAccess = dataAccess_,
+            .moduleService = moduleService_,
+            .localizer = localizer_,
+            .personalPicker = personalPicker_,
+            .listPicker = listPicker_,
+            .lookupValidation = lookupValidation_,
+            .personQuery = personQuery_,
+            .dateConverter = dateConverter_,
+            .settings = settings_,
+            .gridLayouts = gridLayouts_,
+            .columnUpdate = columnUpdate_} {}
+
+} // namespace tellurix::workbench

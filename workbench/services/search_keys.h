@@ -1,0 +1,14 @@
+#pragma once
+
+#include "ui/Grid.h"
+#include "ui/TextBox.h"
+
+#include <functional>
+
+namespace tellurix::workbench {
+
+/// Connects a search box with the list that it narrows: the keys that go up and down in a list move
+/// the list's current row while the user goes on typing, and Enter chooses.
+void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> choose);
+
+} // namespace tellurix::workbench
