@@ -1,0 +1,62 @@
+#include "common/StatementText.h"
+#include "services/ErrorReporter.h"
+#include "support/ScriptedDisplay.h"
+
+#include <gtest/gtest.h>
+
+namespace tellurix::tests {
+namespace {
+
+using common::DatabaseErrorCategory;
+
+TEST(ErrorReporter, SaysWhatTheUserCanDo) {
+    const workbench::TextCatalogue catalogue = workbench::TextCatalogue::builtIn();
+    const auto database = [](DatabaseErrorCategory category) {
+        return common::DatabaseError{category, "technical text", "SELECT 1"};
+    };
+    const auto statement = common::StatementError{"„O'Neill“: mit Apostroph.", "UPDATE …", "O'Neill"};
+    const auto unexpected = std::runtime_error{"out of paper"};
+    const auto syntax = database(DatabaseErrorCategory::syntax);
+    const auto unknownName = database(DatabaseErrorCategory::unknownName);
+    const auto conversion = database(DatabaseErrorCategory::conversion);
+    const auto constraint = database(DatabaseErrorCategory::constraint);
+    const auto locked = database(DatabaseErrorCategory::locked);
+    const auto connection = database(DatabaseErrorCategory::connection);
+    const auto other = database(DatabaseErrorCategory::other);
+    struct Case {
+        const std::exception& error;
+        const char* language;
+        std::vector<std::string> parts;
+        int icon;
+    };
+    const int warning = ui::box::exclamation;
+    const int critical = ui::box::critical;
+    const Case cases[] = {
+        {statement, "de", {"„O'Neill“: mit Apostroph."}, warning},
+        {locked, "de", {"von jemand anderem", "noch einmal versuchen", "technical text"}, warning},
+        {conversion, "de", {"passt nicht in sein Feld", "technical text"}, warning},
+        {constraint, "de", {"verletzen eine Regel", "technical text"}, warning},
+        {connection, "de", {"Verbindung zur Datenbank", "technical text"}, critical},
+        {syntax, "de", {"nicht verstanden", "technical text"}, critical},
+        {unknownName, "de", {"Tabelle oder Spalte fehlt", "technical text"}, critical},
+        {other, "de", {"hat einen Fehler gemeldet", "technical text"}, critical},
+        {unexpected, "de", {"Unerwarteter Fehler: out of paper"}, critical},
+        {locked, "en", {"Someone else", "Technical message: technical text"}, warning},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.parts.front());
+        ScriptedDisplay display;
+        const host::TlxVar session{.homeCurrency = {}, .site = {}, .user = {}, .language = c.language};
+        display.onMessage(c.parts.front());
+        workbench::ErrorReporter{display, catalogue, session}.report(c.error);
+        ASSERT_EQ(display.messages().size(), 1U);
+        const auto& message = display.messages().front();
+        EXPECT_EQ(message.title, "Tellurix");
+        EXPECT_EQ(ui::box::iconOf(message.flags), c.icon);
+        for (const std::string& part : c.parts)
+            EXPECT_NE(message.text.find(part), std::string::npos) << message.text;
+    }
+}
+
+} // namespace
+} // namespace tellurix::tests
