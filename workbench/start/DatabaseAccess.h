@@ -1,0 +1,31 @@
+#pragma once
+
+#include "embedded/Database.h"
+#include "services/SystemClock.h"
+#include "start/CommandLine.h"
+#include "start/TraceFile.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+namespace tellurix::workbench {
+
+/// The database that the command line names, made when missing, and its trace file.
+class DatabaseAccess {
+public:
+    /// @throws std::exception when the database or the trace file cannot be used
+    explicit DatabaseAccess(const CommandLine& line);
+
+    /// A connection of its own, for one session. Any thread may ask for one.
+    /// @throws std::exception also when dates are not read with the day first, because every date
+    /// that the module writes would be another one then
+    std::unique_ptr<common::Connection> connect();
+
+private:
+    SystemClock clock_;
+    std::optional<TraceFile> trace_;
+    embedded::Database database_;
+};
+
+} // namespace tellurix::workbench

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "host/clsVertrag.h"
+#include "services/WorkbenchServices.h"
+#include "start/F_NewContract.h"
+#include "start/contract_list.h"
+#include "ui/Button.h"
+#include "ui/ComboBox.h"
+#include "ui/Form.h"
+#include "ui/Frame.h"
+#include "ui/Grid.h"
+#include "ui/TextBox.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tellurix::workbench {
+
+/// The workbench's main window: the contracts, found by name, customer, type, delivery period and
+/// state, and the way into the contract module, which is called exactly as the host calls it. What
+/// the module told the host in return is listed beside them.
+///
+/// It is the root window of its session and cannot be closed by the user; it goes with the session.
+class F_Start final : public ui::Form {
+public:
+    /// How many contracts are listed at once; more can be reached by narrowing.
+    static constexpr std::size_t listedAtMost = 500;
+
+    /// @param session the language in it changes when the user chooses another one
+    /// @param languageChanged told of the user's choice, "de" or "en"; may be empty
+    F_Start(WorkbenchServices& services, host::TlxVar& session,
+            std::function<void(const std::string&)> languageChanged = {});
+    ~F_Start() override;
+
+    /// Shows the contracts; returns when the window was closed.
+    void Run();
+
+private:
+    bool queryUnload() override { return false; }
+    void connect();
+    void connectPeriod(ui::TextBox& box);
+    void arrange();
+    /// Puts everything that is no control's caption into the session's language.
+    void fillLists();
+    void changeLanguage();
+
+    ContractFilter filter() const;
+    /// Reads the contracts, with the current one kept current where it is still there.
+    void reload();
+    void reload(std::int32_t current);
+    void showContracts();
+    void showCount();
+    void showNotifications();
+    std::string named(std::string_view key) const { return services_.localizer().named(key, session_); }
+    std::string chosenType() const;
+
+    void openCurrent();
+    void create();
+    void open(std::int32_t id, const std::string& name, const std::string& type, bool newContract);
+
+    WorkbenchServices& services_;
+    host::TlxVar& session_;
+    std::function<void(const std::string&)> languageChanged_;
+    host::clsVertrag module_;
+    F_NewContract newContract_;
+    ContractList list_; ///< its contracts stand beside the rows of the table
+
+    ui::Label lblSearch{*this, "lblSearch", "&Suche"};
+    ui::TextBox txtSearch{*this, "txtSearch", 28};
+    ui::Label lblType{*this, "lblType", "Vertrags&art"};
+    ui::ComboBox cboType{*this, "cboType", 20};
+    ui::Label lblClosed{*this, "lblClosed", "S&tatus"};
+    ui::ComboBox cboClosed{*this, "cboClosed", 14};
+    ui::Label lblFrom{*this, "lblFrom", "Lieferung &von"};
+    ui::TextBox txtFrom{*this, "txtFrom", 11};
+    ui::Label lblTo{*this, "lblTo", "&bis"};
+    ui::TextBox txtTo{*this, "txtTo", 11};
+    ui::Label lblLanguage{*this, "lblLanguage", "S&prache"};
+    ui::ComboBox cboLanguage{*this, "cboLanguage", 10};
+
+    ui::Grid grdContracts{*this, "grdContracts", 20};
+    ui::Label lblCount{*this, "lblCount"};
+    ui::Button btnOpen{*this, "btnOpen", "Ö&ffnen"};
+    ui::Button btnNew{*this, "btnNew", "&Neu"};
+
+    ui::Frame frmNotifications{*this, "frmNotifications", "Meldungen an den Host"};
+    ui::Grid grdNotifications{*this, "grdNotifications", 20};
+};
+
+} // namespace tellurix::workbench

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "common/database.h"
+#include "common/date_time.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tellurix::workbench {
+
+/// Which contracts the start page lists.
+struct ContractFilter {
+    enum class Closed { all, open, closed };
+
+    /// Each of its words stands in the contract's name or in the customer's short name.
+    std::string search;
+    std::string type; ///< contract-type code, empty for all
+    Closed closed = Closed::open;
+    /// The delivery period reaches into these days. A contract without one is left out as soon as
+    /// one of the days is given; one with only a beginning, or only an end, is open at the other side.
+    std::optional<common::Date> from;
+    std::optional<common::Date> to;
+};
+
+/// One contract as the list shows it.
+struct ListedContract {
+    std::int32_t id = 0;
+    std::string name;
+    std::string type;
+    std::string customer;
+    common::Value deliveryFrom;
+    common::Value deliveryTo;
+    bool closed = false;
+    std::int64_t priceLines = 0;
+    std::int64_t quantityLines = 0;
+};
+
+struct ContractList {
+    std::vector<ListedContract> contracts; ///< by name
+    bool more = false;                     ///< there are more than were read
+};
+
+/// Reads at most `limit` contracts. However many there are, no more than that is fetched.
+ContractList readContracts(common::Connection& connection, const ContractFilter& filter, std::size_t limit);
+
+/// Whether a contract has this name already, in any case of its letters.
+bool contractExists(common::Connection& connection, const std::string& name);
+
+/// Creates a contract's row with nothing but its name and type, as the host does.
+/// @param type contract-type code, "R" or "A1" … "A8"
+/// @return its key, `ID_VERTRAG`
+std::int32_t createContract(common::Connection& connection, const std::string& name, const std::string& type);
+
+} // namespace tellurix::workbench

@@ -1,0 +1,101 @@
+#include "start/database_file.h"
+
+#include "common/text.h"
+#include "database_contents.h"
+#include "embedded/Database.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+namespace tellurix::workbench {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The files of a database in the making; they go with it unless it is put in its place.
+class Workpiece {
+public:
+    explicit Workpiece(const fs::path& target) : file_(target) {
+        // The process's number keeps two programs that start at once apart.
+        file_ += ".new-" + std::to_string(::getpid());
+        remove();
+    }
+    ~Workpiece() { remove(); }
+    Workpiece(const Workpiece&) = delete;
+    Workpiece& operator=(const Workpiece&) = delete;
+
+    const fs::path& file() const { return file_; }
+
+    /// Puts the finished file in its place, unless another program has been quicker.
+    void moveTo(const fs::path& target) {
+        std::error_code error;
+        fs::create_hard_link(file_, target, error);
+        if (!error || error == std::errc::file_exists) return;
+        // A file system without links: then it is renamed, which only two programs at the very same
+        // moment could notice.
+        if (!fs::exists(target)) fs::rename(file_, target);
+    }
+
+private:
+    void remove() {
+        for (const char* suffix : {"", "-wal", "-shm", "-journal"}) {
+            std::error_code ignored;
+            fs::remove(fs::path{file_} += suffix, ignored);
+        }
+    }
+
+    fs::path file_;
+};
+
+void build(const fs::path& file, DatabaseContents contents, const common::Clock& clock) {
+    embedded::Database database{file.string(), {.create = true, .clock = &clock}};
+    const auto connection = database.connect();
+    if (contents == DatabaseContents::nothing) return;
+    for (const char* script :
+         {"schema.sql", "sample_reference.sql", "sample_contracts.sql", "sample_logistics.sql"}) {
+        embedded::runScript(*connection, database_contents::file(script));
+    }
+}
+
+} // namespace
+
+bool isConnectionString(std::string_view database) {
+    constexpr std::string_view driver = "DRIVER=";
+    return common::toUpper(database.substr(0, driver.size())) == driver ||
+           (database.find('=') != std::string_view::npos && database.find(';') != std::string_view::npos);
+}
+
+fs::path defaultDatabaseFile() {
+    const auto variable = [](const char* name) {
+        const char* value = std::getenv(name);
+        return fs::path{value == nullptr ? "" : value};
+    };
+    fs::path folder = variable("XDG_DATA_HOME");
+    // A relative folder there is to be ignored, so says the convention that the variable is from.
+    if (!folder.is_absolute()) {
+        const fs::path home = variable("HOME");
+        if (home.empty())
+            throw std::runtime_error{
+                "neither XDG_DATA_HOME nor HOME is set: name the database with --database"};
+        folder = home / ".local" / "share";
+    }
+    folder /= "tellurix-workbench";
+    fs::create_directories(folder);
+    return folder / "tellurix.db";
+}
+
+void createWhenMissing(const fs::path& file, DatabaseContents contents, const common::Clock& clock) {
+    if (fs::exists(file)) return;
+    Workpiece workpiece{file};
+    build(workpiece.file(), contents, clock);
+    workpiece.moveTo(file);
+}
+
+} // namespace tellurix::workbench

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "common/Clock.h"
+
+#include <filesystem>
+#include <string_view>
+
+namespace tellurix::workbench {
+
+/// Whether a `--database` value is a connection string rather than the name of a file.
+bool isConnectionString(std::string_view database);
+
+/// Where the database is when nobody says: in the user's data folder, which is made when missing.
+/// @throws std::runtime_error when the user has no home
+std::filesystem::path defaultDatabaseFile();
+
+/// What a new database starts with.
+enum class DatabaseContents { nothing, sample };
+
+/// Makes the database file when it is not there. All or nothing: it is built beside its place and
+/// put there when it is whole, so neither a failure nor a killed process leaves half a database,
+/// and of two programs that start at once only one builds the file that both use.
+void createWhenMissing(const std::filesystem::path& file, DatabaseContents contents,
+                       const common::Clock& clock);
+
+} // namespace tellurix::workbench

@@ -1,0 +1,40 @@
+#include "start/CommandLine.h"
+#include "start/SqlCommand.h"
+#include "start/serve.h"
+
+#include <exception>
+#include <iostream>
+
+namespace {
+
+using tellurix::workbench::CommandLine;
+
+int run(const CommandLine& line) {
+    switch (line.command) {
+    case CommandLine::Command::help:
+        std::cout << CommandLine::help();
+        return 0;
+    case CommandLine::Command::version:
+        std::cout << "tellurix-workbench " << TELLURIX_VERSION << "\n";
+        return 0;
+    case CommandLine::Command::sql:
+        return tellurix::workbench::runSql(line, std::cin, std::cout);
+    case CommandLine::Command::serve:
+        break;
+    }
+    return tellurix::workbench::serve(line, std::cout);
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    try {
+        return run(CommandLine::parse({arguments + 1, arguments + count}));
+    } catch (const tellurix::workbench::UsageError& error) {
+        std::cerr << "tellurix-workbench: " << error.what() << "\nSee tellurix-workbench --help.\n";
+        return 2;
+    } catch (const std::exception& error) {
+        std::cerr << "tellurix-workbench: " << error.what() << "\n";
+        return 1;
+    }
+}

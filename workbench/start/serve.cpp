@@ -1,0 +1,97 @@
+#include "start/serve.h"
+
+#include "common/M_Common.h"
+#include "common/text.h"
+#include "host/module_state.h"
+#include "start/DatabaseAccess.h"
+#include "start/F_Start.h"
+#include "web/Server.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <ostream>
+
+namespace tellurix::workbench {
+
+namespace {
+
+std::string signedOnUser() {
+    const passwd* entry = ::getpwuid(::getuid());
+    return entry == nullptr ? std::to_string(::getuid()) : std::string{entry->pw_name};
+}
+
+/// What all sessions share.
+struct Workbench {
+    explicit Workbench(const CommandLine& commandLine) : line(commandLine), database(commandLine) {
+        if (line.user.empty()) line.user = signedOnUser();
+    }
+
+    CommandLine line;
+    DatabaseAccess database;
+    const TextCatalogue catalogue = TextCatalogue::builtIn();
+};
+
+/// Errors go to the session's own handling as long as that lives.
+class ErrorsOfSession {
+public:
+    ErrorsOfSession(BrowserDisplay& display, ui::ErrorHandling& errors) : display_(display) {
+        display_.setErrorHandling(&errors);
+    }
+    ~ErrorsOfSession() { display_.setErrorHandling(nullptr); }
+    ErrorsOfSession(const ErrorsOfSession&) = delete;
+    ErrorsOfSession& operator=(const ErrorsOfSession&) = delete;
+
+private:
+    BrowserDisplay& display_;
+};
+
+/// The kept screens hold on to the session's services and must be gone before them.
+struct ModuleUnloading {
+    ~ModuleUnloading() { host::releaseModuleState(); }
+};
+
+void work(Workbench& workbench, BrowserDisplay& display) {
+    const auto connection = workbench.database.connect();
+    host::TlxVar session{.connection = connection.get(),
+                         .accessLevel = workbench.line.accessLevel,
+                         .homeCurrency = workbench.line.homeCurrency,
+                         .site = workbench.line.site,
+                         .user = workbench.line.user,
+                         .language = workbench.line.language};
+    WorkbenchServices services{display, session, workbench.catalogue};
+    const ErrorsOfSession errors{display, services.host().errors};
+    const ModuleUnloading unloading;
+    F_Start start{services, session, [&display](const std::string& language) {
+                      display.setLanguage(common::toUpper(language));
+                  }};
+    start.Run();
+}
+
+/// One browser session, from its first screen to its end.
+void runSession(Workbench& workbench, BrowserDisplay& display) {
+    display.setLanguage(common::toUpper(workbench.line.language));
+    try {
+        work(workbench, display);
+    } catch (const std::exception& error) {
+        common::ShowMessage(
+            display,
+            filled(workbench.catalogue.text(workbench.line.language, "start.failed"), {error.what()}),
+            ui::box::critical);
+    }
+}
+
+} // namespace
+
+int serve(const CommandLine& line, std::ostream& out) {
+    Workbench workbench{line};
+    // A database that no session could use is told at once, and not to the first browser.
+    workbench.database.connect();
+    Server server{[&workbench](BrowserDisplay& display) { runSession(workbench, display); },
+                  {.port = line.port}};
+    out << server.address() << std::endl;
+    server.runUntilSignal();
+    return 0;
+}
+
+} // namespace tellurix::workbench
