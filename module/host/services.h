@@ -4,6 +4,7 @@
 #include "common/Locale.h"
 #include "host/TlxVar.h"
 #include "host/boolean16.h"
+#include "host/line_services.h"
 #include "ui/Display.h"
 #include "ui/Grid.h"
 #include "ui/TextBox.h"
@@ -151,6 +152,10 @@ struct HostServices {
     NamedSettings& settings;
     GridLayoutStore& gridLayouts;
     ColumnUpdate& columnUpdate;
+    SelectionDialog& selectionDialog;
+    LookupGridDialog& lookupGridDialog;
+    TypeAhead& typeAhead;
+    SelectionTranslator& selectionTranslator;
 };
 
 } // namespace tellurix::host

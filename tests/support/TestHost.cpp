@@ -2,6 +2,9 @@
 
 #include "common/date_format.h"
 
+#include <algorithm>
+#include <stdexcept>
+
 namespace tellurix::tests {
 
 void FaultyConnection::check(std::string_view statement) const {
@@ -36,7 +39,11 @@ TestHost::TestHost(common::Connection& inner)
                .dateConverter = *this,
                .settings = *this,
                .gridLayouts = *this,
-               .columnUpdate = *this},
+               .columnUpdate = *this,
+               .selectionDialog = *this,
+               .lookupGridDialog = *this,
+               .typeAhead = *this,
+               .selectionTranslator = *this},
       traced_(database,
               [this](const tracing::Statement& statement) { statements.push_back(statement.text); }),
       module_(services) {
@@ -100,8 +107,46 @@ std::string TestHost::toSql(const std::string& text, const host::TlxVar&) {
     return common::formatDate(common::parseDate(text).value(), "yyyymmdd", common::Locale::german());
 }
 
-std::string TestHost::text(const host::TlxVar&, const std::string&) {
-    return {};
+std::string TestHost::text(const host::TlxVar&, const std::string& name) {
+    const auto setting = settings.find(name);
+    return setting == settings.end() ? std::string{} : setting->second;
+}
+
+std::optional<std::string> TestHost::select(const host::TlxVar&, const std::string& key,
+                                            const std::string& upperType, const std::string&,
+                                            const std::string&) {
+    selections.push_back(key + "/" + upperType);
+    return onSelectionDialog ? onSelectionDialog(key) : std::nullopt;
+}
+
+std::string TestHost::choose(const host::TlxVar&, const std::string& settingKey, const std::string& title,
+                             const std::string& text, const std::string& mode) {
+    picks.push_back(settingKey + "/" + title + "/" + text + "/" + mode);
+    return pickedText.empty() ? text : pickedText;
+}
+
+void TestHost::bind(const host::TlxVar&, ui::TextBox& box, const std::string&,
+                    const std::string& displayColumn) {
+    typeAheads.push_back(box.name() + "/" + displayColumn);
+}
+
+/// Translates the conditions that the tests use, by the letter: "83 IN (" and "83 NOT IN (" become
+/// LOGS.HA, and so on. Any other piece is one that cannot be read.
+std::string TestHost::translate(const host::TlxVar&, const std::string&, const std::string&,
+                                const std::string& value, const std::string&, const std::string&) {
+    translations.push_back(value);
+    const std::map<std::string, std::string> columns = {
+        {"83 ", "HA"}, {"87 ", "HS"}, {"90 ", "GKL"}, {"93 ", "STKL"}, {"94 ", "LANGE"}};
+    std::string conditions;
+    for (std::size_t start = 0; start < value.size();) {
+        const std::size_t end = std::min(value.find(';', start), value.size());
+        const std::string piece = value.substr(start, end - start);
+        const auto column = columns.find(piece.substr(0, 3));
+        if (column == columns.end()) throw std::invalid_argument{"kein Merkmal: " + piece};
+        conditions += (conditions.empty() ? " WHERE LOGS." : " AND LOGS.") + column->second + piece.substr(2);
+        start = end + 1;
+    }
+    return " FROM LOGS" + conditions;
 }
 
 common::DateTime TestHost::now() const {

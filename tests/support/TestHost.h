@@ -5,7 +5,9 @@
 #include "support/ScriptedDisplay.h"
 #include "tracing/TracingConnection.h"
 
+#include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,6 +45,10 @@ class TestHost final : host::HostDataAccess,
                        host::NamedSettings,
                        host::GridLayoutStore,
                        host::ColumnUpdate,
+                       host::SelectionDialog,
+                       host::LookupGridDialog,
+                       host::TypeAhead,
+                       host::SelectionTranslator,
                        host::HostMainWindow,
                        common::Clock {
 public:
@@ -66,6 +72,13 @@ public:
     std::int32_t pickedPerson = 0;       ///< what the person picker answers next
     bool articles = false;
 
+    std::map<std::string, std::string> settings; ///< the named settings that are not empty
+    /// What the selection dialog does with the key that it is given; nothing is a cancelled dialog.
+    std::function<std::optional<std::string>(const std::string& key)> onSelectionDialog;
+    std::vector<std::string> selections;   ///< selection dialogs opened: "key/type"
+    std::vector<std::string> translations; ///< selection values translated
+    std::vector<std::string> typeAheads;   ///< boxes bound: "box/column"
+
 private:
     std::string readValue(const host::TlxVar&, const std::string& column, const std::string& table,
                           const std::string& condition) override;
@@ -88,6 +101,16 @@ private:
     void restore(const host::TlxVar&, ui::Grid&, const std::string&) override {}
     void set(const host::TlxVar&, const std::string&, const std::string&, const std::string&,
              const std::string&) override {}
+    std::optional<std::string> select(const host::TlxVar&, const std::string& key,
+                                      const std::string& upperType, const std::string& out1,
+                                      const std::string& out2) override;
+    std::string choose(const host::TlxVar&, const std::string& settingKey, const std::string& title,
+                       const std::string& text, const std::string& mode) override;
+    void bind(const host::TlxVar&, ui::TextBox& box, const std::string& query,
+              const std::string& displayColumn) override;
+    std::string translate(const host::TlxVar&, const std::string& kind, const std::string& sameKind,
+                          const std::string& value, const std::string& upperType,
+                          const std::string& formValue) override;
     bool IsArtikel() override { return articles; }
     common::DateTime now() const override;
 
