@@ -35,8 +35,9 @@ F_Vertrag::F_Vertrag(host::HostServices& services) : Form("F_Vertrag"), services
     ProgressBar1.setVisible(false);
     txtMessage.setVisible(false);
     // Their screens are not part of the module yet.
-    ui::Control* const later[] = {&PreisButton,   &PosButton, &btnAbschlag, &btnLieferprofil_WVO,
-                                  &btnUbernehmen, &btnWord,   &txtVertrag,  &txtTypeOfVertrag};
+    const std::initializer_list<ui::Control*> later{&PreisButton,         &PosButton,       &btnAbschlag,
+                                                    &btnLieferprofil_WVO, &btnUbernehmen,   &btnWord,
+                                                    &txtVertrag,          &txtTypeOfVertrag};
     for (ui::Control* control : later)
         control->setEnabled(false);
     connect();

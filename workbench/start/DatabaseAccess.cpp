@@ -37,15 +37,15 @@ void requireDayFirst(common::Connection& connection) {
 }
 
 std::filesystem::path databaseFile(const CommandLine& line, const common::Clock& clock) {
-    const std::filesystem::path file = line.database.empty() ? defaultDatabaseFile() : line.database;
+    const std::filesystem::path file =
+        line.database.empty() ? defaultDatabaseFile() : std::filesystem::path{line.database};
     createWhenMissing(file, line.emptyDatabase ? DatabaseContents::nothing : DatabaseContents::sample, clock);
     return file;
 }
 
 } // namespace
 
-DatabaseAccess::DatabaseAccess(const CommandLine& line)
-    : database_(databaseFile(line, clock_).string(), {.create = false, .clock = &clock_}) {
+DatabaseAccess::DatabaseAccess(const CommandLine& line) : database_(databaseFile(line, clock_), clock_) {
     if (!line.traceFile.empty()) trace_.emplace(line.traceFile);
 }
 

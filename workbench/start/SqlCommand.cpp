@@ -1,5 +1,6 @@
 #include "start/SqlCommand.h"
 
+#include "embedded/script.h"
 #include "start/DatabaseAccess.h"
 #include "start/json_text.h"
 
@@ -64,7 +65,8 @@ bool runTexts(common::Connection& connection, const std::vector<std::string>& te
 std::vector<std::string> textsOfStream(std::istream& in) {
     std::string text{std::istreambuf_iterator<char>{in}, {}};
     if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
-    return embedded::splitBatches(text);
+    const std::vector<std::string_view> batches = embedded::splitBatches(text);
+    return {batches.begin(), batches.end()};
 }
 
 std::vector<std::string> textsOfFile(const std::string& path) {

@@ -3,6 +3,7 @@
 #include "common/text.h"
 #include "database_contents.h"
 #include "embedded/Database.h"
+#include "embedded/script.h"
 
 #include <unistd.h>
 
@@ -55,7 +56,7 @@ private:
 };
 
 void build(const fs::path& file, DatabaseContents contents, const common::Clock& clock) {
-    embedded::Database database{file.string(), {.create = true, .clock = &clock}};
+    const embedded::Database database{file, clock, {.create = true}};
     const auto connection = database.connect();
     if (contents == DatabaseContents::nothing) return;
     for (const char* script :

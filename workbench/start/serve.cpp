@@ -8,6 +8,7 @@
 #include "web/Server.h"
 
 #include <pwd.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <ostream>
@@ -20,6 +21,26 @@ std::string signedOnUser() {
     const passwd* entry = ::getpwuid(::getuid());
     return entry == nullptr ? std::to_string(::getuid()) : std::string{entry->pw_name};
 }
+
+/// The signals that ask the program to stop. They wait from here on until they are asked for, so
+/// one that comes right behind the printed address is not lost; threads started later leave them
+/// alone.
+class StopSignals {
+public:
+    StopSignals() {
+        sigemptyset(&signals_);
+        sigaddset(&signals_, SIGINT);
+        sigaddset(&signals_, SIGTERM);
+        pthread_sigmask(SIG_BLOCK, &signals_, nullptr);
+    }
+    void wait() const {
+        int signal = 0;
+        sigwait(&signals_, &signal);
+    }
+
+private:
+    sigset_t signals_{};
+};
 
 /// What all sessions share.
 struct Workbench {
@@ -84,13 +105,15 @@ void runSession(Workbench& workbench, BrowserDisplay& display) {
 } // namespace
 
 int serve(const CommandLine& line, std::ostream& out) {
+    const StopSignals signals;
     Workbench workbench{line};
     // A database that no session could use is told at once, and not to the first browser.
     workbench.database.connect();
     Server server{[&workbench](BrowserDisplay& display) { runSession(workbench, display); },
                   {.port = line.port}};
     out << server.address() << std::endl;
-    server.runUntilSignal();
+    signals.wait();
+    server.stop();
     return 0;
 }
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "embedded/SqliteStatement.h"
+#include "embedded/Translator.h"
+#include "embedded/ast.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace tellurix::embedded {
+
+/// One statement of a batch as SQLite runs it.
+struct Compiled {
+    Translation translation;
+    int generation = -1;               ///< the schema that it was translated for; -1: not yet
+    std::vector<SqliteStatement> idle; ///< prepared and not running now
+};
+
+/// A statement text once it has been parsed, and what has been compiled of it so far: statements
+/// are translated when they are reached, because a batch may create the tables that it then uses.
+class Batch {
+public:
+    /// @throws Fault (syntax)
+    explicit Batch(std::string_view text);
+
+    const std::string& text() const { return text_; }
+    Block& block() { return *block_; }
+    Variables& variables() { return variables_; }
+    const List<TableDefinition*>& tableVariables() const { return tableVariables_; }
+
+    /// @param node the part of the syntax tree that is meant
+    Compiled& compiled(const void* node) { return compiled_[node]; }
+
+private:
+    void collect(const Statement& statement);
+    void collect(const Block& block);
+    void addVariable(const DeclareVariable& variable);
+
+    std::string text_;
+    Arena arena_;
+    Block* block_ = nullptr;
+    Variables variables_;
+    List<TableDefinition*> tableVariables_;
+    std::unordered_map<const void*, Compiled> compiled_;
+};
+
+} // namespace tellurix::embedded

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "common/Clock.h"
+#include "common/database.h"
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+
+namespace tellurix::embedded {
+
+/// A database in one file that understands the module's T-SQL.
+///
+/// Any number of connections, in this process and in others, work on the file at the same time:
+/// readers never wait, writers wait for each other. Every connection belongs to the thread that
+/// uses it; `connect` itself may be called from any thread.
+class Database {
+public:
+    struct Options {
+        /// Whether a file that does not exist is made; without it a missing file is an error.
+        bool create = false;
+        /// How long a statement waits for another session's write before it gives up with
+        /// DatabaseError (locked).
+        std::chrono::milliseconds patience{5000};
+    };
+
+    /// @param clock what GETDATE() answers; has to outlive the database and its connections
+    /// @throws common::DatabaseError (connection) when the file cannot be opened or is no database
+    Database(std::filesystem::path file, const common::Clock& clock, Options options);
+    Database(std::filesystem::path file, const common::Clock& clock)
+        : Database(std::move(file), clock, Options()) {}
+
+    const std::filesystem::path& file() const { return file_; }
+
+    std::unique_ptr<common::Connection> connect() const;
+
+private:
+    std::filesystem::path file_;
+    const common::Clock& clock_;
+    Options options_;
+};
+
+} // namespace tellurix::embedded

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "common/database.h"
+#include "embedded/Engine.h"
+
+#include <exception>
+#include <memory>
+#include <vector>
+
+namespace tellurix::embedded {
+
+/// The rows of a query. Nothing runs before the first row is asked for; before its connection
+/// writes something the rest is read into memory, so the rows are those of the query's moment.
+class EmbeddedRecordset final : public common::Recordset {
+public:
+    /// @param task the query, already compiled
+    EmbeddedRecordset(std::shared_ptr<Engine> engine, std::shared_ptr<Batch> batch, Task task, Frame frame);
+    ~EmbeddedRecordset() override;
+    EmbeddedRecordset(const EmbeddedRecordset&) = delete;
+    EmbeddedRecordset& operator=(const EmbeddedRecordset&) = delete;
+
+    std::size_t fieldCount() const override { return columns_.size(); }
+    std::string fieldName(std::size_t index) const override { return columns_.at(index).name; }
+    common::FieldType fieldType(std::size_t index) const override {
+        return fieldTypeOf(columns_.at(index).type);
+    }
+
+    bool atEnd() override;
+    void moveNext() override;
+    common::Value field(std::size_t index) override;
+
+    /// Takes the remaining rows into memory. An error is kept until a row is asked for.
+    void readRemainingRows() noexcept;
+
+private:
+    enum class State { notStarted, reading, inMemory, finished };
+
+    void start();
+    void advance();
+    void finish();
+    void requireRow();
+    void requireSameColumns() const;
+
+    std::shared_ptr<Engine> engine_;
+    std::shared_ptr<Batch> batch_;
+    Task task_;
+    Frame frame_;
+    std::vector<Translation::Column> columns_;
+    State state_ = State::notStarted;
+    Running running_;
+    std::vector<std::vector<common::Value>> rows_;
+    std::size_t row_ = 0;
+    std::exception_ptr failure_;
+};
+
+} // namespace tellurix::embedded

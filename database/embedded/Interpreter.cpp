@@ -1,0 +1,168 @@
+#include "embedded/Interpreter.h"
+
+#include "embedded/EmbeddedRecordset.h"
+#include "embedded/Fault.h"
+#include "embedded/definitions.h"
+
+namespace tellurix::embedded {
+
+Interpreter::Interpreter(std::shared_ptr<Engine> engine, std::shared_ptr<Batch> batch)
+    : engine_(std::move(engine)), batch_(std::move(batch)), frame_(batch_->variables().scalars.size()) {}
+
+common::ExecuteResult Interpreter::run() {
+    engine_->prepareTableVariables(*batch_);
+    run(batch_->block());
+    return std::move(result_);
+}
+
+void Interpreter::run(const Statement& statement) {
+    std::visit([&](auto* node) { run(*node); }, statement);
+}
+
+void Interpreter::run(const Block& block) {
+    for (const Statement& statement : block.statements)
+        run(statement);
+}
+
+void Interpreter::run(const SelectStatement& select) {
+    Task task{&select, [&select](Translator& translator) { return translator.query(select); }};
+    engine_->compile(*batch_, task);
+    result_.rows = std::make_unique<EmbeddedRecordset>(engine_, batch_, std::move(task), frame_);
+}
+
+void Interpreter::write(const Task& task) {
+    const std::int64_t changes = engine_->write(*batch_, task, frame_);
+    result_.rowsAffected = engine_->session().noCount ? -1 : changes;
+}
+
+void Interpreter::run(const InsertStatement& insert) {
+    const Task task{&insert, [&insert](Translator& translator) { return translator.insert(insert); }};
+    const Compiled& compiled = engine_->compile(*batch_, task);
+    if (!compiled.translation.identityTable.empty()) requireIdentityRule(insert, compiled.translation);
+    write(task);
+}
+
+void Interpreter::requireIdentityRule(const InsertStatement& insert, const Translation& translation) {
+    const bool on = engine_->session().identityInsert == translation.identityTable;
+    if (on == translation.givesIdentity) return;
+    const std::string table(insert.table.written);
+    throw Fault(common::DatabaseErrorCategory::constraint,
+                on ? "IDENTITY_INSERT is ON for " + table + ", so the key has to be given"
+                   : "The key of " + table + " can only be given while IDENTITY_INSERT is ON for it",
+                insert.table.position);
+}
+
+void Interpreter::run(const UpdateStatement& update) {
+    write({&update, [&update](Translator& translator) { return translator.update(update); }});
+}
+
+void Interpreter::run(const DeleteStatement& deletion) {
+    write({&deletion, [&deletion](Translator& translator) { return translator.remove(deletion); }});
+}
+
+void Interpreter::run(const TableDefinition& table) {
+    if (table.table.written.starts_with('@')) return; // made before the batch began
+    engine_->readAllOpenRows();
+    engine_->refreshCatalogue();
+    createTable(engine_->connection(), engine_->catalogue(), table);
+    engine_->refreshCatalogue();
+}
+
+void Interpreter::run(const CreateIndexStatement& index) {
+    engine_->readAllOpenRows();
+    engine_->refreshCatalogue();
+    createIndex(engine_->connection(), engine_->catalogue(), index);
+    engine_->refreshCatalogue();
+}
+
+void Interpreter::run(const DropTableStatement& drop) {
+    engine_->readAllOpenRows();
+    engine_->refreshCatalogue();
+    dropTable(engine_->connection(), engine_->catalogue(), drop);
+    engine_->refreshCatalogue();
+}
+
+void Interpreter::run(const DeclareVariable& declaration) {
+    if (declaration.value != nullptr) assign(declaration.name, *declaration.value);
+}
+
+void Interpreter::run(const SetVariable& set) {
+    assign(set.name, *set.value);
+}
+
+void Interpreter::assign(const Name& variable, Expression& value) {
+    const int number = batch_->variables().find(variable.folded);
+    if (number == Variables::none)
+        failUnknownName("The variable " + std::string(variable.written) + " is not declared",
+                        variable.position);
+    const auto index = static_cast<std::size_t>(number);
+    const Type& type = batch_->variables().scalars[index].type;
+    frame_[index] = engine_->valueOf(
+        *batch_, {&value, [&value, &type](Translator& translator) { return translator.value(value, type); }},
+        frame_);
+}
+
+bool Interpreter::holds(Expression& condition) {
+    const Cell cell = engine_->valueOf(
+        *batch_,
+        {&condition, [&condition](Translator& translator) { return translator.condition(condition); }},
+        frame_);
+    const auto* const truth = std::get_if<std::int64_t>(&cell);
+    return truth != nullptr && *truth != 0;
+}
+
+void Interpreter::run(const IfStatement& choice) {
+    if (holds(*choice.condition))
+        run(choice.then);
+    else if (choice.hasElse)
+        run(choice.otherwise);
+}
+
+void Interpreter::run(const WhileStatement& loop) {
+    while (holds(*loop.condition))
+        run(loop.body);
+}
+
+void Interpreter::run(const SetOption& set) {
+    Session& session = engine_->session();
+    switch (set.option) {
+    case Option::noCount:
+        session.noCount = set.on;
+        break;
+    case Option::dateFirst:
+        session.dateFirst = set.number;
+        break;
+    case Option::dateFormat:
+        if (set.name.folded == "dmy")
+            session.dateOrder = DateOrder::dayMonthYear;
+        else if (set.name.folded == "mdy")
+            session.dateOrder = DateOrder::monthDayYear;
+        else if (set.name.folded == "ymd")
+            session.dateOrder = DateOrder::yearMonthDay;
+        else
+            failSyntax("The date format " + std::string(set.name.written) + " is not supported",
+                       set.name.position);
+        break;
+    case Option::identityInsert:
+        setIdentityInsert(set);
+        break;
+    }
+}
+
+void Interpreter::setIdentityInsert(const SetOption& set) {
+    engine_->refreshCatalogue();
+    const Table* const table = engine_->catalogue().find(set.name.folded);
+    if (table == nullptr)
+        failUnknownName("There is no table " + std::string(set.name.written), set.name.position);
+    std::string& current = engine_->session().identityInsert;
+    if (!set.on) {
+        if (current == set.name.folded) current.clear();
+        return;
+    }
+    if (!current.empty() && current != set.name.folded)
+        throw Fault(common::DatabaseErrorCategory::other,
+                    "IDENTITY_INSERT is already ON for the table " + current, set.name.position);
+    current = set.name.folded;
+}
+
+} // namespace tellurix::embedded

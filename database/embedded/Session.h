@@ -1,0 +1,34 @@
+#pragma once
+
+#include "common/Clock.h"
+#include "embedded/Collation.h"
+#include "embedded/Fault.h"
+#include "embedded/date_text.h"
+
+#include <optional>
+#include <string>
+
+namespace tellurix::embedded {
+
+/// What a connection remembers between statements: the options set by SET, and the place where a
+/// function that runs inside SQLite leaves its error, because only a bare text passes through.
+struct Session {
+    explicit Session(const common::Clock& sessionClock) : clock(sessionClock) {}
+
+    const common::Clock& clock;
+    const Collation collation;
+    bool noCount = false;
+    /// The first day of the week, 1 = Monday. Monday and the day-first order are what a login
+    /// with German as its language has.
+    int dateFirst = 1;
+    DateOrder dateOrder = DateOrder::dayMonthYear;
+    /// Folded name of the one table whose keys may be given; empty when there is none.
+    std::string identityInsert;
+
+    std::optional<Fault> failure;
+    /// Set while a translated statement runs: SQLite must not quietly compile it anew for a
+    /// changed schema, because the translation depends on the schema too.
+    bool refusesCompiling = false;
+};
+
+} // namespace tellurix::embedded

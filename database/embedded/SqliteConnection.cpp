@@ -1,0 +1,173 @@
+#include "embedded/SqliteConnection.h"
+
+#include "embedded/only_aggregate.h"
+#include "embedded/scalar_call.h"
+
+#include <string>
+
+namespace tellurix::embedded {
+
+namespace {
+
+using common::DatabaseErrorCategory;
+
+int compareTexts(void* collation, int leftSize, const void* left, int rightSize, const void* right) noexcept {
+    return static_cast<const Collation*>(collation)->compare(
+        {static_cast<const char*>(left), static_cast<std::size_t>(leftSize)},
+        {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
+}
+
+/// SQLite compiles a statement anew by itself when the schema has changed; see Session.
+int allowCompiling(void* session, int, const char*, const char*, const char*, const char*) noexcept {
+    return static_cast<const Session*>(session)->refusesCompiling ? SQLITE_DENY : SQLITE_OK;
+}
+
+DatabaseErrorCategory categoryOf(int code) {
+    switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return DatabaseErrorCategory::locked;
+    case SQLITE_CONSTRAINT:
+        return DatabaseErrorCategory::constraint;
+    case SQLITE_TOOBIG:
+    case SQLITE_MISMATCH:
+        return DatabaseErrorCategory::conversion;
+    case SQLITE_CANTOPEN:
+    case SQLITE_NOTADB:
+    case SQLITE_IOERR:
+    case SQLITE_CORRUPT:
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_FULL:
+        return DatabaseErrorCategory::connection;
+    default:
+        return DatabaseErrorCategory::other;
+    }
+}
+
+std::string afterColon(const std::string& message) {
+    const std::size_t colon = message.find(": ");
+    return colon == std::string::npos ? message : message.substr(colon + 2);
+}
+
+std::string describeConstraint(int code, const std::string& message) {
+    switch (code) {
+    case SQLITE_CONSTRAINT_NOTNULL:
+        return "The column " + afterColon(message) + " does not take NULL";
+    case SQLITE_CONSTRAINT_UNIQUE:
+        return "There is already a row with this value of " + afterColon(message);
+    case SQLITE_CONSTRAINT_PRIMARYKEY:
+    case SQLITE_CONSTRAINT_ROWID:
+        return "There is already a row with this key " + afterColon(message);
+    default:
+        return message;
+    }
+}
+
+} // namespace
+
+bool SqliteStatement::step() {
+    const int code = sqlite3_step(statement_.get());
+    if (code == SQLITE_ROW) return true;
+    if (code == SQLITE_DONE) {
+        sqlite3_reset(statement_.get());
+        return false;
+    }
+    // The message has to be read before the reset; the lock must not outlive the failure.
+    const std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> resetting(statement_.get(), &sqlite3_reset);
+    connection_->fail(code);
+}
+
+SqliteConnection::SqliteConnection(const std::filesystem::path& file, bool create,
+                                   std::chrono::milliseconds patience, const common::Clock& clock)
+    : session_(clock), patience_(patience) {
+    // Every connection belongs to one thread, so SQLite need not guard it.
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (create ? SQLITE_OPEN_CREATE : 0);
+    sqlite3* handle = nullptr;
+    const int code = sqlite3_open_v2(file.c_str(), &handle, flags, nullptr);
+    handle_.reset(handle);
+    if (code != SQLITE_OK)
+        throw Fault(DatabaseErrorCategory::connection,
+                    "The database " + file.string() + " cannot be opened: " +
+                        (handle == nullptr ? sqlite3_errstr(code) : sqlite3_errmsg(handle)));
+    configure();
+}
+
+void SqliteConnection::configure() {
+    sqlite3_extended_result_codes(handle_.get(), 1);
+    sqlite3_busy_timeout(handle_.get(), static_cast<int>(patience_.count()));
+    sqlite3_create_collation_v2(handle_.get(), Collation::name, SQLITE_UTF8,
+                                const_cast<Collation*>(&session_.collation), compareTexts, nullptr);
+    registerArithmetic(handle_.get(), session_);
+    registerConversions(handle_.get(), session_);
+    registerTextFunctions(handle_.get(), session_);
+    registerDateFunctions(handle_.get(), session_);
+    registerOnlyAggregate(handle_.get(), session_);
+    // Readers and one writer work side by side; a commit is one append to the log. A killed process
+    // loses nothing that was committed; only a power failure can lose the last moments, whole
+    // statements at a time, which is worth a commit without waiting for the disk.
+    run("PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL; PRAGMA temp_store=MEMORY;");
+    rebuildAfterNewCollation();
+    sqlite3_set_authorizer(handle_.get(), allowCompiling, &session_);
+}
+
+/// Indexes are sorted by the rules of the ICU that wrote them.
+void SqliteConnection::rebuildAfterNewCollation() {
+    SqliteStatement stored = prepare("PRAGMA user_version");
+    stored.step();
+    const std::int64_t version = stored.integer(0);
+    stored.reset();
+    if (version == session_.collation.version()) return;
+    SqliteTransaction transaction(*this);
+    run(std::string("REINDEX ") + Collation::name);
+    run("PRAGMA user_version=" + std::to_string(session_.collation.version()));
+    transaction.commit();
+}
+
+SqliteStatement SqliteConnection::prepare(std::string_view sql, bool lasting) {
+    sqlite3_stmt* statement = nullptr;
+    const int code = sqlite3_prepare_v3(handle_.get(), sql.data(), static_cast<int>(sql.size()),
+                                        lasting ? SQLITE_PREPARE_PERSISTENT : 0, &statement, nullptr);
+    if (code != SQLITE_OK) fail(code);
+    return {*this, statement};
+}
+
+void SqliteConnection::run(const std::string& sql) {
+    const int code = sqlite3_exec(handle_.get(), sql.c_str(), nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK) fail(code);
+}
+
+void SqliteConnection::fail(int code) {
+    if (session_.refusesCompiling && (code & 0xFF) == SQLITE_AUTH) throw SchemaChanged{};
+    if (session_.failure) {
+        const Fault fault = *session_.failure;
+        session_.failure.reset();
+        throw fault;
+    }
+    const int extended = sqlite3_extended_errcode(handle_.get());
+    const std::string message = sqlite3_errmsg(handle_.get());
+    const DatabaseErrorCategory category = categoryOf(code);
+    if (category == DatabaseErrorCategory::locked)
+        throw Fault(category, "The database is held by another session; gave up after " +
+                                  std::to_string(patience_.count()) + " ms. Please try again later");
+    if (category == DatabaseErrorCategory::constraint)
+        throw Fault(category, describeConstraint(extended, message));
+    if (message == "integer overflow") failConversion("A sum does not fit its type");
+    throw Fault(category, "The database reports: " + message);
+}
+
+SqliteTransaction::SqliteTransaction(SqliteConnection& connection) : connection_(connection) {
+    connection_.run("BEGIN IMMEDIATE");
+}
+
+SqliteTransaction::~SqliteTransaction() {
+    // A failure here means that SQLite has already undone everything.
+    if (open_) sqlite3_exec(connection_.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+void SqliteTransaction::commit() {
+    connection_.run("COMMIT");
+    open_ = false;
+}
+
+} // namespace tellurix::embedded

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "embedded/Session.h"
+#include "embedded/SqliteStatement.h"
+
+#include <sqlite3.h>
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tellurix::embedded {
+
+/// A translated statement met a table that another connection has changed since. Nothing has been
+/// done; it has to be translated and compiled anew.
+struct SchemaChanged {};
+
+/// A connection to the file through SQLite's C interface, with our functions and our collation,
+/// and with SQLite's errors turned into faults.
+class SqliteConnection {
+public:
+    /// @param create whether a file that does not exist is made
+    SqliteConnection(const std::filesystem::path& file, bool create, std::chrono::milliseconds patience,
+                     const common::Clock& clock);
+
+    Session& session() { return session_; }
+    sqlite3* handle() { return handle_.get(); }
+
+    /// @param lasting it will be run many times
+    SqliteStatement prepare(std::string_view sql, bool lasting = false);
+    /// Runs statements that answer nothing.
+    void run(const std::string& sql);
+    std::int64_t changes() const { return sqlite3_changes64(handle_.get()); }
+
+    /// Throws what the last call's result code means.
+    [[noreturn]] void fail(int code);
+
+private:
+    struct Close {
+        void operator()(sqlite3* handle) const { sqlite3_close_v2(handle); }
+    };
+
+    void configure();
+    void rebuildAfterNewCollation();
+
+    Session session_;
+    std::chrono::milliseconds patience_;
+    std::unique_ptr<sqlite3, Close> handle_;
+};
+
+/// Undoes everything since its construction unless `commit` is reached.
+class SqliteTransaction {
+public:
+    explicit SqliteTransaction(SqliteConnection& connection);
+    ~SqliteTransaction();
+    SqliteTransaction(const SqliteTransaction&) = delete;
+    SqliteTransaction& operator=(const SqliteTransaction&) = delete;
+
+    void commit();
+
+private:
+    SqliteConnection& connection_;
+    bool open_ = true;
+};
+
+} // namespace tellurix::embedded

@@ -1,0 +1,162 @@
+#pragma once
+
+#include "embedded/Catalogue.h"
+#include "embedded/Fragment.h"
+#include "embedded/Scope.h"
+#include "embedded/ast.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tellurix::embedded {
+
+/// The variables of a batch, as far as their names and types go.
+struct Variables {
+    static constexpr int none = -1;
+
+    struct Scalar {
+        std::string name;
+        Type type;
+    };
+
+    std::vector<Scalar> scalars;
+    NameMap<int> scalarByName;
+    NameMap<std::shared_ptr<const Table>> tables;
+
+    int find(std::string_view folded) const;
+};
+
+/// A statement in SQLite's SQL, ready to be compiled.
+struct Translation {
+    /// Stands among the parameters for the moment at which the statement starts (GETDATE).
+    static constexpr int now = -1;
+
+    struct Column {
+        std::string name;
+        Type type;
+    };
+
+    std::string sql;
+    std::vector<int> parameters; ///< what ?1, ?2, … are: numbers of variables, or `now`
+    std::vector<Column> columns; ///< of a query
+    /// An INSERT into a table with an identity: its folded name, and whether the key is given.
+    std::string identityTable;
+    bool givesIdentity = false;
+};
+
+/// Translates one statement at a time. Types are worked out here, so that the SQL holds every
+/// conversion that T-SQL would make, and names are resolved here, so that SQLite never guesses.
+///
+/// Every function that takes an expression answers with its fragment; conditions and values are
+/// told apart by type and refused in each other's place.
+class Translator {
+public:
+    Translator(Catalogue& catalogue, const Variables& variables)
+        : catalogue_(catalogue), variables_(variables) {}
+
+    Translation query(const SelectStatement& select);
+    Translation insert(const InsertStatement& insert);
+    Translation update(const UpdateStatement& update);
+    Translation remove(const DeleteStatement& deletion);
+    /// `SELECT value`, converted to a variable's type.
+    Translation value(Expression& expression, const Type& type);
+    /// `SELECT 1` when the condition holds, else 0.
+    Translation condition(Expression& expression);
+    /// A query on one table whose last column is the row's number in SQLite.
+    Translation updatable(const SelectStatement& select, const Table*& table, std::vector<int>& tableColumns);
+
+private:
+    struct Branch;
+    struct QueryText {
+        std::string sql;
+        std::vector<OutputColumn> columns;
+    };
+    using EditItem = std::function<Fragment(Fragment, std::size_t)>;
+
+    // translate_queries.cpp
+    QueryText queryText(const Query& query, bool named, const EditItem& edit = {});
+    QueryText unionText(const Query& query, bool named);
+    QueryText singleText(const Query& query, bool named, const EditItem& edit);
+    void fillBranch(Branch& branch, const SelectBranch& source, const EditItem& edit);
+    void addStar(Branch& branch, const SelectItem& item);
+    std::string fromText(const List<FromItem>& from, Scope& scope);
+    std::string fromItemText(const FromItem& item, Scope& scope);
+    std::string orderText(const Query& query, const std::vector<OutputColumn>& columns, Scope* scope);
+    int orderedColumn(const Expression& expression, const std::vector<OutputColumn>& columns) const;
+    std::string topText(const SelectBranch& branch);
+    static std::string branchText(const Branch& branch, bool named);
+
+    // translate_writes.cpp
+    std::string plainUpdate(const UpdateStatement& update);
+    std::string joinedUpdate(const UpdateStatement& update);
+    std::vector<int> insertColumns(const InsertStatement& insert, const Table& table) const;
+    int assignedColumn(const Table& table, const Name& name) const;
+    Fragment defaultOf(const Table& table, int column);
+    const Table& table(const Name& name);
+
+    // translate_expressions.cpp
+    Fragment any(Expression& expression);
+    Fragment value(Expression& expression);
+    Fragment condition(Expression* expression, std::string_view place);
+    Fragment dispatch(Expression& expression);
+    Fragment literal(const Expression& expression);
+    Fragment decimalLiteral(const Expression& expression);
+    Fragment column(Expression& expression);
+    Fragment variable(const Expression& expression);
+    Fragment negate(const Expression& expression);
+    Fragment arithmetic(const Expression& expression);
+    Fragment concatenation(Fragment left, Fragment right);
+    Fragment caseWhen(const Expression& expression);
+    Fragment simpleCase(const Expression& expression);
+    Fragment caseText(std::string sql, std::vector<Fragment> conditions, std::vector<Fragment> results,
+                      std::size_t position);
+    Fragment subquery(const Expression& expression);
+    std::string parameter(int variable);
+
+    // translate_conditions.cpp
+    Fragment comparison(const Expression& expression);
+    Fragment logical(const Expression& expression);
+    Fragment isNull(const Expression& expression);
+    Fragment inList(const Expression& expression);
+    Fragment inQuery(const Expression& expression);
+    Fragment like(const Expression& expression);
+    Fragment between(const Expression& expression);
+    Fragment exists(const Expression& expression);
+
+    // translate_functions.cpp
+    Fragment function(const Expression& call);
+    Fragment isNullFunction(const Expression& call);
+    Fragment coalesce(const Expression& call);
+    Fragment nullIf(const Expression& call);
+    Fragment round(const Expression& call);
+    Fragment absolute(const Expression& call);
+    Fragment textEnd(const Expression& call);
+    Fragment substring(const Expression& call);
+    Fragment changedText(const Expression& call);
+    Fragment textLength(const Expression& call);
+    Fragment yearMonthDay(const Expression& call);
+    Fragment now(const Expression& call);
+    Fragment identityOf(const Expression& call);
+    Fragment aggregate(const Expression& call);
+    Fragment sum(const Expression& call, Fragment argument);
+    Fragment cast(const Expression& call);
+    Fragment datePart(const Expression& call);
+    Fragment textArgument(const Expression& call, std::size_t index);
+    Fragment integerArgument(const Expression& call, std::size_t index);
+    Fragment dateArgument(const Expression& call, std::size_t index);
+
+    void start();
+    Translation finish(std::string sql);
+
+    Catalogue& catalogue_;
+    const Variables& variables_;
+    Scope* scope_ = nullptr;
+    int sourceCount_ = 0;
+    std::vector<int> parameters_;
+    Arena defaults_; ///< syntax trees of columns' defaults
+};
+
+} // namespace tellurix::embedded

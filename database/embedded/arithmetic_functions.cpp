@@ -1,0 +1,123 @@
+#include "embedded/ast.h"
+#include "embedded/decimal_units.h"
+#include "embedded/packed.h"
+#include "embedded/scalar_call.h"
+#include "embedded/types.h"
+
+#include <cmath>
+#include <limits>
+
+namespace tellurix::embedded {
+
+namespace {
+
+[[noreturn]] void failOverflow(const Type& type, std::size_t position) {
+    failConversion("The result does not fit " + describe(type), position);
+}
+
+[[noreturn]] void failDivision(std::size_t position) {
+    failConversion("Division by zero", position);
+}
+
+std::int64_t within(TypeKind kind, bool overflow, std::int64_t value, std::size_t position) {
+    if (overflow || value < smallestOf(kind) || value > largestOf(kind))
+        failOverflow(Type::of(kind), position);
+    return value;
+}
+
+/// Integers: left, right, kind of the result, position.
+template <Operator op>
+void integerArithmetic(ScalarCall& call) {
+    const std::int64_t left = call.integer(0);
+    const std::int64_t right = call.integer(1);
+    const auto kind = static_cast<TypeKind>(call.smallInteger(2));
+    const std::size_t position = call.position(3);
+    std::int64_t value = 0;
+    bool overflow = false;
+    if constexpr (op == Operator::add) {
+        overflow = __builtin_add_overflow(left, right, &value);
+    } else if constexpr (op == Operator::subtract) {
+        overflow = __builtin_sub_overflow(left, right, &value);
+    } else if constexpr (op == Operator::multiply) {
+        overflow = __builtin_mul_overflow(left, right, &value);
+    } else {
+        if (right == 0) failDivision(position);
+        // The one quotient that does not fit; the processor traps on it.
+        overflow = left == std::numeric_limits<std::int64_t>::min() && right == -1;
+        if (!overflow)
+            value = op == Operator::divide ? left / right : left % right;
+        else if (op == Operator::modulo)
+            overflow = false;
+    }
+    call.answer(within(kind, overflow, value, position));
+}
+
+/// Decimals: left, right, scales of left, right and result, position.
+template <Operator op>
+void decimalArithmetic(ScalarCall& call) {
+    const std::int64_t left = call.integer(0);
+    const std::int64_t right = call.integer(1);
+    const PackedScales scales = PackedScales::unpack(call.integer(2));
+    const std::size_t position = call.position(3);
+    std::optional<std::int64_t> value;
+    if constexpr (op == Operator::add) {
+        value = sumOfUnits(left, scales.left, right, scales.right, scales.result);
+    } else if constexpr (op == Operator::subtract) {
+        value = sumOfUnits(left, scales.left, -right, scales.right, scales.result);
+    } else if constexpr (op == Operator::multiply) {
+        value = productOfUnits(left, scales.left, right, scales.right, scales.result);
+    } else {
+        if (right == 0) failDivision(position);
+        value = op == Operator::divide
+                    ? quotientOfUnits(left, scales.left, right, scales.right, scales.result)
+                    : remainderOfUnits(left, scales.left, right, scales.right, scales.result);
+    }
+    if (!value) failOverflow(Type::decimal(Type::maxPrecision, scales.result), position);
+    call.answer(*value);
+}
+
+void floatDivision(ScalarCall& call) {
+    if (call.floating(1) == 0.0) failDivision(call.position(2));
+    call.answer(call.floating(0) / call.floating(1));
+}
+
+/// Units, scale, decimals, position.
+void roundExact(ScalarCall& call) {
+    const auto value = roundedUnits(call.integer(0), call.smallInteger(1), call.integer(2));
+    if (!value) failOverflow(Type::decimal(Type::maxPrecision, call.smallInteger(1)), call.position(3));
+    call.answer(*value);
+}
+
+void roundFloat(ScalarCall& call) {
+    const double factor = std::pow(10.0, call.floating(1));
+    const double scaled = call.floating(0) * factor;
+    call.answer(std::isfinite(scaled) && factor > 0 ? std::round(scaled) / factor : call.floating(0));
+}
+
+void absolute(ScalarCall& call) {
+    const std::int64_t value = call.integer(0);
+    const auto kind = static_cast<TypeKind>(call.smallInteger(1));
+    const bool overflow = value == std::numeric_limits<std::int64_t>::min();
+    call.answer(within(kind, overflow, overflow || value >= 0 ? value : -value, call.position(2)));
+}
+
+} // namespace
+
+void registerArithmetic(sqlite3* connection, Session& session) {
+    registerScalar<integerArithmetic<Operator::add>, 2>(connection, "ts_add", 4, session);
+    registerScalar<integerArithmetic<Operator::subtract>, 2>(connection, "ts_sub", 4, session);
+    registerScalar<integerArithmetic<Operator::multiply>, 2>(connection, "ts_mul", 4, session);
+    registerScalar<integerArithmetic<Operator::divide>, 2>(connection, "ts_div", 4, session);
+    registerScalar<integerArithmetic<Operator::modulo>, 2>(connection, "ts_mod", 4, session);
+    registerScalar<decimalArithmetic<Operator::add>, 2>(connection, "ts_dadd", 4, session);
+    registerScalar<decimalArithmetic<Operator::subtract>, 2>(connection, "ts_dsub", 4, session);
+    registerScalar<decimalArithmetic<Operator::multiply>, 2>(connection, "ts_dmul", 4, session);
+    registerScalar<decimalArithmetic<Operator::divide>, 2>(connection, "ts_ddiv", 4, session);
+    registerScalar<decimalArithmetic<Operator::modulo>, 2>(connection, "ts_dmod", 4, session);
+    registerScalar<floatDivision, 2>(connection, "ts_fdiv", 3, session);
+    registerScalar<roundExact, 3>(connection, "ts_round", 4, session);
+    registerScalar<roundFloat, 2>(connection, "ts_fround", 2, session);
+    registerScalar<absolute, 1>(connection, "ts_abs", 3, session);
+}
+
+} // namespace tellurix::embedded

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "embedded/date_text.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace tellurix::embedded {
+
+/// What DATEPART reads, DATEADD adds and DATEDIFF counts.
+enum class DatePart : std::uint8_t {
+    year,
+    quarter,
+    month,
+    dayOfYear,
+    day,
+    isoWeek,
+    week,
+    weekday,
+    hour,
+    minute,
+    second,
+    millisecond
+};
+
+/// The part that a word names (folded), e.g. "isowk" or "dd".
+std::optional<DatePart> datePartNamed(std::string_view word);
+
+/// Which function takes which part: not all make sense or are known everywhere.
+bool canRead(DatePart part);
+bool canAdd(DatePart part);
+bool canCount(DatePart part);
+
+/// @param dateFirst first day of the week, 1 = Monday; only `weekday` asks for it
+std::int64_t partOfDate(DatePart part, common::DateTime moment, int dateFirst);
+
+/// @return nothing when the sum leaves the years that a date can have. A month that is too short
+///         for the day gives its last day.
+std::optional<common::DateTime> addToDate(DatePart part, std::int64_t count, common::DateTime moment);
+
+/// How many borders of the part lie between the two: years from 31.12. to 1.1. are 1.
+std::int64_t dateDifference(DatePart part, common::DateTime from, common::DateTime to);
+
+} // namespace tellurix::embedded

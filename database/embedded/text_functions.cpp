@@ -1,0 +1,92 @@
+#include "embedded/Collation.h"
+#include "embedded/like_pattern.h"
+#include "embedded/scalar_call.h"
+#include "embedded/utf8.h"
+
+#include <unicode/ucasemap.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace tellurix::embedded {
+
+namespace {
+
+/// Text, pattern, perhaps position and escape character.
+void like(ScalarCall& call) {
+    char32_t escape = 0;
+    if (call.count() > 2) {
+        const std::string_view text = call.text(2);
+        std::size_t index = 0;
+        escape = text.empty() ? 0 : foldCharacter(nextCharacter(text, index));
+        if (text.empty() || index != text.size())
+            failConversion("ESCAPE takes one character, not '" + excerpt(text) + "'", call.position(3));
+    }
+    call.answer(std::int64_t{matchesLike(call.text(0), call.text(1), escape, call.session().collation)});
+}
+
+std::size_t unitCount(const ScalarCall& call, int argument, int positionArgument) {
+    if (call.integer(argument) < 0) failConversion("A length below zero", call.position(positionArgument));
+    return static_cast<std::size_t>(call.integer(argument));
+}
+
+/// Text, length, position.
+void right(ScalarCall& call) {
+    call.answer(utf16Suffix(call.text(0), unitCount(call, 1, 2)));
+}
+
+void left(ScalarCall& call) {
+    call.answer(utf16Prefix(call.text(0), unitCount(call, 1, 2)));
+}
+
+/// Text, first character from 1, length, position.
+void substring(ScalarCall& call) {
+    const std::string_view text = call.text(0);
+    std::int64_t first = call.integer(1);
+    std::int64_t length = static_cast<std::int64_t>(std::min(unitCount(call, 2, 3), text.size()));
+    if (first < 1) {
+        length = first < -length ? 0 : std::max<std::int64_t>(0, length + first - 1);
+        first = 1;
+    }
+    const std::string_view before = utf16Prefix(text, static_cast<std::size_t>(first - 1));
+    call.answer(utf16Prefix(text.substr(before.size()), static_cast<std::size_t>(length)));
+}
+
+/// Blanks at the end do not count.
+void length(ScalarCall& call) {
+    std::string_view text = call.text(0);
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
+    call.answer(static_cast<std::int64_t>(utf16Length(text)));
+}
+
+using CaseMapping = std::int32_t (*)(const UCaseMap*, char*, std::int32_t, const char*, std::int32_t,
+                                     UErrorCode*);
+
+template <CaseMapping mapping>
+void changeCase(ScalarCall& call) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<UCaseMap, decltype(&ucasemap_close)> map(ucasemap_open("de", 0, &status),
+                                                                   &ucasemap_close);
+    const std::string_view text = call.text(0);
+    std::string changed(text.size() * 3 + 1, '\0'); // no letter grows by more
+    const std::int32_t size = mapping(map.get(), changed.data(), static_cast<std::int32_t>(changed.size()),
+                                      text.data(), static_cast<std::int32_t>(text.size()), &status);
+    if (U_FAILURE(status)) failConversion("The case of a text cannot be changed");
+    call.answer(std::string_view(changed).substr(0, static_cast<std::size_t>(size)));
+}
+
+} // namespace
+
+void registerTextFunctions(sqlite3* connection, Session& session) {
+    registerScalar<like, 2>(connection, "ts_like", 2, session);
+    registerScalar<like, 3>(connection, "ts_like", 4, session);
+    registerScalar<right, 2>(connection, "ts_right", 3, session);
+    registerScalar<left, 2>(connection, "ts_left", 3, session);
+    registerScalar<substring, 3>(connection, "ts_substring", 4, session);
+    registerScalar<length, 1>(connection, "ts_len", 1, session);
+    registerScalar<changeCase<ucasemap_utf8ToUpper>, 1>(connection, "ts_upper", 1, session);
+    registerScalar<changeCase<ucasemap_utf8ToLower>, 1>(connection, "ts_lower", 1, session);
+}
+
+} // namespace tellurix::embedded

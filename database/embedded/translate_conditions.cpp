@@ -1,0 +1,140 @@
+#include "embedded/Fault.h"
+#include "embedded/Translator.h"
+
+#include <algorithm>
+
+namespace tellurix::embedded {
+
+namespace {
+
+const char* signOf(Operator op) {
+    switch (op) {
+    case Operator::equal:
+        return "=";
+    case Operator::notEqual:
+        return "<>";
+    case Operator::less:
+        return "<";
+    case Operator::lessOrEqual:
+        return "<=";
+    case Operator::greater:
+        return ">";
+    default:
+        return ">=";
+    }
+}
+
+Fragment conditionOf(std::string sql, std::size_t position) {
+    return {.sql = std::move(sql), .type = Type::condition(), .position = position};
+}
+
+std::string compared(const Fragment& left, const char* sign, const Fragment& right) {
+    std::string sql;
+    sql.reserve(left.sql.size() + right.sql.size() + 4);
+    sql += '(';
+    sql += left.sql;
+    sql += sign;
+    sql += right.sql;
+    sql += ')';
+    return sql;
+}
+
+} // namespace
+
+Fragment Translator::comparison(const Expression& expression) {
+    Fragment left = value(*expression.operands[0]);
+    Fragment right = value(*expression.operands[1]);
+    makeComparable(left, right);
+    return conditionOf(compared(left, signOf(expression.op), right), expression.position);
+}
+
+Fragment Translator::logical(const Expression& expression) {
+    if (expression.kind == ExpressionKind::logicalNot)
+        return conditionOf("(NOT " + condition(expression.operands[0], "NOT").sql + ")", expression.position);
+    const bool isAnd = expression.op == Operator::logicalAnd;
+    const char* const word = isAnd ? "AND" : "OR";
+    std::string sql = "(" + condition(expression.operands[0], word).sql;
+    sql += isAnd ? " AND " : " OR ";
+    sql += condition(expression.operands[1], word).sql;
+    sql += ')';
+    return conditionOf(std::move(sql), expression.position);
+}
+
+Fragment Translator::isNull(const Expression& expression) {
+    const Fragment operand = value(*expression.operands[0]);
+    return conditionOf("(" + operand.sql + (expression.negated ? " IS NOT NULL)" : " IS NULL)"),
+                       expression.position);
+}
+
+Fragment Translator::inList(const Expression& expression) {
+    const Fragment subject = value(*expression.operands[0]);
+    // Where all agree on one SQLite representation the list stays a list, which an index can serve.
+    bool uniform = true;
+    std::string list;
+    std::string alternatives;
+    std::string common;
+    for (std::size_t index = 1; index < expression.operands.size(); ++index) {
+        Fragment left = subject;
+        Fragment right = value(*expression.operands[index]);
+        makeComparable(left, right);
+        if (right.type.isText()) collate(left); // IN takes the collation of its left side alone
+        if (index == 1) common = left.sql;
+        uniform = uniform && left.sql == common;
+        if (index > 1) {
+            list += ',';
+            alternatives += " OR ";
+        }
+        list += right.sql;
+        alternatives += compared(left, "=", right);
+    }
+    if (uniform)
+        return conditionOf("(" + common + (expression.negated ? " NOT IN (" : " IN (") + list + "))",
+                           expression.position);
+    return conditionOf((expression.negated ? "(NOT (" : "((") + alternatives + "))", expression.position);
+}
+
+Fragment Translator::inQuery(const Expression& expression) {
+    Fragment left = value(*expression.operands[0]);
+    QueryText text = queryText(*expression.query, true);
+    if (text.columns.size() != 1)
+        failSyntax("The query after IN has to have one column", expression.query->position);
+    Fragment right{.sql = "s.c1",
+                   .type = text.columns[0].type,
+                   .position = expression.query->position,
+                   .collated = text.columns[0].collated};
+    makeComparable(left, right);
+    if (left.type.isText()) collate(left);
+    std::string sql = "(" + left.sql + (expression.negated ? " NOT IN (" : " IN (");
+    sql += right.sql == "s.c1" ? text.sql : "SELECT " + right.sql + " FROM (" + text.sql + ") s";
+    return conditionOf(sql + "))", expression.position);
+}
+
+Fragment Translator::exists(const Expression& expression) {
+    return conditionOf("EXISTS (" + queryText(*expression.query, true).sql + ")", expression.position);
+}
+
+Fragment Translator::like(const Expression& expression) {
+    std::string sql = expression.negated ? "(NOT ts_like(" : "ts_like(";
+    for (std::size_t index = 0; index < expression.operands.size(); ++index) {
+        Fragment operand = value(*expression.operands[index]);
+        if (operand.type.kind == TypeKind::dateTime)
+            failConversion("LIKE on a date is not supported", operand.position);
+        if (!operand.type.isText()) operand = convert(std::move(operand), Type::text(Type::unlimited));
+        sql += (index == 0 ? "" : ",") + operand.sql;
+    }
+    if (expression.operands.size() > 2) sql += "," + std::to_string(expression.position);
+    return conditionOf(sql + (expression.negated ? "))" : ")"), expression.position);
+}
+
+Fragment Translator::between(const Expression& expression) {
+    Fragment low = value(*expression.operands[1]);
+    Fragment high = value(*expression.operands[2]);
+    Fragment left = value(*expression.operands[0]);
+    Fragment again = left;
+    makeComparable(left, low);
+    makeComparable(again, high);
+    const std::string sql = compared(left, ">=", low) + " AND " + compared(again, "<=", high);
+    return conditionOf((expression.negated ? "(NOT (" : "((") + sql + "))", expression.position);
+}
+
+} // namespace tellurix::embedded

@@ -1,0 +1,214 @@
+#include "embedded/Fault.h"
+#include "embedded/Parser.h"
+#include "embedded/Translator.h"
+#include "embedded/names.h"
+
+#include <algorithm>
+
+namespace tellurix::embedded {
+
+namespace {
+
+std::string labelOf(const Table& table, int column) {
+    return table.name() + "." + table.column(column).name;
+}
+
+Fragment convertForColumn(Fragment value, const Table& table, int column) {
+    const std::string label = labelOf(table, column);
+    return convert(std::move(value), table.column(column).type,
+                   {.purpose = Destination::Purpose::column, .column = label});
+}
+
+} // namespace
+
+void Translator::start() {
+    scope_ = nullptr;
+    parameters_.clear();
+    sourceCount_ = 0;
+}
+
+Translation Translator::finish(std::string sql) {
+    Translation translation;
+    translation.sql = std::move(sql);
+    translation.parameters = parameters_;
+    return translation;
+}
+
+const Table& Translator::table(const Name& name) {
+    if (name.written.starts_with('@')) {
+        const auto found = variables_.tables.find(name.folded);
+        if (found == variables_.tables.end())
+            failUnknownName("The table variable " + std::string(name.written) + " is not declared",
+                            name.position);
+        return *found->second;
+    }
+    const Table* const found = catalogue_.find(name.folded);
+    if (found == nullptr) failUnknownName("There is no table " + std::string(name.written), name.position);
+    return *found;
+}
+
+Translation Translator::value(Expression& expression, const Type& type) {
+    start();
+    Fragment result = convert(value(expression), type, {.purpose = Destination::Purpose::cast});
+    return finish("SELECT " + result.sql);
+}
+
+Translation Translator::condition(Expression& expression) {
+    start();
+    return finish("SELECT " + condition(&expression, "IF or WHILE").sql);
+}
+
+int Translator::assignedColumn(const Table& table, const Name& name) const {
+    const int column = table.findColumn(name.folded);
+    if (column == Table::noColumn)
+        failUnknownName("The table " + table.name() + " has no column " + std::string(name.written),
+                        name.position);
+    return column;
+}
+
+std::vector<int> Translator::insertColumns(const InsertStatement& insert, const Table& table) const {
+    std::vector<int> columns;
+    for (const Name& name : insert.columns) {
+        const int column = assignedColumn(table, name);
+        if (std::find(columns.begin(), columns.end(), column) != columns.end())
+            failSyntax("The column " + std::string(name.written) + " stands twice in the list",
+                       name.position);
+        columns.push_back(column);
+    }
+    if (insert.columns.empty())
+        for (std::size_t index = 0; index < table.columns().size(); ++index)
+            if (!table.columns()[index].identity) columns.push_back(static_cast<int>(index));
+    return columns;
+}
+
+/// Defaults are written out by us: SQLite would store their text as it stands in the catalogue.
+Fragment Translator::defaultOf(const Table& table, int column) {
+    const std::string_view text = defaults_.keep(table.column(column).defaultText);
+    Expression* const expression = Parser(text, defaults_).parseLoneExpression();
+    return convertForColumn(value(*expression), table, column);
+}
+
+Translation Translator::insert(const InsertStatement& insert) {
+    start();
+    const Table& target = table(insert.table);
+    const std::vector<int> given = insertColumns(insert, target);
+    std::vector<int> defaulted;
+    bool hasIdentity = false;
+    bool givesIdentity = false;
+    for (int column = 0; column < static_cast<int>(target.columns().size()); ++column) {
+        const bool isGiven = std::find(given.begin(), given.end(), column) != given.end();
+        hasIdentity = hasIdentity || target.column(column).identity;
+        givesIdentity = givesIdentity || (isGiven && target.column(column).identity);
+        if (!isGiven && !target.column(column).defaultText.empty()) defaulted.push_back(column);
+    }
+    std::string sql = "INSERT INTO " + target.sqlName() + " (";
+    for (const int column : given)
+        sql += quoteName(target.column(column).name) + ",";
+    for (const int column : defaulted)
+        sql += quoteName(target.column(column).name) + ",";
+    sql.back() = ')';
+    std::string tail;
+    for (const int column : defaulted)
+        tail += "," + defaultOf(target, column).sql;
+
+    const auto requireCount = [&](std::size_t count, std::size_t position) {
+        if (count != given.size())
+            failSyntax("INSERT names " + std::to_string(given.size()) + " columns and gives " +
+                           std::to_string(count) + " values",
+                       position);
+    };
+    if (insert.query != nullptr) {
+        QueryText text = queryText(*insert.query, true);
+        requireCount(text.columns.size(), insert.query->position);
+        sql += " SELECT ";
+        for (std::size_t index = 0; index < given.size(); ++index) {
+            Fragment item{.sql = "s.c" + std::to_string(index + 1),
+                          .type = text.columns[index].type,
+                          .position = insert.query->position};
+            sql += (index == 0 ? "" : ",") + convertForColumn(std::move(item), target, given[index]).sql;
+        }
+        sql += tail + " FROM (" + text.sql + ") s";
+    } else {
+        sql += " VALUES ";
+        for (std::size_t row = 0; row < insert.rows.size(); ++row) {
+            requireCount(insert.rows[row].size(), insert.rows[row].front()->position);
+            sql += row == 0 ? "(" : ",(";
+            for (std::size_t index = 0; index < given.size(); ++index) {
+                Fragment item = convertForColumn(value(*insert.rows[row][index]), target, given[index]);
+                sql += (index == 0 ? "" : ",") + item.sql;
+            }
+            sql += tail + ")";
+        }
+    }
+    Translation translation = finish(std::move(sql));
+    if (hasIdentity) {
+        translation.identityTable = foldName(target.name());
+        translation.givesIdentity = givesIdentity;
+    }
+    return translation;
+}
+
+Translation Translator::update(const UpdateStatement& update) {
+    start();
+    return finish(update.from.empty() ? plainUpdate(update) : joinedUpdate(update));
+}
+
+std::string Translator::plainUpdate(const UpdateStatement& update) {
+    Scope scope(nullptr);
+    scope_ = &scope;
+    FromItem item;
+    item.table = update.target;
+    std::string sql = "UPDATE " + fromItemText(item, scope) + " SET ";
+    const Table& target = table(update.target);
+    for (const Assignment& assignment : update.assignments) {
+        const int column = assignedColumn(target, assignment.column);
+        if (target.column(column).identity)
+            failSyntax("The identity " + labelOf(target, column) + " cannot be changed",
+                       assignment.column.position);
+        if (sql.back() != ' ') sql += ',';
+        sql += quoteName(target.column(column).name) + "=";
+        sql += convertForColumn(value(*assignment.value), target, column).sql;
+    }
+    if (update.where != nullptr) sql += " WHERE " + condition(update.where, "WHERE").sql;
+    return sql;
+}
+
+/// The joined rows are found first, with the new values of each target row; then they are written.
+std::string Translator::joinedUpdate(const UpdateStatement& update) {
+    Scope scope(nullptr);
+    scope_ = &scope;
+    const std::string from = fromText(update.from, scope);
+    const Source* const source = scope.findSource(update.target.folded);
+    if (source == nullptr || source->table == nullptr)
+        failUnknownName("The table " + std::string(update.target.written) + " does not stand in FROM",
+                        update.target.position);
+    const Table& target = *source->table;
+    std::string inner = "SELECT " + source->sqlAlias + "._rowid_ AS r";
+    std::string sql = "UPDATE " + target.sqlName() + " AS u SET ";
+    for (std::size_t index = 0; index < update.assignments.size(); ++index) {
+        const Assignment& assignment = update.assignments[index];
+        const int column = assignedColumn(target, assignment.column);
+        if (target.column(column).identity)
+            failSyntax("The identity " + labelOf(target, column) + " cannot be changed",
+                       assignment.column.position);
+        const std::string name = "c" + std::to_string(index + 1);
+        inner += "," + convertForColumn(value(*assignment.value), target, column).sql + " AS " + name;
+        sql += (index == 0 ? "" : ",") + quoteName(target.column(column).name) + "=s." + name;
+    }
+    inner += from;
+    if (update.where != nullptr) inner += " WHERE " + condition(update.where, "WHERE").sql;
+    return sql + " FROM (" + inner + ") AS s WHERE u._rowid_=s.r";
+}
+
+Translation Translator::remove(const DeleteStatement& deletion) {
+    start();
+    Scope scope(nullptr);
+    scope_ = &scope;
+    FromItem item;
+    item.table = deletion.table;
+    std::string sql = "DELETE FROM " + fromItemText(item, scope);
+    if (deletion.where != nullptr) sql += " WHERE " + condition(deletion.where, "WHERE").sql;
+    return finish(std::move(sql));
+}
+
+} // namespace tellurix::embedded
