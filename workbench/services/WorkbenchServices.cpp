@@ -13,6 +13,8 @@ WorkbenchServices::WorkbenchServices(ui::Display& display, const host::TlxVar& s
       listPicker_(display, *clock_, localizer_, locale),
       lookupValidation_(display, localizer_),
       personQuery_(locale),
+      selectionDialog_(display, localizer_, locale),
+      lookupGridDialog_(display, localizer_, locale),
       mainWindow_(std::make_shared<MainWindow>(settings_, session)),
       host_{.display = display,
             .errors = errors_,
@@ -28,6 +30,10 @@ WorkbenchServices::WorkbenchServices(ui::Display& display, const host::TlxVar& s
             .dateConverter = dateConverter_,
             .settings = settings_,
             .gridLayouts = gridLayouts_,
-            .columnUpdate = columnUpdate_} {}
+            .columnUpdate = columnUpdate_,
+            .selectionDialog = selectionDialog_,
+            .lookupGridDialog = lookupGridDialog_,
+            .typeAhead = typeAhead_,
+            .selectionTranslator = selectionTranslator_} {}
 
 } // namespace tellurix::workbench

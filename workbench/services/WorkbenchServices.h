@@ -7,13 +7,17 @@
 #include "services/GridLayoutStoreService.h"
 #include "services/ListPickerService.h"
 #include "services/Localizer.h"
+#include "services/LookupGridDialogService.h"
 #include "services/LookupValidationService.h"
 #include "services/MainWindow.h"
 #include "services/ModuleService.h"
 #include "services/PersonPicker.h"
 #include "services/PersonQueryService.h"
+#include "services/SelectionDialogService.h"
+#include "services/SelectionTranslatorService.h"
 #include "services/SettingsService.h"
 #include "services/SystemClock.h"
+#include "services/TypeAheadService.h"
 
 #include <memory>
 
@@ -51,6 +55,10 @@ private:
     SettingsService settings_;
     GridLayoutStoreService gridLayouts_;
     ColumnUpdateService columnUpdate_;
+    SelectionDialogService selectionDialog_;
+    LookupGridDialogService lookupGridDialog_;
+    TypeAheadService typeAhead_;
+    SelectionTranslatorService selectionTranslator_;
     std::shared_ptr<host::HostMainWindow> mainWindow_;
     host::HostServices host_;
 };

@@ -1,0 +1,26 @@
+#include "services/LookupGridDialogService.h"
+
+#include "services/F_LookupGrid.h"
+#include "services/selection_words.h"
+
+#include <stdexcept>
+
+namespace tellurix::workbench {
+
+std::string LookupGridDialogService::choose(const host::TlxVar& session, const std::string& settingKey,
+                                            const std::string& title, const std::string& text,
+                                            const std::string& mode) {
+    const AttributeKind* kind = findAttribute(settingKey);
+    if (kind == nullptr) throw std::invalid_argument{"Es gibt keine Auswahlliste „" + settingKey + "“."};
+    F_LookupGrid form{title, SelectionWords{localizer_, session, locale_}.choiceCaptions(),
+                      choicesOf(session, *kind), codesOf(text), mode == "01"};
+    localizer_.localize(session, form);
+    display_.showModal(form);
+    if (!form.chosen()) return text;
+    std::string codes;
+    for (const std::string& code : *form.chosen())
+        codes += (codes.empty() ? "" : ",") + code;
+    return codes;
+}
+
+} // namespace tellurix::workbench

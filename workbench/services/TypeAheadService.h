@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/services.h"
+
+namespace tellurix::workbench {
+
+/// Completes the entry behind the last comma while the user types at the end of a box. What was
+/// completed is selected: typing on replaces it, and leaving the box takes it.
+///
+/// Only a typed character completes, never one that was taken away. An entry that is a code as it
+/// stands is left alone, even when longer codes start with it. A code is completed in its own
+/// capitals, and otherwise nothing that was typed is changed. The rows are read once, when the
+/// first character after binding is typed. Handlers that the box already has go on working.
+class TypeAheadService final : public host::TypeAhead {
+public:
+    void bind(const host::TlxVar& session, ui::TextBox& box, const std::string& query,
+              const std::string& displayColumn) override;
+};
+
+} // namespace tellurix::workbench
