@@ -1,5 +1,6 @@
 #include "start/F_Start.h"
 
+#include "embedded/Database.h"
 #include "host/module_state.h"
 #include "start/TestFolder.h"
 #include "start/database_file.h"
