@@ -24,7 +24,7 @@ TestHost::TestHost(common::Connection& inner)
     : database(inner),
       services{.display = display,
                .errors = display,
-               .clock = *this,
+               .clock = testClock(),
                .locale = common::Locale::german(),
                .dataAccess = *this,
                .moduleService = *this,
@@ -102,11 +102,6 @@ std::string TestHost::toSql(const std::string& text, const host::TlxVar&) {
 
 std::string TestHost::text(const host::TlxVar&, const std::string&) {
     return {};
-}
-
-common::DateTime TestHost::now() const {
-    using namespace std::chrono_literals;
-    return common::startOf(common::Date{2026y / 3 / 9}) + 8h;
 }
 
 } // namespace tellurix::tests

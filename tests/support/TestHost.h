@@ -3,6 +3,7 @@
 #include "host/clsVertrag.h"
 #include "host/services.h"
 #include "support/ScriptedDisplay.h"
+#include "support/TestClock.h"
 #include "tracing/TracingConnection.h"
 
 #include <map>
@@ -43,8 +44,7 @@ class TestHost final : host::HostDataAccess,
                        host::NamedSettings,
                        host::GridLayoutStore,
                        host::ColumnUpdate,
-                       host::HostMainWindow,
-                       common::Clock {
+                       host::HostMainWindow {
 public:
     explicit TestHost(common::Connection& database);
     ~TestHost() override;
@@ -89,7 +89,6 @@ private:
     void set(const host::TlxVar&, const std::string&, const std::string&, const std::string&,
              const std::string&) override {}
     bool IsArtikel() override { return articles; }
-    common::DateTime now() const override;
 
     tracing::TracingConnection traced_;
     host::clsVertrag module_;
