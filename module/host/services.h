@@ -139,7 +139,7 @@ public:
 struct HostServices {
     ui::Display& display;
     ui::ErrorHandling& errors;
-    common::Clock& clock;
+    const common::Clock& clock;
     common::Locale locale;
     HostDataAccess& dataAccess;
     HostModuleService& moduleService;

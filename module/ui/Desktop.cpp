@@ -110,9 +110,7 @@ bool Desktop::moveFocus(Form& form, Control& to) {
     }
     // The handler may have closed the window, sent the focus elsewhere, or disabled the target.
     if (!form.loaded() || form.focused() != from) return false;
-    if (!form.setFocus(to)) return false;
-    if (TextBox* box = asTextBox(&to)) box->selectAll();
-    return true;
+    return form.setFocus(to);
 }
 
 void Desktop::moveByTab(Form& form, bool backwards) {
@@ -135,7 +133,6 @@ void Desktop::moveByTab(Form& form, bool backwards) {
         next = (index + (backwards ? order.size() - 1 : 1)) % order.size();
     }
     form.setFocus(*order[next]);
-    if (TextBox* box = asTextBox(order[next])) box->selectAll();
 }
 
 void Desktop::press(Form& form, Control& control) {

@@ -1,6 +1,7 @@
 #include "ui/Form.h"
 
 #include "ui/Tabs.h"
+#include "ui/TextBox.h"
 
 #include <algorithm>
 
@@ -89,6 +90,7 @@ Label* Form::labelOf(const Control& control) const {
 bool Form::setFocus(Control& control) {
     if (!control.takesFocus() || !control.usable()) return false;
     focused_ = &control;
+    if (control.kind() == ControlKind::textBox) static_cast<TextBox&>(control).selectAll();
     if (control.onFocus) control.onFocus();
     return true;
 }

@@ -42,7 +42,8 @@ public:
 
     /// The control that gets what the user types, or null.
     Control* focused() const { return focused_; }
-    /// Gives a control the focus and calls its `onFocus`.
+    /// Gives a control the focus, selects the whole text of a box so that typing replaces it, and
+    /// calls the control's `onFocus`.
     /// @return false when it is hidden or disabled: then nothing changes.
     bool setFocus(Control& control);
     /// Pressed by Esc; null lets Esc close the window.

@@ -12,7 +12,7 @@ using workbench::F_ListPicker;
 const F_ListPicker::List units{
     .headings = {"Kurz", "Bezeichnung"},
     .entries = {{"FM", "Festmeter"}, {"RM", "Raummeter"}, {"SRM", "Schüttraummeter"}, {"ST", "Stück"}}};
-const F_ListPicker::CountTexts countTexts{.all = "{} Einträge", .some = "{} von {}"};
+const F_ListPicker::CountTexts countTexts{.all = "Einträge: {}", .some = "{} von {}"};
 
 /// The answer of a list that was opened with `current`; "none" when it was cancelled.
 std::string chosen(const std::string& current, const ScriptedDisplay::Script& script) {
@@ -101,7 +101,7 @@ TEST(ListPicker, ALongListShowsItsStartAndReachesTheRestByNarrowing) {
     ScriptedDisplay display;
     F_ListPicker picker{"Vertrag", list, countTexts, "V650"};
     display.onWindow("F_ListPicker", [](User& user) {
-        EXPECT_EQ(user.caption("lblCount"), "1 Einträge") << "the current text is beyond what is shown";
+        EXPECT_EQ(user.caption("lblCount"), "Einträge: 1") << "the current text is beyond what is shown";
         user.type("txtFilter", "");
         EXPECT_EQ(user.caption("lblCount"), "500 von 700");
         EXPECT_EQ(user.grid("grdList").rows().size(), F_ListPicker::shownAtMost);

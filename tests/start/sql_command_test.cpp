@@ -93,10 +93,9 @@ TEST_F(SqlCommand, GoesOnAfterAnErrorAndTellsWhereItWas) {
 
 TEST_F(SqlCommand, CutsFilesAndStandardInputAtGo) {
     const std::string script =
-        "\xEF\xBB\xBF"
         "CREATE TABLE T (N nvarchar(20))\r\n  go  \r\nINSERT INTO T (N) VALUES ('\r\nGOLD')\n"
         "INSERT INTO T (N) VALUES ('zwei')\nGO\nGO\n\nSELECT COUNT(*) AS N FROM T";
-    folder.write("script.sql", script);
+    folder.write("script.sql", "\xEF\xBB\xBF" + script);
     const auto fromFile = sql({"--file", folder / "script.sql"});
     EXPECT_EQ(fromFile->wait(), 0);
     EXPECT_EQ(lines(fromFile->output()).size(), 3u) << fromFile->output();

@@ -1,5 +1,6 @@
 #include "start/F_Start.h"
 
+#include "embedded/Database.h"
 #include "host/module_state.h"
 #include "start/TestFolder.h"
 #include "start/database_file.h"
@@ -157,7 +158,7 @@ TEST_F(StartPage, OpensAContractAsTheHostDoes) {
         EXPECT_EQ(listed(user), "");
         ASSERT_EQ(user.grid("grdNotifications").rows().size(), 1u);
         EXPECT_EQ(user.grid("grdNotifications").cell(0, 1), "1VVM");
-        EXPECT_EQ(user.grid("grdNotifications").cell(0, 2), "R");
+        EXPECT_EQ(user.grid("grdNotifications").cell(0, 2), "R – Verkauf");
 
         user.type("txtSearch", "");
         user.select("cboClosed", all);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "embedded/Database.h"
+#include "support/SampleDatabase.h"
 #include "support/TestHost.h"
 
 #include <gtest/gtest.h>
@@ -9,22 +9,19 @@
 
 namespace tellurix::tests {
 
-/// A test of contract screens: a small real database with the sample trade in it, and a host.
+/// A test of the contract screens: a small real database with the sample trade in it, and a host.
 class ContractTest : public testing::Test {
-protected:
-    ContractTest();
-
-    /// The first field of a query's first row, as the statement texts of the tests write it.
-    std::string value(const std::string& query);
-    /// The first row, its fields separated by " | "; "no row" when there is none.
-    std::string row(const std::string& query);
-
 private:
-    embedded::Database database_;
-    std::unique_ptr<common::Connection> connection_;
+    SampleDatabase database_;
+    std::unique_ptr<common::Connection> connection_ = database_.connect();
 
 protected:
-    TestHost host;
+    /// The first row of a query, its fields separated by " | ", past the module's statements.
+    std::string row(const std::string& query) { return firstRow(*connection_, query); }
+    /// The same for a query of one field.
+    std::string value(const std::string& query) { return row(query); }
+
+    TestHost host{*connection_};
 };
 
 } // namespace tellurix::tests

@@ -27,7 +27,7 @@ TestHost::TestHost(common::Connection& inner)
     : database(inner),
       services{.display = display,
                .errors = display,
-               .clock = *this,
+               .clock = testClock(),
                .locale = common::Locale::german(),
                .dataAccess = *this,
                .moduleService = *this,
@@ -147,11 +147,6 @@ std::string TestHost::translate(const host::TlxVar&, const std::string&, const s
         start = end + 1;
     }
     return " FROM LOGS" + conditions;
-}
-
-common::DateTime TestHost::now() const {
-    using namespace std::chrono_literals;
-    return common::startOf(common::Date{2026y / 3 / 9}) + 8h;
 }
 
 } // namespace tellurix::tests

@@ -3,6 +3,7 @@
 #include "host/clsVertrag.h"
 #include "host/services.h"
 #include "support/ScriptedDisplay.h"
+#include "support/TestClock.h"
 #include "tracing/TracingConnection.h"
 
 #include <functional>
@@ -49,8 +50,7 @@ class TestHost final : host::HostDataAccess,
                        host::LookupGridDialog,
                        host::TypeAhead,
                        host::SelectionTranslator,
-                       host::HostMainWindow,
-                       common::Clock {
+                       host::HostMainWindow {
 public:
     explicit TestHost(common::Connection& database);
     ~TestHost() override;
@@ -112,7 +112,6 @@ private:
                           const std::string& value, const std::string& upperType,
                           const std::string& formValue) override;
     bool IsArtikel() override { return articles; }
-    common::DateTime now() const override;
 
     tracing::TracingConnection traced_;
     host::clsVertrag module_;

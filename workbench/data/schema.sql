@@ -216,7 +216,8 @@ GO
 -- Delivered timber
 
 -- Delivered logs (or lots): attributes, volume, direct measures and conversion factors. DSART says
--- how it was measured: 1 solid volume, 2 stacked measure, 3 pieces, 4 absolutely dry weight.
+-- how it was measured: 1 solid volume, 2 stacked measure, 3 pieces, 4 absolutely dry weight. The measures
+-- are no wider than one log or lot needs, which leaves their quotients more decimals.
 CREATE TABLE LOGS (
     ID_LOG int IDENTITY(1,1) NOT NULL PRIMARY KEY,
     NUMMER int NULL,
@@ -228,10 +229,10 @@ CREATE TABLE LOGS (
     LANGE decimal(6,2) NULL,
     MENGE decimal(14,3) NULL,
     DSART smallint NULL,
-    KUBATUR decimal(14,3) NULL,
-    KUBRM decimal(14,3) NULL,
-    KUBATRO decimal(14,3) NULL,
-    STK decimal(12,2) NULL,
+    KUBATUR decimal(9,3) NULL,
+    KUBRM decimal(9,3) NULL,
+    KUBATRO decimal(9,3) NULL,
+    STK decimal(9,2) NULL,
     UFAKT_RM decimal(9,4) NULL,
     UFAKT_ATO decimal(9,4) NULL,
     UFAKT_STK decimal(9,4) NULL,

@@ -49,8 +49,9 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session,
                              {.caption = "Status", .width = 13},
                              {.caption = "Preise", .width = 7, .rightAligned = true},
                              {.caption = "Mengen", .width = 8, .rightAligned = true}});
-    grdNotifications.setColumns(
-        {{.caption = "Zeit", .width = 9}, {.caption = "Code", .width = 9}, {.caption = "Art", .width = 5}});
+    grdNotifications.setColumns({{.caption = "Zeit", .width = 9},
+                                 {.caption = "Code", .width = 9},
+                                 {.caption = "Vertragsart", .width = 18}});
     cboLanguage.add("Deutsch");
     cboLanguage.add("English");
     // A search text longer than any name only makes a long statement.
@@ -97,8 +98,9 @@ void F_Start::arrange() {
     setLayout(column({
         row({field(lblSearch, txtSearch), field(lblType, cboType), field(lblClosed, cboClosed),
              field(lblFrom, txtFrom), field(lblTo, txtTo), field(lblLanguage, cboLanguage)}),
-        row({ui::Layout{grdContracts}.growing(), ui::frame(frmNotifications, {grdNotifications})}).growing(),
+        ui::Layout{grdContracts}.growing(),
         row({btnOpen, btnNew, lblCount}),
+        ui::frame(frmNotifications, {grdNotifications}),
     }));
 }
 
@@ -134,6 +136,7 @@ void F_Start::changeLanguage() {
     services_.localizer().localize(session_, *this);
     showContracts();
     showCount();
+    showNotifications();
     if (languageChanged_) languageChanged_(session_.language);
 }
 
@@ -192,7 +195,8 @@ void F_Start::showNotifications() {
     std::vector<ui::Grid::Row> rows;
     for (const Notification& notification : services_.moduleService().notifications()) {
         rows.push_back({common::formatDate(notification.time, "hh:mm:ss", services_.host().locale),
-                        notification.code, notification.type});
+                        notification.code,
+                        contractTypeText(notification.type, services_.localizer(), session_)});
     }
     // The newest on top, where it is seen.
     std::ranges::reverse(rows);

@@ -19,7 +19,7 @@ namespace tellurix::workbench {
 
 /// The workbench's main window: the contracts, found by name, customer, type, delivery period and
 /// state, and the way into the contract module, which is called exactly as the host calls it. What
-/// the module told the host in return is listed beside them.
+/// the module told the host in return is listed below them.
 ///
 /// It is the root window of its session and cannot be closed by the user; it goes with the session.
 class F_Start final : public ui::Form {
@@ -67,25 +67,25 @@ private:
     ContractList list_; ///< its contracts stand beside the rows of the table
 
     ui::Label lblSearch{*this, "lblSearch", "&Suche"};
-    ui::TextBox txtSearch{*this, "txtSearch", 28};
+    ui::TextBox txtSearch{*this, "txtSearch", 20};
     ui::Label lblType{*this, "lblType", "Vertrags&art"};
-    ui::ComboBox cboType{*this, "cboType", 20};
+    ui::ComboBox cboType{*this, "cboType", 15};
     ui::Label lblClosed{*this, "lblClosed", "S&tatus"};
-    ui::ComboBox cboClosed{*this, "cboClosed", 14};
+    ui::ComboBox cboClosed{*this, "cboClosed", 12};
     ui::Label lblFrom{*this, "lblFrom", "Lieferung &von"};
     ui::TextBox txtFrom{*this, "txtFrom", 11};
     ui::Label lblTo{*this, "lblTo", "&bis"};
     ui::TextBox txtTo{*this, "txtTo", 11};
     ui::Label lblLanguage{*this, "lblLanguage", "S&prache"};
-    ui::ComboBox cboLanguage{*this, "cboLanguage", 10};
+    ui::ComboBox cboLanguage{*this, "cboLanguage", 8};
 
-    ui::Grid grdContracts{*this, "grdContracts", 20};
+    ui::Grid grdContracts{*this, "grdContracts", 15};
     ui::Label lblCount{*this, "lblCount"};
     ui::Button btnOpen{*this, "btnOpen", "Ö&ffnen"};
     ui::Button btnNew{*this, "btnNew", "&Neu"};
 
     ui::Frame frmNotifications{*this, "frmNotifications", "Meldungen an den Host"};
-    ui::Grid grdNotifications{*this, "grdNotifications", 20};
+    ui::Grid grdNotifications{*this, "grdNotifications", 4};
 };
 
 } // namespace tellurix::workbench

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "embedded/Database.h"
+
+#include <chrono>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tellurix::embedded {
+
+/// It is always 5 June 2025, half past two.
+class StandingClock final : public common::Clock {
+public:
+    common::DateTime now() const override {
+        return common::startOf(std::chrono::year{2025} / 6 / 5) + std::chrono::hours{14} +
+               std::chrono::minutes{30};
+    }
+};
+
+/// A test with a database file of its own.
+class EmbeddedTest : public testing::Test {
+protected:
+    EmbeddedTest();
+    ~EmbeddedTest() override;
+
+    std::unique_ptr<common::Connection> connect() const { return database().connect(); }
+    Database database() const {
+        return Database(file_, clock_, {.create = true, .patience = std::chrono::milliseconds{300}});
+    }
+    const std::filesystem::path& file() const { return file_; }
+
+private:
+    StandingClock clock_;
+    std::filesystem::path folder_;
+    std::filesystem::path file_;
+};
+
+/// A field as the statement files write it (see README.md).
+std::string written(const common::Value& value);
+/// The current row's fields, separated by " | ".
+std::string writtenRow(common::Recordset& rows);
+/// All rows, each on a line; "no rows" when there are none.
+std::string answer(common::Connection& connection, std::string_view query);
+
+/// The category and message of the error that `work` ends in; "none" when it ends well.
+std::string nameOf(common::DatabaseErrorCategory category);
+template <typename Work>
+std::string failureOf(const Work& work) {
+    try {
+        work();
+        return "none";
+    } catch (const common::DatabaseError& error) {
+        return nameOf(error.category()) + ": " + error.what();
+    }
+}
+
+} // namespace tellurix::embedded

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "embedded/Database.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace tellurix::tests {
+
+/// A small real database in a file of its own, with the sample trade in it; the file goes away
+/// with the object. The clock of `GETDATE()` stands at 9 March 2026, 8:00.
+class SampleDatabase {
+public:
+    SampleDatabase();
+    ~SampleDatabase();
+    SampleDatabase(const SampleDatabase&) = delete;
+    SampleDatabase& operator=(const SampleDatabase&) = delete;
+
+    const std::filesystem::path& file() const { return file_; }
+    std::unique_ptr<common::Connection> connect() const { return database_->connect(); }
+
+private:
+    std::filesystem::path file_;
+    std::unique_ptr<embedded::Database> database_;
+};
+
+/// A field as the texts of the tests write it: NULL, true, 12.50, 2025-06-05, or the text itself.
+std::string written(const common::Value& field);
+/// The first row of a query, its fields separated by " | "; "no row" when there is none.
+std::string firstRow(common::Connection& connection, const std::string& query);
+
+} // namespace tellurix::tests

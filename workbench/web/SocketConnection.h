@@ -1,0 +1,73 @@
+#pragma once
+
+#include "web/Session.h"
+#include "web/Sessions.h"
+
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <boost/beast/core/flat_buffer.hpp>
+#include <boost/beast/core/tcp_stream.hpp>
+#include <boost/beast/http/message.hpp>
+#include <boost/beast/http/string_body.hpp>
+#include <boost/beast/websocket/stream.hpp>
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace tellurix::workbench {
+
+/// The page's connection: hands what the page says to its session, and sends what the session
+/// draws. Lives as long as one of its operations is under way, or its session holds it.
+///
+/// `send` and `close` are for any thread; everything else happens on the network's thread.
+class SocketConnection final : public PageLink, public std::enable_shared_from_this<SocketConnection> {
+public:
+    using Request = boost::beast::http::request<boost::beast::http::string_body>;
+    struct Limits {
+        std::size_t messageBytes;
+        std::chrono::milliseconds patience; ///< for the greeting
+    };
+
+    /// @param place held as long as the connection lives, so that the living ones can be counted
+    SocketConnection(boost::beast::tcp_stream stream, Sessions& sessions, Limits limits,
+                     std::shared_ptr<void> place);
+
+    /// Accepts the upgrade that has been asked for.
+    void start(const Request& request);
+
+    void send(std::string message) override;
+    void close() override;
+
+private:
+    using Code = boost::beast::error_code;
+    using CloseCode = boost::beast::websocket::close_code;
+
+    /// The boundary for everything that happens here: no exception leaves a socket's handler.
+    void guarded(const std::function<void()>& action);
+    void read();
+    void received();
+    void greet(const Hello& hello);
+    void enqueue(std::string message);
+    void write();
+    void closeWith(CloseCode code);
+    /// Ends without the other side's help.
+    void drop();
+
+    boost::beast::websocket::stream<boost::beast::tcp_stream> stream_;
+    boost::asio::steady_timer greetingTimer_;
+    boost::beast::flat_buffer buffer_;
+    Sessions& sessions_;
+    const Limits limits_;
+    std::shared_ptr<void> place_;
+    std::shared_ptr<Session> session_;
+    std::deque<std::string> outgoing_;
+    std::size_t outgoingBytes_ = 0;
+    bool writing_ = false;
+    bool closing_ = false;
+    CloseCode closeCode_ = CloseCode::normal;
+};
+
+} // namespace tellurix::workbench

@@ -1,0 +1,155 @@
+// The line to the session. Every message has a number, and counts as awaited until the session
+// acknowledges that it has dealt with it. After an interruption the page connects again, repeats
+// what did not arrive, and asks for a complete drawing.
+
+const sessionKey = 'tellurix-session';
+// Set when the page is left, so that it can claim its session when it is loaded again. A duplicated
+// tab has a copy of the session's id but not of this, and gets a session of its own.
+const leftKey = 'tellurix-left';
+
+const retryDelays = [100, 250, 500, 1000, 2000];
+const slowAfter = 250;
+const noticeAfter = 400;
+const giveUpAfter = 150_000;
+
+export class Connection {
+  onDrawing = () => {};
+  onIdle = () => {};
+
+  #notices;
+  #socket = null;
+  #session = sessionStorage.getItem(sessionKey) ?? '';
+  #returning = sessionStorage.getItem(leftKey) !== null;
+  #known = false; // this page has had its session before
+  #drawn = false; // the complete drawing has come, and so has nothing been missed
+  #ended = false;
+  #lastNumber = 0;
+  #awaited = [];
+  #slowTimer = 0;
+  #lostAt = 0;
+  #noticeTimer = 0;
+  #attempt = 0;
+
+  constructor(notices) {
+    this.#notices = notices;
+    sessionStorage.removeItem(leftKey);
+    addEventListener('pagehide', () => sessionStorage.setItem(leftKey, '1'));
+    // A page that comes back from the browser's memory has not been loaded again.
+    addEventListener('pageshow', () => sessionStorage.removeItem(leftKey));
+  }
+
+  /** Nothing that the user did is still on its way. */
+  get idle() {
+    return this.#drawn && this.#awaited.length === 0;
+  }
+
+  start() {
+    const address = new URL('session', import.meta.url);
+    address.protocol = 'ws:';
+    const socket = new WebSocket(address);
+    this.#socket = socket;
+    socket.onopen = () => {
+      socket.send(JSON.stringify({
+        type: 'hello',
+        session: this.#session,
+        takeOver: this.#known || this.#returning,
+        orNew: !this.#known,
+      }));
+    };
+    socket.onmessage = (event) => {
+      if (socket === this.#socket) this.#receive(JSON.parse(event.data));
+    };
+    socket.onclose = () => {
+      if (socket === this.#socket) this.#lost();
+    };
+  }
+
+  /** Sends one event; it waits here if the line is interrupted. */
+  say(event) {
+    const message = { n: ++this.#lastNumber, ...event };
+    this.#awaited.push(message);
+    if (this.#drawn) this.#transmit(message);
+    clearTimeout(this.#slowTimer);
+    this.#slowTimer = setTimeout(() => document.body.classList.add('waiting'), slowAfter);
+  }
+
+  #transmit(message) {
+    // Half of a character that takes two code units cannot be told; it becomes a mark for one.
+    const text = JSON.stringify(message, (_, value) =>
+      typeof value === 'string' && value.toWellFormed ? value.toWellFormed() : value);
+    if (this.#socket?.readyState === WebSocket.OPEN) this.#socket.send(text);
+  }
+
+  #receive(message) {
+    if (message.ended) {
+      this.#end(message.ended);
+    } else if (message.session) {
+      this.#greeted(message);
+    } else if (message.complete || this.#drawn) {
+      this.#draw(message);
+    }
+  }
+
+  #greeted({ session, received }) {
+    if (!this.#known) {
+      if (this.#returning && session !== this.#session) this.#notices.tell('expired');
+      this.#session = session;
+      this.#known = true;
+      sessionStorage.setItem(sessionKey, session);
+      this.#lastNumber = Math.max(this.#lastNumber, received);
+    }
+    this.#awaited = this.#awaited.filter((message) => message.n > received && message.type !== 'redraw');
+    for (const message of this.#awaited) this.#transmit(message);
+    const redraw = { n: ++this.#lastNumber, type: 'redraw' };
+    this.#awaited.push(redraw);
+    this.#transmit(redraw);
+  }
+
+  #draw(message) {
+    if (message.complete) {
+      this.#drawn = true;
+      this.#found();
+    }
+    if (message.ack !== undefined) {
+      this.#awaited = this.#awaited.filter((awaited) => awaited.n > message.ack);
+      if (this.#awaited.length === 0) {
+        clearTimeout(this.#slowTimer);
+        document.body.classList.remove('waiting');
+      }
+    }
+    this.onDrawing(message);
+    if (this.idle) this.onIdle();
+  }
+
+  #lost() {
+    this.#drawn = false;
+    if (this.#ended) return;
+    if (this.#lostAt === 0) {
+      this.#lostAt = Date.now();
+      this.#noticeTimer = setTimeout(() => this.#notices.interrupted(true), noticeAfter);
+    }
+    if (Date.now() - this.#lostAt > giveUpAfter) {
+      this.#end('unreachable');
+      return;
+    }
+    const delay = retryDelays[Math.min(this.#attempt++, retryDelays.length - 1)];
+    setTimeout(() => this.start(), delay);
+  }
+
+  #found() {
+    clearTimeout(this.#noticeTimer);
+    this.#lostAt = 0;
+    this.#attempt = 0;
+    this.#notices.interrupted(false);
+  }
+
+  #end(reason) {
+    this.#ended = true;
+    this.#found();
+    clearTimeout(this.#slowTimer);
+    document.body.classList.remove('waiting');
+    // Whoever is asked to wait, or was sent away, keeps nothing to come back to.
+    if (reason !== 'unreachable') sessionStorage.removeItem(sessionKey);
+    this.#notices.ended(reason);
+  }
+}

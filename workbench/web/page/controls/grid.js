@@ -1,0 +1,145 @@
+// A table with a current cell. Rows are reused where they can be, so that a changed cell in a long
+// table costs no more than a short one.
+import { newElementId, View } from './view.js';
+
+export class Grid extends View {
+  #head = document.createElement('div');
+  #body = document.createElement('div');
+  #current = null; // the drawn current cell
+  #scrolledTo = 0;
+
+  constructor(window, state) {
+    const element = document.createElement('div');
+    super(window, state, element, element);
+    element.classList.add('grid', 'scrolls');
+    element.tabIndex = 0;
+    element.setAttribute('role', 'grid');
+    this.#head.className = 'grid-head';
+    this.#head.setAttribute('role', 'row');
+    this.#body.className = 'grid-body';
+    this.#body.setAttribute('role', 'rowgroup');
+    element.append(this.#head, this.#body);
+    element.addEventListener('mousedown', (event) => this.#pressed(event));
+    element.addEventListener('dblclick', (event) => {
+      if (this.usable && event.target.closest('[role=gridcell]')) this.perform({ type: 'doubleClick' });
+    });
+    element.addEventListener('scroll', () => this.#scrolled());
+  }
+
+  draw(changes, before) {
+    if (changes.columns) this.#drawColumns();
+    if (changes.content) this.#drawRows(before.content ?? [], before.columns);
+    this.element.style.setProperty('--rows', this.state.visibleRows);
+    this.#drawCurrent();
+  }
+
+  shown() {
+    this.#reveal();
+  }
+
+  #drawColumns() {
+    const visible = this.state.columns.filter((column) => column.visible);
+    const widths = visible.map((column) => `minmax(${column.width + 2}ch, ${column.width + 2}fr)`);
+    this.element.style.setProperty('--columns', widths.join(' ') || '1fr');
+    this.#head.replaceChildren(...visible.map((column) => {
+      const cell = document.createElement('div');
+      cell.setAttribute('role', 'columnheader');
+      cell.classList.toggle('right', column.right);
+      cell.textContent = column.caption;
+      cell.title = column.caption;
+      return cell;
+    }));
+    this.element.setAttribute('aria-colcount', visible.length);
+  }
+
+  #drawRows(before, columnsBefore) {
+    const { content, columns } = this.state;
+    this.element.setAttribute('aria-rowcount', content.length + 1);
+    const sameColumns = JSON.stringify(columns) === JSON.stringify(columnsBefore);
+    if (!sameColumns) this.#body.replaceChildren();
+    while (this.#body.children.length > content.length) this.#body.lastChild.remove();
+    const added = document.createDocumentFragment();
+    content.forEach((row, index) => {
+      const drawn = this.#body.children[index];
+      if (drawn) this.#fill(drawn, row, before[index]);
+      else added.append(this.#row(row, index));
+    });
+    this.#body.append(added);
+    // Screen readers are told about the header row as the first.
+    this.#head.setAttribute('aria-rowindex', 1);
+  }
+
+  #row(texts, index) {
+    const row = document.createElement('div');
+    row.className = 'grid-row';
+    row.setAttribute('role', 'row');
+    row.setAttribute('aria-rowindex', index + 2);
+    this.state.columns.forEach((column, at) => {
+      if (!column.visible) return;
+      const cell = document.createElement('div');
+      cell.setAttribute('role', 'gridcell');
+      cell.dataset.column = at;
+      if (column.right) cell.className = 'right';
+      row.append(cell);
+    });
+    this.#fill(row, texts, undefined);
+    return row;
+  }
+
+  #fill(row, texts, before) {
+    for (const cell of row.children) {
+      const shown = texts[cell.dataset.column] ?? '';
+      if (before && before[cell.dataset.column] === shown) continue;
+      cell.textContent = shown;
+      cell.title = shown;
+    }
+  }
+
+  #drawCurrent() {
+    const [rowIndex, columnIndex] = this.state.current;
+    const row = this.#body.children[rowIndex];
+    const cell = row?.querySelector(`[data-column="${columnIndex}"]`) ?? row?.firstChild ?? null;
+    if (cell === this.#current && row?.classList.contains('current') !== false) return;
+    const rowBefore = this.#current?.parentElement;
+    rowBefore?.classList.remove('current');
+    rowBefore?.removeAttribute('aria-selected');
+    this.#current?.classList.remove('current');
+    this.#current = cell;
+    if (!cell) {
+      this.element.removeAttribute('aria-activedescendant');
+      return;
+    }
+    row.classList.add('current');
+    row.setAttribute('aria-selected', 'true');
+    cell.classList.add('current');
+    cell.id ||= newElementId();
+    this.element.setAttribute('aria-activedescendant', cell.id);
+    this.#reveal();
+  }
+
+  /** Scrolls as far as needed; the header covers the first row's place. */
+  #reveal() {
+    const row = this.#current?.parentElement;
+    if (!row) return;
+    const top = row.offsetTop - this.#head.offsetHeight;
+    const bottom = row.offsetTop + row.offsetHeight - this.element.clientHeight;
+    if (this.element.scrollTop > top) this.element.scrollTop = top;
+    else if (this.element.scrollTop < bottom) this.element.scrollTop = bottom;
+    this.#scrolledTo = this.element.scrollTop;
+  }
+
+  #pressed(event) {
+    const cell = event.target.closest('[role=gridcell]');
+    if (!cell) return;
+    event.preventDefault();
+    if (!this.usable) return;
+    const index = [...this.#body.children].indexOf(cell.parentElement);
+    this.perform({ type: 'select', index, column: Number(cell.dataset.column) });
+  }
+
+  #scrolled() {
+    if (!this.state.scrolls || this.element.scrollTop === this.#scrolledTo) return;
+    this.#scrolledTo = this.element.scrollTop;
+    this.perform({ type: 'scroll' });
+  }
+}

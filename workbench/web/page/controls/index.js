@@ -1,0 +1,30 @@
+// One drawer a control kind.
+import { Button } from './button.js';
+import { CheckBox } from './check_box.js';
+import { ComboBox, ListBox } from './lists.js';
+import { Grid } from './grid.js';
+import { Frame, Label, ProgressBar } from './passive.js';
+import { Tabs } from './tabs.js';
+import { TextBox } from './text_box.js';
+import { UpDown } from './up_down.js';
+
+const views = {
+  label: Label,
+  text: TextBox,
+  button: Button,
+  check: CheckBox,
+  combo: ComboBox,
+  list: ListBox,
+  grid: Grid,
+  frame: Frame,
+  tabs: Tabs,
+  upDown: UpDown,
+  progress: ProgressBar,
+};
+
+/** Draws a control, without a place yet. */
+export function createView(window, state) {
+  const view = new views[state.kind](window, state);
+  view.update(state);
+  return view;
+}

@@ -1,0 +1,156 @@
+// A box to type into. The browser edits it, unless a filter has to see every character; either way
+// the session knows each text before anything that depends on it.
+import { text as ownText } from '../texts.js';
+import { characterOffset, insertion, keyEffect, lineEnds, unitOffset } from '../typing.js';
+import { View } from './view.js';
+
+export class TextBox extends View {
+  #pick = null;
+  #known = { start: 0, length: 0 }; // the selection as the session knows it
+  #toShow = null; // a selection of the session that has not been shown yet
+  #beforeComposing = null;
+
+  constructor(window, state) {
+    const input = document.createElement(state.lines > 1 ? 'textarea' : 'input');
+    const element = document.createElement('span');
+    super(window, state, element, input);
+    element.classList.add('text-box');
+    element.append(input);
+    if (state.lines <= 1) input.type = 'text';
+    input.autocomplete = 'off';
+    input.spellcheck = false;
+    input.setAttribute('autocapitalize', 'off');
+    input.addEventListener('mousedown', (event) => {
+      if (this.hasFocus && !this.desktop.busy) return;
+      event.preventDefault();
+      if (this.usable) this.perform({ type: 'focus' });
+    });
+    input.addEventListener('input', (event) => {
+      if (!event.isComposing) this.#edited();
+    });
+    input.addEventListener('compositionstart', () => this.#composing());
+    input.addEventListener('compositionend', (event) => this.#composed(event.data));
+  }
+
+  draw(changes) {
+    const input = this.focusElement;
+    const { locked, width, lines, maxLength, right, picks } = this.state;
+    const shown = lineEnds(this.state.text, this.#severalLines);
+    if (input.value !== shown) input.value = shown;
+    input.readOnly = locked;
+    if (maxLength > 0) input.maxLength = maxLength;
+    else input.removeAttribute('maxlength');
+    input.classList.toggle('right', right);
+    this.element.style.setProperty('--width', width);
+    if (lines > 1) input.rows = lines;
+    this.#drawPick(picks);
+    if (changes.selection) {
+      const [start, length] = changes.selection;
+      this.#toShow = { start, length };
+    }
+  }
+
+  /** Shows the selection that the session set, once the box has the focus. */
+  showSelection() {
+    if (!this.#toShow) return;
+    const { start, length } = this.#toShow;
+    this.#toShow = null;
+    this.#known = { start, length };
+    const input = this.focusElement;
+    const from = unitOffset(this.state.text, start, this.#severalLines);
+    input.setSelectionRange(from, unitOffset(this.state.text, start + length, this.#severalLines));
+  }
+
+  /** The selection, if the session does not know it yet. */
+  newSelection() {
+    const now = this.#selection();
+    if (now.start === this.#known.start && now.length === this.#known.length) return null;
+    this.#known = now;
+    return now;
+  }
+
+  /** Does what a key that waited would have done in the box. */
+  typeKey(key) {
+    if (key.text) {
+      this.type(key.text);
+      return;
+    }
+    const input = this.focusElement;
+    const effect = keyEffect(key, input.value, input.selectionStart, input.selectionEnd, input.selectionDirection);
+    if (effect?.select) input.setSelectionRange(...effect.select);
+    if (effect?.remove && !this.state.locked) {
+      input.setRangeText('', ...effect.remove, 'end');
+      this.#say();
+    }
+  }
+
+  /** Types text that waited. */
+  type(text) {
+    const input = this.focusElement;
+    if (this.state.locked) return;
+    const fits = insertion(text, input, this.state);
+    if (fits === '') return;
+    input.setRangeText(fits, input.selectionStart, input.selectionEnd, 'end');
+    this.#say();
+  }
+
+  #selection() {
+    const { selectionStart, selectionEnd } = this.focusElement;
+    const start = characterOffset(this.state.text, selectionStart, this.#severalLines);
+    return { start, length: characterOffset(this.state.text, selectionEnd, this.#severalLines) - start };
+  }
+
+  get #severalLines() {
+    return this.state.lines > 1;
+  }
+
+  #edited() {
+    // Only what cannot be prevented comes while the session is busy.
+    if (this.desktop.busy) this.desktop.later(() => this.#say());
+    else this.#say();
+  }
+
+  #say() {
+    const text = this.focusElement.value;
+    if (text === lineEnds(this.state.text, this.#severalLines)) return;
+    this.state.text = text;
+    this.#known = this.#selection();
+    this.desktop.sayTo(this.window, { type: 'text', control: this.state.id, text, ...this.#known });
+  }
+
+  #composing() {
+    const { value, selectionStart, selectionEnd } = this.focusElement;
+    const taken = this.desktop.busy || this.state.filtered;
+    this.#beforeComposing = taken ? { value, selectionStart, selectionEnd } : null;
+  }
+
+  #composed(text) {
+    const before = this.#beforeComposing;
+    this.#beforeComposing = null;
+    if (!before) {
+      this.#edited();
+      return;
+    }
+    const input = this.focusElement;
+    input.value = before.value;
+    input.setSelectionRange(before.selectionStart, before.selectionEnd);
+    this.desktop.later(() => this.desktop.insert(text));
+  }
+
+  #drawPick(picks) {
+    this.#pick?.remove();
+    this.#pick = null;
+    if (!picks) return;
+    const button = document.createElement('button');
+    button.type = 'button';
+    button.className = 'pick';
+    button.tabIndex = -1;
+    button.textContent = '…';
+    button.title = ownText('pick');
+    button.setAttribute('aria-label', ownText('pick'));
+    button.disabled = !this.state.enabled || this.state.locked;
+    button.addEventListener('click', () => this.perform({ type: 'pick' }));
+    this.element.append(button);
+    this.#pick = button;
+  }
+}

@@ -1,0 +1,63 @@
+// What all drawn controls have in common.
+
+let lastElementId = 0;
+
+export function newElementId() {
+  return `e${++lastElementId}`;
+}
+
+export class View {
+  /**
+   * @param element stands in the layout
+   * @param focusElement gets the browser's focus, or null
+   */
+  constructor(window, state, element, focusElement) {
+    this.window = window;
+    this.state = {};
+    this.element = element;
+    this.focusElement = focusElement;
+    element.classList.add('control');
+    const named = focusElement ?? element;
+    named.dataset.control = state.name;
+    element.dataset.id = state.id;
+    named.id ||= newElementId();
+  }
+
+  get desktop() {
+    return this.window.desktop;
+  }
+
+  /** Takes over what the session says about it; left out is what has not changed. */
+  update(changes) {
+    const before = this.state;
+    this.state = { ...before, ...changes };
+    this.element.hidden = !this.state.visible;
+    const target = this.focusElement ?? this.element;
+    if (this.state.tip) target.title = this.state.tip;
+    else target.removeAttribute('title');
+    if ('disabled' in target) target.disabled = !this.state.enabled;
+    else if (this.focusElement) target.setAttribute('aria-disabled', !this.state.enabled);
+    this.draw(changes, before);
+  }
+
+  draw() {}
+
+  labelledBy(label) {
+    this.focusElement?.setAttribute('aria-labelledby', label.element.id);
+    label.names(this);
+  }
+
+  /** Whether it can be used, the frames around it considered. */
+  get usable() {
+    return this.state.enabled && !this.element.closest('fieldset[disabled]');
+  }
+
+  /** Tells the session what the user did with it, in its turn. */
+  perform(event) {
+    this.desktop.perform(this.window, { control: this.state.id, ...event });
+  }
+
+  get hasFocus() {
+    return this.desktop.focused === this;
+  }
+}

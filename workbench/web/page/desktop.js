@@ -1,0 +1,183 @@
+// The windows that are open, drawn as the session says. The topmost one can be used; the session
+// says which of its controls has the focus.
+import { buildLayout } from './layout.js';
+import { createView } from './controls/index.js';
+import { text } from './texts.js';
+
+export class Desktop {
+  /** The control that gets what is typed, or null. */
+  focused = null;
+
+  #root;
+  #input;
+  #windows = []; // the topmost last
+  #placing = false;
+
+  constructor(root, input) {
+    this.#root = root;
+    this.#input = input;
+    root.addEventListener('focusin', (event) => this.#focusMoved(event));
+    // Clicks beside the controls must not take the focus away.
+    root.addEventListener('mousedown', (event) => {
+      if (!event.target.closest('input, textarea, select, .scrolls')) event.preventDefault();
+    });
+    for (const type of ['dragover', 'drop', 'submit']) {
+      root.addEventListener(type, (event) => event.preventDefault());
+    }
+  }
+
+  apply(drawing) {
+    if (drawing.complete) this.#close(() => true);
+    if (drawing.closed) this.#close((window) => drawing.closed.includes(window.id));
+    for (const opened of drawing.opened ?? []) this.#open(opened);
+    for (const changed of drawing.changed ?? []) this.#change(changed);
+    if (drawing.busy !== undefined) {
+      document.body.classList.toggle('busy', drawing.busy);
+      this.#root.setAttribute('aria-busy', drawing.busy);
+    }
+    const top = this.#windows.at(-1);
+    for (const window of this.#windows) {
+      window.element.inert = window !== top;
+      window.element.classList.toggle('behind', window !== top);
+    }
+    document.title = top?.element.getAttribute('aria-label') ?? '';
+    this.focused = drawing.focus ? top?.views.get(drawing.focus.control) ?? null : null;
+  }
+
+  /** Puts the browser's focus where the session says it is. */
+  placeFocus() {
+    const top = this.#windows.at(-1);
+    if (!top) return;
+    this.#placing = true;
+    const element = this.focused?.focusElement ?? top.element;
+    if (document.activeElement !== element) element.focus({ preventScroll: false });
+    this.focused?.showSelection?.();
+    this.#placing = false;
+  }
+
+  viewOf(element) {
+    const id = element?.closest?.('[data-id]')?.dataset.id;
+    return id === undefined ? undefined : this.#windows.at(-1)?.views.get(Number(id));
+  }
+
+  /** Tells the session something about the topmost window. */
+  say(event) {
+    const top = this.#windows.at(-1);
+    if (top) this.#input.say({ window: top.id, ...event });
+  }
+
+  /** What the user did with the pointer to a control of a window, in its turn. */
+  perform(window, event) {
+    this.later(() => this.sayTo(window, event));
+  }
+
+  sayTo(window, event) {
+    this.#input.say({ window: window.id, ...event });
+  }
+
+  /** Does something in its turn. */
+  later(action) {
+    this.#input.perform(action);
+  }
+
+  /** Text that does not come from a key: pasted, dictated, composed, or from a screen keyboard. */
+  insert(inserted) {
+    const view = this.focused;
+    if (view?.state.kind !== 'text' || view.state.locked) return;
+    if (!view.state.filtered) {
+      view.type(inserted);
+      return;
+    }
+    this.#saySelection();
+    this.say({ type: 'paste', control: view.state.id, text: inserted });
+  }
+
+  sayKey(key) {
+    if (!key.code) return;
+    this.#saySelection();
+    this.say({ type: 'key', key: key.code, shift: Boolean(key.shift), ctrl: Boolean(key.ctrl), alt: Boolean(key.alt) });
+  }
+
+  sayCharacter(key) {
+    this.#saySelection();
+    if (this.focused.state.keys) this.sayKey(key);
+    this.say({ type: 'character', character: key.text });
+  }
+
+  get busy() {
+    return this.#input.busy;
+  }
+
+  /** Keys that change a box depend on where its caret is. */
+  #saySelection() {
+    const selection = this.focused?.newSelection?.();
+    if (selection) this.say({ type: 'selection', control: this.focused.state.id, ...selection });
+  }
+
+  /** The browser moved the focus by itself: by touch, a screen reader, or the opening of a list. */
+  #focusMoved(event) {
+    if (this.#placing) return;
+    const view = this.viewOf(event.target);
+    if (!view || view === this.focused || view.focusElement !== event.target) return;
+    this.perform(view.window, { type: 'focus', control: view.state.id });
+  }
+
+  #open({ id, form, title, layout, controls }) {
+    const element = document.createElement('section');
+    element.className = 'window';
+    element.tabIndex = -1;
+    element.dataset.form = form;
+    const window = { id, element, views: new Map(), desktop: this };
+    if (this.#windows.length > 0) {
+      element.setAttribute('role', 'dialog');
+      element.setAttribute('aria-modal', 'true');
+    } else {
+      element.setAttribute('role', 'region');
+      element.classList.add('root');
+    }
+    for (const state of controls) window.views.set(state.id, createView(window, state));
+    const content = document.createElement('div');
+    content.className = 'content scrolls';
+    content.append(buildLayout(layout, window.views));
+    element.append(this.#titleBar(window), content);
+    this.#title(window, title);
+    this.#windows.push(window);
+    this.#root.append(element);
+    for (const view of window.views.values()) view.shown?.();
+  }
+
+  #titleBar(window) {
+    const bar = document.createElement('header');
+    const heading = document.createElement('h1');
+    bar.append(heading);
+    if (this.#windows.length > 0) {
+      const close = document.createElement('button');
+      close.className = 'close';
+      close.tabIndex = -1;
+      close.textContent = '×';
+      close.title = text('close');
+      close.setAttribute('aria-label', text('close'));
+      close.addEventListener('click', () => this.perform(window, { type: 'close' }));
+      bar.append(close);
+    }
+    return bar;
+  }
+
+  #title(window, title) {
+    window.element.querySelector('h1').textContent = title;
+    window.element.setAttribute('aria-label', title);
+  }
+
+  #change({ id, title, controls }) {
+    const window = this.#windows.find((candidate) => candidate.id === id);
+    if (!window) return;
+    if (title !== undefined) this.#title(window, title);
+    for (const state of controls ?? []) window.views.get(state.id)?.update(state);
+  }
+
+  #close(matches) {
+    for (const window of this.#windows.filter(matches)) window.element.remove();
+    this.#windows = this.#windows.filter((window) => !matches(window));
+    this.focused = null;
+  }
+}

@@ -1,0 +1,142 @@
+// Listens to the keyboard and the clipboard, and does each thing in its turn.
+import { codeOf, decide, describe, isComposed, isFunctionKey, isOverheard, isShortcut } from './keys.js';
+
+const searchPause = 1000;
+
+export class Keyboard {
+  #desktop;
+  #box;
+  #input;
+  #notices;
+  #ctrlAlone = false;
+  #searched = '';
+  #searchedAt = 0;
+
+  constructor(desktop, box, input, notices) {
+    this.#desktop = desktop;
+    this.#box = box;
+    this.#input = input;
+    this.#notices = notices;
+    document.addEventListener('keydown', (event) => this.#down(event), true);
+    document.addEventListener('keyup', (event) => this.#up(event), true);
+    document.addEventListener('beforeinput', (event) => this.#beforeInput(event), true);
+    document.addEventListener('paste', (event) => this.#paste(event), true);
+    document.addEventListener('cut', (event) => {
+      if (this.#input.busy) event.preventDefault();
+    }, true);
+    // What Ctrl was pressed for was not the picker.
+    for (const type of ['pointerdown', 'wheel', 'blur']) {
+      addEventListener(type, () => { this.#ctrlAlone = false; }, { capture: true, passive: true });
+    }
+  }
+
+  #down(event) {
+    const key = describe(event);
+    if (this.#notices.blocking) {
+      const browsers = isShortcut(key) || isFunctionKey(key) || event.target.closest?.('#ended');
+      if (!browsers) event.preventDefault();
+      return;
+    }
+    if (this.#box.asks) {
+      if (this.#box.key(event)) event.preventDefault();
+      return;
+    }
+    if (key.name === 'Control') {
+      if (!key.repeat) this.#ctrlAlone = !key.alt && !key.shift && !key.meta;
+      return;
+    }
+    this.#ctrlAlone = false;
+    if (key.name === 'Shift' || isComposed(event)) return;
+    if (this.#input.busy) {
+      if (isShortcut(key) && key.name.toLowerCase() !== 'a') return;
+      if (isFunctionKey(key) && key.name !== 'F4') return;
+      event.preventDefault();
+      this.#input.perform(() => this.#replay(key));
+      return;
+    }
+    this.#desktop.placeFocus();
+    const view = this.#desktop.focused;
+    const who = decide(view, key);
+    if (who === 'browser') {
+      if (isOverheard(view, key)) this.#desktop.sayKey(key);
+      // The browser would scroll the page or leave it.
+      if (view?.state.kind !== 'text' && (key.code === 8 || key.code === 32)) event.preventDefault();
+      return;
+    }
+    event.preventDefault();
+    this.#act(who, view, key);
+  }
+
+  #up(event) {
+    if (event.key === 'Alt') event.preventDefault();
+    if (event.key !== 'Control' || !this.#ctrlAlone) return;
+    this.#ctrlAlone = false;
+    if (this.#notices.blocking || this.#box.asks) return;
+    const code = codeOf('Control');
+    this.#input.perform(() => {
+      this.#desktop.sayKey({ code, ctrl: true });
+      this.#desktop.say({ type: 'keyUp', key: code });
+    });
+  }
+
+  #replay(key) {
+    const view = this.#desktop.focused;
+    const who = decide(view, key);
+    if (who !== 'browser') {
+      this.#act(who, view, key);
+      return;
+    }
+    if (isOverheard(view, key)) this.#desktop.sayKey(key);
+    view?.typeKey?.(key);
+  }
+
+  #act(who, view, key) {
+    if (who === 'session') this.#desktop.sayKey(key);
+    if (who === 'access') this.#desktop.say({ type: 'accessKey', character: key.name });
+    if (who === 'character') this.#desktop.sayCharacter(key);
+    if (who === 'search') this.#search(view, key.text);
+    if (who === 'open') view.open?.();
+  }
+
+  #search(view, character) {
+    const now = Date.now();
+    if (now - this.#searchedAt > searchPause) this.#searched = '';
+    this.#searchedAt = now;
+    if (character === ' ' && this.#searched === '') {
+      view.open?.();
+      return;
+    }
+    this.#searched += character.toLocaleLowerCase();
+    const index = view.find(this.#searched);
+    if (index >= 0) this.#desktop.say({ type: 'select', control: view.state.id, index });
+  }
+
+  /** Whether the browser may edit the box by itself now. */
+  #isFree(element) {
+    return !this.#input.busy && !this.#notices.blocking && !this.#desktop.viewOf(element)?.state.filtered;
+  }
+
+  #beforeInput(event) {
+    const composing = event.isComposing || event.inputType === 'insertCompositionText';
+    if (composing || this.#isFree(event.target)) return;
+    if (event.inputType === 'insertLineBreak') {
+      event.preventDefault();
+      const key = { name: 'Enter', code: codeOf('Enter'), text: '' };
+      this.#input.perform(() => this.#replay(key));
+    } else if (event.inputType.startsWith('insert')) {
+      event.preventDefault();
+      const text = event.data ?? event.dataTransfer?.getData('text/plain') ?? '';
+      if (text && !this.#notices.blocking) this.#input.perform(() => this.#desktop.insert(text));
+    } else if (this.#input.busy || event.inputType.startsWith('history')) {
+      // Undoing would bring back text past the filter.
+      event.preventDefault();
+    }
+  }
+
+  #paste(event) {
+    if (this.#isFree(event.target)) return;
+    event.preventDefault();
+    const text = event.clipboardData?.getData('text/plain') ?? '';
+    if (text && !this.#notices.blocking && !this.#box.shown) this.#input.perform(() => this.#desktop.insert(text));
+  }
+}

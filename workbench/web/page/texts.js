@@ -1,0 +1,57 @@
+// The page's own texts. Those of the screens come with the screens.
+
+const texts = {
+  de: {
+    interrupted: 'Verbindung unterbrochen – es wird neu verbunden …',
+    expired: 'Die frühere Sitzung ist abgelaufen. Nicht gespeicherte Eingaben sind nicht mehr da.',
+    dismiss: 'Hinweis schließen',
+    close: 'Schließen (Esc)',
+    pick: 'Auswählen (F4)',
+    again: 'Neu beginnen',
+    endedTitle: 'Sitzung beendet',
+    ended: {
+      closed: 'Sie haben die Anwendung geschlossen.',
+      stopped: 'Die Anwendung wurde auf diesem Rechner beendet. Nicht gespeicherte Eingaben wurden verworfen.',
+      failed: 'Die Sitzung wurde wegen eines Fehlers beendet. Nicht gespeicherte Eingaben wurden verworfen.',
+      gone: 'Die Verbindung war zu lange unterbrochen. Nicht gespeicherte Eingaben wurden verworfen.',
+      abandoned: 'Die Verbindung war zu lange unterbrochen. Nicht gespeicherte Eingaben wurden verworfen.',
+      full: 'Es sind bereits so viele Sitzungen geöffnet wie zulässig. Schließen Sie ein anderes Fenster und versuchen Sie es noch einmal.',
+      takenOver: 'Diese Sitzung wird in einem anderen Fenster fortgesetzt.',
+      unreachable: 'Die Anwendung antwortet nicht mehr.',
+    },
+    up: 'Erhöhen',
+    down: 'Verringern',
+  },
+  en: {
+    interrupted: 'Connection interrupted – reconnecting …',
+    expired: 'The earlier session has expired. Entries that were not saved are gone.',
+    dismiss: 'Dismiss',
+    close: 'Close (Esc)',
+    pick: 'Choose (F4)',
+    again: 'Start again',
+    endedTitle: 'Session ended',
+    ended: {
+      closed: 'You have closed the application.',
+      stopped: 'The application on this machine has stopped. Entries that were not saved were discarded.',
+      failed: 'The session ended because of an error. Entries that were not saved were discarded.',
+      gone: 'The connection was interrupted for too long. Entries that were not saved were discarded.',
+      abandoned: 'The connection was interrupted for too long. Entries that were not saved were discarded.',
+      full: 'As many sessions are open as are allowed. Close another window and try again.',
+      takenOver: 'This session goes on in another window.',
+      unreachable: 'The application does not answer any more.',
+    },
+    up: 'Increase',
+    down: 'Decrease',
+  },
+};
+
+let language = 'de';
+
+export function setLanguage(name) {
+  language = name in texts ? name : 'de';
+  document.documentElement.lang = language;
+}
+
+export function text(name) {
+  return texts[language][name];
+}
