@@ -69,7 +69,7 @@ F_Selection::F_Selection(ui::Display& display, const SelectionWords& words, Choi
 void F_Selection::connect() {
     btnAdd.onClick = [this] { add(); };
     btnRemove.onClick = [this] { remove(); };
-    grdConditions.onCurrentChange = [this] { showCondition(); };
+    grdConditions.onCurrentChange = [this] { showAnother(); };
     grdConditions.onDoubleClick = [this] { common::SafeSetFocus(cboAttribute); };
     grdConditions.onKeyDown = [this](ui::KeyDown& key) {
         if (key.key != ui::Key::del) return;
@@ -117,7 +117,7 @@ void F_Selection::add() {
     expression_.terms.push_back({.condition = {.attribute = attribute, .values = {}}});
     drawConditions();
     grdConditions.setCurrent(static_cast<int>(expression_.terms.size()) - 1);
-    showCondition();
+    showAnother();
     common::SafeSetFocus(cboAttribute);
 }
 
@@ -128,7 +128,7 @@ void F_Selection::remove() {
     if (!expression_.terms.empty()) expression_.terms.front().afterOr = false;
     grdConditions.removeRow(row);
     drawConditions();
-    showCondition();
+    showAnother();
     if (expression_.terms.empty()) common::SafeSetFocus(btnAdd);
 }
 
@@ -138,7 +138,7 @@ void F_Selection::takeOver() {
         const std::string problem = problemOf(condition);
         if (problem.empty()) continue;
         grdConditions.setCurrent(static_cast<int>(i));
-        showCondition();
+        showAnother();
         const std::string name = words_.attribute(condition.attribute);
         common::ShowMessage(display_, filled(words_.named("problem"), {std::to_string(i + 1), name, problem}),
                             ui::box::exclamation, title());
@@ -153,6 +153,11 @@ void F_Selection::takeOver() {
     }
     chosen_ = expression_;
     unload();
+}
+
+void F_Selection::showAnother() {
+    drafts_.clear();
+    showCondition();
 }
 
 void F_Selection::showCondition() {
@@ -231,11 +236,12 @@ void F_Selection::changeAttribute() {
     SelectionTerm* term = current();
     if (term == nullptr || cboAttribute.selected() == ui::ItemList::none) return;
     SelectionCondition& condition = term->condition;
+    keepValues(condition);
     condition.attribute = timberAttributes()[static_cast<std::size_t>(cboAttribute.selected())].attribute;
     const auto offered = comparisonsOf(condition.attribute);
     if (std::ranges::find(offered, condition.comparison) == offered.end())
         condition.comparison = SelectionOperator::oneOf;
-    condition.values = noValues(condition.comparison);
+    restoreValues(condition);
     drawConditions();
     showCondition();
 }
@@ -244,15 +250,22 @@ void F_Selection::changeComparison() {
     SelectionTerm* term = current();
     if (term == nullptr || cboComparison.selected() == ui::ItemList::none) return;
     SelectionCondition& condition = term->condition;
-    const auto chosen =
+    keepValues(condition);
+    condition.comparison =
         comparisonsOf(condition.attribute)[static_cast<std::size_t>(cboComparison.selected())];
-    // A list stays a list, and a single limit a single limit; anything else starts anew.
-    const bool keeps = isRange(chosen) == isRange(condition.comparison) &&
-                       noValues(chosen).size() == noValues(condition.comparison).size();
-    condition.comparison = chosen;
-    if (!keeps) condition.values = noValues(chosen);
+    restoreValues(condition);
     drawConditions();
     showValues();
+}
+
+void F_Selection::keepValues(const SelectionCondition& condition) {
+    drafts_[{condition.attribute, noValues(condition.comparison).size()}] = condition.values;
+}
+
+void F_Selection::restoreValues(SelectionCondition& condition) const {
+    condition.values = noValues(condition.comparison);
+    const auto draft = drafts_.find({condition.attribute, condition.values.size()});
+    if (draft != drafts_.end()) condition.values = draft->second;
 }
 
 void F_Selection::changeValues() {

@@ -10,6 +10,7 @@
 
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace tellurix::workbench {
 
@@ -34,6 +35,7 @@ private:
     void takeOver();
     /// Shows the current condition in the fields below the list.
     void showCondition();
+    void showAnother();
     void showValues();
     void showFieldsInUse();
     /// Takes what the user did in one of the fields into the current condition.
@@ -41,8 +43,10 @@ private:
     void changeAttribute();
     void changeComparison();
     void changeValues();
+    /// What the fields held for an attribute and comparison comes back when the user does.
+    void keepValues(const SelectionCondition& condition);
+    void restoreValues(SelectionCondition& condition) const;
     void drawConditions();
-    void drawSentence();
 
     SelectionTerm* current();
     std::vector<SelectionOperator> comparisonsOf(TimberAttribute attribute) const;
@@ -56,6 +60,9 @@ private:
     Choices choices_;
     SelectionExpression expression_;
     std::optional<SelectionExpression> chosen_;
+    /// What the current condition had as values, by attribute and number of limits: the arrow keys
+    /// lead through attributes and comparisons that are not meant.
+    std::map<std::pair<TimberAttribute, std::size_t>, std::vector<std::string>> drafts_;
 
     ui::Button btnAdd{*this, "btnAdd", "&Neue Bedingung"};
     ui::Button btnRemove{*this, "btnRemove", "Bedingung &entfernen"};

@@ -2,9 +2,9 @@
 
 #include "common/text.h"
 
-#include <algorithm>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace tellurix::workbench {
@@ -44,16 +44,17 @@ public:
     }
 
 private:
-    /// The first code that starts with `entry`; empty when there is none, or nothing to complete.
+    /// The code that is `entry` or else the first one that starts with it; empty when there is none.
     std::u32string completed(std::u32string_view entry) {
         if (entry.empty()) return {};
         const std::u32string wanted = inCapitals(entry);
-        const std::vector<std::u32string>& all = codes();
-        const auto isEntry = [&](const std::u32string& code) { return inCapitals(code) == wanted; };
-        if (std::ranges::any_of(all, isEntry)) return {};
-        const auto found = std::ranges::find_if(
-            all, [&](const std::u32string& code) { return inCapitals(code).starts_with(wanted); });
-        return found == all.end() ? std::u32string{} : *found;
+        const std::u32string* longer = nullptr;
+        for (const std::u32string& code : codes()) {
+            const std::u32string capitals = inCapitals(code);
+            if (capitals == wanted) return code;
+            if (longer == nullptr && capitals.starts_with(wanted)) longer = &code;
+        }
+        return longer == nullptr ? std::u32string{} : *longer;
     }
 
     const std::vector<std::u32string>& codes() {

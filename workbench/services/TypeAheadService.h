@@ -8,8 +8,8 @@ namespace tellurix::workbench {
 /// completed is selected: typing on replaces it, and leaving the box takes it.
 ///
 /// Only a typed character completes, never one that was taken away. An entry that is a code as it
-/// stands is left alone, even when longer codes start with it. A code is completed in its own
-/// capitals, and otherwise nothing that was typed is changed. The rows are read once, when the
+/// stands is not made longer, even when other codes start with it. A code gets its own capitals;
+/// nothing else that was typed is changed. The rows are read once, when the
 /// first character after binding is typed. Handlers that the box already has go on working.
 class TypeAheadService final : public host::TypeAhead {
 public:
