@@ -147,6 +147,15 @@ TEST_F(SelectionDialog, WritesWhatWasChosen) {
              mark(user, {"L"});
          },
          "87 IN ('L') ;"},
+        {"values of one condition never come up in another", "83 IN ('FI') ;87 IN ('B') ;",
+         [](User& user) {
+             choose(user, "cboAttribute", "Güteklasse");
+             choose(user, "cboAttribute", "Holzart");
+             user.select("grdConditions", 1);
+             choose(user, "cboAttribute", "Holzart");
+             mark(user, {"KI"});
+         },
+         "AND 83 IN ('FI') ;AND 83 IN ('KI') ;"},
         {"one attribute twice is not left to the quick selection", "83 IN ('FI') ;",
          [&](User& user) {
              add(user, "Holzart", "ist");

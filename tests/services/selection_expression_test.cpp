@@ -97,6 +97,7 @@ TEST(SelectionExpression, NamesThePieceThatItCannotRead) {
         {"an open bracket", "83 IN ('FI' ;", "„83 IN ('FI'“"},
         {"an open quote takes all the rest", "94 IN (4) ;83 IN ('FI) ;87 IN (4) ;",
          "„83 IN ('FI) ;87 IN (4) ;“"},
+        {"an open quote at the very end", "93 >= '2b", "„93 >= '2b“"},
         {"a quote that the quick selection left alone", "83 IN ('O'X') ;", "„83 IN ('O'X') ;“"},
         {"an empty list", "94 IN () ;", "„94 IN ()“"},
         {"a list that ends with a comma", "94 IN (4, ) ;", "„94 IN (4, )“"},
