@@ -154,6 +154,44 @@ Decimal Decimal::rounded(int scale) const {
     return Decimal(units_ * factor, scale);
 }
 
+Decimal Decimal::shortest() const {
+    Decimal shorter = *this;
+    while (shorter.scale_ > 0 && shorter.units_ % 10 == 0) {
+        shorter.units_ /= 10;
+        --shorter.scale_;
+    }
+    return shorter;
+}
+
+Decimal Decimal::dividedByTenTo(int places) const {
+    const Decimal number = shortest();
+    return Decimal(number.units_, number.scale_ + places);
+}
+
+Decimal operator+(const Decimal& left, const Decimal& right) {
+    const Decimal a = left.shortest();
+    const Decimal b = right.shortest();
+    const int scale = std::max(a.scale_, b.scale_);
+    // Two numbers of 18 digits cannot overflow 64 bits when they are added.
+    return Decimal(a.rounded(scale).units_ + b.rounded(scale).units_, scale);
+}
+
+Decimal operator-(const Decimal& left, const Decimal& right) {
+    return left + Decimal(-right.units_, right.scale_);
+}
+
+Decimal operator*(const Decimal& left, const Decimal& right) {
+    const Decimal a = left.shortest();
+    const Decimal b = right.shortest();
+    const auto magnitude = [](const Decimal& number) {
+        return number.units_ < 0 ? -number.units_ : number.units_;
+    };
+    if (b.units_ != 0 && magnitude(a) > Decimal::maxUnits / magnitude(b))
+        throw std::out_of_range("decimal number of more than 18 digits: " + left.toString() + " * " +
+                                right.toString());
+    return Decimal(a.units_ * b.units_, a.scale_ + b.scale_);
+}
+
 std::string Decimal::toString() const {
     auto digits = std::to_string(units_ < 0 ? -units_ : units_);
     const auto decimals = static_cast<std::size_t>(scale_);

@@ -45,6 +45,16 @@ public:
     /// @throws std::out_of_range when it does not fit 18 digits.
     Decimal rounded(int scale) const;
 
+    /// The same digits with the decimal point `places` further left: divided by 10^places, exactly.
+    /// @throws std::out_of_range when it does not fit 18 decimals.
+    Decimal dividedByTenTo(int places) const;
+
+    /// Exact results, with as many decimals as they need.
+    /// @throws std::out_of_range when the result does not fit 18 digits.
+    friend Decimal operator+(const Decimal& left, const Decimal& right);
+    friend Decimal operator-(const Decimal& left, const Decimal& right);
+    friend Decimal operator*(const Decimal& left, const Decimal& right);
+
     /// Plain text with "." as decimal point and exactly `scale()` decimals, e.g. "-0.50".
     std::string toString() const;
     double toDouble() const;
@@ -54,6 +64,9 @@ public:
     friend std::strong_ordering operator<=>(const Decimal& left, const Decimal& right);
 
 private:
+    /// Without zeros at the end of its decimals.
+    Decimal shortest() const;
+
     std::int64_t units_ = 0;
     int scale_ = 0;
 };

@@ -268,7 +268,12 @@ void Desktop::handle(Form& form, const KeyUpEvent& event) {
 void Desktop::handle(Form& form, const KeyPressEvent& event) {
     // Control characters are keys, not text: their key-down event has dealt with them.
     if (event.character < 32 || event.character == 127) return;
-    if (TextBox* box = asTextBox(form.focused()); editable(box)) typeCharacter(*box, event.character);
+    if (TextBox* box = asTextBox(form.focused()); editable(box)) {
+        typeCharacter(*box, event.character);
+    } else if (Grid* grid = as<Grid>(form.focused(), ControlKind::grid);
+               grid != nullptr && grid->usable() && grid->onKeyPress) {
+        grid->onKeyPress(event.character);
+    }
 }
 
 void Desktop::handle(Form& form, const AccessKeyEvent& event) {

@@ -48,6 +48,19 @@ void Grid::setCurrent(int row, int column) {
     change(currentColumn_, std::clamp(column, 0, std::max(0, static_cast<int>(columns_.size()) - 1)));
 }
 
+void Grid::showCellEditor(TextBox& box, int row, int column) {
+    cellEditor_ = &box;
+    editedRow_ = row;
+    editedColumn_ = column;
+    markDirty();
+}
+
+void Grid::hideCellEditor() {
+    cellEditor_ = nullptr;
+    editedRow_ = none;
+    markDirty();
+}
+
 void Grid::drawn() {
     Control::drawn();
     contentDirty_ = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/Control.h"
+#include "ui/TextBox.h"
 
 #include <vector>
 
@@ -41,6 +42,14 @@ public:
     /// Moves the current cell without calling `onCurrentChange`. A row outside selects none.
     void setCurrent(int row, int column = 0);
 
+    /// The box that floats over a cell while the cell is edited in place (see GridEditor), or null.
+    /// A display draws it at the cell's place and size; it stands nowhere in the layout.
+    TextBox* cellEditor() const { return cellEditor_; }
+    int editedRow() const { return editedRow_; }
+    int editedColumn() const { return editedColumn_; }
+    void showCellEditor(TextBox& box, int row, int column);
+    void hideCellEditor();
+
     /// Rows or columns changed since the last drawing, not only the current cell.
     bool contentDirty() const { return contentDirty_; }
     void drawn() override;
@@ -49,6 +58,8 @@ public:
     std::function<void()> onCurrentChange;
     /// A double click on the current cell, or Enter on it.
     std::function<void()> onDoubleClick;
+    /// A character was typed while the grid had the focus.
+    std::function<void(char32_t)> onKeyPress;
     /// The user scrolled.
     std::function<void()> onScroll;
 
@@ -60,6 +71,9 @@ private:
     int visibleRows_;
     int currentRow_ = none;
     int currentColumn_ = 0;
+    TextBox* cellEditor_ = nullptr;
+    int editedRow_ = none;
+    int editedColumn_ = 0;
     bool contentDirty_ = true;
 };
 

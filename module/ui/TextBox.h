@@ -36,6 +36,10 @@ public:
     bool rightAligned() const { return rightAligned_; }
     void setRightAligned(bool right) { change(rightAligned_, right); }
 
+    /// Not empty: the text is shown in a warning colour, and this is what screen readers say about it.
+    const std::string& warning() const { return warning_; }
+    void setWarning(std::string text) { change(warning_, std::move(text)); }
+
     int selectionStart() const { return selectionStart_; }
     int selectionLength() const { return selectionLength_; }
     void select(int start, int length);
@@ -61,6 +65,7 @@ public:
 private:
     std::string text_;
     std::string tag_;
+    std::string warning_;
     int width_;
     int lines_ = 1;
     int maxLength_ = 0;

@@ -1,0 +1,174 @@
+#include "lines/F_VertragPreise.h"
+
+#include "common/Decimal.h"
+#include "common/M_Common.h"
+#include "common/StatementText.h"
+#include "common/field_text.h"
+#include "common/number_format.h"
+#include "common/text.h"
+#include "ui/number_box.h"
+
+namespace tellurix::lines {
+
+using common::StatementText;
+
+namespace {
+
+constexpr const char* priceMask = "-#######0.00";
+constexpr const char* secondPriceMask = "#####0.00";
+constexpr const char* euro = "EUR";
+constexpr int euroEntry = 0;
+constexpr int homeCurrencyEntry = 1;
+
+/// The grid columns that can be edited in place; their numbers do not follow the layout.
+constexpr int editedPriceColumn = 2;
+constexpr int editedSecondPriceColumn = 5;
+
+// clang-format off
+const LineKind priceLines{
+    .table = "VERTRAG_PREISE",
+    .dialogKey = "VERTP",
+    .unitQuery = "SELECT EINHEIT_ID,EINHEIT FROM WARENEINHEIT WHERE HOLZ =1 ORDER BY ISNULL(LDNR,0) ",
+    .lineColumns =
+        "SELECT VERTRAG_PREISE.ID,VERTRAG_PREISE.ID_VERTRAG,VERTRAG_PREISE.ORDNUNG,VERTRAG_PREISE.BEZEICHNUNG,VERTRAG_PREISE.MSZ_PERCENT,VERTRAG_PREISE.PREIS,"
+        "(SELECT WARENEINHEIT.EINHEIT FROM WARENEINHEIT WHERE WARENEINHEIT.EINHEIT_ID = VERTRAG_PREISE.ID_WARENEINHEIT) AS EINHEIT,"
+        "VERTRAG_PREISE.EURO,VERTRAG_PREISE.ID_WARENEINHEIT,VERTRAG_PREISE.PREIS_ABR2"
+        " FROM VERTRAG_PREISE",
+    .contractColumn = "ID_VERTRAG",
+    .keyColumn = "ID",
+    .placeColumn = "ORDNUNG",
+};
+// clang-format on
+
+} // namespace
+
+F_VertragPreise::F_VertragPreise(host::HostServices& services)
+    : LineEditor(services, priceLines, "F_VertragPreise", "Preise"),
+      percent_(txtMsz, "-####0.0#", services.locale),
+      price_(txtPreis, priceMask, services.locale),
+      secondPrice_(txtPreis_Abr2, secondPriceMask, services.locale),
+      priceChange_(*this, services, session_, contract_, [this] {
+          LoadGrid();
+          showCurrentLine();
+      }) {
+    ui::makeNumberBox(txtEdit, priceMask, services.locale);
+    cellEditor_.canEdit = [this](int, int column) {
+        return viewing() && chkEdit.checked() &&
+               (column == editedPriceColumn || column == editedSecondPriceColumn);
+    };
+    cellEditor_.write = [this](int row, int column, const std::string& typed) {
+        return CommitCellEdit(row, column, typed);
+    };
+    arrange({ui::field(lblBezeichnung, txtBEZEICHNUNG), ui::field(lblMsz, txtMsz),
+             ui::field(lblPreis, txtPreis), ui::field(lblUnit, cboUnit), ui::field(lblGeld, cboGeld),
+             ui::field(lblPreis_Abr2, txtPreis_Abr2)},
+            {chkEdit}, {priceChange_.layout(), ui::row({priceChange_.button()})});
+}
+
+void F_VertragPreise::prepare(bool /*shown*/) {
+    const auto setting = common::Decimal::parse(common::trim(services_.settings.text(session_, "MESZAHL")));
+    showsPercent_ = setting && *setting == common::Decimal{1};
+    site_ = Site::standard;
+    if (session_.site == "WVO") site_ = Site::logistics;
+    if (session_.site == "UELZEN" && host::moduleState().context.StrVer_Type == "A6") {
+        site_ = Site::stockPrice;
+    }
+
+    services_.localizer.localize(session_, *this);
+    if (site_ == Site::stockPrice) lblPreis_Abr2.setCaption("Stockpreis");
+    lblMsz.setVisible(showsPercent_);
+    txtMsz.setVisible(showsPercent_);
+    lblPreis_Abr2.setVisible(site_ != Site::standard);
+    txtPreis_Abr2.setVisible(site_ != Site::standard);
+
+    cboGeld.clear();
+    cboGeld.add(euro);
+    cboGeld.add(session_.homeCurrency);
+    chkEdit.setChecked(false);
+    cellEditor_.close();
+    priceChange_.hide();
+}
+
+std::vector<ui::Grid::Column> F_VertragPreise::gridColumns() const {
+    std::vector<ui::Grid::Column> columns{{.caption = {}, .width = 4},
+                                          {.caption = lblBezeichnung.caption(), .width = 34}};
+    const auto number = [&columns](const std::string& caption) {
+        columns.push_back({.caption = caption, .width = 14, .rightAligned = true});
+    };
+    if (showsPercent_) number(lblMsz.caption());
+    number(lblPreis.caption());
+    columns.push_back({.caption = lblUnit.caption(), .width = 10});
+    columns.push_back({.caption = lblGeld.caption(), .width = 10});
+    if (hasSecondPriceColumn()) number(lblPreis_Abr2.caption());
+    return columns;
+}
+
+ui::Grid::Row F_VertragPreise::FillGridRow(common::Recordset& record) const {
+    const auto number = [&](const char* column, const char* mask) {
+        return common::numberText(record.field(column), mask, services_.locale);
+    };
+    ui::Grid::Row row{"", record.text("BEZEICHNUNG")};
+    if (showsPercent_) row.push_back(number("MSZ_PERCENT", "0.0"));
+    row.push_back(number("PREIS", site_ == Site::standard ? "##0.00" : "0.00"));
+    row.push_back(record.text("EINHEIT"));
+    row.push_back(record.flag("EURO") ? euro : session_.homeCurrency);
+    if (hasSecondPriceColumn()) row.push_back(number("PREIS_ABR2", secondPriceMask));
+    return row;
+}
+
+void F_VertragPreise::showFields(common::Recordset& line) {
+    percent_.show(line.field("MSZ_PERCENT"));
+    price_.show(line.field("PREIS"));
+    secondPrice_.show(line.field("PREIS_ABR2"));
+    cboGeld.select(line.flag("EURO") ? euroEntry : homeCurrencyEntry);
+}
+
+void F_VertragPreise::showNoLine() {
+    percent_.show(common::Null{});
+    secondPrice_.show(common::Null{});
+    emptyForNewLine();
+}
+
+void F_VertragPreise::emptyForNewLine() {
+    price_.show(common::Null{});
+    cboGeld.select(ui::ItemList::none);
+}
+
+bool F_VertragPreise::confirmSave() {
+    if (txtPreis.text() != common::formatNumber(common::Decimal{}, "0.00", services_.locale)) return true;
+    const std::string question =
+        "Wollen Sie die Position mit dem Preis von " + txtPreis.text() + " Euro speichern?";
+    return common::ShowMessage(services_.display, question, ui::box::yesNo, "Vertrag Preise") ==
+           ui::Answer::yes;
+}
+
+void F_VertragPreise::writeFields(common::UpdatableRecordset& line) {
+    line.setField("MSZ_PERCENT", percent_.value());
+    line.setField("PREIS", price_.value());
+    line.setField("Euro", cboGeld.selected() == euroEntry);
+    line.setField("PREIS_ABR2", secondPrice_.value());
+}
+
+void F_VertragPreise::stateShown() {
+    chkEdit.setEnabled(viewing() && hasLines());
+    priceChange_.setEnabled(viewing() && hasLines());
+}
+
+std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::string& typed) {
+    const bool fits = common::isNumeric(typed, services_.locale) &&
+                      common::fitsNumberMask(typed, priceMask, services_.locale);
+    if (!fits) txtEdit.setText(common::formatNumber(common::Decimal{}, "0.00", services_.locale));
+    StatementText statement{"UPDATE VERTRAG_PREISE SET "};
+    statement.fixed(column == editedPriceColumn ? "PREIS = " : "PREIS_ABR2 = ")
+        .number(txtEdit.text())
+        .fixed(" WHERE ORDNUNG = ")
+        .number(std::int64_t{row + 1})
+        .fixed(" AND ID_VERTRAG = ")
+        .number(std::int64_t{contract_});
+    session_.connection->execute(statement.text());
+    // Where the layout has moved the columns, the price stands in another cell than the edited one.
+    reloadLine(row);
+    return MSFlexGrid1.cell(row, column);
+}
+
+} // namespace tellurix::lines

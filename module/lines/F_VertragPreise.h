@@ -1,0 +1,57 @@
+#pragma once
+
+#include "lines/LineEditor.h"
+#include "lines/NumberField.h"
+#include "lines/PriceChange.h"
+#include "ui/GridEditor.h"
+
+#include <string>
+
+namespace tellurix::lines {
+
+/// The price lines of a contract. Besides what all line screens do: prices with a currency, a
+/// measure-number percentage and a second price where the site has them, editing of prices in the
+/// grid, and the change of all prices at once.
+class F_VertragPreise final : public LineEditor {
+public:
+    explicit F_VertragPreise(host::HostServices& services);
+
+private:
+    /// Sites that have a second price.
+    enum class Site { standard, logistics, stockPrice };
+
+    void prepare(bool shown) override;
+    std::vector<ui::Grid::Column> gridColumns() const override;
+    ui::Grid::Row FillGridRow(common::Recordset& record) const override;
+    void showFields(common::Recordset& line) override;
+    void showNoLine() override;
+    void emptyForNewLine() override;
+    bool confirmSave() override;
+    void writeFields(common::UpdatableRecordset& line) override;
+    void stateShown() override;
+
+    bool hasSecondPriceColumn() const { return !showsPercent_ && site_ != Site::standard; }
+    std::string CommitCellEdit(int row, int column, const std::string& typed);
+
+    bool showsPercent_ = false; ///< the host setting "MESZAHL" is 1
+    Site site_ = Site::standard;
+
+    ui::Label lblMsz{*this, "lblMsz", "Msz"};
+    ui::TextBox txtMsz{*this, "txtMsz", 10};
+    ui::Label lblPreis{*this, "lblPreis", "Preis"};
+    ui::TextBox txtPreis{*this, "txtPreis", 14};
+    ui::Label lblGeld{*this, "lblGeld", "Währung"};
+    ui::ComboBox cboGeld{*this, "cboGeld", 8};
+    ui::Label lblPreis_Abr2{*this, "lblPreis_Abr2", "Preis_Abr2"};
+    ui::TextBox txtPreis_Abr2{*this, "txtPreis_Abr2", 14};
+    ui::CheckBox chkEdit{*this, "chkEdit", "Edit"};
+    ui::TextBox txtEdit{*this, "txtEdit", 14};
+
+    NumberField percent_;
+    NumberField price_;
+    NumberField secondPrice_;
+    ui::GridEditor cellEditor_{MSFlexGrid1, txtEdit};
+    PriceChange priceChange_;
+};
+
+} // namespace tellurix::lines

@@ -1,0 +1,338 @@
+#include "lines/LineEditor.h"
+
+#include "common/M_Common.h"
+#include "common/StatementText.h"
+#include "common/text.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace tellurix::lines {
+
+using common::StatementText;
+
+namespace {
+
+constexpr std::int64_t noRow = -1;
+constexpr int missingEntryText = 223;
+
+} // namespace
+
+LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::string name,
+                       std::string title)
+    : Form(std::move(name), std::move(title)),
+      services_(services),
+      kind_(kind),
+      statements_(kind.table, 0),
+      newId_(noRow) {
+    connect();
+}
+
+void LineEditor::connect() {
+    MSFlexGrid1.onCurrentChange = [this] { showCurrentLine(); };
+    UpDown1.onUp = [this] { moveLine(-1); };
+    UpDown1.onDown = [this] { moveLine(+1); };
+    UpDown1.setToolTip("Zeile nach oben oder unten verschieben");
+    cmdSelect.onClick = [this] { selectInDialog(); };
+    chkSelektion.setEnabled(false);
+    chkSelektion.setToolTip("Die Zeile hat eine Selektion");
+    cmdNeu.onClick = [this] { startNew(); };
+    cmdBearbeiten.onClick = [this] { startEdit(); };
+    cmdSpeichern.onClick = [this] { save(); };
+    cmdAbbrechen.onClick = [this] { cancel(); };
+    cmdAbbrechen.setCausesValidation(false);
+    cmdLoschen.onClick = [this] { removeLine(); };
+    cmdOk.onClick = [this] { unload(); };
+}
+
+void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
+                         std::vector<ui::Layout> below) {
+    besideGrid.insert(besideGrid.begin(), UpDown1);
+    std::vector<ui::Layout> screen{
+        ui::row({ui::Layout{MSFlexGrid1}.growing(), ui::column(std::move(besideGrid))}).growing(),
+        ui::row({ui::frame(frmPosition, {ui::fields(2, std::move(fields))}).growing(),
+                 ui::column({quickSelection_.layout(), ui::row({cmdSelect, chkSelektion})})}),
+    };
+    std::ranges::move(below, std::back_inserter(screen));
+    screen.push_back(ui::row({cmdNeu, cmdBearbeiten, cmdSpeichern, cmdAbbrechen, cmdLoschen, cmdOk}));
+    setLayout(ui::column(std::move(screen)));
+}
+
+void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool shown) {
+    session_ = session;
+    contract_ = contract;
+    statements_ = LineStatements{kind_.table, contract};
+    state_ = State::view;
+    newId_ = noRow;
+    prepare(shown);
+    loadUnits();
+    MSFlexGrid1.setColumns(gridColumns());
+    MSFlexGrid1.setRows({});
+    LoadGrid();
+    if (!shown) return;
+    showCurrentLine();
+    enter(State::view);
+    services_.display.showModal(*this);
+}
+
+void LineEditor::loadUnits() {
+    cboUnit.clear();
+    for (auto unit = session_.connection->open(kind_.unitQuery); !unit->atEnd(); unit->moveNext())
+        cboUnit.add(unit->text("EINHEIT"), unit->integer("EINHEIT_ID"));
+}
+
+std::string LineEditor::linesQuery() const {
+    StatementText query{kind_.lineColumns};
+    query.fixed(" WHERE ").fixed(kind_.contractColumn).fixed(" = ").number(std::int64_t{contract_});
+    return query.fixed(" ORDER BY ").fixed(kind_.placeColumn).text();
+}
+
+void LineEditor::LoadGrid() {
+    struct Misplaced {
+        std::int64_t id;
+        std::int64_t place;
+    };
+    std::vector<Misplaced> misplaced;
+    std::vector<ui::Grid::Row> rows;
+    std::vector<std::int64_t> ids;
+    for (auto line = session_.connection->open(linesQuery()); !line->atEnd(); line->moveNext()) {
+        rows.push_back(FillGridRow(*line));
+        ids.push_back(line->integer("ID"));
+        const auto place = static_cast<std::int64_t>(rows.size());
+        if (line->integer("ORDNUNG") != place) misplaced.push_back({ids.back(), place});
+    }
+    MSFlexGrid1.setRows(std::move(rows));
+    ids_ = std::move(ids);
+    if (MSFlexGrid1.currentRow() == ui::Grid::none && hasLines()) MSFlexGrid1.setCurrent(0);
+    for (const Misplaced& line : misplaced) {
+        const auto record = session_.connection->openUpdatable(statements_.lineOf(line.id));
+        if (record->atEnd()) continue; // deleted by somebody else a moment ago
+        record->setField("Ordnung", line.place);
+        record->update();
+    }
+}
+
+void LineEditor::reloadLine(int row) {
+    StatementText query{kind_.lineColumns};
+    query.fixed(" WHERE ").fixed(kind_.keyColumn).fixed(" = ").number(ids_[static_cast<std::size_t>(row)]);
+    const auto line = session_.connection->open(query.text());
+    if (line->atEnd()) return;
+    const ui::Grid::Row cells = FillGridRow(*line);
+    for (std::size_t column = 0; column < cells.size(); ++column)
+        MSFlexGrid1.setCell(row, static_cast<int>(column), cells[column]);
+    if (row == MSFlexGrid1.currentRow()) showCurrentLine();
+}
+
+std::unique_ptr<common::UpdatableRecordset> LineEditor::openLine(const std::string& query) {
+    auto line = session_.connection->openUpdatable(query);
+    if (line->atEnd()) {
+        throw std::runtime_error{"Diese Zeile wurde inzwischen verschoben oder gelöscht. Bitte das Fenster "
+                                 "schließen und neu öffnen."};
+    }
+    return line;
+}
+
+void LineEditor::showCurrentLine() {
+    if (hasLines()) {
+        showFieldsOf(*openLine(statements_.lineAt(place())));
+        ShowSelection(session_.connection->open(statements_.selectionAt(place()))->text("SELEKTION_VALUE"));
+    } else {
+        txtBEZEICHNUNG.setText("");
+        cboUnit.select(ui::ItemList::none);
+        showNoLine();
+        ShowSelection("");
+    }
+    currentLineShown();
+}
+
+void LineEditor::showFieldsOf(common::Recordset& line) {
+    txtBEZEICHNUNG.setText(line.text("BEZEICHNUNG"));
+    cboUnit.selectItemData(line.integer("ID_WARENEINHEIT"));
+    unlistedUnit_ = line.field("ID_WARENEINHEIT");
+    showFields(line);
+}
+
+void LineEditor::ShowSelection(const std::string& value) {
+    quickSelection_.show(readSelection(value));
+    chkSelektion.setChecked(hasSelection(value));
+}
+
+void LineEditor::enter(State state) {
+    state_ = state;
+    const bool view = viewing();
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{&frmPosition, &cmdSpeichern, &cmdAbbrechen})
+        control->setEnabled(!view);
+    quickSelection_.setEnabled(!view);
+    for (ui::Control* control : std::initializer_list<ui::Control*>{&cmdNeu, &cmdOk, &MSFlexGrid1})
+        control->setEnabled(view);
+    for (ui::Control* control : std::initializer_list<ui::Control*>{&cmdBearbeiten, &cmdLoschen, &UpDown1})
+        control->setEnabled(view && hasLines());
+    cmdSelect.setEnabled(!view || hasLines());
+    setCancelButton(view ? cmdOk : cmdAbbrechen);
+    stateShown();
+}
+
+void LineEditor::startNew() {
+    newId_ = noRow;
+    unlistedUnit_ = common::Null{};
+    cboUnit.select(ui::ItemList::none);
+    emptyForNewLine();
+    enter(State::fresh);
+    common::SafeSetFocus(txtBEZEICHNUNG);
+}
+
+void LineEditor::startEdit() {
+    const auto line = openLine(statements_.keyAndSelectionAt(place()));
+    ShowSelection(line->text("SELEKTION_VALUE"));
+    enter(State::edit);
+    common::SafeSetFocus(txtBEZEICHNUNG);
+}
+
+std::int64_t LineEditor::createRow() {
+    session_.connection->execute(statements_.insert());
+    const auto newest = session_.connection->open(statements_.newestKey());
+    return std::get<std::int64_t>(newest->field(std::size_t{0}));
+}
+
+void LineEditor::StoreSelection() {
+    const std::string literal = selectionLiteral(quickSelection_.read());
+    if (literal.empty()) return;
+    if (state_ != State::fresh) {
+        session_.connection->execute(statements_.setSelectionAt(literal, place()));
+        return;
+    }
+    // Refused before a row is made for it.
+    const std::string checked = statements_.setSelectionOf(literal, newId_);
+    if (newId_ == noRow) newId_ = createRow();
+    session_.connection->execute(statements_.setSelectionOf(literal, newId_));
+}
+
+bool LineEditor::lineHasSelection() {
+    if (state_ == State::fresh && newId_ == noRow) return false;
+    const auto line = session_.connection->open(state_ == State::fresh ? statements_.selectionOf(newId_)
+                                                                       : statements_.selectionAt(place()));
+    return !line->atEnd() && !common::trim(line->text("SELEKTION_VALUE")).empty();
+}
+
+void LineEditor::selectInDialog() {
+    std::int64_t id = newId_;
+    if (state_ != State::fresh) {
+        id = openLine(statements_.keyAndSelectionAt(place()))->integer("ID");
+    } else if (newId_ == noRow) {
+        id = newId_ = createRow();
+    }
+    const host::HostContext& context = host::moduleState().context;
+    const auto chosen = services_.selectionDialog.select(session_, std::to_string(id) + kind_.dialogKey,
+                                                         common::toUpper(context.StrVer_Type),
+                                                         context.strServiceOut1, context.strServiceOut2);
+    if (!chosen) return;
+    const std::string selection{common::trim(*chosen)};
+    session_.connection->execute(statements_.setDialogSelectionOf(selection, id));
+    chkSelektion.setChecked(!selection.empty());
+    quickSelection_.show({});
+    if (viewing()) currentLineShown();
+}
+
+void LineEditor::save() {
+    if (!confirmSave()) return;
+    StoreSelection();
+    if (!lineHasSelection()) {
+        common::ShowMessage(services_.display, services_.localizer.text(missingEntryText, session_),
+                            ui::box::exclamation);
+        selectInDialog();
+        return;
+    }
+    saveLine();
+    enter(State::view);
+    reloadLine(MSFlexGrid1.currentRow());
+    common::SafeSetFocus(MSFlexGrid1);
+}
+
+void LineEditor::saveLine() {
+    const bool isNew = state_ == State::fresh;
+    const auto line = openLine(isNew ? statements_.lineOf(newId_) : statements_.lineAt(place()));
+    if (isNew) line->setField("Ordnung", static_cast<std::int64_t>(ids_.size()) + 1);
+    line->setField("ID_Vertrag", std::int64_t{contract_});
+    line->setField("BEZEICHNUNG",
+                   txtBEZEICHNUNG.text().empty() ? common::Value{} : common::Value{txtBEZEICHNUNG.text()});
+    const int unit = cboUnit.selected();
+    line->setField("ID_WARENEINHEIT",
+                   unit == ui::ItemList::none
+                       ? unlistedUnit_
+                       : common::Value{cboUnit.items()[static_cast<std::size_t>(unit)].itemData});
+    writeFields(*line);
+    line->update();
+    if (!isNew) return;
+    ids_.push_back(newId_);
+    newId_ = noRow;
+    MSFlexGrid1.addRow(ui::Grid::Row(MSFlexGrid1.columns().size()));
+    MSFlexGrid1.setCurrent(static_cast<int>(ids_.size()) - 1);
+}
+
+void LineEditor::cancel() {
+    discardNewRow();
+    showCurrentLine();
+    enter(State::view);
+    common::SafeSetFocus(MSFlexGrid1);
+}
+
+void LineEditor::discardNewRow() {
+    if (newId_ == noRow) return;
+    session_.connection->execute(statements_.removeOf(newId_));
+    newId_ = noRow;
+}
+
+void LineEditor::removeLine() {
+    const int removed = place();
+    const auto id = ids_[static_cast<std::size_t>(removed - 1)];
+    // By its key: in the meantime another user may have moved another line to this place.
+    if (const auto line = session_.connection->openUpdatable(statements_.lineOf(id)); !line->atEnd()) {
+        line->remove();
+        session_.connection->execute(statements_.closeGapBehind(removed));
+    }
+    LoadGrid();
+    showCurrentLine();
+    enter(State::view);
+    common::SafeSetFocus(hasLines() ? static_cast<ui::Control&>(MSFlexGrid1) : cmdNeu);
+}
+
+void LineEditor::moveLine(int step) {
+    const int from = MSFlexGrid1.currentRow();
+    const int to = from + step;
+    if (from == ui::Grid::none || to < 0 || to >= static_cast<int>(ids_.size())) return;
+    const auto setPlace = [this](int row, int place) {
+        const auto line = openLine(statements_.lineOf(ids_[static_cast<std::size_t>(row)]));
+        line->setField("Ordnung", std::int64_t{place});
+        line->update();
+    };
+    try {
+        // Through 0, so that two lines of a contract never have the same place.
+        setPlace(from, 0);
+        setPlace(to, from + 1);
+        setPlace(from, to + 1);
+    } catch (const std::exception& error) {
+        // Not all of it was written: loading again puts the line with 0 back into the order.
+        services_.errors.report(error);
+        LoadGrid();
+        showCurrentLine();
+        return;
+    }
+    const auto cells = MSFlexGrid1.rows();
+    for (int column = 0; column < static_cast<int>(MSFlexGrid1.columns().size()); ++column) {
+        const auto index = static_cast<std::size_t>(column);
+        MSFlexGrid1.setCell(from, column, cells[static_cast<std::size_t>(to)][index]);
+        MSFlexGrid1.setCell(to, column, cells[static_cast<std::size_t>(from)][index]);
+    }
+    std::swap(ids_[static_cast<std::size_t>(from)], ids_[static_cast<std::size_t>(to)]);
+    MSFlexGrid1.setCurrent(to, MSFlexGrid1.currentColumn());
+    currentLineShown();
+}
+
+bool LineEditor::queryUnload() {
+    // The close box during an edit throws the edit away, and with it the row of a line never saved.
+    discardNewRow();
+    return true;
+}
+
+} // namespace tellurix::lines

@@ -1,0 +1,140 @@
+#pragma once
+
+#include "host/module_state.h"
+#include "host/services.h"
+#include "lines/LineStatements.h"
+#include "lines/QuickSelectionBoxes.h"
+#include "ui/Button.h"
+#include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
+#include "ui/Form.h"
+#include "ui/Grid.h"
+#include "ui/UpDown.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tellurix::lines {
+
+/// What a kind of lines is called in statements and towards the host.
+struct LineKind {
+    const char* table;
+    const char* dialogKey;      ///< behind the line's `ID` in the key of the selection dialog
+    const char* unitQuery;      ///< EINHEIT_ID and EINHEIT of the units that can be chosen
+    const char* lineColumns;    ///< "SELECT …  FROM …", without a condition
+    const char* contractColumn; ///< the condition's and the order's columns, as the statement names them
+    const char* keyColumn;
+    const char* placeColumn;
+};
+
+/// The editor of a contract's lines, as price and quantity lines share it.
+///
+/// A line is looked at in the view state and changed in the edit or new state, in which the list
+/// waits. A new line gets its row when something has to be written for it, and its place when it is
+/// saved; cancelling, and closing the window, removes the row again. Every line needs a selection
+/// value. The places of a contract's lines are 1 to n: loading repairs what an import or a failure
+/// left otherwise, and writes only the places that are wrong.
+class LineEditor : public ui::Form, public host::Screen {
+public:
+    /// Loads the lines of a contract.
+    /// @param shown whether to show the screen, and return when it is closed; otherwise it only
+    ///        keeps what it loaded, for the caller to copy
+    void Run(const host::TlxVar& session, std::int32_t contract, bool shown);
+
+    const ui::Grid& lines() const { return MSFlexGrid1; }
+
+protected:
+    enum class State { view, edit, fresh };
+
+    LineEditor(host::HostServices& services, const LineKind& kind, std::string name, std::string title);
+
+    /// Reads what the screen needs besides its lines.
+    virtual void prepare(bool shown) = 0;
+    virtual std::vector<ui::Grid::Column> gridColumns() const = 0;
+    /// The row that shows a record of the lines' statement.
+    virtual ui::Grid::Row FillGridRow(common::Recordset& record) const = 0;
+    /// Shows the fields of a line that only this kind has.
+    virtual void showFields(common::Recordset& line) = 0;
+    /// Empties these fields because the contract has no line.
+    virtual void showNoLine() = 0;
+    /// Empties those that a new line starts without; the others keep what they show.
+    virtual void emptyForNewLine() = 0;
+    /// Asks what has to be asked before saving.
+    virtual bool confirmSave() { return true; }
+    /// Sets the fields that only this kind has.
+    virtual void writeFields(common::UpdatableRecordset& line) = 0;
+    /// The current line, or the state, is another one.
+    virtual void currentLineShown() {}
+    virtual void stateShown() {}
+
+    /// The layout around the fields of the kind: `fields` in their frame, and what goes below them.
+    void arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
+                 std::vector<ui::Layout> below);
+
+    bool viewing() const { return state_ == State::view; }
+    bool hasLines() const { return !ids_.empty(); }
+    /// Place of the current line in its contract, from 1; 0 when there is no line.
+    int place() const { return MSFlexGrid1.currentRow() + 1; }
+    const LineStatements& statements() const { return statements_; }
+
+    void LoadGrid();
+    /// Shows what the database has for one line: its row in the grid and, for the current line, the fields.
+    void reloadLine(int row);
+    void showCurrentLine();
+
+    host::HostServices& services_;
+    host::TlxVar session_;
+    std::int32_t contract_ = 0;
+
+    ui::Grid MSFlexGrid1{*this, "MSFlexGrid1", 10};
+    ui::UpDown UpDown1{*this, "UpDown1"};
+    ui::Frame frmPosition{*this, "frmPosition", "Position"};
+    ui::Label lblBezeichnung{*this, "lblBezeichnung", "Bezeichnung"};
+    ui::TextBox txtBEZEICHNUNG{*this, "txtBEZEICHNUNG", 40};
+    ui::Label lblUnit{*this, "lblUnit", "Einheit"};
+    ui::ComboBox cboUnit{*this, "cboUnit", 14};
+
+private:
+    void connect();
+    void loadUnits();
+    std::string linesQuery() const;
+    std::int64_t createRow();
+    std::unique_ptr<common::UpdatableRecordset> openLine(const std::string& query);
+
+    void startNew();
+    void startEdit();
+    void save();
+    void saveLine();
+    void cancel();
+    void discardNewRow();
+    void removeLine();
+    void moveLine(int step);
+    void StoreSelection();
+    bool lineHasSelection();
+    void selectInDialog();
+    void ShowSelection(const std::string& value);
+    void showFieldsOf(common::Recordset& line);
+    void enter(State state);
+    bool queryUnload() override;
+
+    const LineKind& kind_;
+    LineStatements statements_;
+    std::vector<std::int64_t> ids_; ///< `ID` of each row of the grid
+    State state_ = State::view;
+    std::int64_t newId_;         ///< `ID` of the new line, -1 while it has no row
+    common::Value unlistedUnit_; ///< the line's unit where the list does not offer it
+
+    QuickSelectionBoxes quickSelection_{*this, services_, session_};
+    ui::Button cmdSelect{*this, "cmdSelect", "Selection"};
+    ui::CheckBox chkSelektion{*this, "chkSelektion"};
+    ui::Button cmdNeu{*this, "cmdNeu", "Neu"};
+    ui::Button cmdBearbeiten{*this, "cmdBearbeiten", "Bearbeiten"};
+    ui::Button cmdSpeichern{*this, "cmdSpeichern", "Speichern"};
+    ui::Button cmdAbbrechen{*this, "cmdAbbrechen", "Bearb. Abbr."};
+    ui::Button cmdLoschen{*this, "cmdLoschen", "Löschen"};
+    ui::Button cmdOk{*this, "cmdOk", "Schließen"};
+};
+
+} // namespace tellurix::lines

@@ -1,0 +1,94 @@
+#include "lines/LineStatements.h"
+
+#include "common/StatementText.h"
+
+namespace tellurix::lines {
+
+using common::StatementText;
+
+namespace {
+
+StatementText& atPlace(StatementText& statement, int place, std::int32_t contract) {
+    return statement.fixed(" WHERE ORDNUNG = ")
+        .number(std::int64_t{place})
+        .fixed(" AND ID_VERTRAG = ")
+        .number(std::int64_t{contract});
+}
+
+} // namespace
+
+std::string LineStatements::insert() const {
+    StatementText statement{"INSERT INTO "};
+    statement.identifier(table_).fixed(" (ID_VERTRAG) VALUES (").number(std::int64_t{contract_}).fixed(")");
+    return statement.text();
+}
+
+std::string LineStatements::newestKey() const {
+    StatementText statement{"SELECT MAX(ID) FROM "};
+    return statement.identifier(table_).text();
+}
+
+std::string LineStatements::removeOf(std::int64_t id) const {
+    StatementText statement{"DELETE FROM "};
+    return statement.identifier(table_).fixed(" WHERE ID =").number(id).text();
+}
+
+std::string LineStatements::lineAt(int place) const {
+    StatementText statement{"SELECT * FROM "};
+    return atPlace(statement.identifier(table_), place, contract_).text();
+}
+
+std::string LineStatements::lineOf(std::int64_t id) const {
+    StatementText statement{"SELECT * FROM "};
+    return statement.identifier(table_).fixed(" WHERE ID = ").number(id).text();
+}
+
+std::string LineStatements::keyAndSelectionAt(int place) const {
+    StatementText statement{"SELECT ID, SELEKTION_VALUE FROM "};
+    return atPlace(statement.identifier(table_), place, contract_).text();
+}
+
+std::string LineStatements::selectionAt(int place) const {
+    StatementText statement{"SELECT SELEKTION_VALUE FROM "};
+    return atPlace(statement.identifier(table_), place, contract_).text();
+}
+
+std::string LineStatements::selectionOf(std::int64_t id) const {
+    StatementText statement{"SELECT SELEKTION_VALUE FROM "};
+    return statement.identifier(table_).fixed(" WHERE ID = ").number(id).text();
+}
+
+std::string LineStatements::setSelectionAt(const std::string& literal, int place) const {
+    StatementText statement{"UPDATE "};
+    statement.identifier(table_).fixed(" SET SELEKTION_VALUE = ").quotedAsItStands(literal);
+    return atPlace(statement, place, contract_).text();
+}
+
+std::string LineStatements::setSelectionOf(const std::string& literal, std::int64_t id) const {
+    StatementText statement{"UPDATE "};
+    statement.identifier(table_).fixed(" SET SELEKTION_VALUE = ").quotedAsItStands(literal);
+    return statement.fixed(" WHERE ID = ").number(id).text();
+}
+
+std::string LineStatements::setDialogSelectionOf(const std::string& text, std::int64_t id) const {
+    StatementText statement{"UPDATE "};
+    statement.identifier(table_).fixed(" SET SELEKTION_VALUE = ");
+    if (text.empty()) {
+        statement.null();
+    } else {
+        statement.quoted(text);
+    }
+    return statement.fixed(" WHERE ID = ").number(id).text();
+}
+
+std::string LineStatements::closeGapBehind(int place) const {
+    StatementText statement{"UPDATE "};
+    return statement.identifier(table_)
+        .fixed(" SET ORDNUNG = ORDNUNG - 1 WHERE ORDNUNG > ")
+        .number(std::int64_t{place})
+        .fixed(" AND ID_VERTRAG = ")
+        .number(std::int64_t{contract_})
+        .text();
+}
+
+} // namespace tellurix::lines

@@ -1,0 +1,150 @@
+#include "lines/PriceChange.h"
+
+#include "common/M_Common.h"
+#include "common/StatementText.h"
+#include "common/field_text.h"
+#include "common/number_format.h"
+#include "ui/number_box.h"
+
+#include <stdexcept>
+
+namespace tellurix::lines {
+
+using common::Decimal;
+using common::StatementText;
+
+namespace {
+
+constexpr int fixedAmount = 0;
+constexpr int percentage = 1;
+
+std::optional<Decimal> numberIn(const common::Value& field) {
+    if (const auto* exact = std::get_if<Decimal>(&field)) return *exact;
+    if (const auto* whole = std::get_if<std::int64_t>(&field)) return Decimal{*whole};
+    if (const auto* floating = std::get_if<double>(&field)) return Decimal::fromDouble(*floating);
+    return std::nullopt;
+}
+
+} // namespace
+
+Decimal changedPrice(const Decimal& price, const Decimal& by, ChangeKind kind) {
+    if (kind == ChangeKind::amount) return (price + by).rounded(2);
+    return (price * (Decimal{100} + by)).dividedByTenTo(2).rounded(2);
+}
+
+PriceChange::PriceChange(ui::Form& form, host::HostServices& services, const host::TlxVar& session,
+                         const std::int32_t& contract, std::function<void()> changed)
+    : services_(services),
+      session_(session),
+      contract_(contract),
+      changed_(std::move(changed)),
+      btnPreiseAendern(form, "btnPreiseAendern", "Preise ändern"),
+      frmPreiseAendern(form, "frmPreiseAendern", "Vertragspreise ändern"),
+      lblErklarung(form, "lblErklarung",
+                   "Die Preise des gesamten Vertrages werden je nach Auswahl um einen Fixwert oder "
+                   "prozentuell verändert."),
+      lblWert(form, "lblWert", "Wert"),
+      txtWert(form, "txtWert", 12),
+      lblFixProzent(form, "lblFixProzent", "+/-"),
+      cmbFixProzent(form, "cmbFixProzent", 6),
+      grdVorschau(form, "grdVorschau", 6) {
+    ui::makeNumberBox(txtWert, "-#####0.00", services_.locale);
+    cmbFixProzent.add("+/-");
+    cmbFixProzent.add("%");
+    grdVorschau.setColumns({{.caption = "Bezeichnung", .width = 32},
+                            {.caption = "Preis bisher", .width = 14, .rightAligned = true},
+                            {.caption = "Preis neu", .width = 14, .rightAligned = true}});
+    txtWert.onChange = [this] { preview(); };
+    cmbFixProzent.onChange = [this] { preview(); };
+    btnPreiseAendern.onClick = [this] { press(); };
+}
+
+ui::Layout PriceChange::layout() {
+    return ui::frame(frmPreiseAendern,
+                     {lblErklarung,
+                      ui::fields(2, {ui::field(lblWert, txtWert), ui::field(lblFixProzent, cmbFixProzent)}),
+                      grdVorschau});
+}
+
+void PriceChange::setEnabled(bool enabled) {
+    btnPreiseAendern.setEnabled(enabled);
+    frmPreiseAendern.setEnabled(enabled);
+}
+
+void PriceChange::hide() {
+    frmPreiseAendern.setVisible(false);
+    txtWert.setText("");
+    cmbFixProzent.select(fixedAmount);
+}
+
+ChangeKind PriceChange::kind() const {
+    return cmbFixProzent.selected() == percentage ? ChangeKind::percent : ChangeKind::amount;
+}
+
+void PriceChange::press() {
+    if (frmPreiseAendern.visible()) {
+        change();
+    } else {
+        show();
+    }
+}
+
+void PriceChange::show() {
+    StatementText query{"SELECT BEZEICHNUNG,PREIS FROM VERTRAG_PREISE WHERE ID_VERTRAG = "};
+    query.number(std::int64_t{contract_}).fixed(" ORDER BY ORDNUNG");
+    lines_.clear();
+    for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext())
+        lines_.push_back({line->text("BEZEICHNUNG"), numberIn(line->field("PREIS"))});
+    preview();
+    frmPreiseAendern.setVisible(true);
+    common::SafeSetFocus(txtWert);
+    txtWert.selectAll();
+}
+
+void PriceChange::preview() {
+    const auto by = common::parseNumber(txtWert.text(), services_.locale);
+    std::vector<ui::Grid::Row> rows;
+    for (const Line& line : lines_) {
+        std::string before;
+        std::string after;
+        if (line.price) before = common::formatNumber(*line.price, "0.00##", services_.locale);
+        if (line.price && by) {
+            try {
+                after =
+                    common::formatNumber(changedPrice(*line.price, *by, kind()), "0.00", services_.locale);
+            } catch (const std::out_of_range&) {
+                after = "zu groß";
+            }
+        }
+        rows.push_back({line.description, std::move(before), std::move(after)});
+    }
+    grdVorschau.setRows(std::move(rows));
+}
+
+std::string PriceChange::statement() const {
+    StatementText text{"UPDATE VERTRAG_PREISE SET "};
+    if (kind() == ChangeKind::percent) {
+        text.fixed("PREIS = ROUND(PREIS * (100 + ").number(txtWert.text()).fixed(") / 100,2)");
+    } else {
+        text.fixed("PREIS = ROUND(PREIS  + ").number(txtWert.text()).fixed(",2)");
+    }
+    return text.fixed(" WHERE ID_Vertrag = ").number(std::int64_t{contract_}).text();
+}
+
+void PriceChange::change() {
+    const std::string amount = txtWert.text();
+    const std::string question = "Wollen Sie die Preise des Vertrages um " + amount +
+                                 (kind() == ChangeKind::percent ? " Prozent" : "") + " verändern?";
+    if (common::ShowMessage(services_.display, question, ui::box::yesNo, "Vertrag Preisänderung") !=
+        ui::Answer::yes) {
+        return;
+    }
+    // Leaving the box has made "0,00" of "0". Adding nothing would still round every price.
+    const auto by = common::parseNumber(amount, services_.locale);
+    if (amount.empty() || (by && *by == Decimal{})) return;
+    session_.connection->execute(statement());
+    hide();
+    changed_();
+}
+
+} // namespace tellurix::lines

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "common/Decimal.h"
+#include "host/services.h"
+#include "ui/Button.h"
+#include "ui/ComboBox.h"
+#include "ui/Frame.h"
+#include "ui/Grid.h"
+#include "ui/Label.h"
+#include "ui/Layout.h"
+#include "ui/TextBox.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tellurix::lines {
+
+/// What a price is changed by: an amount that is added, or a percentage.
+enum class ChangeKind { amount, percent };
+
+/// The price after a change, rounded to the cent as the database rounds it.
+/// @throws std::out_of_range when it has more than 18 digits
+common::Decimal changedPrice(const common::Decimal& price, const common::Decimal& by, ChangeKind kind);
+
+/// Changes the price of every line of a contract in one step. The button first shows the frame, in
+/// which every line's old and new price can be seen while the amount is typed, and then asks and
+/// changes.
+class PriceChange {
+public:
+    /// @param contract the contract whose prices are changed
+    /// @param changed called after the prices in the database have changed
+    PriceChange(ui::Form& form, host::HostServices& services, const host::TlxVar& session,
+                const std::int32_t& contract, std::function<void()> changed);
+
+    ui::Layout layout();
+    ui::Button& button() { return btnPreiseAendern; }
+    void setEnabled(bool enabled);
+    /// Hides the frame and forgets the amount.
+    void hide();
+
+private:
+    struct Line {
+        std::string description;
+        std::optional<common::Decimal> price;
+    };
+
+    void press();
+    void show();
+    void change();
+    void preview();
+    ChangeKind kind() const;
+    std::string statement() const;
+
+    host::HostServices& services_;
+    const host::TlxVar& session_;
+    const std::int32_t& contract_;
+    std::function<void()> changed_;
+    std::vector<Line> lines_;
+
+    ui::Button btnPreiseAendern;
+    ui::Frame frmPreiseAendern;
+    ui::Label lblErklarung;
+    ui::Label lblWert;
+    ui::TextBox txtWert;
+    ui::Label lblFixProzent;
+    ui::ComboBox cmbFixProzent;
+    ui::Grid grdVorschau;
+};
+
+} // namespace tellurix::lines

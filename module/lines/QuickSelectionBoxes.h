@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/services.h"
+#include "lines/selection_value.h"
+#include "ui/Frame.h"
+#include "ui/Label.h"
+#include "ui/Layout.h"
+#include "ui/TextBox.h"
+
+#include <array>
+
+namespace tellurix::lines {
+
+/// The frame "Schnellselektion": five boxes that restrict a line by species, sort, quality, strength
+/// and length. The coded boxes complete what is typed and let the user choose several codes.
+class QuickSelectionBoxes {
+public:
+    /// @param session the screen's own copy of the session record
+    QuickSelectionBoxes(ui::Form& form, host::HostServices& services, const host::TlxVar& session);
+
+    ui::Layout layout();
+    void setEnabled(bool enabled) { frmFilter.setEnabled(enabled); }
+
+    void show(const QuickSelection& selection);
+    /// What the boxes say. Lengths that are no numbers are dropped, from the box as well.
+    QuickSelection read();
+
+private:
+    void connect(Attribute attribute, const char* query, const char* settingKey, const char* column);
+
+    host::HostServices& services_;
+    const host::TlxVar& session_;
+    ui::Frame frmFilter;
+    std::array<ui::Label, attributeCount> labels_;
+    std::array<ui::TextBox, attributeCount> boxes_;
+};
+
+} // namespace tellurix::lines
