@@ -10,14 +10,16 @@ std::string dateText(const Value& field) {
     return moment == nullptr ? std::string{} : formatDate(*moment, "dd.mm.yyyy", Locale::german());
 }
 
+std::optional<Decimal> numberIn(const Value& field) {
+    if (const auto* exact = std::get_if<Decimal>(&field)) return *exact;
+    if (const auto* integer = std::get_if<std::int64_t>(&field)) return Decimal{*integer};
+    if (const auto* floating = std::get_if<double>(&field)) return Decimal::fromDouble(*floating);
+    return std::nullopt;
+}
+
 std::string numberText(const Value& field, std::string_view mask, const Locale& locale) {
-    if (const auto* exact = std::get_if<Decimal>(&field)) return formatNumber(*exact, mask, locale);
-    if (const auto* integer = std::get_if<std::int64_t>(&field))
-        return formatNumber(Decimal{*integer}, mask, locale);
-    if (const auto* floating = std::get_if<double>(&field)) {
-        return formatNumber(Decimal::fromDouble(*floating), mask, locale);
-    }
-    return {};
+    const auto number = numberIn(field);
+    return number ? formatNumber(*number, mask, locale) : std::string{};
 }
 
 } // namespace tellurix::common

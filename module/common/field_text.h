@@ -1,8 +1,10 @@
 #pragma once
 
+#include "common/Decimal.h"
 #include "common/Locale.h"
 #include "common/database.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,5 +16,7 @@ namespace tellurix::common {
 std::string dateText(const Value& field);
 /// A number field through a number mask.
 std::string numberText(const Value& field, std::string_view mask, const Locale& locale);
+/// A field of any numeric type as an exact number; nothing for NULL and for what is no number.
+std::optional<Decimal> numberIn(const Value& field);
 
 } // namespace tellurix::common

@@ -18,13 +18,6 @@ namespace {
 constexpr int fixedAmount = 0;
 constexpr int percentage = 1;
 
-std::optional<Decimal> numberIn(const common::Value& field) {
-    if (const auto* exact = std::get_if<Decimal>(&field)) return *exact;
-    if (const auto* whole = std::get_if<std::int64_t>(&field)) return Decimal{*whole};
-    if (const auto* floating = std::get_if<double>(&field)) return Decimal::fromDouble(*floating);
-    return std::nullopt;
-}
-
 } // namespace
 
 Decimal changedPrice(const Decimal& price, const Decimal& by, ChangeKind kind) {
@@ -94,7 +87,7 @@ void PriceChange::show() {
     query.number(std::int64_t{contract_}).fixed(" ORDER BY ORDNUNG");
     lines_.clear();
     for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext())
-        lines_.push_back({line->text("BEZEICHNUNG"), numberIn(line->field("PREIS"))});
+        lines_.push_back({line->text("BEZEICHNUNG"), common::numberIn(line->field("PREIS"))});
     preview();
     frmPreiseAendern.setVisible(true);
     common::SafeSetFocus(txtWert);

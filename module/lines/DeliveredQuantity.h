@@ -1,0 +1,69 @@
+#pragma once
+
+#include "common/Decimal.h"
+#include "common/date_time.h"
+#include "host/services.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tellurix::lines {
+
+/// The quantity delivered against a quantity line: the sum, in the line's unit, over the logs that
+/// are booked against the contract and that the line's selection takes.
+///
+/// A log counts for the first line, in their order, whose selection takes it. A line without a
+/// selection takes every log that is left, so that nothing is delivered against the lines behind it.
+class DeliveredQuantity {
+public:
+    /// @param reference what `LOGS_RECH` names the contract by: its name
+    DeliveredQuantity(host::SelectionTranslator& translator, const host::TlxVar& session,
+                      std::string reference, std::int32_t contract);
+
+    /// The delivered quantity of the line at a place; 0 for a unit in which logs have no measure.
+    /// @throws std::invalid_argument when a selection cannot be translated
+    common::Decimal of(int place) const;
+
+    /// One log that counts for a line.
+    struct CountedLog {
+        std::string number;
+        std::optional<common::DateTime> date;
+        std::string species;
+        std::string sort;
+        common::Decimal volume;   ///< solid cubic metres
+        common::Decimal quantity; ///< in the line's unit
+    };
+    /// How many logs of the contract another line has taken first.
+    struct Claim {
+        int place = 0;
+        std::int64_t logs = 0;
+    };
+    /// How the number of a line comes about.
+    struct Explanation {
+        std::vector<CountedLog> logs;
+        std::vector<Claim> earlier;
+        bool unitHasMeasure = true;
+    };
+    Explanation explain(int place) const;
+
+private:
+    /// A line as its part in the statement needs it.
+    struct Line {
+        int place = 0;
+        std::string condition;  ///< " FROM LOGS … WHERE …", empty without a selection
+        std::string expression; ///< the quantity of one log in the line's unit, empty for none
+    };
+
+    std::vector<Line> linesUpTo(int place) const;
+    /// The condition on the logs that count for line `index`; empty when an earlier one takes all.
+    std::string logsOf(const std::vector<Line>& lines, std::size_t index) const;
+
+    host::SelectionTranslator& translator_;
+    const host::TlxVar& session_;
+    std::string reference_;
+    std::int32_t contract_;
+};
+
+} // namespace tellurix::lines

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "host/services.h"
+#include "lines/DeliveredQuantity.h"
+#include "ui/Button.h"
+#include "ui/Form.h"
+#include "ui/Grid.h"
+#include "ui/Label.h"
+#include "ui/ListBox.h"
+
+#include <string>
+
+namespace tellurix::lines {
+
+/// Shows how the open quantity of a line comes about: the logs that count for it with their sum, and
+/// what the lines before it have taken of the contract's logs.
+class F_OffeneMenge final : public ui::Form {
+public:
+    /// @param session the calling screen's own copy of the session record
+    F_OffeneMenge(host::HostServices& services, const host::TlxVar& session);
+
+    /// @param description, unit of the line
+    /// @param agreed the line's quantity
+    void Run(const DeliveredQuantity::Explanation& explanation, const std::string& description,
+             const std::string& unit, const common::Decimal& agreed);
+
+private:
+    std::string number(const common::Decimal& value) const;
+
+    host::HostServices& services_;
+    const host::TlxVar& session_;
+
+    ui::Label lblZeile{*this, "lblZeile"};
+    ui::Grid grdHolz{*this, "grdHolz", 14};
+    ui::Label lblSumme{*this, "lblSumme"};
+    ui::Label lblFrueher{*this, "lblFrueher", "Von früheren Zeilen beansprucht"};
+    ui::ListBox lstFrueher{*this, "lstFrueher", 60, 4};
+    ui::Button btnSchliessen{*this, "btnSchliessen", "Schließen"};
+};
+
+} // namespace tellurix::lines

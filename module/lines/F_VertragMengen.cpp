@@ -1,0 +1,133 @@
+#include "lines/F_VertragMengen.h"
+
+#include "common/StatementText.h"
+#include "common/field_text.h"
+#include "common/number_format.h"
+
+namespace tellurix::lines {
+
+using common::Decimal;
+using common::StatementText;
+
+namespace {
+
+constexpr const char* currentMark = ">>";
+constexpr int markColumn = 0;
+
+// clang-format off
+const LineKind quantityLines{
+    .table = "VERTRAG_MENGEN",
+    .dialogKey = "VERTM",
+    .unitQuery = "SELECT EINHEIT_ID,EINHEIT FROM WARENEINHEIT WHERE HOLZ =1",
+    .lineColumns =
+        "SELECT VERTRAG_MENGEN.ID,VERTRAG_MENGEN.ID_VERTRAG,VERTRAG_MENGEN.ORDNUNG,VERTRAG_MENGEN.BEZEICHNUNG,VERTRAG_MENGEN.MENGE,"
+        "(SELECT WARENEINHEIT.EINHEIT FROM WARENEINHEIT WHERE WARENEINHEIT.EINHEIT_ID = VERTRAG_MENGEN.ID_WARENEINHEIT) AS EINHEIT,"
+        "VERTRAG_MENGEN.ID_WARENEINHEIT "
+        " FROM VERTRAG_MENGEN",
+    .contractColumn = "VERTRAG_MENGEN.ID_VERTRAG",
+    .keyColumn = "VERTRAG_MENGEN.ID",
+    .placeColumn = "VERTRAG_MENGEN.ORDNUNG",
+};
+// clang-format on
+
+} // namespace
+
+F_VertragMengen::F_VertragMengen(host::HostServices& services)
+    : LineEditor(services, quantityLines, "F_VertragMengen", "Mengen"),
+      quantity_(txtMenge, "-########0.00", services.locale),
+      offeneMenge_(services, session_) {
+    txtOffen.setLocked(true);
+    txtOffen.setRightAligned(true);
+    btnOffen.setToolTip("Zeigt, welche Stämme für diese Zeile zählen");
+    btnOffen.onClick = [this] { explainOpenQuantity(); };
+    arrange({ui::field(lblBezeichnung, txtBEZEICHNUNG), ui::field(lblMenge, txtMenge),
+             ui::field(lblUnit, cboUnit)},
+            {}, {ui::field(lblOffen, txtOffen, btnOffen)});
+}
+
+void F_VertragMengen::prepare(bool shown) {
+    services_.localizer.localize(session_, *this);
+    if (!shown) return;
+    reference_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
+                                                " ID_VERTRAG = " + std::to_string(contract_));
+    StatementText query{"SELECT UBERLIEFERUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = "};
+    const auto logistics = session_.connection->open(query.number(std::int64_t{contract_}).text());
+    overDelivery_.reset();
+    if (!logistics->atEnd()) overDelivery_ = common::numberIn(logistics->field("UBERLIEFERUNG"));
+}
+
+std::vector<ui::Grid::Column> F_VertragMengen::gridColumns() const {
+    return {{.caption = {}, .width = 4},
+            {.caption = lblBezeichnung.caption(), .width = 34},
+            {.caption = lblMenge.caption(), .width = 14, .rightAligned = true},
+            {.caption = lblUnit.caption(), .width = 10}};
+}
+
+ui::Grid::Row F_VertragMengen::FillGridRow(common::Recordset& record) const {
+    return {"", record.text("BEZEICHNUNG"),
+            common::numberText(record.field("MENGE"), "##0.00", services_.locale), record.text("EINHEIT")};
+}
+
+void F_VertragMengen::showFields(common::Recordset& line) {
+    quantity_.show(line.field("MENGE"));
+    agreed_ = common::numberIn(line.field("MENGE")).value_or(Decimal{});
+}
+
+void F_VertragMengen::showNoLine() {
+    emptyForNewLine();
+    agreed_ = {};
+}
+
+void F_VertragMengen::emptyForNewLine() {
+    quantity_.show(common::Null{});
+}
+
+void F_VertragMengen::writeFields(common::UpdatableRecordset& line) {
+    line.setField("Menge", quantity_.value());
+}
+
+void F_VertragMengen::currentLineShown() {
+    markCurrentRow();
+    txtOffen.setText("");
+    txtOffen.setWarning("");
+    if (!hasLines()) return;
+    try {
+        showOpenQuantity();
+    } catch (const std::exception& error) {
+        // A selection that cannot be read must not keep the line from being opened and put right.
+        services_.errors.report(error);
+    }
+}
+
+void F_VertragMengen::stateShown() {
+    btnOffen.setEnabled(viewing() && hasLines());
+}
+
+void F_VertragMengen::markCurrentRow() {
+    for (int row = 0; row < static_cast<int>(MSFlexGrid1.rows().size()); ++row)
+        MSFlexGrid1.setCell(row, markColumn, row == MSFlexGrid1.currentRow() ? currentMark : "");
+}
+
+DeliveredQuantity F_VertragMengen::delivered() const {
+    return {services_.selectionTranslator, session_, reference_, contract_};
+}
+
+void F_VertragMengen::showOpenQuantity() {
+    const Decimal quantity = delivered().of(place());
+    txtOffen.setText(common::formatNumber(agreed_ - quantity, "0.00", services_.locale));
+    const Decimal permitted = agreed_ + (agreed_ * overDelivery_.value_or(Decimal{})).dividedByTenTo(2);
+    if (quantity > permitted) {
+        txtOffen.setWarning("Überlieferung: geliefert wurden " +
+                            common::formatNumber(quantity, "##,##0.00", services_.locale) +
+                            ", zulässig sind " +
+                            common::formatNumber(permitted, "##,##0.00", services_.locale));
+    }
+}
+
+void F_VertragMengen::explainOpenQuantity() {
+    const int row = MSFlexGrid1.currentRow();
+    offeneMenge_.Run(delivered().explain(place()), MSFlexGrid1.cell(row, 1), MSFlexGrid1.cell(row, 3),
+                     agreed_);
+}
+
+} // namespace tellurix::lines
