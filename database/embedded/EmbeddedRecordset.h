@@ -9,8 +9,9 @@
 
 namespace tellurix::embedded {
 
-/// The rows of a query. Nothing runs before the first row is asked for; before its connection
-/// writes something the rest is read into memory, so the rows are those of the query's moment.
+/// The rows of a query. Nothing runs before the first row is asked for. Before its connection does
+/// something else the rest of a query that has begun is read into memory, before a write that of
+/// one that has not begun too: the rows are those of the query's moment.
 class EmbeddedRecordset final : public common::Recordset {
 public:
     /// @param task the query, already compiled
@@ -29,6 +30,8 @@ public:
     void moveNext() override;
     common::Value field(std::size_t index) override;
 
+    /// Whether rows are being fetched, which holds a moment of the database.
+    bool isReading() const { return state_ == State::reading; }
     /// Takes the remaining rows into memory. An error is kept until a row is asked for.
     void readRemainingRows() noexcept;
 

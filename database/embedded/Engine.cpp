@@ -59,6 +59,7 @@ void Engine::bind(SqliteStatement& statement, const Translation& translation, co
 }
 
 Running Engine::start(Batch& batch, const Task& task, const Frame& frame) {
+    releaseSnapshot();
     // A schema that changes over and over while we compile is a fault of its own.
     constexpr int mostAttempts = 20;
     for (int attempt = 1;; ++attempt) {
@@ -108,6 +109,15 @@ Cell Engine::valueOf(Batch& batch, const Task& task, const Frame& frame) {
 void Engine::readAllOpenRows() {
     const std::vector<EmbeddedRecordset*> rows = std::move(open_);
     open_.clear();
+    for (EmbeddedRecordset* const each : rows)
+        each->readRemainingRows();
+}
+
+void Engine::releaseSnapshot() {
+    const auto reading = std::partition(open_.begin(), open_.end(),
+                                        [](const EmbeddedRecordset* rows) { return !rows->isReading(); });
+    const std::vector<EmbeddedRecordset*> rows(reading, open_.end());
+    open_.erase(reading, open_.end());
     for (EmbeddedRecordset* const each : rows)
         each->readRemainingRows();
 }

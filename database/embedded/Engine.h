@@ -69,6 +69,9 @@ public:
     /// Every open recordset reads its remaining rows now: SQLite would mix a write of the same
     /// connection into rows that are still being fetched.
     void readAllOpenRows();
+    /// The same for those that have begun to read: as long as they do, every statement of the
+    /// connection would see the database as it was then.
+    void releaseSnapshot();
     void opened(EmbeddedRecordset& rows) { open_.push_back(&rows); }
     void closed(EmbeddedRecordset& rows);
 

@@ -93,6 +93,7 @@ private:
     std::string plainUpdate(const UpdateStatement& update);
     std::string joinedUpdate(const UpdateStatement& update);
     std::vector<int> insertColumns(const InsertStatement& insert, const Table& table) const;
+    std::vector<int> updatedColumns(const UpdateStatement& update, const Table& table) const;
     int assignedColumn(const Table& table, const Name& name) const;
     Fragment defaultOf(const Table& table, int column);
     const Table& table(const Name& name);

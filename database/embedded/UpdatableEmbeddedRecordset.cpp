@@ -19,6 +19,7 @@ UpdatableEmbeddedRecordset::UpdatableEmbeddedRecordset(std::shared_ptr<Engine> e
 }
 
 void UpdatableEmbeddedRecordset::readRows(const SelectStatement& select) {
+    engine_->releaseSnapshot();
     engine_->refreshCatalogue();
     const Variables none;
     Translator translator(engine_->catalogue(), none);

@@ -292,7 +292,8 @@ Fragment Translator::cast(const Expression& call) {
         const auto number = static_cast<int>(style.units);
         const bool dateToText = operand.type.kind == TypeKind::dateTime && call.type.isText();
         const bool numberToText = operand.type.isNumber() && call.type.isText();
-        if (!known || !(dateToText ? isDateStyle(number) : numberToText && number == 0))
+        const bool supported = dateToText ? isDateStyle(number) : numberToText && number == 0;
+        if (!operand.isNull() && !(known && supported))
             failSyntax("CONVERT from " + describe(operand.type) + " to " + describe(call.type) +
                            " does not support this style",
                        call.operands[1]->position);

@@ -66,6 +66,21 @@ int Translator::assignedColumn(const Table& table, const Name& name) const {
     return column;
 }
 
+/// The columns that an UPDATE sets, in the order of its assignments.
+std::vector<int> Translator::updatedColumns(const UpdateStatement& update, const Table& table) const {
+    std::vector<int> columns;
+    for (const Assignment& assignment : update.assignments) {
+        const int column = assignedColumn(table, assignment.column);
+        if (table.column(column).identity)
+            failSyntax("The identity " + labelOf(table, column) + " cannot be changed",
+                       assignment.column.position);
+        if (std::find(columns.begin(), columns.end(), column) != columns.end())
+            failSyntax("The column " + labelOf(table, column) + " is set twice", assignment.column.position);
+        columns.push_back(column);
+    }
+    return columns;
+}
+
 std::vector<int> Translator::insertColumns(const InsertStatement& insert, const Table& table) const {
     std::vector<int> columns;
     for (const Name& name : insert.columns) {
@@ -160,14 +175,10 @@ std::string Translator::plainUpdate(const UpdateStatement& update) {
     item.table = update.target;
     std::string sql = "UPDATE " + fromItemText(item, scope) + " SET ";
     const Table& target = table(update.target);
-    for (const Assignment& assignment : update.assignments) {
-        const int column = assignedColumn(target, assignment.column);
-        if (target.column(column).identity)
-            failSyntax("The identity " + labelOf(target, column) + " cannot be changed",
-                       assignment.column.position);
-        if (sql.back() != ' ') sql += ',';
-        sql += quoteName(target.column(column).name) + "=";
-        sql += convertForColumn(value(*assignment.value), target, column).sql;
+    const std::vector<int> columns = updatedColumns(update, target);
+    for (std::size_t index = 0; index < columns.size(); ++index) {
+        sql += (index == 0 ? "" : ",") + quoteName(target.column(columns[index]).name) + "=";
+        sql += convertForColumn(value(*update.assignments[index].value), target, columns[index]).sql;
     }
     if (update.where != nullptr) sql += " WHERE " + condition(update.where, "WHERE").sql;
     return sql;
@@ -185,15 +196,12 @@ std::string Translator::joinedUpdate(const UpdateStatement& update) {
     const Table& target = *source->table;
     std::string inner = "SELECT " + source->sqlAlias + "._rowid_ AS r";
     std::string sql = "UPDATE " + target.sqlName() + " AS u SET ";
-    for (std::size_t index = 0; index < update.assignments.size(); ++index) {
-        const Assignment& assignment = update.assignments[index];
-        const int column = assignedColumn(target, assignment.column);
-        if (target.column(column).identity)
-            failSyntax("The identity " + labelOf(target, column) + " cannot be changed",
-                       assignment.column.position);
+    const std::vector<int> columns = updatedColumns(update, target);
+    for (std::size_t index = 0; index < columns.size(); ++index) {
         const std::string name = "c" + std::to_string(index + 1);
-        inner += "," + convertForColumn(value(*assignment.value), target, column).sql + " AS " + name;
-        sql += (index == 0 ? "" : ",") + quoteName(target.column(column).name) + "=s." + name;
+        Fragment item = convertForColumn(value(*update.assignments[index].value), target, columns[index]);
+        inner += "," + item.sql + " AS " + name;
+        sql += (index == 0 ? "" : ",") + quoteName(target.column(columns[index]).name) + "=s." + name;
     }
     inner += from;
     if (update.where != nullptr) inner += " WHERE " + condition(update.where, "WHERE").sql;

@@ -65,7 +65,8 @@ void F_Vertrag::connect() {
 void F_Vertrag::arrange() {
     setLayout(column({
         row({
-            frame(frmKunde, {row({txtKunde, KundeButton, btnDeleteMan}), List1, row({btnHeader, btnZusatz})})
+            frame(frmKunde, {row({txtKunde, KundeButton, btnDeleteMan}), ui::Layout{List1}.growing(),
+                             row({btnHeader, btnZusatz})})
                 .growing(),
             column({
                 row({btnAbschlag, txtAbschlag}),

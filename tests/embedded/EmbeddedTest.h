@@ -31,6 +31,7 @@ protected:
         return Database(file_, clock_, {.create = true, .patience = std::chrono::milliseconds{300}});
     }
     const std::filesystem::path& file() const { return file_; }
+    const common::Clock& clock() const { return clock_; }
 
 private:
     StandingClock clock_;

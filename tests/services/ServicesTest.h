@@ -1,8 +1,9 @@
 #pragma once
 
-#include "services/SampleDatabase.h"
 #include "services/WorkbenchServices.h"
+#include "support/SampleDatabase.h"
 #include "support/ScriptedDisplay.h"
+#include "support/TestClock.h"
 
 #include <gtest/gtest.h>
 
@@ -10,32 +11,30 @@
 
 namespace tellurix::tests {
 
-/// Eight o'clock on 9 March 2026, for ever.
-class FixedClock final : public common::Clock {
-public:
-    common::DateTime now() const override;
-};
-
 /// A test of services: a small real database with the sample trade in it, a display that scripts
 /// work, and all services of one session.
 class ServicesTest : public testing::Test {
-protected:
-    ServicesTest();
-
-    /// The first field of a query's first row, "no row" when there is none.
-    std::string value(const std::string& query);
-
 private:
-    FixedClock clock_;
-    SampleDatabase database_{clock_};
-    std::unique_ptr<common::Connection> connection_;
+    struct TestTime final : common::Clock {
+        common::DateTime now() const override { return testClock().now(); }
+    };
+
+    SampleDatabase database_;
+    std::unique_ptr<common::Connection> connection_ = database_.connect();
 
 protected:
+    /// The first field of a query's first row.
+    std::string value(const std::string& query) {
+        const std::string row = firstRow(*connection_, query);
+        return row.substr(0, row.find(" | "));
+    }
+
     ScriptedDisplay display;
-    host::TlxVar session{.connection = nullptr, .homeCurrency = "CHF", .site = {}, .user = "anna"};
+    host::TlxVar session{.connection = connection_.get(), .homeCurrency = "CHF", .site = {}, .user = "anna"};
     workbench::TextCatalogue catalogue = workbench::TextCatalogue::builtIn();
-    workbench::WorkbenchServices services;
-    host::HostServices& host;
+    workbench::WorkbenchServices services{display, session, catalogue, common::Locale::german(),
+                                          std::make_unique<TestTime>()};
+    host::HostServices& host = services.host();
 };
 
 } // namespace tellurix::tests

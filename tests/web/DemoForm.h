@@ -86,7 +86,7 @@ public:
     ui::TextBox txtWeek{*this, "txtWeek", 4};
     ui::UpDown updWeek{*this, "updWeek"};
     ui::ProgressBar progress{*this, "progress"};
-    ui::Label lblState{*this, "lblState"};
+    ui::TextBox txtState{*this, "txtState", 80};
     ui::Button btnQuestion{*this, "btnQuestion", "&Frage"};
     ui::Button btnSlow{*this, "btnSlow", "Lan&gsam"};
     ui::Button btnFail{*this, "btnFail", "F&ehler"};
@@ -113,6 +113,7 @@ private:
     void fill() {
         txtLocked.setText("M. Weiß, 03.02.2024");
         txtLocked.setLocked(true);
+        txtState.setLocked(true);
         txtDisabled.setText("nein");
         txtDisabled.setEnabled(false);
         txtName.setMaxLength(30);
@@ -145,7 +146,7 @@ private:
     }
 
     void connect() {
-        const auto show = [this] { lblState.setCaption(state()); };
+        const auto show = [this] { txtState.setText(state()); };
         for (ui::TextBox* box : {&txtName, &txtDate, &txtAmount, &txtKunde})
             box->onChange = show;
         ui::makeDateBox(txtDate, [this] {
@@ -164,7 +165,7 @@ private:
             show();
         };
         grdLines.onDoubleClick = [this] {
-            lblState.setCaption("Zeile " + std::to_string(grdLines.currentRow() + 1));
+            txtState.setText("Zeile " + std::to_string(grdLines.currentRow() + 1));
         };
         grdLines.onCurrentChange = [this] { progress.setProgress(grdLines.currentRow(), 600); };
         chkClosed.onClick = [this] { frmTexts.setEnabled(!chkClosed.checked()); };
@@ -174,7 +175,7 @@ private:
             const ui::Answer answer = display_.messageBox(
                 "Der Vertrag wurde geändert.\nSollen die Änderungen gespeichert werden?",
                 ui::box::yesNoCancel | ui::box::question | ui::box::defaultButton2, "Tellurix");
-            lblState.setCaption("Antwort " + std::to_string(static_cast<int>(answer)));
+            txtState.setText("Antwort " + std::to_string(static_cast<int>(answer)));
         };
         btnSlow.onClick = [this] {
             const ui::BusyPointer busy{display_};
@@ -202,7 +203,7 @@ private:
                             ui::frame(frmTexts, {ui::field(lblNotes, txtNotes)})})
                 .growing(),
             progress,
-            lblState,
+            txtState,
             ui::row({btnQuestion, btnSlow, btnFail, btnOpen, btnClose}),
         }));
     }

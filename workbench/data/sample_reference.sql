@@ -190,8 +190,11 @@ INSERT INTO WVO_T_BEREITSELLUNGS (ID, [SHORT], [LONG]) VALUES
 (7, 'Sa', 'Samstag')
 GO
 
--- MESZAHL 1 shows the measure-number column of the price lines.
+-- MESZAHL 1 shows the measure-number column of the price lines; ARTIKEL 1 takes the article columns of
+-- the deduction models; STANDARDMANDANT is the client that the host starts with.
 INSERT INTO WORKBENCH_SETTING ([NAME], [VALUE]) VALUES
 ('MESZAHL', '0'),
+('ARTIKEL', '0'),
+('STANDARDMANDANT', '1'),
 ('PATHOFWVOWEBVERTRAEGE', 'vertragsdokumente')
 GO

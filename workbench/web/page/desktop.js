@@ -51,7 +51,7 @@ export class Desktop {
     this.#placing = true;
     const element = this.focused?.focusElement ?? top.element;
     if (document.activeElement !== element) element.focus({ preventScroll: false });
-    this.focused?.showSelection?.();
+    this.focused?.focusPlaced?.();
     this.#placing = false;
   }
 

@@ -80,7 +80,9 @@ export class MessageBox {
   #button(description) {
     const button = document.createElement('button');
     button.className = 'button';
-    showCaption(button, description.caption);
+    const words = document.createElement('span');
+    showCaption(words, description.caption);
+    button.append(words);
     announceAccessKey(button, description.caption);
     button.addEventListener('click', () => this.#answer(description.answer));
     return button;

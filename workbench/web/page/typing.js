@@ -25,9 +25,14 @@ export function characterOffset(text, units, severalLines) {
   return count;
 }
 
+/** A text without the control characters that clipboards bring along: each becomes a blank. */
+export function typeable(text) {
+  return text.replace(/[^\P{Cc}\n]/gu, ' ');
+}
+
 /** As much of a text as can be typed into a box in place of what is selected. */
 export function insertion(text, input, { maxLength, lines }) {
-  const clean = lineEnds(text, lines > 1).replace(/[^\P{Cc}\n]/gu, '');
+  const clean = typeable(lineEnds(text, lines > 1));
   if (maxLength <= 0) return clean;
   const rest = input.value.length - (input.selectionEnd - input.selectionStart);
   return clean.slice(0, Math.max(maxLength - rest, 0));

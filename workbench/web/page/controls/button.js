@@ -20,7 +20,9 @@ export class Button extends View {
       this.element.setAttribute('aria-label', plainCaption(caption) || tip);
       if (!tip && caption) this.element.title = plainCaption(caption);
     } else {
-      showCaption(this.element, caption);
+      const words = document.createElement('span');
+      showCaption(words, caption);
+      this.element.replaceChildren(words);
       this.element.removeAttribute('aria-label');
     }
     announceAccessKey(this.element, caption);

@@ -41,6 +41,7 @@ export class Grid extends View {
     const visible = this.state.columns.filter((column) => column.visible);
     const widths = visible.map((column) => `minmax(${column.width + 2}ch, ${column.width + 2}fr)`);
     this.element.style.setProperty('--columns', widths.join(' ') || '1fr');
+    this.element.style.setProperty('--width', visible.reduce((sum, column) => sum + column.width + 2, 0));
     this.#head.replaceChildren(...visible.map((column) => {
       const cell = document.createElement('div');
       cell.setAttribute('role', 'columnheader');

@@ -1,13 +1,14 @@
 // A box to type into. The browser edits it, unless a filter has to see every character; either way
 // the session knows each text before anything that depends on it.
 import { text as ownText } from '../texts.js';
-import { characterOffset, insertion, keyEffect, lineEnds, unitOffset } from '../typing.js';
+import { characterOffset, insertion, keyEffect, lineEnds, typeable, unitOffset } from '../typing.js';
 import { View } from './view.js';
 
 export class TextBox extends View {
   #pick = null;
   #known = { start: 0, length: 0 }; // the selection as the session knows it
   #toShow = null; // a selection of the session that has not been shown yet
+  #left = null; // the browser's selection when the box lost the focus
   #beforeComposing = null;
 
   constructor(window, state) {
@@ -24,6 +25,9 @@ export class TextBox extends View {
       if (this.hasFocus && !this.desktop.busy) return;
       event.preventDefault();
       if (this.usable) this.perform({ type: 'focus' });
+    });
+    input.addEventListener('blur', () => {
+      this.#left = [input.selectionStart, input.selectionEnd, input.selectionDirection];
     });
     input.addEventListener('input', (event) => {
       if (!event.isComposing) this.#edited();
@@ -50,9 +54,15 @@ export class TextBox extends View {
     }
   }
 
-  /** Shows the selection that the session set, once the box has the focus. */
-  showSelection() {
-    if (!this.#toShow) return;
+  /** The box has got the focus: shows the selection that the session set, or the one it had. */
+  focusPlaced() {
+    const left = this.#left;
+    this.#left = null;
+    if (!this.#toShow) {
+      // Some browsers select everything when the focus comes back.
+      if (left) this.focusElement.setSelectionRange(...left);
+      return;
+    }
     const { start, length } = this.#toShow;
     this.#toShow = null;
     this.#known = { start, length };
@@ -111,7 +121,13 @@ export class TextBox extends View {
   }
 
   #say() {
-    const text = this.focusElement.value;
+    const input = this.focusElement;
+    const text = typeable(input.value);
+    if (text !== input.value) {
+      const { selectionStart, selectionEnd } = input;
+      input.value = text;
+      input.setSelectionRange(selectionStart, selectionEnd);
+    }
     if (text === lineEnds(this.state.text, this.#severalLines)) return;
     this.state.text = text;
     this.#known = this.#selection();

@@ -1,0 +1,282 @@
+// The browser display in a real browser, over a form with every kind of control.
+import assert from 'node:assert/strict';
+import { after, before, beforeEach, afterEach, describe, test } from 'node:test';
+import { control, focused, open, serve, startBrowser, until } from './support.js';
+
+const program = process.env.TELLURIX_WEB_DEMO;
+
+describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO names no program' }, () => {
+  let server;
+  let browser;
+  let page;
+  let problems;
+
+  before(async () => {
+    server = await serve(program, '1500');
+    browser = await startBrowser();
+  });
+  after(async () => {
+    await browser?.close();
+    await server?.stop();
+  });
+  beforeEach(async () => {
+    ({ page, problems } = await open(browser, server.address));
+  });
+  afterEach(async () => {
+    await page.context().close();
+    assert.deepEqual(problems, []);
+  });
+
+  /** Types as fast as it goes; "\t" is the Tab key. */
+  const type = async (text) => {
+    for (const [index, part] of text.split('\t').entries()) {
+      if (index > 0) await page.keyboard.press('Tab');
+      await page.keyboard.type(part);
+    }
+  };
+  const value = (name) => control(page, name).inputValue();
+  const press = async (...keys) => {
+    for (const key of keys) await page.keyboard.press(key);
+  };
+  const hasFocus = (name) =>
+    until(async () => (await focused(page)) === name || focused(page), `focus on ${name}`);
+  /** What the screen itself knows, not what the page shows. */
+  const state = (expected) =>
+    until(async () => {
+      const shown = await value('txtState');
+      return shown === expected || shown;
+    }, `state ${expected}`);
+  const message = () => page.locator('.message');
+
+  test('typing without a pause across Tab and Enter loses nothing', async () => {
+    await type('Müller & Söhne 🌲\t01.02.2024\t1234,5\tSäge');
+    await press('Enter');
+    await hasFocus('btnDelete');
+    await state('Müller & Söhne 🌲|01.02.2024|1.234,50|Säge');
+    assert.equal(await value('txtName'), 'Müller & Söhne 🌲');
+  });
+
+  test('keys typed during a slow handler go where it sends the focus, in their order', async () => {
+    await type('zuerst');
+    await press('Alt+g');
+    await type('danxah');
+    await press('Backspace', 'Backspace', 'Backspace');
+    await type('n');
+    await press('Home');
+    await type('>');
+    await press('Shift+End', 'Delete');
+    await type('\t3.4.2024\t');
+    await state('>|3.4.2024||');
+    await hasFocus('txtAmount');
+    assert.equal(await value('txtDate'), '03.04.2024');
+  });
+
+  test('keys between a letter and its answer keep their places', async () => {
+    await type('abc');
+    await press('ArrowLeft', 'ArrowLeft');
+    await type('XY');
+    await press('Control+a');
+    await type('neu');
+    await press('Control+ArrowLeft');
+    await type('_');
+    await state('_neu|||');
+  });
+
+  test('a filter sees every character, typed and pasted', async () => {
+    await page.context().grantPermissions(['clipboard-read', 'clipboard-write']);
+    await press('Tab');
+    await type('a1b2.x3');
+    await state('|12.3||');
+    await press('Backspace');
+    await page.evaluate(() => navigator.clipboard.writeText('am 5.2024'));
+    await press('Control+v');
+    await state('|12.5.2024||');
+    await press('Tab');
+    await type('12.5');
+    await state('|12.05.2024|12,5|');
+  });
+
+  test('a bad date keeps the focus, and what was typed meanwhile does not answer the message', async () => {
+    await press('Tab');
+    await type('31.02.2024\t77');
+    await message().waitFor();
+    assert.match(await message().textContent(), /31\.02\.2024/);
+    await page.waitForTimeout(100);
+    assert.equal(await message().count(), 1);
+    await press('Escape');
+    await message().waitFor({ state: 'detached' });
+    await hasFocus('txtDate');
+    // What was typed ahead is not lost: it comes to where the focus is now, over the selected text.
+    await state('|77||');
+  });
+
+  test('a click on another box asks the box that is left', async () => {
+    await press('Tab');
+    await type('99');
+    await control(page, 'txtKunde').click();
+    await message().waitFor();
+    await press('Enter');
+    await hasFocus('txtDate');
+    await press('Backspace', 'Backspace');
+    await control(page, 'txtKunde').click();
+    await hasFocus('txtKunde');
+  });
+
+  test('a message is answered by letter, arrows, Enter and Esc', async () => {
+    for (const [keys, answer] of [
+      [['j'], 6], [['n'], 7], [['a'], 2], [['Enter'], 7], [['ArrowRight', 'Enter'], 2],
+      [['Shift+Tab', ' '], 6], [['Escape'], 2], [['Alt+j'], 6],
+    ]) {
+      await press('Alt+f');
+      await message().waitFor();
+      await press(...keys);
+      await message().waitFor({ state: 'detached' });
+      await state(`Antwort ${answer}`);
+      await hasFocus('btnQuestion');
+    }
+  });
+
+  test('Ctrl alone, F4 and the small button open the picker, Ctrl with a letter does not', async () => {
+    const picker = page.locator('[data-form=DemoPicker]');
+    await control(page, 'txtKunde').focus();
+    await hasFocus('txtKunde');
+    await press('Control+c');
+    await page.waitForTimeout(60);
+    assert.equal(await picker.count(), 0);
+    for (const opens of [() => press('Control'), () => press('F4'), () => page.locator('.pick').click()]) {
+      await opens();
+      await picker.waitFor();
+      await press('Escape');
+      await picker.waitFor({ state: 'detached' });
+      await hasFocus('txtKunde');
+    }
+  });
+
+  test('a window above takes the keys typed ahead and gives back what was chosen', async () => {
+    await control(page, 'txtKunde').focus();
+    await hasFocus('txtKunde');
+    await press('F4');
+    await type('abc\t');
+    await press('ArrowDown', 'ArrowDown', 'Enter');
+    await state('|||Sägewerk Ahrens');
+    await hasFocus('txtKunde');
+    assert.equal(await page.locator('.window').count(), 1);
+  });
+
+  test('only the topmost window can be used', async () => {
+    await press('Alt+e');
+    await message().waitFor();
+    await press('Enter');
+    await message().waitFor({ state: 'detached' });
+    await control(page, 'btnOpen').click();
+    await until(async () => (await page.locator('.window').count()) === 2, 'second window');
+    assert.equal(await page.locator('.window.behind').evaluate((element) => element.inert), true);
+    await type('oben');
+    await state('oben|||');
+    await page.locator('.close').click();
+    await until(async () => (await page.locator('.window').count()) === 1, 'second window closed');
+    assert.equal(await value('txtName'), '');
+  });
+
+  test('a list, a table, tabs and boxes follow the keyboard and the pointer', async () => {
+    await control(page, 'cboType').focus();
+    await hasFocus('cboType');
+    await type('v');
+    await press('ArrowDown');
+    await until(async () => (await value('cboType')) === 'Verkauf Schnittholz', 'type');
+    await control(page, 'cboType').selectOption('Einkauf Rundholz');
+    await until(async () => (await value('cboType')) === 'Einkauf Rundholz', 'type chosen');
+
+    await control(page, 'grdLines').focus();
+    await hasFocus('grdLines');
+    await press('End', 'ArrowUp', 'Enter');
+    await state('Zeile 599');
+    assert.equal(await page.locator('.grid-row.current').getAttribute('aria-rowindex'), '600');
+    await page.locator('.grid-row >> nth=597').locator('div >> nth=1').dblclick();
+    await state('Zeile 598');
+
+    await page.getByRole('tab', { name: 'Texte' }).click();
+    await until(() => control(page, 'txtNotes').isVisible(), 'second page');
+    await press('Alt+b');
+    await hasFocus('txtNotes');
+    await type('eins');
+    await press('Control+Enter');
+    await type('zwei');
+    await until(async () => (await value('txtNotes')) === 'eins\nzwei', 'two lines');
+    await press('Alt+s');
+    await until(() => control(page, 'txtNotes').isDisabled(), 'frame disabled');
+    assert.equal(await control(page, 'chkClosed').isChecked(), true);
+    await page.getByRole('button', { name: 'Erhöhen' }).click();
+    await until(async () => (await value('txtWeek')) === '15', 'week');
+  });
+
+  test('controls have roles, names and states for screen readers', async () => {
+    await page.getByRole('textbox', { name: 'Vertragsname:' }).waitFor();
+    await page.getByRole('combobox', { name: 'Vertragsart:' }).waitFor();
+    await page.getByRole('checkbox', { name: 'Vertrag abgeschlossen' }).waitFor();
+    await page.getByRole('button', { name: 'Kunde entfernen' }).waitFor();
+    await page.getByRole('gridcell', { name: 'Lärche' }).first().waitFor();
+    assert.equal(await page.evaluate(() => document.documentElement.lang), 'de');
+    await press('Alt+f');
+    await page.getByRole('alertdialog', { name: 'Tellurix' }).waitFor();
+    await press('Escape');
+  });
+
+  test('an interrupted line keeps the windows and everything typed', async () => {
+    await type('vorher');
+    await control(page, 'txtKunde').focus();
+    await press('F4');
+    await page.locator('[data-form=DemoPicker]').waitFor();
+    await type('Suche');
+    await page.evaluate(() => window.cutLine());
+    await type('n');
+    await page.locator('#banner', { hasText: 'unterbrochen' }).waitFor();
+    await type('verschluckt');
+    await page.evaluate(() => window.mendLine());
+    await until(async () => (await page.locator('#banner').textContent()) === '', 'found again');
+    await until(async () => (await value('txtSearch')) === 'Suchen' || value('txtSearch'), 'typed text');
+    await press('Escape');
+    await state('vorher|||');
+    assert.equal(await value('txtName'), 'vorher');
+  });
+
+  test('a message waits for its answer across an interruption and a reload', async () => {
+    await press('Alt+f');
+    await message().waitFor();
+    await page.evaluate(() => {
+      window.cutLine();
+      setTimeout(window.mendLine, 50);
+    });
+    await page.waitForTimeout(400);
+    await page.reload();
+    await message().waitFor();
+    await press('j');
+    await state('Antwort 6');
+  });
+
+  test('a second tab has a session of its own, even a duplicated one', async () => {
+    await type('erster');
+    await state('erster|||');
+    const copy = await page.evaluate(() => sessionStorage.getItem('tellurix-session'));
+    const other = await page.context().newPage();
+    await other.addInitScript((id) => sessionStorage.setItem('tellurix-session', id), copy);
+    await other.goto(server.address);
+    await other.waitForSelector('.window');
+    assert.equal(await control(other, 'txtName').inputValue(), '');
+    await type('!');
+    await state('erster!|||');
+  });
+
+  test('a browser that stays away too long is told so and can start again', async () => {
+    await type('weg');
+    await page.evaluate(() => window.cutLine());
+    await page.waitForTimeout(1700);
+    await page.evaluate(() => window.mendLine());
+    const ended = page.getByRole('alertdialog', { name: 'Sitzung beendet' });
+    await ended.waitFor();
+    await ended.getByRole('button', { name: 'Neu beginnen' }).click();
+    await page.waitForSelector('.window');
+    await ended.waitFor({ state: 'detached' });
+    assert.equal(await value('txtName'), '');
+  });
+});

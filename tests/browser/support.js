@@ -1,0 +1,89 @@
+// Starts a program that serves screens, and a browser that looks at it as a user does.
+import { spawn } from 'node:child_process';
+import { chromium } from 'playwright-core';
+
+const quiet = [
+  '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
+  '--disable-background-networking', '--disable-component-update', '--disable-sync',
+];
+
+/** Starts the program and waits for the address that it prints. */
+export async function serve(program, ...options) {
+  const child = spawn(program, options, { stdio: ['ignore', 'pipe', 'inherit'] });
+  const address = await new Promise((resolve, reject) => {
+    let output = '';
+    child.stdout.on('data', (text) => {
+      output += text;
+      const found = /http:\S+/.exec(output);
+      if (found) resolve(found[0]);
+    });
+    child.on('exit', () => reject(new Error(`${program} ended: ${output}`)));
+    child.on('error', reject);
+  });
+  return {
+    address,
+    stop() {
+      if (child.exitCode !== null || child.signalCode !== null) return Promise.resolve();
+      const ended = new Promise((resolve) => child.on('exit', resolve));
+      child.kill('SIGTERM');
+      return ended;
+    },
+  };
+}
+
+export function startBrowser() {
+  return chromium.launch({ executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium', args: quiet });
+}
+
+/** Opens the address in a tab of its own browser profile, whose connection can be cut. */
+export async function open(browser, address, size = { width: 1366, height: 768 }) {
+  const context = await browser.newContext({ viewport: size });
+  const page = await context.newPage();
+  const problems = [];
+  page.on('pageerror', (error) => problems.push(String(error)));
+  page.on('console', (message) => {
+    if (message.type() === 'error') problems.push(message.text());
+  });
+  await page.addInitScript(() => {
+    const Genuine = WebSocket;
+    const open = new Set();
+    window.WebSocket = class extends Genuine {
+      constructor(address) {
+        super(address);
+        open.add(this);
+        if (window.lineIsCut) this.close();
+      }
+    };
+    window.cutLine = () => {
+      window.lineIsCut = true;
+      for (const socket of open) socket.close();
+    };
+    window.mendLine = () => {
+      window.lineIsCut = false;
+    };
+  });
+  await page.goto(address);
+  await page.waitForSelector('.window');
+  return { page, problems };
+}
+
+/** The control of that name in the topmost window. */
+export function control(page, name) {
+  return page.locator(`.window:not(.behind) [data-control="${name}"]`);
+}
+
+/** Name of the control that has the browser's focus. */
+export function focused(page) {
+  return page.evaluate(() => document.activeElement?.dataset.control ?? '');
+}
+
+/** Waits until the session has dealt with everything. */
+export async function until(condition, what) {
+  const end = Date.now() + 5000;
+  for (;;) {
+    const now = await condition();
+    if (now === true) return;
+    if (Date.now() > end) throw new Error(`${what}: ${JSON.stringify(now)}`);
+    await new Promise((resolve) => setTimeout(resolve, 15));
+  }
+}
