@@ -22,22 +22,25 @@ using ui::row;
 namespace {
 
 constexpr int discardQuestion = 1078;
+constexpr const char* priceScreen = "F_VertragPreise";
+constexpr const char* quantityScreen = "F_VertragMengen";
 
 } // namespace
 
-F_Vertrag::F_Vertrag(host::HostServices& services) : Form("F_Vertrag"), services_(services) {
+F_Vertrag::F_Vertrag(host::HostServices& services)
+    : Form("F_Vertrag"), services_(services), takeOver_(*this, services, session_, id_, [this] {
+          showQuantityLines(false);
+          showPriceLines(false);
+      }) {
     txtKunde.setLocked(true);
     txtAbschlag.setLocked(true);
     btnZusatz.setToolTip("Zusatztext");
     cmdZusatzText.setToolTip("Zusatztext");
     btnDeleteMan.setToolTip("Kunde aus dem Vertrag entfernen");
     picZusatzText.setVisible(false);
-    ProgressBar1.setVisible(false);
     txtMessage.setVisible(false);
     // Their screens are not part of the module yet.
-    const std::initializer_list<ui::Control*> later{&PreisButton,         &PosButton,       &btnAbschlag,
-                                                    &btnLieferprofil_WVO, &btnUbernehmen,   &btnWord,
-                                                    &txtVertrag,          &txtTypeOfVertrag};
+    const std::initializer_list<ui::Control*> later{&btnAbschlag, &btnLieferprofil_WVO, &btnWord};
     for (ui::Control* control : later)
         control->setEnabled(false);
     connect();
@@ -48,6 +51,8 @@ void F_Vertrag::connect() {
     KundeButton.onClick = [this] { chooseCustomer(); };
     btnDeleteMan.onClick = [this] { removeCustomer(); };
     btnHeader.onClick = [this] { openHeader(); };
+    PreisButton.onClick = [this] { showPriceLines(true); };
+    PosButton.onClick = [this] { showQuantityLines(true); };
     btnZusatz.onClick = [this] { toggleAdditionalTexts(); };
     cmdZusatzText.onClick = [this] { toggleAdditionalTexts(); };
     btnSpeichern.onClick = [this] { save(); };
@@ -73,9 +78,7 @@ void F_Vertrag::arrange() {
                 chkAbgeschlossen,
                 chkAClEmpty,
                 btnLieferprofil_WVO,
-                frame(frmUbernehmen,
-                      {fields(1, {field(lblVertrag, txtVertrag), field(lblTypeOfVertrag, txtTypeOfVertrag)}),
-                       row({btnUbernehmen, ProgressBar1})}),
+                takeOver_.layout(),
             }),
         }),
         frame(picZusatzText,
@@ -100,6 +103,7 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     newContract_ = newVertrag;
     picZusatzText.setVisible(false);
     btnLieferprofil_WVO.setVisible(true);
+    takeOver_.clear();
 
     name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
                                            " ID_VERTRAG = " + std::to_string(id_));
@@ -111,8 +115,8 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     loadContract();
     loadAdditionalTexts();
     ShowHeader();
-    showPriceLines();
-    showQuantityLines();
+    showPriceLines(false);
+    showQuantityLines(false);
     services_.localizer.localize(session_, *this);
     setTitle(strCaption + " (" + name_ + ")");
     txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
@@ -199,50 +203,37 @@ void F_Vertrag::ShowHeader() {
 }
 
 void F_Vertrag::CopyGrid(const ui::Grid& source, ui::Grid& target) {
-    target.setColumns(source.columns());
+    std::vector<ui::Grid::Column> columns = source.columns();
+    // The column that marks the current line says nothing in an overview.
+    for (ui::Grid::Column& column : columns)
+        column.visible = column.visible && !column.caption.empty();
+    target.setColumns(std::move(columns));
     target.setRows(source.rows());
 }
 
-void F_Vertrag::showPriceLines() {
-    // clang-format off
-    StatementText query{"SELECT VERTRAG_PREISE.BEZEICHNUNG,VERTRAG_PREISE.PREIS,"
-        "(SELECT WARENEINHEIT.EINHEIT FROM WARENEINHEIT WHERE WARENEINHEIT.EINHEIT_ID = VERTRAG_PREISE.ID_WARENEINHEIT) AS EINHEIT,"
-        "VERTRAG_PREISE.EURO"
-        " FROM VERTRAG_PREISE"
-        " WHERE ID_VERTRAG = "};
-    // clang-format on
-    query.number(std::int64_t{id_}).fixed(" ORDER BY ORDNUNG");
-    std::vector<ui::Grid::Row> lines;
-    for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext()) {
-        lines.push_back({line->text("BEZEICHNUNG"),
-                         common::numberText(line->field("PREIS"), "##0.00", services_.locale),
-                         line->text("EINHEIT"), line->flag("EURO") ? "EUR" : session_.homeCurrency});
-    }
-    Grid1.setColumns({{.caption = "Bezeichnung", .width = 34},
-                      {.caption = "Preis", .width = 12, .rightAligned = true},
-                      {.caption = "Einheit", .width = 9},
-                      {.caption = "Währung", .width = 9}});
-    Grid1.setRows(std::move(lines));
+lines::F_VertragPreise& F_Vertrag::priceLines() {
+    return host::moduleState().screen<lines::F_VertragPreise>(
+        priceScreen, [this] { return std::make_unique<lines::F_VertragPreise>(services_); });
 }
 
-void F_Vertrag::showQuantityLines() {
-    // clang-format off
-    StatementText query{"SELECT VERTRAG_MENGEN.BEZEICHNUNG,VERTRAG_MENGEN.MENGE,"
-        "(SELECT WARENEINHEIT.EINHEIT FROM WARENEINHEIT WHERE WARENEINHEIT.EINHEIT_ID = VERTRAG_MENGEN.ID_WARENEINHEIT) AS EINHEIT"
-        " FROM VERTRAG_MENGEN"
-        " WHERE VERTRAG_MENGEN.ID_VERTRAG = "};
-    // clang-format on
-    query.number(std::int64_t{id_}).fixed(" ORDER BY VERTRAG_MENGEN.ORDNUNG");
-    std::vector<ui::Grid::Row> lines;
-    for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext()) {
-        lines.push_back({line->text("BEZEICHNUNG"),
-                         common::numberText(line->field("MENGE"), "##,##0.00", services_.locale),
-                         line->text("EINHEIT")});
-    }
-    Grid2.setColumns({{.caption = "Bezeichnung", .width = 34},
-                      {.caption = "Menge", .width = 14, .rightAligned = true},
-                      {.caption = "Einheit", .width = 9}});
-    Grid2.setRows(std::move(lines));
+lines::F_VertragMengen& F_Vertrag::quantityLines() {
+    return host::moduleState().screen<lines::F_VertragMengen>(
+        quantityScreen, [this] { return std::make_unique<lines::F_VertragMengen>(services_); });
+}
+
+void F_Vertrag::showPriceLines(bool openScreen) {
+    priceLines().Run(session_, id_, openScreen);
+    CopyGrid(priceLines().lines(), Grid1);
+}
+
+void F_Vertrag::showQuantityLines(bool openScreen) {
+    quantityLines().Run(session_, id_, openScreen);
+    CopyGrid(quantityLines().lines(), Grid2);
+}
+
+void F_Vertrag::releaseLineScreens() {
+    host::moduleState().release(priceScreen);
+    host::moduleState().release(quantityScreen);
 }
 
 std::string F_Vertrag::GetAbschlagValue(const std::string& column) {
@@ -339,11 +330,13 @@ bool F_Vertrag::queryUnload() {
         const std::string question = services_.localizer.text(discardQuestion, session_);
         if (common::ShowMessage(services_.display, question, ui::box::yesNo) != ui::Answer::yes) return false;
         discard();
+        releaseLineScreens();
         return true;
     }
     // The window's close box leaves no field; what was typed last is written all the same.
     for (AdditionalText& text : additionalTexts_)
         writeAdditionalText(text);
+    releaseLineScreens();
     return true;
 }
 

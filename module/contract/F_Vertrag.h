@@ -1,13 +1,15 @@
 #pragma once
 
+#include "contract/TakeOverFrame.h"
 #include "host/module_state.h"
 #include "host/services.h"
+#include "lines/F_VertragMengen.h"
+#include "lines/F_VertragPreise.h"
 #include "ui/Button.h"
 #include "ui/CheckBox.h"
 #include "ui/Form.h"
 #include "ui/Grid.h"
 #include "ui/ListBox.h"
-#include "ui/ProgressBar.h"
 #include "ui/TextBox.h"
 
 #include <array>
@@ -59,8 +61,12 @@ private:
     void loadAdditionalTexts();
     void loadFlags();
     void showCustomer();
-    void showPriceLines();
-    void showQuantityLines();
+    lines::F_VertragPreise& priceLines();
+    lines::F_VertragMengen& quantityLines();
+    /// Loads the lines into the overview, with or without showing their screen first.
+    void showPriceLines(bool openScreen);
+    void showQuantityLines(bool openScreen);
+    void releaseLineScreens();
 
     void chooseCustomer();
     void removeCustomer();
@@ -110,13 +116,7 @@ private:
     ui::CheckBox chkAClEmpty{*this, "chkAClEmpty", "Auf allen Ebenen sichtbar"};
     ui::Button btnLieferprofil_WVO{*this, "btnLieferprofil_WVO", "Lieferprofil Vertragsdefinition"};
 
-    ui::Frame frmUbernehmen{*this, "frmUbernehmen", "Aus anderem Vertrag"};
-    ui::Label lblVertrag{*this, "lblVertrag", "Vertrag"};
-    ui::TextBox txtVertrag{*this, "txtVertrag", 20};
-    ui::Label lblTypeOfVertrag{*this, "lblTypeOfVertrag", "Vertragsart"};
-    ui::TextBox txtTypeOfVertrag{*this, "txtTypeOfVertrag", 14};
-    ui::Button btnUbernehmen{*this, "btnUbernehmen", "Ubernehmen"};
-    ui::ProgressBar ProgressBar1{*this, "ProgressBar1"};
+    TakeOverFrame takeOver_;
     ui::Label txtMessage{*this, "txtMessage", "Umschalten zu MS-Word"};
 
     ui::Button btnWord{*this, "btnWord", "Vertragsdokument", "document"};

@@ -15,6 +15,8 @@ namespace {
 
 constexpr std::int64_t noRow = -1;
 constexpr int missingEntryText = 223;
+constexpr const char* lineIsGone =
+    "Diese Zeile wurde inzwischen verschoben oder gelöscht. Bitte das Fenster schließen und neu öffnen.";
 
 } // namespace
 
@@ -123,19 +125,22 @@ void LineEditor::reloadLine(int row) {
     if (row == MSFlexGrid1.currentRow()) showCurrentLine();
 }
 
-std::unique_ptr<common::UpdatableRecordset> LineEditor::openLine(const std::string& query) {
+std::unique_ptr<common::Recordset> LineEditor::openLine(const std::string& query) {
+    auto line = session_.connection->open(query);
+    if (line->atEnd()) throw std::runtime_error{lineIsGone};
+    return line;
+}
+
+std::unique_ptr<common::UpdatableRecordset> LineEditor::openToEdit(const std::string& query) {
     auto line = session_.connection->openUpdatable(query);
-    if (line->atEnd()) {
-        throw std::runtime_error{"Diese Zeile wurde inzwischen verschoben oder gelöscht. Bitte das Fenster "
-                                 "schließen und neu öffnen."};
-    }
+    if (line->atEnd()) throw std::runtime_error{lineIsGone};
     return line;
 }
 
 void LineEditor::showCurrentLine() {
     if (hasLines()) {
         showFieldsOf(*openLine(statements_.lineAt(place())));
-        ShowSelection(session_.connection->open(statements_.selectionAt(place()))->text("SELEKTION_VALUE"));
+        ShowSelection(openLine(statements_.selectionAt(place()))->text("SELEKTION_VALUE"));
     } else {
         txtBEZEICHNUNG.setText("");
         cboUnit.select(ui::ItemList::none);
@@ -251,7 +256,7 @@ void LineEditor::save() {
 
 void LineEditor::saveLine() {
     const bool isNew = state_ == State::fresh;
-    const auto line = openLine(isNew ? statements_.lineOf(newId_) : statements_.lineAt(place()));
+    const auto line = openToEdit(isNew ? statements_.lineOf(newId_) : statements_.lineAt(place()));
     if (isNew) line->setField("Ordnung", static_cast<std::int64_t>(ids_.size()) + 1);
     line->setField("ID_Vertrag", std::int64_t{contract_});
     line->setField("BEZEICHNUNG",
@@ -302,7 +307,7 @@ void LineEditor::moveLine(int step) {
     const int to = from + step;
     if (from == ui::Grid::none || to < 0 || to >= static_cast<int>(ids_.size())) return;
     const auto setPlace = [this](int row, int place) {
-        const auto line = openLine(statements_.lineOf(ids_[static_cast<std::size_t>(row)]));
+        const auto line = openToEdit(statements_.lineOf(ids_[static_cast<std::size_t>(row)]));
         line->setField("Ordnung", std::int64_t{place});
         line->update();
     };

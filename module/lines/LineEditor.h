@@ -101,7 +101,9 @@ private:
     void loadUnits();
     std::string linesQuery() const;
     std::int64_t createRow();
-    std::unique_ptr<common::UpdatableRecordset> openLine(const std::string& query);
+    /// One line that has to be there.
+    std::unique_ptr<common::Recordset> openLine(const std::string& query);
+    std::unique_ptr<common::UpdatableRecordset> openToEdit(const std::string& query);
 
     void startNew();
     void startEdit();
