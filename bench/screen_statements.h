@@ -22,7 +22,8 @@ struct Counterpart {
     std::string_view sql;
     Kinds literals; ///< the numbers, texts and NULLs in the statement's text, in their order
     Kinds columns;  ///< of the rows
-    /// Makes what the statement then deletes; % stands for its last literal.
+    /// Makes what the statement then deletes, or has it write something new: SQLite writes nothing where
+    /// a row would stay as it is. % stands for the statement's last literal.
     std::string_view before = {};
 };
 

@@ -10,6 +10,7 @@
 #include "screen_statements.h"
 
 #include <ostream>
+#include <set>
 #include <stdexcept>
 
 namespace tellurix::bench {
@@ -71,13 +72,15 @@ void measureTranslation(const std::vector<std::string>& statements, std::ostream
     heading(out, "A new text, in microseconds (medians of " + std::to_string(runs) +
                      " runs; translation is parsing and binding)");
     Report report{{"", "bytes", "parse", "bind", "translation", "95 %", "SQLite's prepare", "all"}};
+    std::set<std::string_view> measured;
     for (const std::string& statement : statements) {
-        if (statement.starts_with('[')) continue;
+        const std::string_view name = counterpartOf(statement).name;
+        if (statement.starts_with('[') || !measured.insert(name).second) continue;
         const Parts parts = measure(connection, catalogue, statement);
-        report.add({std::string{counterpartOf(statement).name}, std::to_string(statement.size()),
-                    fixed(parts.parse.median(), 1), fixed(parts.bind.median(), 1),
-                    fixed(parts.translation.median(), 1), fixed(parts.translation.percentile(95), 1),
-                    fixed(parts.prepare.median(), 1), fixed(parts.all.median(), 1)});
+        report.add({std::string{name}, std::to_string(statement.size()), fixed(parts.parse.median(), 1),
+                    fixed(parts.bind.median(), 1), fixed(parts.translation.median(), 1),
+                    fixed(parts.translation.percentile(95), 1), fixed(parts.prepare.median(), 1),
+                    fixed(parts.all.median(), 1)});
     }
     report.print(out);
 }
