@@ -74,6 +74,7 @@ std::unique_ptr<Table> Catalogue::readTable(const std::string& name) {
         sqlite3_table_column_metadata(connection_.handle(), "main", name.c_str(), column.name.c_str(),
                                       nullptr, nullptr, nullptr, nullptr, &identity);
         column.identity = identity != 0;
+        column.nullable = rows.integer(3) == 0 && !column.identity;
         columns.push_back(std::move(column));
     }
     return std::make_unique<Table>(name, "main." + quoteName(name), std::move(columns));

@@ -14,7 +14,8 @@ namespace tellurix::embedded {
 struct TableColumn {
     std::string name;
     Type type;
-    bool identity = false;
+    bool identity = false; ///< also the whole primary key, so never NULL
+    bool nullable = true;
     std::string defaultText; ///< T-SQL; empty when there is none
 };
 

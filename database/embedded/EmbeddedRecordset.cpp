@@ -42,7 +42,7 @@ void EmbeddedRecordset::moveNext() {
 
 common::Value EmbeddedRecordset::field(std::size_t index) {
     requireRow();
-    const Type& type = columns_.at(index).type;
+    const Type& type = columns_->at(index).type;
     if (state_ == State::inMemory) return rows_[row_][index];
     return reported(batch_->text(),
                     [&] { return valueAt(running_.statement, static_cast<int>(index), type); });
@@ -62,8 +62,8 @@ void EmbeddedRecordset::start() {
 /// The types were told when the query was opened; between that and its first row another
 /// connection may have made the table anew.
 void EmbeddedRecordset::requireSameColumns() const {
-    const auto& columns = batch_->compiled(task_.node).translation.columns;
-    const bool same = std::equal(columns.begin(), columns.end(), columns_.begin(), columns_.end(),
+    const auto& columns = *batch_->compiled(task_.node).translation.columns;
+    const bool same = std::equal(columns.begin(), columns.end(), columns_->begin(), columns_->end(),
                                  [](const auto& left, const auto& right) { return left.type == right.type; });
     if (!same)
         throw Fault(common::DatabaseErrorCategory::other,
@@ -93,8 +93,8 @@ void EmbeddedRecordset::readRemainingRows() noexcept {
         if (state_ == State::notStarted) reported(batch_->text(), [&] { start(); });
         while (state_ == State::reading) {
             std::vector<common::Value> row;
-            row.reserve(columns_.size());
-            for (std::size_t index = 0; index < columns_.size(); ++index)
+            row.reserve(columns_->size());
+            for (std::size_t index = 0; index < columns_->size(); ++index)
                 row.push_back(field(index));
             rows_.push_back(std::move(row));
             reported(batch_->text(), [&] { advance(); });

@@ -20,10 +20,10 @@ public:
     EmbeddedRecordset(const EmbeddedRecordset&) = delete;
     EmbeddedRecordset& operator=(const EmbeddedRecordset&) = delete;
 
-    std::size_t fieldCount() const override { return columns_.size(); }
-    std::string fieldName(std::size_t index) const override { return columns_.at(index).name; }
+    std::size_t fieldCount() const override { return columns_->size(); }
+    std::string fieldName(std::size_t index) const override { return columns_->at(index).name; }
     common::FieldType fieldType(std::size_t index) const override {
-        return fieldTypeOf(columns_.at(index).type);
+        return fieldTypeOf(columns_->at(index).type);
     }
 
     bool atEnd() override;
@@ -48,7 +48,7 @@ private:
     std::shared_ptr<Batch> batch_;
     Task task_;
     Frame frame_;
-    std::vector<Translation::Column> columns_;
+    std::shared_ptr<const std::vector<Translation::Column>> columns_;
     State state_ = State::notStarted;
     Running running_;
     std::vector<std::vector<common::Value>> rows_;

@@ -60,6 +60,7 @@ void Engine::bind(SqliteStatement& statement, const Translation& translation, co
 
 Running Engine::start(Batch& batch, const Task& task, const Frame& frame) {
     releaseSnapshot();
+    session().failure.reset();
     // A schema that changes over and over while we compile is a fault of its own.
     constexpr int mostAttempts = 20;
     for (int attempt = 1;; ++attempt) {

@@ -23,6 +23,7 @@ struct Source {
     std::string sqlAlias;    ///< unique too, so that no name of the statement can clash
     std::string_view folded; ///< the name by which the statement's columns are qualified
     std::string_view written;
+    bool optional = false; ///< the right side of a LEFT JOIN
     const Table* table = nullptr;
     std::vector<OutputColumn> derived; ///< when there is no table
 

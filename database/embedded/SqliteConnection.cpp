@@ -51,6 +51,9 @@ std::string afterColon(const std::string& message) {
 }
 
 std::string describeConstraint(int code, const std::string& message) {
+    // The name of an index: "index 'T.COL NULL'".
+    if (code == SQLITE_CONSTRAINT_UNIQUE && message.find("index '") != std::string::npos)
+        return "There is already a row with NULL in the unique key " + afterColon(message);
     switch (code) {
     case SQLITE_CONSTRAINT_NOTNULL:
         return "The column " + afterColon(message) + " does not take NULL";

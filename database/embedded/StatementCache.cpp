@@ -9,6 +9,7 @@ std::shared_ptr<Batch> StatementCache::find(std::string_view text) {
         return entries_.front();
     }
     auto batch = std::make_shared<Batch>(text);
+    if (text.size() > longestKept) return batch;
     if (entries_.size() >= capacity) {
         byText_.erase(entries_.back()->text());
         entries_.pop_back();

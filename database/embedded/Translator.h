@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +42,8 @@ struct Translation {
 
     std::string sql;
     std::vector<int> parameters; ///< what ?1, ?2, … are: numbers of variables, or `now`
-    std::vector<Column> columns; ///< of a query
+    /// Of a query; shared with the recordsets that are open on it.
+    std::shared_ptr<const std::vector<Column>> columns = std::make_shared<std::vector<Column>>();
     /// An INSERT into a table with an identity: its folded name, and whether the key is given.
     std::string identityTable;
     bool givesIdentity = false;
@@ -77,6 +79,8 @@ private:
     using EditItem = std::function<Fragment(Fragment, std::size_t)>;
 
     // translate_queries.cpp
+    static std::shared_ptr<const std::vector<Translation::Column>>
+    resultColumns(const std::vector<OutputColumn>& columns);
     QueryText queryText(const Query& query, bool named, const EditItem& edit = {});
     QueryText unionText(const Query& query, bool named);
     QueryText singleText(const Query& query, bool named, const EditItem& edit);
@@ -84,7 +88,7 @@ private:
     void addStar(Branch& branch, const SelectItem& item);
     std::string fromText(const List<FromItem>& from, Scope& scope);
     std::string fromItemText(const FromItem& item, Scope& scope);
-    std::string orderText(const Query& query, const std::vector<OutputColumn>& columns, Scope* scope);
+    std::string orderText(const Query& query, const std::vector<OutputColumn>& columns, const Branch* branch);
     int orderedColumn(const Expression& expression, const std::vector<OutputColumn>& columns) const;
     std::string topText(const SelectBranch& branch);
     static std::string branchText(const Branch& branch, bool named);
@@ -123,6 +127,7 @@ private:
     Fragment isNull(const Expression& expression);
     Fragment inList(const Expression& expression);
     Fragment inQuery(const Expression& expression);
+    std::optional<Fragment> ownRowCondition(const Expression& expression);
     Fragment like(const Expression& expression);
     Fragment between(const Expression& expression);
     Fragment exists(const Expression& expression);

@@ -26,7 +26,7 @@ void UpdatableEmbeddedRecordset::readRows(const SelectStatement& select) {
     const Table* table = nullptr;
     const Translation translation = translator.updatable(select, table, tableColumns_);
     tableName_ = table->name();
-    columns_ = translation.columns;
+    columns_ = *translation.columns;
     SqliteStatement statement = engine_->connection().prepare(translation.sql);
     for (std::size_t parameter = 1; parameter <= translation.parameters.size(); ++parameter)
         statement.bind(static_cast<int>(parameter), toMilliseconds(engine_->session().clock.now()));

@@ -9,6 +9,11 @@ namespace tellurix::embedded {
 
 namespace {
 
+struct NullableKey {
+    std::string name;
+    bool nullable;
+};
+
 const ColumnDefinition& columnNamed(const TableDefinition& table, const Name& name) {
     const auto found =
         std::find_if(table.columns.begin(), table.columns.end(),
@@ -75,6 +80,47 @@ std::string keyText(const TableDefinition& table, const KeyDefinition& key) {
     return text;
 }
 
+/// T-SQL takes NULL for a value that a unique key holds once; for SQLite no NULL equals another.
+/// A second index over the rows with a NULL in the key closes that gap.
+void createNullGuard(SqliteConnection& connection, const std::string& table, const std::string& name,
+                     const std::vector<NullableKey>& columns) {
+    std::string expressions;
+    std::string condition;
+    for (const auto& [column, nullable] : columns) {
+        const std::string sql = quoteName(column);
+        if (!nullable) {
+            expressions += sql + ",";
+            continue;
+        }
+        expressions += "(" + sql + " IS NULL),ifnull(" + sql + ",0) COLLATE " + Collation::name + ",";
+        condition += (condition.empty() ? "" : " OR ") + sql + " IS NULL";
+    }
+    if (condition.empty()) return;
+    expressions.pop_back();
+    connection.run("CREATE UNIQUE INDEX main." + quoteName(name) + " ON " + quoteName(table) + " (" +
+                   expressions + ") WHERE " + condition);
+}
+
+void createNullGuards(SqliteConnection& connection, const TableDefinition& table) {
+    const std::string tableName(table.table.written);
+    const auto create = [&](const std::vector<NullableKey>& columns) {
+        std::string name = tableName;
+        for (const NullableKey& column : columns)
+            name += "." + column.name;
+        createNullGuard(connection, tableName, name + " NULL", columns);
+    };
+    for (const ColumnDefinition& column : table.columns)
+        if (column.unique) create({{std::string(column.name.written), column.nullable}});
+    for (const KeyDefinition& key : table.keys) {
+        if (key.primary) continue;
+        std::vector<NullableKey> columns;
+        for (const Name& name : key.columns)
+            columns.push_back(
+                {std::string(columnNamed(table, name).name.written), columnNamed(table, name).nullable});
+        create(columns);
+    }
+}
+
 } // namespace
 
 std::string createTableText(const TableDefinition& definition, const std::string& sqlName) {
@@ -91,7 +137,7 @@ std::string createTableText(const TableDefinition& definition, const std::string
 Table tableOf(const TableDefinition& definition, const std::string& sqlName) {
     std::vector<TableColumn> columns;
     for (const ColumnDefinition& column : definition.columns)
-        columns.push_back({std::string(column.name.written), column.type, column.identity,
+        columns.push_back({std::string(column.name.written), column.type, column.identity, column.nullable,
                            std::string(column.defaultText)});
     return {std::string(definition.table.written), sqlName, std::move(columns)};
 }
@@ -107,6 +153,7 @@ void createTable(SqliteConnection& connection, Catalogue& catalogue, const Table
         if (column.identity && column.seed != 1)
             connection.run("INSERT INTO sqlite_sequence (name,seq) VALUES (" + quoteText(name) + "," +
                            std::to_string(column.seed - 1) + ")");
+    createNullGuards(connection, definition);
     transaction.commit();
 }
 
@@ -119,6 +166,7 @@ void createIndex(SqliteConnection& connection, Catalogue& catalogue, const Creat
     const std::string name = table->name() + "." + std::string(statement.index.written);
     std::string sql = statement.unique ? "CREATE UNIQUE INDEX main." : "CREATE INDEX main.";
     sql += quoteName(name) + " ON " + quoteName(table->name()) + " (";
+    std::vector<NullableKey> columns;
     for (const IndexedColumn& column : statement.columns) {
         const int index = table->findColumn(column.name.folded);
         if (index == Table::noColumn)
@@ -126,9 +174,13 @@ void createIndex(SqliteConnection& connection, Catalogue& catalogue, const Creat
                                 std::string(column.name.written),
                             column.name.position);
         sql += quoteName(table->column(index).name) + (column.descending ? " DESC," : ",");
+        columns.push_back({table->column(index).name, table->column(index).nullable});
     }
     sql.back() = ')';
+    SqliteTransaction transaction(connection);
     connection.run(sql);
+    if (statement.unique) createNullGuard(connection, table->name(), name + " NULL", columns);
+    transaction.commit();
 }
 
 void dropTable(SqliteConnection& connection, Catalogue& catalogue, const DropTableStatement& statement) {

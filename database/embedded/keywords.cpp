@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 
@@ -127,10 +128,26 @@ const KeywordTable& keywordTable() {
     return table;
 }
 
+/// The lengths that keywords of one first letter have, as bits: most names end here.
+using LengthTable = std::array<std::uint32_t, 256>;
+
+LengthTable lengthsByFirstLetter() {
+    LengthTable lengths{};
+    for (const auto& [word, keyword] : keywordTable()) {
+        const auto lower = static_cast<unsigned char>(word.front());
+        lengths[lower] |= 1U << word.size();
+        lengths[lower - ('a' - 'A')] |= 1U << word.size();
+    }
+    return lengths;
+}
+
 } // namespace
 
 Keyword keywordOf(std::string_view word) {
-    if (word.size() < 2 || word.size() > longestKeyword) return Keyword::none;
+    static const LengthTable lengths = lengthsByFirstLetter();
+    if (word.size() > longestKeyword ||
+        (lengths[static_cast<unsigned char>(word.front())] >> word.size() & 1U) == 0)
+        return Keyword::none;
     std::array<char, longestKeyword> lower{};
     std::transform(word.begin(), word.end(), lower.begin(), [](char character) {
         return character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;

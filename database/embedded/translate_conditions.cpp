@@ -93,7 +93,46 @@ Fragment Translator::inList(const Expression& expression) {
     return conditionOf((expression.negated ? "(NOT (" : "((") + alternatives + "))", expression.position);
 }
 
+/// `T.KEY IN (SELECT T.KEY FROM T WHERE …)` with the table's identity on both sides asks the row
+/// itself, and so does this translation, instead of collecting the keys of half the table first.
+std::optional<Fragment> Translator::ownRowCondition(const Expression& expression) {
+    Expression& subject = *expression.operands[0];
+    const Query& query = *expression.query;
+    const SelectBranch& branch = *query.branches.front();
+    const bool plain = scope_ != nullptr && subject.kind == ExpressionKind::column &&
+                       query.branches.size() == 1 && branch.from.size() == 1 &&
+                       branch.from.front().derived == nullptr && branch.items.size() == 1 &&
+                       branch.items.front().expression != nullptr &&
+                       branch.items.front().expression->kind == ExpressionKind::column &&
+                       branch.where != nullptr && branch.groupBy.empty() && branch.having == nullptr &&
+                       branch.top == nullptr && !branch.aggregates && query.orderBy.empty();
+    if (!plain) return std::nullopt;
+    const Scope::Place place = scope_->find(subject);
+    const Source& source = *place.source;
+    const FromItem& from = branch.from.front();
+    if (source.table == nullptr || source.optional || !source.table->column(place.column).identity ||
+        &table(from.table) != source.table)
+        return std::nullopt;
+
+    Scope* const outer = scope_;
+    Scope inner(outer);
+    Source row = source;
+    const Name& name = from.alias.empty() ? from.table : from.alias;
+    row.folded = name.folded;
+    row.written = name.written;
+    inner.add(std::move(row));
+    const Scope::Place item = inner.find(*branch.items.front().expression);
+    if (item.scope != &inner || item.column != place.column) return std::nullopt;
+    value(subject); // it counts as used where it stands
+    scope_ = &inner;
+    const Fragment where = condition(branch.where, "WHERE");
+    scope_ = outer;
+    return conditionOf("(" + where.sql + (expression.negated ? " IS NOT TRUE)" : " IS TRUE)"),
+                       expression.position);
+}
+
 Fragment Translator::inQuery(const Expression& expression) {
+    if (auto condition = ownRowCondition(expression)) return *std::move(condition);
     Fragment left = value(*expression.operands[0]);
     QueryText text = queryText(*expression.query, true);
     if (text.columns.size() != 1)

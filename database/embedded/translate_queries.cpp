@@ -22,10 +22,17 @@ Translation Translator::query(const SelectStatement& select) {
     start();
     QueryText text = queryText(*select.query, false);
     Translation translation = finish(std::move(text.sql));
-    translation.columns.reserve(text.columns.size());
-    for (const OutputColumn& column : text.columns)
-        translation.columns.push_back({std::string(column.name.written), column.type});
+    translation.columns = resultColumns(text.columns);
     return translation;
+}
+
+std::shared_ptr<const std::vector<Translation::Column>>
+Translator::resultColumns(const std::vector<OutputColumn>& columns) {
+    std::vector<Translation::Column> result;
+    result.reserve(columns.size());
+    for (const OutputColumn& column : columns)
+        result.push_back({std::string(column.name.written), column.type});
+    return std::make_shared<const std::vector<Translation::Column>>(std::move(result));
 }
 
 Translation Translator::updatable(const SelectStatement& select, const Table*& editedTable,
@@ -46,11 +53,10 @@ Translation Translator::updatable(const SelectStatement& select, const Table*& e
     std::vector<OutputColumn> columns;
     for (std::size_t index = 0; index < branch.items.size(); ++index)
         columns.push_back({branch.names[index], branch.items[index].type, branch.items[index].collated});
-    const std::string order = orderText(query, columns, &branch.scope);
+    const std::string order = orderText(query, columns, &branch);
     branch.rest = "," + edited.sqlAlias + "._rowid_" + branch.rest;
     Translation translation = finish(branchText(branch, false) + order + topText(source));
-    for (const OutputColumn& column : columns)
-        translation.columns.push_back({std::string(column.name.written), column.type});
+    translation.columns = resultColumns(columns);
     for (const SelectItem& item : source.items) {
         if (item.expression != nullptr)
             tableColumns.push_back(item.expression->kind == ExpressionKind::column ? item.expression->column
@@ -81,7 +87,7 @@ Translator::QueryText Translator::singleText(const Query& query, bool named, con
     for (std::size_t index = 0; index < branch.items.size(); ++index)
         text.columns.push_back({branch.names[index], branch.items[index].type, branch.items[index].collated});
     text.sql = branchText(branch, named);
-    text.sql += orderText(query, text.columns, &branch.scope);
+    text.sql += orderText(query, text.columns, &branch);
     branch.scope.requireGrouped();
     text.sql += topText(source);
     return text;
@@ -219,6 +225,7 @@ std::string Translator::fromText(const List<FromItem>& from, Scope& scope) {
 std::string Translator::fromItemText(const FromItem& item, Scope& scope) {
     Source source;
     source.id = ++sourceCount_;
+    source.optional = item.join == JoinKind::left;
     source.sqlAlias = "t" + std::to_string(source.id);
     const Name& name = item.alias.empty() ? item.table : item.alias;
     source.folded = name.folded;
@@ -267,7 +274,7 @@ int Translator::orderedColumn(const Expression& expression, const std::vector<Ou
 }
 
 std::string Translator::orderText(const Query& query, const std::vector<OutputColumn>& columns,
-                                  Scope* scope) {
+                                  const Branch* branch) {
     std::string sql;
     for (const OrderItem& item : query.orderBy) {
         sql += sql.empty() ? " ORDER BY " : ",";
@@ -275,7 +282,7 @@ std::string Translator::orderText(const Query& query, const std::vector<OutputCo
         const int column = orderedColumn(*item.expression, columns);
         if (column > 0) {
             sql += std::to_string(column);
-        } else if (scope == nullptr) {
+        } else if (branch == nullptr) {
             failSyntax("ORDER BY of a UNION takes the names or numbers of its columns",
                        item.expression->position);
         } else {
@@ -283,6 +290,9 @@ std::string Translator::orderText(const Query& query, const std::vector<OutputCo
             if (fragment.literal != Fragment::Literal::none)
                 failSyntax("ORDER BY a constant has no meaning", item.expression->position);
             collate(fragment);
+            const auto isItem = [&](const Fragment& other) { return other.sql == fragment.sql; };
+            if (branch->distinct && std::none_of(branch->items.begin(), branch->items.end(), isItem))
+                failSyntax("ORDER BY of SELECT DISTINCT takes what is selected", item.expression->position);
             sql += fragment.sql;
         }
         if (item.descending) sql += " DESC";

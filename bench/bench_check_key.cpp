@@ -1,0 +1,122 @@
+// What the check of a typed key against a database column costs, on a table of ten rows and on one of
+// a million: it needs the column's type only, so the time must not grow with the table.
+
+#include "SampleFile.h"
+#include "common/M_Common.h"
+#include "embedded/Database.h"
+#include "measure.h"
+#include "report.h"
+#include "ui/Form.h"
+#include "ui/TextBox.h"
+
+#include <array>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using namespace tellurix;
+using bench::Durations;
+
+constexpr int calls = 20'000;
+constexpr int sessions = 20;
+
+struct MeasuredTable {
+    std::string name;
+    std::int64_t rows;
+    Durations first; ///< calls of a new session
+    Durations next;
+};
+
+class KeyForm final : public ui::Form {
+public:
+    KeyForm() : Form("KeyForm") {
+        setLayout(ui::column({box}));
+        load();
+        setFocus(box);
+    }
+    ui::TextBox box{*this, "box", 10};
+};
+
+void makeTable(common::Connection& connection, const std::string& name, std::int64_t rows) {
+    connection.execute("CREATE TABLE " + name +
+                       " (ID int NOT NULL PRIMARY KEY, WERT int NULL, TEXT nvarchar(60) NULL)");
+    connection.execute("INSERT INTO " + name + " (ID,WERT,TEXT) VALUES (1,1,'eine Zeile wie jede andere')");
+    for (std::int64_t have = 1; have < rows; have *= 2) {
+        connection.execute("INSERT INTO " + name + " (ID,WERT,TEXT) SELECT ID + " + std::to_string(have) +
+                           ",WERT,TEXT FROM " + name + " WHERE ID <= " + std::to_string(rows - have));
+    }
+    const auto count = connection.open("SELECT COUNT(*) AS N FROM " + name);
+    if (count->integer("N") != rows) throw std::runtime_error{name + " has not got its rows"};
+}
+
+void check(const host::TlxVar& session, const KeyForm& form, const MeasuredTable& table) {
+    const common::Locale locale = common::Locale::german();
+    const std::int16_t taken = common::CheckKeyForColumn(session, form, '7', table.name, "WERT", locale);
+    const std::int16_t refused = common::CheckKeyForColumn(session, form, 'x', table.name, "WERT", locale);
+    if (taken != '7' || refused != 0) throw std::runtime_error{"the keys are not told apart"};
+}
+
+bench::Clock::duration timeOfCall(const host::TlxVar& session, const KeyForm& form,
+                                  const MeasuredTable& table) {
+    const common::Locale locale = common::Locale::german();
+    return bench::timeOf(
+        [&] { bench::keep(common::CheckKeyForColumn(session, form, '7', table.name, "WERT", locale)); });
+}
+
+host::TlxVar sessionOn(common::Connection& connection) {
+    host::TlxVar session;
+    session.connection = &connection;
+    return session;
+}
+
+void measure(const embedded::Database& database, std::array<MeasuredTable, 2>& tables) {
+    KeyForm form;
+    form.box.setText("12");
+    for (int i = 0; i < sessions; ++i) {
+        for (MeasuredTable& table : tables) {
+            const auto connection = database.connect();
+            const host::TlxVar session = sessionOn(*connection);
+            table.first.add(timeOfCall(session, form, table));
+        }
+    }
+    const auto connection = database.connect();
+    const host::TlxVar session = sessionOn(*connection);
+    for (const MeasuredTable& table : tables)
+        check(session, form, table);
+    // In turns, so that what else the machine does meets both.
+    for (int i = 0; i < calls; ++i) {
+        for (MeasuredTable& table : tables)
+            table.next.add(timeOfCall(session, form, table));
+    }
+}
+
+} // namespace
+
+int main() {
+    try {
+        const bench::SampleFile sample;
+        const embedded::Database database{sample.path(), sample.clock()};
+        std::array<MeasuredTable, 2> tables{
+            {{"BENCH_SMALL", 10, {}, {}}, {"BENCH_LARGE", 1'000'000, {}, {}}}};
+        const auto connection = database.connect();
+        for (const MeasuredTable& table : tables)
+            makeTable(*connection, table.name, table.rows);
+
+        measure(database, tables);
+        bench::heading(std::cout, "A call of CheckKeyForColumn, in microseconds");
+        bench::Report report{{"rows of the table", "median", "95 %", "first of a session, median"}};
+        for (const MeasuredTable& table : tables) {
+            report.add({std::to_string(table.rows), bench::fixed(table.next.median(), 2),
+                        bench::fixed(table.next.percentile(95), 2), bench::fixed(table.first.median(), 1)});
+        }
+        report.print(std::cout);
+        return EXIT_SUCCESS;
+    } catch (const std::exception& error) {
+        std::cerr << "bench_check_key: " << error.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}
