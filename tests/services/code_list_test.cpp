@@ -80,7 +80,7 @@ TEST_F(CodeList, AnswersTheMarkedCodes) {
         {"a code that is not offered any more stays until its mark is taken away", "ES,FI",
          [](User& user) {
              EXPECT_EQ(user.grid("grdList").cell(8, 1), "ES");
-             EXPECT_EQ(user.grid("grdList").cell(8, 2), "(nicht mehr im Angebot)");
+             EXPECT_EQ(user.grid("grdList").cell(8, 2), "(nicht im Angebot)");
              user.key(Key::space);
              user.key(Key::enter);
          },

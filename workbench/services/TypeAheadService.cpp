@@ -23,7 +23,10 @@ public:
         codes_.reset();
     }
 
-    void characterTyped() { typed_ = true; }
+    void characterTyped(char32_t character) {
+        typed_ = true;
+        if (character == U',' && showsCompletion()) box_.select(length(), 0);
+    }
 
     void textChanged() {
         if (!std::exchange(typed_, false)) return;
@@ -41,9 +44,20 @@ public:
         if (box_.maxLength() > 0 && text.size() > static_cast<std::size_t>(box_.maxLength())) return;
         box_.setText(common::encodeUtf8(text));
         box_.select(caret, static_cast<int>(text.size()) - caret);
+        completedText_ = box_.text();
+        completionStart_ = caret;
     }
 
 private:
+    int length() const { return static_cast<int>(common::decodeUtf8(box_.text()).size()); }
+
+    /// The completed part still stands there selected, as it was put there.
+    bool showsCompletion() const {
+        return box_.selectionLength() > 0 && box_.text() == completedText_ &&
+               box_.selectionStart() == completionStart_ &&
+               box_.selectionStart() + box_.selectionLength() == length();
+    }
+
     /// The code that is `entry` or else the first one that starts with it; empty when there is none.
     std::u32string completed(std::u32string_view entry) {
         if (entry.empty()) return {};
@@ -79,6 +93,8 @@ private:
     std::string column_;
     std::optional<std::vector<std::u32string>> codes_;
     bool typed_ = false;
+    std::string completedText_;
+    int completionStart_ = 0;
 };
 
 /// The box's handlers, each with the one that it had before.
@@ -88,7 +104,7 @@ struct CharacterTyped {
 
     void operator()(char32_t& character) const {
         if (before) before(character);
-        if (character != 0) completion->characterTyped();
+        if (character != 0) completion->characterTyped(character);
     }
 };
 

@@ -5,7 +5,7 @@
 namespace tellurix::workbench {
 
 /// Completes the entry behind the last comma while the user types at the end of a box. What was
-/// completed is selected: typing on replaces it, and leaving the box takes it.
+/// completed is selected: typing on replaces it; a comma and leaving the box take it.
 ///
 /// Only a typed character completes, never one that was taken away. An entry that is a code as it
 /// stands is not made longer, even when other codes start with it. A code gets its own capitals;
