@@ -50,7 +50,8 @@ public:
     Decimal dividedByTenTo(int places) const;
 
     /// Exact results, with as many decimals as they need.
-    /// @throws std::out_of_range when the result does not fit 18 digits.
+    /// @throws std::out_of_range when the result, or a side of a sum brought to the decimals of the
+    /// other, does not fit 18 digits.
     friend Decimal operator+(const Decimal& left, const Decimal& right);
     friend Decimal operator-(const Decimal& left, const Decimal& right);
     friend Decimal operator*(const Decimal& left, const Decimal& right);

@@ -90,7 +90,7 @@ std::string DeliveredQuantity::logsOf(const std::vector<Line>& lines, std::size_
     StatementText logs{" LOGS.ID_LOG IN (SELECT ID_LOG FROM LOGS_RECH WHERE "};
     logs.identifier(common::toUpper(host::moduleState().context.StrVer_Type) + "_VERTRAG")
         .fixed(" = ")
-        .quotedAsItStands(reference_)
+        .quoted(reference_)
         .fixed(")");
     for (std::size_t i = 0; i < index; ++i) {
         if (lines[i].condition.empty()) return {};

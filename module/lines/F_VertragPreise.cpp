@@ -40,6 +40,12 @@ const LineKind priceLines{
 };
 // clang-format on
 
+/// The box with the key filter of a price; what leaving it does is the cell editor's.
+ui::TextBox& priceBox(ui::TextBox& box, const common::Locale& locale) {
+    ui::makeNumberBox(box, priceMask, locale);
+    return box;
+}
+
 } // namespace
 
 F_VertragPreise::F_VertragPreise(host::HostServices& services)
@@ -47,11 +53,11 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
       percent_(txtMsz, "-####0.0#", services.locale),
       price_(txtPreis, priceMask, services.locale),
       secondPrice_(txtPreis_Abr2, secondPriceMask, services.locale),
+      cellEditor_(MSFlexGrid1, priceBox(txtEdit, services.locale)),
       priceChange_(*this, services, session_, contract_, [this] {
           LoadGrid();
           showCurrentLine();
       }) {
-    ui::makeNumberBox(txtEdit, priceMask, services.locale);
     cellEditor_.canEdit = [this](int, int column) {
         return viewing() && chkEdit.checked() &&
                (column == editedPriceColumn || column == editedSecondPriceColumn);

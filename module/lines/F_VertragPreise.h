@@ -50,7 +50,7 @@ private:
     NumberField percent_;
     NumberField price_;
     NumberField secondPrice_;
-    ui::GridEditor cellEditor_{MSFlexGrid1, txtEdit};
+    ui::GridEditor cellEditor_;
     PriceChange priceChange_;
 };
 

@@ -32,7 +32,6 @@ void GridEditor::openOnCurrentCell() {
     const int column = grid_.currentColumn();
     if (row == Grid::none || !canEdit(row, column)) return;
     showOver(row, column, grid_.cell(row, column));
-    box_.selectAll();
 }
 
 void GridEditor::openWith(char32_t character) {
@@ -43,6 +42,8 @@ void GridEditor::openWith(char32_t character) {
     if (box_.onKeyPress) box_.onKeyPress(character);
     if (character == 0) return;
     showOver(row, column, common::encodeUtf8(character));
+    // Getting the focus has selected the character; what is typed next goes behind it.
+    box_.select(1, 0);
 }
 
 void GridEditor::showOver(int row, int column, const std::string& text) {

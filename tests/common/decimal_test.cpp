@@ -135,5 +135,46 @@ TEST(Decimal, ComparesByValueWhateverTheScales) {
     EXPECT_EQ(Decimal(0, 18), Decimal());
 }
 
+TEST(Decimal, CalculatesExactlyOrRefuses) {
+    const auto number = [](const char* text) { return Decimal::parse(text).value(); };
+    struct Case {
+        const char* left;
+        const char* right;
+        const char* sum;
+        const char* difference;
+        const char* product;
+    };
+    const Case cases[] = {
+        {"12.345", "110", "122.345", "-97.655", "1357.95"},
+        {"0.1", "0.2", "0.3", "-0.1", "0.02"},
+        {"-1.50", "1.5", "0.0", "-3.0", "-2.25"},
+        {"1e-18", "-1", "refused", "refused", "-0.000000000000000001"},
+        {"999999999", "999999999.000", "1999999998", "0", "999999998000000001"},
+        {"0", "999999999999999999", "999999999999999999", "-999999999999999999", "0"},
+        {"999999999999999999", "-1", "999999999999999998", "refused", "-999999999999999999"},
+        {"1000000000.5", "1000000000.5", "2000000001", "0", "refused"},
+        {"100000000000000000", "0.01", "refused", "refused", "1000000000000000"},
+        {"1e-10", "1e-10", "0.0000000002", "0", "refused"},
+    };
+    const auto check = [&](const char* expected, const auto& calculate) {
+        if (std::string_view{expected} == "refused") {
+            EXPECT_THROW(calculate(), std::out_of_range);
+        } else {
+            EXPECT_EQ(calculate(), number(expected)) << expected;
+        }
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string{c.left} + " and " + c.right);
+        const Decimal left = number(c.left);
+        const Decimal right = number(c.right);
+        check(c.difference, [&] { return left - right; });
+        check(c.sum, [&] { return left + right; });
+        check(c.product, [&] { return left * right; });
+    }
+    EXPECT_EQ(number("1357.95").dividedByTenTo(2), number("13.5795"));
+    EXPECT_EQ(number("100.00").dividedByTenTo(18), number("0.0000000000000001"));
+    EXPECT_THROW(number("1.5").dividedByTenTo(18), std::out_of_range);
+}
+
 } // namespace
 } // namespace tellurix::common

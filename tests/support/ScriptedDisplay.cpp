@@ -91,6 +91,10 @@ void User::doubleClick(std::string_view control) {
     desktop_.dispatch(ui::DoubleClickEvent{&find(control)});
 }
 
+void User::scroll(std::string_view control) {
+    desktop_.dispatch(ui::ScrollEvent{&find(control)});
+}
+
 void User::close() {
     desktop_.dispatch(ui::CloseEvent{});
 }

@@ -1,0 +1,123 @@
+#include "lines/PriceChange.h"
+
+#include "common/text.h"
+#include "lines/LinesTest.h"
+
+namespace tellurix::tests {
+namespace {
+
+using common::Decimal;
+using lines::ChangeKind;
+using ui::Answer;
+
+class PriceChangeOfAContract : public LinesTest {};
+
+TEST_F(PriceChangeOfAContract, PreviewAndDatabaseAgreeToTheCent) {
+    struct Case {
+        const char* price;
+        const char* amount;
+        bool percent;
+        const char* after;
+    };
+    const Case cases[] = {
+        {"12.34", "10", true, "13,57"},    {"12.345", "10", true, "13,58"},
+        {"12.345", "-10", true, "11,11"},  {"98.5", "2,5", true, "100,96"},
+        {"41", "2,5", true, "42,03"},      {"-41", "2,5", true, "-42,03"},
+        {"0.005", "0,01", true, "0,01"},   {"12", "-20", false, "-8,00"},
+        {"12.345", "1,5", false, "13,85"}, {"12.345", "-1,5", false, "10,85"},
+        {"11.8", "0,01", false, "11,81"},  {"9999999.99", "150", true, "24999999,98"},
+        {"100", "-100", true, "0,00"},     {"100", "-250", true, "-150,00"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string{c.price} + " by " + c.amount);
+        host.database.execute(std::string{"UPDATE VERTRAG_PREISE SET PREIS = "} + c.price +
+                              ", PREIS_ABR2 = 3, MSZ_PERCENT = 1.75 WHERE ID = 14");
+        host.display.onMessage("Wollen Sie die Preise des Vertrages um", Answer::yes);
+        std::string shown;
+        editPrices(8, [&](User& user) {
+            user.click("btnPreiseAendern");
+            EXPECT_EQ(user.focused(), "txtWert");
+            user.type("txtWert", c.amount);
+            user.select("cmbFixProzent", c.percent ? 1 : 0);
+            EXPECT_EQ(user.grid("grdVorschau").cell(0, 2), c.after);
+            user.click("btnPreiseAendern");
+            EXPECT_EQ(user.grid("MSFlexGrid1").cell(0, 2), c.after) << "reloaded from the database";
+            EXPECT_FALSE(user.usable("txtWert")) << "the frame is hidden after a change";
+            user.click("cmdOk");
+        });
+        std::string stored = value("SELECT PREIS FROM VERTRAG_PREISE WHERE ID = 14");
+        EXPECT_EQ(Decimal::parse(stored).value(),
+                  Decimal::parse(common::replaceAll(c.after, ",", ".")).value());
+        EXPECT_EQ(row("SELECT PREIS_ABR2,MSZ_PERCENT FROM VERTRAG_PREISE WHERE ID = 14"), "3.0000 | 1.75");
+    }
+}
+
+TEST_F(PriceChangeOfAContract, AsksBeforeItTestsTheAmount) {
+    struct Case {
+        const char* rule;
+        const char* typed;
+        int kind;
+        const char* question;
+        Answer answer;
+        bool changed;
+    };
+    const Case cases[] = {
+        {"No changes nothing", "10", 1, "um 10,00 Prozent verändern?", Answer::no, false},
+        {"nothing typed", "", 0, "um  verändern?", Answer::yes, false},
+        {"zero", "0", 1, "um 0,00 Prozent verändern?", Answer::yes, false},
+        {"an amount", "-1,5", 0, "um -1,50 verändern?", Answer::yes, true},
+        {"a percentage", "10", 1, "um 10,00 Prozent verändern?", Answer::yes, true},
+    };
+    editPrices(16, [](User& user) { user.close(); }); // puts the places in order
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        const std::string before = rows("VERTRAG_PREISE", "*", 16);
+        host.display.onMessage(c.question, c.answer);
+        editPrices(16, [&](User& user) {
+            user.click("btnPreiseAendern");
+            user.type("txtWert", c.typed);
+            user.select("cmbFixProzent", c.kind);
+            user.click("btnPreiseAendern");
+            EXPECT_EQ(host.display.messages().back().title, "Vertrag Preisänderung");
+            user.click("cmdOk");
+        });
+        EXPECT_EQ(rows("VERTRAG_PREISE", "*", 16) != before, c.changed);
+    }
+    EXPECT_EQ(rows("VERTRAG_PREISE", "PREIS", 16), "[11.9200][11.9400][86.3500]");
+}
+
+TEST_F(PriceChangeOfAContract, WhatIsNoNumberIsRefused) {
+    for (const char* typed : {"1 OR 1=1", "10); DELETE FROM VERTRAG_PREISE --", "--"}) {
+        SCOPED_TRACE(typed);
+        const auto errors = host.display.errors().size();
+        host.display.onMessage("Wollen Sie", Answer::yes);
+        editPrices(1, [&](User& user) {
+            user.click("btnPreiseAendern");
+            user.replaceText("txtWert", typed);
+            user.click("btnPreiseAendern");
+            EXPECT_EQ(host.display.errors().size(), errors + 1);
+            user.click("cmdOk");
+        });
+        EXPECT_EQ(rows("VERTRAG_PREISE", "PREIS", 1), "[98.5000][76.2500][71.0000]");
+    }
+}
+
+TEST_F(PriceChangeOfAContract, TheFrameIsHiddenWhenTheScreenOpens) {
+    for (int time = 0; time < 2; ++time) {
+        editPrices(1, [&](User& user) {
+            EXPECT_FALSE(user.usable("txtWert"));
+            user.click("btnPreiseAendern");
+            EXPECT_EQ(user.text("txtWert"), "");
+            EXPECT_EQ(user.control<ui::ComboBox>("cmbFixProzent").selectedText(), "+/-");
+            EXPECT_EQ(user.grid("grdVorschau").cell(0, 1), "98,50");
+            EXPECT_EQ(user.grid("grdVorschau").cell(0, 2), "") << "no amount, no new price";
+            user.type("txtWert", "1");
+            user.click("cmdOk");
+        });
+    }
+    EXPECT_THROW(lines::changedPrice(Decimal{Decimal::maxUnits}, Decimal{10}, ChangeKind::percent),
+                 std::out_of_range);
+}
+
+} // namespace
+} // namespace tellurix::tests

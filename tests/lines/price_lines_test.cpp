@@ -1,0 +1,438 @@
+#include "lines/LinesTest.h"
+#include "ui/ComboBox.h"
+
+namespace tellurix::tests {
+namespace {
+
+using ui::Answer;
+using ui::Key;
+
+class PriceLines : public LinesTest {
+protected:
+    std::string prices(const std::string& columns, std::int32_t contract) {
+        return rows("VERTRAG_PREISE", columns, contract);
+    }
+};
+
+TEST_F(PriceLines, TheLayoutFollowsSettingSiteAndType) {
+    struct Case {
+        const char* rule;
+        const char* meszahl;
+        const char* site;
+        const char* type;
+        const char* columns;
+        bool percent;
+        bool secondPrice;
+    };
+    const Case cases[] = {
+        {"plain", "0", "", "R", "|Bezeichnung|Preis|Einheit|Währung", false, false},
+        {"no setting at all", "", "", "R", "|Bezeichnung|Preis|Einheit|Währung", false, false},
+        {"the percentage", "1", "", "R", "|Bezeichnung|Msz|Preis|Einheit|Währung", true, false},
+        {"a number, not a text", " 1.0", "", "R", "|Bezeichnung|Msz|Preis|Einheit|Währung", true, false},
+        {"logistics site", "0", "WVO", "R", "|Bezeichnung|Preis|Einheit|Währung|Preis_Abr2", false, true},
+        {"the percentage leaves no column for the second price", "1", "WVO", "R",
+         "|Bezeichnung|Msz|Preis|Einheit|Währung", true, true},
+        {"stock-price site", "0", "UELZEN", "A6", "|Bezeichnung|Preis|Einheit|Währung|Stockpreis", false,
+         true},
+        {"the type is compared exactly", "0", "UELZEN", "a6", "|Bezeichnung|Preis|Einheit|Währung", false,
+         false},
+        {"the site is compared exactly", "0", "wvo", "R", "|Bezeichnung|Preis|Einheit|Währung", false, false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        host.settings["MESZAHL"] = c.meszahl;
+        host.session.site = c.site;
+        editPrices(
+            13,
+            [&](User& user) {
+                std::string captions;
+                for (const auto& column : user.grid("MSFlexGrid1").columns())
+                    captions +=
+                        (&column == &user.grid("MSFlexGrid1").columns().front() ? "" : "|") + column.caption;
+                EXPECT_EQ(captions, c.columns);
+                EXPECT_EQ(user.control<ui::TextBox>("txtMsz").visible(), c.percent);
+                EXPECT_EQ(user.control<ui::TextBox>("txtPreis_Abr2").visible(), c.secondPrice);
+                user.click("cmdOk");
+            },
+            c.type);
+    }
+}
+
+TEST_F(PriceLines, LoadingShowsTheLinesAndPutsTheirPlacesInOrder) {
+    host.session.site = "WVO";
+    editPrices(16, [&](User& user) {
+        const ui::Grid& grid = user.grid("MSFlexGrid1");
+        ASSERT_EQ(grid.rows().size(), 3u);
+        EXPECT_EQ(cells(grid, 0), "|Schleifholz Fichte|12,34|Fm|CHF|");
+        EXPECT_EQ(cells(grid, 1), "|Schleifholz Tanne|12,35|Fm|CHF|3,00");
+        EXPECT_EQ(cells(grid, 2), "|Schleifholz Bruch|80,00|Rm|EUR|");
+        EXPECT_EQ(grid.currentRow(), 0);
+        EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Schleifholz Fichte");
+        EXPECT_EQ(user.text("txtHa"), "FI");
+        EXPECT_EQ(user.text("txtHs"), "S");
+        EXPECT_TRUE(user.checked("chkSelektion"));
+        EXPECT_FALSE(user.usable("txtPreis"));
+        EXPECT_FALSE(user.usable("txtHa"));
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(prices("ID", 16), "[11][12][13]") << "3, 7, 9 became 1, 2, 3";
+    host.statements.clear();
+    editPrices(16, [](User& user) { user.key(Key::escape); });
+    EXPECT_EQ(sent("WHERE ID = "), 0) << "places that are right are not written again";
+}
+
+TEST_F(PriceLines, OpeningTheEditorCostsTheSameForAnyNumberOfLines) {
+    for (int i = 0; i < 50; ++i) {
+        const std::string place = std::to_string(i + 1);
+        host.database.execute("INSERT INTO VERTRAG_PREISE (ID_VERTRAG,ORDNUNG) VALUES (17," + place + ")");
+        host.database.execute("INSERT INTO VERTRAG_MENGEN (ID_VERTRAG,ORDNUNG) VALUES (17," + place + ")");
+    }
+    std::vector<std::size_t> counts;
+    for (const int contract : {1, 17}) {
+        host.statements.clear();
+        host.display.onWindow("F_Vertrag", [&](User& user) {
+            counts.push_back(host.statements.size());
+            user.close();
+        });
+        host.openContract(contract);
+    }
+    EXPECT_EQ(counts[0], counts[1]);
+    EXPECT_LE(counts[0], 16u);
+}
+
+TEST_F(PriceLines, WithoutLinesOnlyNewAndCloseAreUsable) {
+    editPrices(17, [](User& user) {
+        for (const char* button : {"cmdBearbeiten", "cmdSpeichern", "cmdAbbrechen", "cmdLoschen", "cmdSelect",
+                                   "chkEdit", "btnPreiseAendern", "UpDown1", "txtHa"}) {
+            EXPECT_FALSE(user.usable(button)) << button;
+        }
+        EXPECT_TRUE(user.usable("cmdNeu"));
+        EXPECT_FALSE(user.checked("chkSelektion"));
+        user.click("cmdOk");
+    });
+}
+
+TEST_F(PriceLines, GoingToARowShowsItsFieldsAndItsSelection) {
+    editPrices(2, [](User& user) {
+        user.focus("MSFlexGrid1");
+        user.key(Key::down);
+        EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Übriges Nadelholz ab 4 m");
+        EXPECT_EQ(user.text("txtPreis"), "89,00");
+        EXPECT_EQ(user.text("txtHa"), "") << "the dialog's form is not shown in part";
+        EXPECT_EQ(user.text("txtLange"), "");
+        EXPECT_TRUE(user.checked("chkSelektion"));
+        user.key(Key::up);
+        EXPECT_EQ(user.text("txtStkl"), "2b,3a,3b");
+        user.click("cmdOk");
+    });
+}
+
+TEST_F(PriceLines, ANewLineIsWrittenWithItsSelectionAtTheEnd) {
+    editPrices(1, [&](User& user) {
+        user.click("cmdNeu");
+        EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Fichte Blochholz A/B") << "keeps what it shows";
+        EXPECT_EQ(user.text("txtPreis"), "");
+        EXPECT_FALSE(user.usable("MSFlexGrid1"));
+        EXPECT_FALSE(user.usable("cmdOk"));
+        EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "3");
+        user.type("txtBEZEICHNUNG", "Dünne Fichte d'Or");
+        user.type("txtPreis", "1250,5");
+        user.select("cboUnit", 2);
+        user.select("cboGeld", 0);
+        user.type("txtHa", "FI,  KI");
+        user.type("txtHs", "");
+        user.type("txtGKL", "");
+        user.type("txtLange", "4.5,x,6");
+        user.click("cmdSpeichern");
+        EXPECT_EQ(user.text("txtLange"), "4.5,6");
+        EXPECT_EQ(cells(user.grid("MSFlexGrid1"), 3), "|Dünne Fichte d'Or|1250,50|Fm o.R.|EUR");
+        EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), 3);
+        EXPECT_TRUE(user.usable("cmdNeu"));
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(
+        row("SELECT ORDNUNG,BEZEICHNUNG,SELEKTION_VALUE,MSZ_PERCENT,PREIS,EURO,ID_WARENEINHEIT,PREIS_ABR2 "
+            "FROM VERTRAG_PREISE WHERE ID = 23"),
+        "4 | Dünne Fichte d'Or | 83 IN ('FI', 'KI') ;94 IN (4.5, 6) ; | 2.50 | 1250.5000 | true | 8 | NULL");
+    EXPECT_TRUE(host.display.errors().empty());
+}
+
+TEST_F(PriceLines, ALineNeedsASelection) {
+    host.display.onMessage("Text 223");
+    host.display.onMessage("Text 223");
+    editPrices(
+        17,
+        [&](User& user) {
+            user.click("cmdNeu");
+            user.type("txtPreis", "5");
+            user.click("cmdSpeichern");
+            EXPECT_EQ(host.selections, std::vector<std::string>{"23VERTP/A1"}) << "the dialog made the row";
+            EXPECT_TRUE(user.usable("cmdSpeichern")) << "cancelled: the save has ended";
+            host.onSelectionDialog = [](const std::string&) { return " 83 <> 'O''X' "; };
+            user.click("cmdSpeichern");
+            EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 23"), "83 <> 'O''X'");
+            EXPECT_TRUE(user.checked("chkSelektion"));
+            user.click("cmdSpeichern");
+            EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 17"), "1")
+                << "one row only";
+            host.onSelectionDialog = [](const std::string&) { return "  "; };
+            user.click("cmdSelect");
+            EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 23"), "NULL");
+            EXPECT_FALSE(user.checked("chkSelektion"));
+            user.click("cmdOk");
+        },
+        "a1");
+    EXPECT_EQ(row("SELECT ORDNUNG,PREIS,EURO,ID_WARENEINHEIT FROM VERTRAG_PREISE WHERE ID = 23"),
+              "1 | 5.0000 | false | NULL");
+}
+
+TEST_F(PriceLines, CancellingANewLineLeavesNothingBehind) {
+    struct Case {
+        const char* rule;
+        bool dialogFirst;
+        bool closeBox;
+    };
+    const Case cases[] = {
+        {"before its row was made", false, false},
+        {"after its row was made", true, false},
+        {"by the window's close box", true, true},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        editPrices(1, [&](User& user) {
+            user.click("cmdNeu");
+            user.type("txtBEZEICHNUNG", "verworfen");
+            if (c.dialogFirst) {
+                user.click("cmdSelect");
+                EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "4");
+            }
+            if (c.closeBox) return user.close();
+            user.key(Key::escape);
+            EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Fichte Blochholz A/B");
+            EXPECT_EQ(user.text("txtHs"), "B");
+            user.click("cmdOk");
+        });
+        EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "3");
+    }
+}
+
+TEST_F(PriceLines, APriceOfZeroIsAskedFor) {
+    struct Case {
+        const char* rule;
+        const char* typed;
+        std::optional<Answer> answer;
+        const char* stored;
+    };
+    const Case cases[] = {
+        {"zero, and No", "0", Answer::no, "98.5000"},
+        {"zero, and Yes", "0,00", Answer::yes, "0.0000"},
+        {"below zero is not asked", "-5,5", std::nullopt, "-5.5000"},
+        {"a point is a comma", "7.25", std::nullopt, "7.2500"},
+        {"no price", "", std::nullopt, "NULL"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        if (c.answer) {
+            host.display.onMessage("Wollen Sie die Position mit dem Preis von 0,00 Euro speichern?",
+                                   *c.answer);
+        }
+        editPrices(1, [&](User& user) {
+            user.click("cmdBearbeiten");
+            user.type("txtPreis", c.typed);
+            user.click("cmdSpeichern");
+            if (user.usable("cmdAbbrechen")) user.click("cmdAbbrechen");
+            user.click("cmdOk");
+        });
+        EXPECT_EQ(value("SELECT PREIS FROM VERTRAG_PREISE WHERE ID = 1"), c.stored);
+        host.database.execute("UPDATE VERTRAG_PREISE SET PREIS = 98.5 WHERE ID = 1");
+    }
+    EXPECT_EQ(host.display.messages().front().title, "Vertrag Preise");
+    EXPECT_EQ(host.display.messages().front().flags, ui::box::yesNo);
+}
+
+TEST_F(PriceLines, EditingWritesWhatWasTypedAndKeepsWhatWasNot) {
+    host.database.execute("UPDATE VERTRAG_PREISE SET ID_WARENEINHEIT = 9 WHERE ID = 12");
+    editPrices(16, [&](User& user) {
+        user.select("MSFlexGrid1", 1, 1);
+        EXPECT_EQ(user.text("txtPreis"), "12,35");
+        EXPECT_EQ(user.control<ui::ComboBox>("cboUnit").selected(), ui::ItemList::none)
+            << "Stunde is no timber unit";
+        user.click("cmdBearbeiten");
+        user.type("txtBEZEICHNUNG", "Tanne");
+        user.key(Key::tab);
+        user.key(Key::tab);
+        user.click("cmdSpeichern");
+        EXPECT_EQ(user.grid("MSFlexGrid1").cell(1, 1), "Tanne");
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(row("SELECT ORDNUNG,BEZEICHNUNG,SELEKTION_VALUE,PREIS,EURO,ID_WARENEINHEIT,PREIS_ABR2 FROM "
+                  "VERTRAG_PREISE WHERE ID = 12"),
+              "2 | Tanne | 83 IN ('TA') ;87 IN ('S') ; | 12.3450 | false | 9 | 3.0000")
+        << "a third decimal and a unit that is not offered stay";
+}
+
+TEST_F(PriceLines, QuickSelectionAndDialogReplaceEachOther) {
+    editPrices(2, [&](User& user) {
+        user.select("MSFlexGrid1", 1, 1);
+        user.click("cmdBearbeiten");
+        user.click("cmdSpeichern");
+        EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 5"),
+                  "83 NOT IN ('LA', 'BU', 'EI') ;94 BETWEEN 4 AND 6 ;")
+            << "empty boxes do not destroy what the dialog wrote";
+        user.click("cmdBearbeiten");
+        user.type("txtHa", "FI ,KI");
+        user.click("cmdSpeichern");
+        EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 5"), "83 IN ('FI ', 'KI') ;");
+        host.onSelectionDialog = [](const std::string& key) { return key + "!"; };
+        user.click("cmdSelect");
+        EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 5"), "5VERTP!");
+        EXPECT_EQ(user.text("txtHa"), "");
+        user.click("cmdOk");
+    });
+}
+
+TEST_F(PriceLines, TheQuickSelectionCompletesAndOffersCodes) {
+    struct Case {
+        const char* box;
+        const char* pick;
+        const char* bound;
+    };
+    const Case cases[] = {
+        {"txtHa", "HOLZART_GRID/Ha/X/01", "txtHa/HA"},
+        {"txtHs", "HOLZSORTE_GRID/Hs/X/01", "txtHs/HS"},
+        {"txtGKL", "GUETEKLASSE_GRID/GKL/X/01", "txtGKL/GKL"},
+        {"txtStkl", "STKL_GRID/Stkl/X/01", "txtStkl/STKL"},
+    };
+    editPrices(1, [&](User& user) {
+        user.click("cmdBearbeiten");
+        for (const Case& c : cases) {
+            user.type(c.box, "X");
+            EXPECT_EQ(host.typeAheads.back(), c.bound);
+            user.ctrl();
+            EXPECT_EQ(host.picks.back(), c.pick);
+            EXPECT_EQ(user.text(c.box), "X") << "cancelling the list changes nothing";
+            user.key(Key::enter);
+            EXPECT_NE(user.focused(), c.box) << "Enter goes on";
+        }
+        host.pickedText = "FI,TA";
+        user.focus("txtHa");
+        user.ctrl();
+        EXPECT_EQ(user.text("txtHa"), "FI,TA");
+        user.close();
+    });
+}
+
+TEST_F(PriceLines, LinesMoveUpAndDown) {
+    editPrices(1, [&](User& user) {
+        user.focus("UpDown1");
+        user.key(Key::up);
+        EXPECT_EQ(prices("ID", 1), "[1][2][3]") << "the first cannot go up";
+        user.key(Key::down);
+        EXPECT_EQ(prices("ID", 1), "[2][1][3]");
+        EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), 1) << "the current row goes with the line";
+        EXPECT_EQ(user.grid("MSFlexGrid1").cell(1, 1), "Fichte Blochholz A/B");
+        user.key(Key::down);
+        user.key(Key::down);
+        EXPECT_EQ(prices("ID", 1), "[2][3][1]") << "the last cannot go down";
+        user.key(Key::up);
+        user.click("cmdLoschen");
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(prices("ID", 1), "[2][3]") << "what is deleted is the line that was moved";
+}
+
+TEST_F(PriceLines, AFailureWhileMovingIsRepairedByTheNextLoad) {
+    editPrices(1, [&](User& user) {
+        host.database.failOn("WHERE ID = 2");
+        user.focus("UpDown1");
+        user.key(Key::down);
+        EXPECT_EQ(host.display.errors(), std::vector<std::string>{"connection lost"});
+        EXPECT_EQ(user.grid("MSFlexGrid1").cell(0, 1), "Fichte Blochholz A/B");
+        host.database.failOn("VERTRAG_PREISE");
+        user.key(Key::down);
+        host.database.failOn("");
+        user.close();
+    });
+    EXPECT_EQ(prices("ID", 1), "[1][2][3]");
+    host.database.execute("UPDATE VERTRAG_PREISE SET ORDNUNG = 0 WHERE ID = 2");
+    editPrices(1, [](User& user) { user.close(); });
+    EXPECT_EQ(prices("ID", 1), "[2][1][3]") << "the line with 0 is found and numbered";
+}
+
+TEST_F(PriceLines, DeletingClosesTheGap) {
+    host.database.execute(
+        "INSERT INTO VERTRAG_PREISE (ID_VERTRAG,ORDNUNG,BEZEICHNUNG) VALUES (1,4,'vierte')");
+    editPrices(1, [&](User& user) {
+        user.select("MSFlexGrid1", 1, 1);
+        user.click("cmdLoschen");
+        EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Kiefer Langholz") << "the next one is current";
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(prices("ID,ORDNUNG", 1), "[1 | 1][3 | 2][23 | 3]");
+    editPrices(8, [&](User& user) {
+        user.click("cmdLoschen");
+        EXPECT_FALSE(user.usable("cmdLoschen")) << "none is left";
+        EXPECT_EQ(user.text("txtBEZEICHNUNG"), "");
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(prices("ID", 8), "");
+}
+
+TEST_F(PriceLines, ALineThatAnotherUserDeletedIsReported) {
+    editPrices(1, [&](User& user) {
+        host.database.execute("DELETE FROM VERTRAG_PREISE WHERE ID = 3");
+        user.select("MSFlexGrid1", 2, 1);
+        ASSERT_EQ(host.display.errors().size(), 1u);
+        EXPECT_NE(host.display.errors().back().find("inzwischen"), std::string::npos);
+        user.click("cmdLoschen");
+        EXPECT_EQ(user.grid("MSFlexGrid1").rows().size(), 2u);
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(prices("ID", 1), "[1][2]");
+}
+
+TEST_F(PriceLines, WhatWouldBreakAStatementIsRefusedAndEverythingStays) {
+    struct Case {
+        const char* box;
+        const char* typed;
+        bool refused;
+    };
+    const Case cases[] = {
+        {"txtHa", "FI') ;'; DELETE FROM VERTRAG_PREISE --", true},
+        {"txtHs", "O'X", true},
+        {"txtGKL", "'", true},
+        {"txtStkl", "', SELEKTION_VALUE = '", true},
+        {"txtStkl", "''", false}, // its quotes even out: a strange text, and nothing else
+        {"txtLange", "4); DELETE FROM VERTRAG_PREISE --", false}, // no number, so it is dropped
+        {"txtBEZEICHNUNG", "x'; DELETE FROM VERTRAG_PREISE --", false},
+        {"txtPreis", "1; DELETE FROM VERTRAG_PREISE", true},
+        {"txtPreis_Abr2", "1' OR '1'='1", true},
+    };
+    host.session.site = "WVO";
+    const std::string others = prices("*", 2);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string{c.box} + " " + c.typed);
+        const auto errors = host.display.errors().size();
+        editPrices(1, [&](User& user) {
+            user.click("cmdNeu");
+            user.type("txtPreis", "3");
+            user.type("txtHa", "FI");
+            user.replaceText(c.box, c.typed);
+            user.click("cmdSpeichern");
+            EXPECT_EQ(host.display.errors().size() - errors, c.refused ? 1u : 0u);
+            EXPECT_EQ(user.usable("cmdAbbrechen"), c.refused) << "a refused line stays in work";
+            if (c.refused) {
+                EXPECT_EQ(user.text(c.box), c.typed);
+                user.click("cmdAbbrechen");
+            } else {
+                user.click("cmdLoschen");
+            }
+            user.click("cmdOk");
+        });
+        EXPECT_EQ(prices("ID", 1), "[1][2][3]");
+        EXPECT_EQ(prices("*", 2), others);
+    }
+}
+
+} // namespace
+} // namespace tellurix::tests
