@@ -1,8 +1,13 @@
 #include "contract/F_HeaderVertrag.h"
 #include "contract/F_Vertrag.h"
+#include "lines/F_OffeneMenge.h"
+#include "lines/F_VertragMengen.h"
+#include "lines/F_VertragPreise.h"
 #include "services/F_Calendar.h"
 #include "services/F_ListPicker.h"
+#include "services/F_LookupGrid.h"
 #include "services/F_PersonPicker.h"
+#include "services/F_Selection.h"
 #include "services/ServicesTest.h"
 #include "texts.h"
 #include "ui/CheckBox.h"
@@ -57,7 +62,14 @@ protected:
     F_ListPicker list{"", {.headings = {"Kurz"}, .entries = {}}, {}, ""};
     F_Calendar calendar{"", someDay, someDay, common::Locale::german()};
     F_PersonPicker persons{"", [](const std::string&) { return F_PersonPicker::Found{}; }, "", 0};
-    const std::vector<ui::Form*> forms{&editor, &header, &list, &calendar, &persons};
+    lines::F_VertragPreise prices{host};
+    lines::F_VertragMengen quantities{host};
+    lines::F_OffeneMenge open{host, session};
+    const workbench::SelectionWords words{services.localizer(), session, common::Locale::german()};
+    workbench::F_Selection selection{display, words, {}, {}};
+    workbench::F_LookupGrid codes{"", words.choiceCaptions(), {}, {}, true};
+    const std::vector<ui::Form*> forms{&editor, &header,     &list, &calendar,  &persons,
+                                       &prices, &quantities, &open, &selection, &codes};
 };
 
 TEST_F(Localizing, EveryCaptionHasAnEnglishText) {
