@@ -323,6 +323,8 @@ TEST_F(PriceLines, TheQuickSelectionCompletesAndOffersCodes) {
 }
 
 TEST_F(PriceLines, LinesMoveUpAndDown) {
+    // A server may insist that no two lines of a contract have the same place, not even for a moment.
+    host.database.execute("CREATE UNIQUE INDEX UX_PLACE ON VERTRAG_PREISE (ID_VERTRAG, ORDNUNG)");
     editPrices(1, [&](User& user) {
         user.focus("UpDown1");
         user.key(Key::up);
