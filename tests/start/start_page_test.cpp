@@ -149,6 +149,7 @@ TEST_F(StartPage, OpensAContractAsTheHostDoes) {
             EXPECT_EQ(context.StrVer_Type, "R");
             EXPECT_EQ(context.strDecimalSep, ",");
             EXPECT_EQ(context.strThousantSep, ".");
+            EXPECT_EQ(context.g_intStandardMandanten, 1);
             EXPECT_NE(context.F_Main, nullptr);
             editor.click("chkAbgeschlossen");
             editor.click("btnSpeichern");
