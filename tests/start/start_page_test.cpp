@@ -175,6 +175,16 @@ TEST_F(StartPage, OpensAContractAsTheHostDoes) {
     });
 }
 
+TEST_F(StartPage, AContractThatIsGoneIsToldAndLeavesTheList) {
+    display.onMessage("gibt es nicht mehr");
+    work([&](User& user) {
+        user.type("txtSearch", "mariahof");
+        connection->execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = 17");
+        user.key(Key::enter);
+        EXPECT_EQ(listed(user), "");
+    });
+}
+
 TEST_F(StartPage, RefusesANameThatIsNoneAndCreatesNothing) {
     struct Case {
         const char* rule;
