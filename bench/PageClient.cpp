@@ -52,6 +52,10 @@ json keyPressed(int key) {
     return {{"type", "key"}, {"key", key}};
 }
 
+json caretMoved(int to) {
+    return {{"type", "selection"}, {"start", to}, {"length", 0}};
+}
+
 net::awaitable<void> PageClient::connect(std::uint16_t port, std::string key) {
     const net::ip::tcp::endpoint server{net::ip::address_v4::loopback(), port};
     co_await beast::get_lowest_layer(stream_).async_connect(server, net::use_awaitable);
@@ -84,10 +88,20 @@ net::awaitable<Clock::duration> PageClient::perform(json event) {
 }
 
 net::awaitable<Clock::duration> PageClient::perform(std::string form, std::string control, json event) {
+    co_return co_await perform(addressed(form, control, std::move(event)));
+}
+
+net::awaitable<void> PageClient::tell(std::string form, std::string control, json event) {
+    json message = addressed(form, control, std::move(event));
+    message["n"] = ++number_;
+    co_await write(message);
+}
+
+json PageClient::addressed(const std::string& form, const std::string& control, json event) const {
     const PageState::Window& window = state_.top(form);
     event["window"] = window.id;
     if (!control.empty()) event["control"] = window.controls.at(control);
-    co_return co_await perform(std::move(event));
+    return event;
 }
 
 net::awaitable<void> PageClient::write(const json& message) {

@@ -24,6 +24,8 @@ nlohmann::json focused();
 nlohmann::json rowChosen(int row);
 nlohmann::json typed(char character);
 nlohmann::json keyPressed(int key);
+/// The caret of a box was put somewhere.
+nlohmann::json caretMoved(int to);
 
 /// What a browser does for one user, without the drawing: speaks with the workbench through a socket
 /// as the page does, one thing at a time.
@@ -37,13 +39,17 @@ public:
     /// Tells what the user did and waits until the session has dealt with it.
     /// @return the time from before the sending until the answer was there
     boost::asio::awaitable<Clock::duration> perform(nlohmann::json event);
-    /// The same for a control of the form in front.
+    /// The same for a control of the form in front, or with an empty name for the one with the focus.
     boost::asio::awaitable<Clock::duration> perform(std::string form, std::string control,
                                                     nlohmann::json event);
+
+    /// Tells it only; the next `perform` waits for this too.
+    boost::asio::awaitable<void> tell(std::string form, std::string control, nlohmann::json event);
 
     const PageState& state() const { return state_; }
 
 private:
+    nlohmann::json addressed(const std::string& form, const std::string& control, nlohmann::json event) const;
     boost::asio::awaitable<void> write(const nlohmann::json& message);
     boost::asio::awaitable<nlohmann::json> read();
 

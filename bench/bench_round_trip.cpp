@@ -70,22 +70,32 @@ net::awaitable<void> wait(net::steady_timer& timer, Clock::duration time) {
     co_await timer.async_wait(net::use_awaitable);
 }
 
+/// How users type.
+struct Pace {
+    std::string name;
+    /// On average between two key presses, evenly spread from half to one and a half of it; a key also
+    /// waits for the answer to the one before, as in the page.
+    Clock::duration pause;
+    /// The caret is put somewhere before each key, which the page tells with it.
+    bool movesCaret = false;
+};
+
 /// Types 12,5 and Tab into one number box after the other, round and round.
-/// @param pause on average between two key presses, evenly spread from half to one and a half of it;
-///        a key also waits for the answer to the one before, as in the page
-net::awaitable<void> typeNumbers(net::io_context& context, PageClient& client, int number,
-                                 Clock::duration pause, Durations& answers) {
+net::awaitable<void> typeNumbers(net::io_context& context, PageClient& client, int number, const Pace& pace,
+                                 Durations& answers) {
     static constexpr std::string_view text = "12,5\t";
     constexpr int boxes = 10;
     net::steady_timer timer{context};
     std::minstd_rand random{static_cast<unsigned>(number) + 1};
-    std::uniform_int_distribution<Clock::rep> pauses{pause.count() / 2, pause.count() * 3 / 2};
+    std::uniform_int_distribution<Clock::rep> pauses{pace.pause.count() / 2, pace.pause.count() * 3 / 2};
     int box = 0;
     co_await client.perform(header, "txtNumber(0)", bench::focused());
     for (int i = 0; i < keysEach; ++i) {
-        if (pause.count() > 0) co_await wait(timer, Clock::duration{pauses(random)});
+        if (pace.pause.count() > 0) co_await wait(timer, Clock::duration{pauses(random)});
         const char key = text[static_cast<std::size_t>(i) % text.size()];
         if (key != '\t') {
+            const std::string focusedBox = "txtNumber(" + std::to_string(box % boxes) + ")";
+            if (pace.movesCaret) co_await client.tell(header, focusedBox, bench::caretMoved(0));
             answers.add(co_await client.perform(header, "", bench::typed(key)));
         } else if (++box % boxes != 0) {
             answers.add(co_await client.perform(header, "", bench::keyPressed(tabKey)));
@@ -105,11 +115,6 @@ void connect(net::io_context& context, Clients& clients, const bench::WorkbenchP
     });
 }
 
-struct Pace {
-    std::string name;
-    Clock::duration pause;
-};
-
 void measureRoundTrips() {
     bench::heading(std::cout, "From a key press to its answer, " + std::to_string(users) +
                                   " users at once, in milliseconds");
@@ -127,12 +132,13 @@ void measureRoundTrips() {
     });
     using namespace std::chrono_literals;
     for (const Pace& pace :
-         {Pace{"a key every 200 ms", 200ms}, Pace{"a key every 20 ms", 20ms}, Pace{"without a pause", 0ms}}) {
+         {Pace{"a key every 200 ms", 200ms}, Pace{"a key every 20 ms", 20ms}, Pace{"without a pause", 0ms},
+          Pace{"a key every 20 ms, the caret moved before", 20ms, true}}) {
         Durations answers;
         const double usedBefore = workbench.processorSeconds();
         const Clock::duration time = bench::timeOf([&] {
             together(context, clients, 0, [&](PageClient& client, int number) {
-                return typeNumbers(context, client, number, pace.pause, answers);
+                return typeNumbers(context, client, number, pace, answers);
             });
         });
         const double used = workbench.processorSeconds() - usedBefore;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <memory>
 #include <memory_resource>
 #include <string_view>
 #include <utility>
@@ -21,7 +22,7 @@ public:
     template <typename Node, typename... Arguments>
     Node* make(Arguments&&... arguments) {
         void* place = memory_.allocate(sizeof(Node), alignof(Node));
-        return ::new (place) Node(std::forward<Arguments>(arguments)...);
+        return std::construct_at(static_cast<Node*>(place), std::forward<Arguments>(arguments)...);
     }
 
     /// Uninitialised room for a text of at most `size` bytes.

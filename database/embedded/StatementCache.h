@@ -22,7 +22,7 @@ public:
 private:
     static constexpr std::size_t capacity = 256;
     /// Longer texts are loads of rows, which do not come again.
-    static constexpr std::size_t longestKept = 64 * 1024;
+    static constexpr std::size_t longestKept = 65'536;
 
     using Entries = std::list<std::shared_ptr<Batch>>; // the latest in front
     Entries entries_;

@@ -113,7 +113,7 @@ private:
     Fragment variable(const Expression& expression);
     Fragment negate(const Expression& expression);
     Fragment arithmetic(const Expression& expression);
-    Fragment concatenation(Fragment left, Fragment right);
+    static Fragment concatenation(const Fragment& left, const Fragment& right);
     Fragment caseWhen(const Expression& expression);
     Fragment simpleCase(const Expression& expression);
     Fragment caseText(std::string sql, std::vector<Fragment> conditions, std::vector<Fragment> results,
@@ -147,7 +147,7 @@ private:
     Fragment now(const Expression& call);
     Fragment identityOf(const Expression& call);
     Fragment aggregate(const Expression& call);
-    Fragment sum(const Expression& call, Fragment argument);
+    Fragment sum(const Expression& call, const Fragment& argument);
     Fragment cast(const Expression& call);
     Fragment datePart(const Expression& call);
     Fragment textArgument(const Expression& call, std::size_t index);

@@ -16,6 +16,8 @@ template <typename... Cases>
 struct Overloaded : Cases... {
     using Cases::operator()...;
 };
+template <typename... Cases>
+Overloaded(Cases...) -> Overloaded<Cases...>;
 
 [[noreturn]] void failRange(const Type& type) {
     failConversion("A result does not fit " + describe(type));

@@ -5,6 +5,7 @@
 #include "embedded/utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -159,9 +160,9 @@ void decimalToText(ScalarCall& call) {
 
 /// Six digits, as the server writes a float.
 void floatToText(ScalarCall& call) {
-    char buffer[32];
-    const int length = std::snprintf(buffer, sizeof buffer, "%.6g", call.floating(0));
-    std::string text(buffer, static_cast<std::size_t>(length));
+    std::array<char, 32> buffer{};
+    const int length = std::snprintf(buffer.data(), buffer.size(), "%.6g", call.floating(0));
+    std::string text(buffer.data(), static_cast<std::size_t>(length));
     const std::size_t exponent = text.find('e');
     if (exponent != std::string::npos && text.size() - exponent == 4)
         text.insert(exponent + 2, 1, '0'); // exponents have three digits there

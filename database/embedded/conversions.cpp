@@ -22,7 +22,7 @@ constexpr std::int32_t longestFloatText = 14;
 }
 
 /// `function(value, packed type, position[, column])`
-Fragment call(const char* function, Fragment value, const Type& target, std::int64_t packed,
+Fragment call(const char* function, const Fragment& value, const Type& target, std::int64_t packed,
               const Destination& destination) {
     std::string sql = function;
     sql += '(';
@@ -39,16 +39,16 @@ Fragment call(const char* function, Fragment value, const Type& target, std::int
     return {.sql = std::move(sql), .type = target, .position = value.position};
 }
 
-Fragment wrapped(const char* before, Fragment value, const char* after, const Type& target) {
-    return {.sql = before + value.sql + after, .type = target, .position = value.position};
+Fragment wrapped(const char* before, const Fragment& value, std::string_view after, const Type& target) {
+    return {.sql = before + value.sql + std::string(after), .type = target, .position = value.position};
 }
 
 /// A number in text form never gets cut.
 Fragment fitNumberText(Fragment text, std::int32_t longest, const Type& target,
                        const Destination& destination) {
     if (target.length != Type::unlimited && target.length < longest)
-        text = call("ts_need", std::move(text), target, packType(target), destination);
-    if (target.padded) text = call("ts_fit", std::move(text), target, packType(target), destination);
+        text = call("ts_need", text, target, packType(target), destination);
+    if (target.padded) text = call("ts_fit", text, target, packType(target), destination);
     text.type = target;
     return text;
 }
@@ -58,7 +58,7 @@ Fragment textToText(Fragment value, const Type& target, const Destination& desti
                              (value.type.length == Type::unlimited || value.type.length > target.length);
     if (destination.purpose != Purpose::meeting && (mayBeLonger || (target.padded && value.type != target))) {
         if (destination.purpose == Purpose::column)
-            return call("ts_fit", std::move(value), target, packType(target), destination);
+            return call("ts_fit", value, target, packType(target), destination);
         return {.sql = "ts_cut(" + value.sql + "," + std::to_string(packType(target)) + ")",
                 .type = target,
                 .position = value.position};
@@ -75,12 +75,12 @@ Fragment toText(Fragment value, const Type& target, const Destination& destinati
         if (value.type.money) value = convert(std::move(value), Type::decimal(Type::maxPrecision, 2));
         const std::int32_t longest = value.type.precision + 3;
         const std::string scale = std::to_string(value.type.scale);
-        return fitNumberText(wrapped("ts_dec_text(", std::move(value), ("," + scale + ")").c_str(), target),
-                             longest, target, destination);
+        return fitNumberText(wrapped("ts_dec_text(", value, "," + scale + ")", target), longest, target,
+                             destination);
     }
     case TypeKind::floating:
-        return fitNumberText(wrapped("ts_float_text(", std::move(value), ")", target), longestFloatText,
-                             target, destination);
+        return fitNumberText(wrapped("ts_float_text(", value, ")", target), longestFloatText, target,
+                             destination);
     case TypeKind::dateTime: {
         const std::size_t position = value.position;
         Fragment text{.sql = "ts_date_text(" + value.sql + "," + std::to_string(destination.style) + "," +
@@ -91,30 +91,29 @@ Fragment toText(Fragment value, const Type& target, const Destination& destinati
     }
     default: {
         const auto longest = static_cast<std::int32_t>(std::to_string(smallestOf(value.type.kind)).size());
-        return fitNumberText(wrapped("CAST(", std::move(value), " AS TEXT)", target),
-                             std::max<std::int32_t>(longest, 3), target, destination);
+        return fitNumberText(wrapped("CAST(", value, " AS TEXT)", target), std::max<std::int32_t>(longest, 3),
+                             target, destination);
     }
     }
 }
 
 Fragment toBit(Fragment value, const Type& target, const Destination& destination) {
-    if (value.type.isText())
-        return call("ts_text_bit", std::move(value), target, packType(target), destination);
+    if (value.type.isText()) return call("ts_text_bit", value, target, packType(target), destination);
     if (!value.type.isNumber()) failTypes(value, target, destination);
     if (value.literal == Fragment::Literal::exact)
         return exactFragment(value.units != 0 ? 1 : 0, target, value.position);
     if (value.type.kind == TypeKind::bit) return value;
-    return wrapped("(", std::move(value), "<>0)", target);
+    return wrapped("(", value, "<>0)", target);
 }
 
 Fragment toInteger(Fragment value, const Type& target, const Destination& destination) {
     switch (value.type.kind) {
     case TypeKind::text:
-        return call("ts_text_int", std::move(value), target, packType(target), destination);
+        return call("ts_text_int", value, target, packType(target), destination);
     case TypeKind::decimal:
-        return call("ts_dec_int", std::move(value), target, packType(target, value.type.scale), destination);
+        return call("ts_dec_int", value, target, packType(target, value.type.scale), destination);
     case TypeKind::floating:
-        return call("ts_float_int", std::move(value), target, packType(target), destination);
+        return call("ts_float_int", value, target, packType(target), destination);
     case TypeKind::dateTime:
         failTypes(value, target, destination);
     default:
@@ -124,7 +123,7 @@ Fragment toInteger(Fragment value, const Type& target, const Destination& destin
                              ? value.units >= smallestOf(target.kind) && value.units <= largestOf(target.kind)
                              : smallestOf(value.type.kind) >= smallestOf(target.kind) &&
                                    largestOf(value.type.kind) <= largestOf(target.kind);
-    if (!inRange) return call("ts_int_int", std::move(value), target, packType(target), destination);
+    if (!inRange) return call("ts_int_int", value, target, packType(target), destination);
     value.type = target;
     return value;
 }
@@ -132,9 +131,9 @@ Fragment toInteger(Fragment value, const Type& target, const Destination& destin
 Fragment toDecimal(Fragment value, const Type& target, const Destination& destination) {
     switch (value.type.kind) {
     case TypeKind::text:
-        return call("ts_text_dec", std::move(value), target, packType(target), destination);
+        return call("ts_text_dec", value, target, packType(target), destination);
     case TypeKind::floating:
-        return call("ts_float_dec", std::move(value), target, packType(target), destination);
+        return call("ts_float_dec", value, target, packType(target), destination);
     case TypeKind::dateTime:
         failTypes(value, target, destination);
     default:
@@ -149,38 +148,34 @@ Fragment toDecimal(Fragment value, const Type& target, const Destination& destin
     const int more = target.scale - source.scale;
     const bool wideEnough = target.precision - target.scale >= source.precision - source.scale;
     if (more >= 0 && wideEnough) {
-        if (more > 0)
-            return wrapped("(", std::move(value), ("*" + std::to_string(powerOfTen(more)) + ")").c_str(),
-                           target);
+        if (more > 0) return wrapped("(", value, "*" + std::to_string(powerOfTen(more)) + ")", target);
         value.type = target;
         return value;
     }
-    return call("ts_dec_dec", std::move(value), target, packType(target, source.scale), destination);
+    return call("ts_dec_dec", value, target, packType(target, source.scale), destination);
 }
 
 Fragment toFloat(Fragment value, const Type& target, const Destination& destination) {
     switch (value.type.kind) {
     case TypeKind::text:
-        return call("ts_text_float", std::move(value), target, packType(target), destination);
+        return call("ts_text_float", value, target, packType(target), destination);
     case TypeKind::floating:
         return value;
     case TypeKind::dateTime:
         failTypes(value, target, destination);
     case TypeKind::decimal:
         if (value.type.scale > 0)
-            return wrapped("(", std::move(value),
-                           ("/" + std::to_string(powerOfTen(value.type.scale)) + ".0)").c_str(), target);
+            return wrapped("(", value, "/" + std::to_string(powerOfTen(value.type.scale)) + ".0)", target);
         [[fallthrough]];
     default:
-        return wrapped("CAST(", std::move(value), " AS REAL)", target);
+        return wrapped("CAST(", value, " AS REAL)", target);
     }
 }
 
 Fragment toDate(Fragment value, const Type& target, const Destination& destination) {
-    if (value.type.isText())
-        return call("ts_text_date", std::move(value), target, packType(target), destination);
+    if (value.type.isText()) return call("ts_text_date", value, target, packType(target), destination);
     if (value.type.kind != TypeKind::dateTime) failTypes(value, target, destination);
-    if (target.dayOnly && !value.type.dayOnly) return wrapped("ts_day(", std::move(value), ")", target);
+    if (target.dayOnly && !value.type.dayOnly) return wrapped("ts_day(", value, ")", target);
     value.type = target;
     return value;
 }

@@ -162,7 +162,7 @@ std::optional<common::DateTime> addToDate(DatePart part, std::int64_t count, com
             return std::nullopt;
         sum = moment + *length * count;
     } else {
-        constexpr std::int64_t mostMonths = 9000 * 12;
+        constexpr std::int64_t mostMonths = 108'000;
         const std::int64_t each = monthsIn(part);
         if (count > mostMonths / each || count < -mostMonths / each) return std::nullopt;
         sum = plusMonths(moment, count * each);

@@ -92,8 +92,11 @@ void createNullGuard(SqliteConnection& connection, const std::string& table, con
             expressions += sql + ",";
             continue;
         }
-        expressions += "(" + sql + " IS NULL),ifnull(" + sql + ",0) COLLATE " + Collation::name + ",";
-        condition += (condition.empty() ? "" : " OR ") + sql + " IS NULL";
+        const std::string isNull = sql + " IS NULL";
+        expressions.append("(").append(isNull).append("),ifnull(").append(sql).append(",0) COLLATE ");
+        expressions.append(Collation::name).append(",");
+        if (!condition.empty()) condition += " OR ";
+        condition += isNull;
     }
     if (condition.empty()) return;
     expressions.pop_back();

@@ -119,17 +119,15 @@ private:
     void readQuoted(Token& token, TokenKind kind, char close, std::size_t open) {
         token.kind = kind;
         const std::size_t start = open + 1;
-        std::size_t end = start;
-        for (;; ++end) {
-            end = text_.find(close, end);
-            if (end == std::string_view::npos)
-                failSyntax(kind == TokenKind::text ? "The text that starts here does not end"
-                                                   : "The bracketed name that starts here does not end",
-                           token.position);
-            if (at(end + 1) != close) break;
+        std::size_t end = text_.find(close, start);
+        while (end != std::string_view::npos && at(end + 1) == close) {
             token.doubledQuotes = true;
-            ++end;
+            end = text_.find(close, end + 2);
         }
+        if (end == std::string_view::npos)
+            failSyntax(kind == TokenKind::text ? "The text that starts here does not end"
+                                               : "The bracketed name that starts here does not end",
+                       token.position);
         token.text = text_.substr(start, end - start);
         position_ = end + 1;
         if (token.doubledQuotes) token.text = withSingleQuotes(token.text, close);

@@ -5,6 +5,7 @@
 #include "embedded/packed.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace tellurix::embedded {
@@ -140,10 +141,10 @@ Fragment Translator::literal(const Expression& expression) {
         const std::string digits = std::string(text.substr(0, cut ? exponent : text.size()));
         if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec != std::errc{})
             failConversion("The number " + digits + " does not fit float", expression.position);
-        char buffer[32];
-        const auto written =
-            std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::scientific);
-        return {.sql = std::string(buffer, written.ptr),
+        std::array<char, 32> buffer{};
+        const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                           std::chars_format::scientific);
+        return {.sql = std::string(buffer.data(), written.ptr),
                 .type = Type::of(TypeKind::floating),
                 .position = expression.position};
     }
@@ -230,7 +231,7 @@ Fragment Translator::negate(const Expression& expression) {
     return operand;
 }
 
-Fragment Translator::concatenation(Fragment left, Fragment right) {
+Fragment Translator::concatenation(const Fragment& left, const Fragment& right) {
     Type type = Type::text(Type::unlimited);
     if (left.type.length != Type::unlimited && right.type.length != Type::unlimited)
         type.length = std::min(left.type.length + right.type.length, 4000);
@@ -251,7 +252,7 @@ Fragment Translator::arithmetic(const Expression& expression) {
     if (right.isNull()) right.type = left.type;
     if (left.isNull()) return nullFragment(expression.position);
     const bool bothTexts = left.type.isText() && right.type.isText();
-    if (bothTexts && expression.op == Operator::add) return concatenation(std::move(left), std::move(right));
+    if (bothTexts && expression.op == Operator::add) return concatenation(left, right);
     const auto common = bothTexts ? std::nullopt : commonType(left.type, right.type);
     if (!common || !common->isNumber())
         failConversion("A value of type " + describe(left.type) + " and one of type " + describe(right.type) +

@@ -243,7 +243,7 @@ Fragment Translator::aggregate(const Expression& call) {
                 .type = Type::integer(),
                 .position = call.position};
     }
-    if (name == "sum" || name == "avg") return sum(call, std::move(argument));
+    if (name == "sum" || name == "avg") return sum(call, argument);
     if (argument.type.kind == TypeKind::bit || argument.isNull())
         failConversion(std::string(call.name.written) + " of " + describe(argument.type) + " has no meaning",
                        call.position);
@@ -253,7 +253,7 @@ Fragment Translator::aggregate(const Expression& call) {
             .position = call.position};
 }
 
-Fragment Translator::sum(const Expression& call, Fragment argument) {
+Fragment Translator::sum(const Expression& call, const Fragment& argument) {
     if (!argument.type.isNumber() || argument.type.kind == TypeKind::bit)
         failConversion(std::string(call.name.written) + " of " + describe(argument.type) + " has no meaning",
                        call.position);

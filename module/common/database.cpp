@@ -1,5 +1,6 @@
 #include "common/database.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -20,9 +21,9 @@ bool sameName(std::string_view left, std::string_view right) {
 }
 
 std::string plainNumber(double number) {
-    char buffer[40];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, number);
-    return {buffer, result.ptr};
+    std::array<char, 40> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+    return {buffer.data(), result.ptr};
 }
 
 [[noreturn]] void failConversion(std::string_view name, std::string_view wanted) {

@@ -149,6 +149,7 @@ TEST_F(StartPage, OpensAContractAsTheHostDoes) {
             EXPECT_EQ(context.StrVer_Type, "R");
             EXPECT_EQ(context.strDecimalSep, ",");
             EXPECT_EQ(context.strThousantSep, ".");
+            EXPECT_EQ(context.g_intStandardMandanten, 1);
             EXPECT_NE(context.F_Main, nullptr);
             editor.click("chkAbgeschlossen");
             editor.click("btnSpeichern");
@@ -171,6 +172,16 @@ TEST_F(StartPage, OpensAContractAsTheHostDoes) {
         user.doubleClick("grdContracts");
         EXPECT_EQ(current(user), chosen) << "the current row is kept";
         EXPECT_EQ(user.grid("grdNotifications").cell(0, 1), "2VABR4") << "the newest on top";
+    });
+}
+
+TEST_F(StartPage, AContractThatIsGoneIsToldAndLeavesTheList) {
+    display.onMessage("gibt es nicht mehr");
+    work([&](User& user) {
+        user.type("txtSearch", "mariahof");
+        connection->execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = 17");
+        user.key(Key::enter);
+        EXPECT_EQ(listed(user), "");
     });
 }
 

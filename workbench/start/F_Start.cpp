@@ -44,7 +44,7 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session,
     grdContracts.setColumns({{.caption = "Vertrag", .width = 34},
                              {.caption = "Vertragsart", .width = 18},
                              {.caption = "Kunde", .width = 26},
-                             {.caption = "Lieferung von", .width = 12},
+                             {.caption = "Lieferung von", .width = 14},
                              {.caption = "bis", .width = 11},
                              {.caption = "Status", .width = 13},
                              {.caption = "Preise", .width = 7, .rightAligned = true},
@@ -207,6 +207,11 @@ void F_Start::openCurrent() {
     const int row = grdContracts.currentRow();
     if (row == ui::Grid::none) return;
     const ListedContract contract = list_.contracts[static_cast<std::size_t>(row)];
+    if (!contractExists(*session_.connection, contract.id)) {
+        common::ShowMessage(services_.host().display, named("start.gone"), ui::box::information);
+        reload();
+        return;
+    }
     open(contract.id, contract.name, contract.type, false);
 }
 

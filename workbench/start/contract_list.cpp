@@ -80,6 +80,11 @@ ContractList readContracts(common::Connection& connection, const ContractFilter&
     return list;
 }
 
+bool contractExists(common::Connection& connection, std::int32_t id) {
+    StatementText query{"SELECT ID_VERTRAG FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    return !connection.open(query.number(std::int64_t{id}).text())->atEnd();
+}
+
 bool contractExists(common::Connection& connection, const std::string& name) {
     StatementText query{"SELECT ID_VERTRAG FROM VERTRAEGE WHERE VERTRAG_NAME = "};
     return !connection.open(query.quoted(name).text())->atEnd();

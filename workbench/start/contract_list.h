@@ -45,6 +45,8 @@ struct ContractList {
 /// Reads at most `limit` contracts. However many there are, no more than that is fetched.
 ContractList readContracts(common::Connection& connection, const ContractFilter& filter, std::size_t limit);
 
+/// Whether the contract is still there; another session may have discarded it.
+bool contractExists(common::Connection& connection, std::int32_t id);
 /// Whether a contract has this name already, in any case of its letters.
 bool contractExists(common::Connection& connection, const std::string& name);
 

@@ -22,7 +22,9 @@ void BrowserDisplay::Errors::report(const std::exception& error) {
 }
 
 void BrowserDisplay::setLanguage(std::string language) {
+    if (language == language_) return;
     language_ = std::move(language);
+    languageDrawn_ = false;
 }
 
 void BrowserDisplay::showModal(ui::Form& form) {
@@ -139,6 +141,10 @@ void BrowserDisplay::draw(bool acknowledge) {
         message["busy"] = busy_;
         busyDrawn_ = busy_;
     }
+    if (complete || !languageDrawn_) {
+        message["language"] = language_ == "EN" ? "en" : "de";
+        languageDrawn_ = true;
+    }
     if (message.empty() && (!acknowledge || acknowledged_ == handled_)) return;
     if (!windows_.empty()) {
         const Window& top = windows_.back();
@@ -153,7 +159,6 @@ void BrowserDisplay::draw(bool acknowledge) {
     }
     if (complete) {
         message["complete"] = true;
-        message["language"] = language_ == "EN" ? "en" : "de";
         page_.sendComplete(toText(message), *redraw_);
         redraw_.reset();
     } else {

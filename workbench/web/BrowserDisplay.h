@@ -71,6 +71,7 @@ private:
     bool questionDrawn_ = true;
     int lastId_ = 0;
     std::string language_ = "DE";
+    bool languageDrawn_ = true;
     bool busy_ = false;
     bool busyDrawn_ = false;
     std::uint64_t handled_ = 0;         ///< number of the last message taken

@@ -8,10 +8,8 @@
 #include <boost/asio/executor_work_guard.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/post.hpp>
-#include <boost/asio/signal_set.hpp>
 
 #include <atomic>
-#include <csignal>
 #include <iostream>
 #include <optional>
 #include <thread>
@@ -103,14 +101,6 @@ std::string Server::address() const {
 
 std::size_t Server::sessionCount() {
     return network_->sessions.count();
-}
-
-void Server::runUntilSignal() {
-    net::io_context waiting{1};
-    net::signal_set signals{waiting, SIGINT, SIGTERM};
-    signals.async_wait([](boost::system::error_code, int) {});
-    waiting.run();
-    stop();
 }
 
 void Server::stop() {

@@ -50,8 +50,6 @@ public:
     std::string address() const;
     std::size_t sessionCount();
 
-    /// Waits for SIGINT or SIGTERM, then stops.
-    void runUntilSignal();
     /// Ends all sessions without asking them, and all connections. Waits until they are gone.
     void stop();
 

@@ -4,10 +4,18 @@
 #include "web/DemoForm.h"
 #include "web/Server.h"
 
+#include <signal.h>
+
 #include <iostream>
 
 int main(int argc, char** argv) {
     using namespace tellurix::workbench;
+    // Blocked before any thread starts, so that they wait for the call below.
+    sigset_t stopping;
+    sigemptyset(&stopping);
+    sigaddset(&stopping, SIGTERM);
+    pthread_sigmask(SIG_BLOCK, &stopping, nullptr);
+
     ServerOptions options;
     if (argc > 1) options.grace = std::chrono::milliseconds{std::stoi(argv[1])};
     Server server{[](BrowserDisplay& display) {
@@ -16,6 +24,7 @@ int main(int argc, char** argv) {
                   },
                   options};
     std::cout << server.address() << std::endl;
-    server.runUntilSignal();
+    int signal = 0;
+    sigwait(&stopping, &signal);
     return 0;
 }

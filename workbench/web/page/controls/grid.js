@@ -39,7 +39,11 @@ export class Grid extends View {
 
   #drawColumns() {
     const visible = this.state.columns.filter((column) => column.visible);
-    const widths = visible.map((column) => `minmax(${column.width + 2}ch, ${column.width + 2}fr)`);
+    // Where room is short, texts give way before numbers: half a name can still be recognised.
+    const widths = visible.map(({ width, right }) => {
+      const room = width + 2;
+      return `minmax(${right ? room : Math.ceil(room / 2)}ch, ${room}fr)`;
+    });
     this.element.style.setProperty('--columns', widths.join(' ') || '1fr');
     this.element.style.setProperty('--width', visible.reduce((sum, column) => sum + column.width + 2, 0));
     this.#head.replaceChildren(...visible.map((column) => {
