@@ -150,6 +150,8 @@ private:
         for (ui::TextBox* box : {&txtName, &txtDate, &txtAmount, &txtKunde})
             box->onChange = show;
         ui::makeDateBox(txtDate, [this] {
+            // As long as a question to a busy database, so that there is time to type ahead.
+            std::this_thread::sleep_for(std::chrono::milliseconds{150});
             display_.messageBox("Kein gültiges Datum: " + txtDate.text(), ui::box::ok | ui::box::exclamation,
                                 "Tellurix");
         });

@@ -50,6 +50,9 @@ struct Server::Network {
     void serve(tcp::socket socket) {
         // One too many is closed at once: it goes out of scope.
         if (connections >= options.sessions + connectionsBesideSessions) return;
+        // An answer goes out at once, also behind another one that the browser has not confirmed yet.
+        boost::system::error_code ignored;
+        socket.set_option(tcp::no_delay{true}, ignored);
         try {
             ++connections;
             const std::shared_ptr<void> place{nullptr, [this](void*) { --connections; }};

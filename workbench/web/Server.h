@@ -25,7 +25,7 @@ struct ServerOptions {
 #if defined(__SANITIZE_ADDRESS__)
     static constexpr std::size_t defaultStackBytes = 8UL * 1024 * 1024;
 #else
-    static constexpr std::size_t defaultStackBytes = 512UL * 1024;
+    static constexpr std::size_t defaultStackBytes = 1024UL * 1024;
 #endif
 };
 

@@ -38,6 +38,7 @@ const inBox = new Set(['Backspace', 'Delete', 'ArrowLeft', 'ArrowRight', 'Home',
 const inLines = new Set(['ArrowUp', 'ArrowDown', 'PageUp', 'PageDown']);
 const inList = new Set([...inLines, 'Home', 'End']);
 const inGrid = new Set([...inList, 'ArrowLeft', 'ArrowRight', 'Delete', 'Insert', 'Backspace', ' ']);
+const awayFromPage = new Set(['ArrowLeft', 'ArrowRight', 'Home']);
 const pressing = new Set(['Enter', 'Escape', 'F4', ' ']);
 
 /**
@@ -54,7 +55,8 @@ const pressing = new Set(['Enter', 'Escape', 'F4', ' ']);
 export function decide(view, key) {
   if (key.meta) return 'browser';
   if (key.access) return key.repeat ? 'nobody' : 'access';
-  if (key.name === 'Alt') return 'nobody';
+  // Browsers open their menu or go to another page.
+  if (key.name === 'Alt' || (key.alt && awayFromPage.has(key.name))) return 'nobody';
   const kind = view?.state.kind;
   // A key that is held down acts once where a second time would be an accident.
   if (key.repeat && pressing.has(key.name) && !(key.text && kind === 'text')) return 'nobody';

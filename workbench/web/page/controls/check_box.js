@@ -13,10 +13,10 @@ export class CheckBox extends View {
     input.setAttribute('aria-labelledby', this.#caption.id);
     element.classList.add('check');
     element.append(input, this.#caption);
-    // The session ticks it: the box shows what came of the click.
-    input.addEventListener('click', (event) => {
-      event.preventDefault();
+    input.addEventListener('click', () => {
       this.perform({ type: 'click' });
+      // The session may have refused it.
+      this.desktop.later(() => this.draw());
     });
     input.addEventListener('mousedown', (event) => event.preventDefault());
     this.#caption.addEventListener('click', () => {

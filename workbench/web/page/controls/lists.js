@@ -27,10 +27,9 @@ export class ComboBox extends ItemView {
       this.perform({ type: 'focus' });
     });
     select.addEventListener('change', () => {
-      const index = select.selectedIndex;
-      // It shows what the session makes of the choice.
-      select.selectedIndex = this.state.selected;
-      this.perform({ type: 'select', index });
+      this.perform({ type: 'select', index: select.selectedIndex });
+      // The session may have refused it.
+      this.desktop.later(() => { select.selectedIndex = this.state.selected; });
     });
   }
 

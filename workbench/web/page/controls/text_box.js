@@ -1,7 +1,7 @@
 // A box to type into. The browser edits it, unless a filter has to see every character; either way
 // the session knows each text before anything that depends on it.
 import { text as ownText } from '../texts.js';
-import { characterOffset, insertion, keyEffect, lineEnds, typeable, unitOffset } from '../typing.js';
+import { characterOffset, insertion, keyEffect, lineEnds, onlyRemoves, typeable, unitOffset } from '../typing.js';
 import { View } from './view.js';
 
 export class TextBox extends View {
@@ -90,7 +90,7 @@ export class TextBox extends View {
     if (effect?.select) input.setSelectionRange(...effect.select);
     if (effect?.remove && !this.state.locked) {
       input.setRangeText('', ...effect.remove, 'end');
-      this.#say();
+      this.#sayShown();
     }
   }
 
@@ -101,7 +101,7 @@ export class TextBox extends View {
     const fits = insertion(text, input, this.state);
     if (fits === '') return;
     input.setRangeText(fits, input.selectionStart, input.selectionEnd, 'end');
-    this.#say();
+    this.#sayShown();
   }
 
   #selection() {
@@ -114,24 +114,36 @@ export class TextBox extends View {
     return this.state.lines > 1;
   }
 
+  /** The browser, or something that helps the user type, changed the text. */
   #edited() {
-    // Only what cannot be prevented comes while the session is busy.
-    if (this.desktop.busy) this.desktop.later(() => this.#say());
-    else this.#say();
+    const { value, selectionStart, selectionEnd } = this.focusElement;
+    // What cannot be prevented may come while the session is busy; its drawing must not undo it.
+    if (this.desktop.busy) this.desktop.later(() => this.#say(value, selectionStart, selectionEnd));
+    else this.#say(value, selectionStart, selectionEnd);
   }
 
-  #say() {
+  #say(value, selectionStart, selectionEnd) {
     const input = this.focusElement;
-    const text = typeable(input.value);
-    if (text !== input.value) {
-      const { selectionStart, selectionEnd } = input;
-      input.value = text;
-      input.setSelectionRange(selectionStart, selectionEnd);
+    const before = lineEnds(this.state.text, this.#severalLines);
+    const text = typeable(value);
+    if (text === before) return;
+    if (this.state.filtered && !onlyRemoves(before, text)) {
+      // The filter has to see it: it is put in place of everything.
+      input.value = before;
+      this.desktop.sayTo(this.window, { type: 'selection', control: this.state.id, start: 0, length: before.length });
+      this.desktop.sayTo(this.window, { type: 'paste', control: this.state.id, text });
+      return;
     }
-    if (text === lineEnds(this.state.text, this.#severalLines)) return;
+    if (input.value !== text) input.value = text;
+    if (this.hasFocus) input.setSelectionRange(selectionStart, selectionEnd);
     this.state.text = text;
     this.#known = this.#selection();
     this.desktop.sayTo(this.window, { type: 'text', control: this.state.id, text, ...this.#known });
+  }
+
+  #sayShown() {
+    const { value, selectionStart, selectionEnd } = this.focusElement;
+    this.#say(value, selectionStart, selectionEnd);
   }
 
   #composing() {
@@ -154,9 +166,13 @@ export class TextBox extends View {
   }
 
   #drawPick(picks) {
-    this.#pick?.remove();
-    this.#pick = null;
-    if (!picks) return;
+    if (picks && !this.#pick) this.#pick = this.#pickButton();
+    if (!this.#pick) return;
+    this.#pick.hidden = !picks;
+    this.#pick.disabled = !this.state.enabled || this.state.locked;
+  }
+
+  #pickButton() {
     const button = document.createElement('button');
     button.type = 'button';
     button.className = 'pick';
@@ -164,9 +180,8 @@ export class TextBox extends View {
     button.textContent = '…';
     button.title = ownText('pick');
     button.setAttribute('aria-label', ownText('pick'));
-    button.disabled = !this.state.enabled || this.state.locked;
     button.addEventListener('click', () => this.perform({ type: 'pick' }));
     this.element.append(button);
-    this.#pick = button;
+    return button;
   }
 }
