@@ -32,6 +32,7 @@ void draw(json& out, const ui::TextBox& box) {
     out["picks"] = static_cast<bool>(box.onPick);
     // What decides about single keys can only be asked here; everything else the browser edits.
     out["filtered"] = box.onKeyPress || box.onKeyDown;
+    out["warning"] = box.warning();
 }
 
 void draw(json& out, const ui::ItemList& list, bool whole) {
@@ -50,6 +51,11 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     out["current"] = {grid.currentRow(), grid.currentColumn()};
     out["visibleRows"] = grid.visibleRows();
     out["scrolls"] = static_cast<bool>(grid.onScroll);
+    out["characters"] = static_cast<bool>(grid.onKeyPress);
+    out["editor"] = nullptr;
+    if (const ui::TextBox* box = grid.cellEditor()) {
+        out["editor"] = {{"control", box->id()}, {"row", grid.editedRow()}, {"column", grid.editedColumn()}};
+    }
     if (!whole && !grid.contentDirty()) return;
     json columns = json::array();
     for (const auto& column : grid.columns()) {

@@ -83,7 +83,10 @@ const byKind = {
     if (key.text) return 'search';
     return inList.has(key.name) ? 'session' : 'browser';
   },
-  grid: (grid, key) => (inGrid.has(key.name) || (grid.keys && key.text) ? 'session' : 'browser'),
+  grid(grid, key) {
+    if (grid.characters && key.text) return 'character';
+    return inGrid.has(key.name) || (grid.keys && key.text) ? 'session' : 'browser';
+  },
   button: (button, key) => (key.name === ' ' ? 'session' : 'browser'),
   check: (check, key) => (key.name === ' ' ? 'session' : 'browser'),
   tabs: (tabs, key) => (key.name === 'ArrowLeft' || key.name === 'ArrowRight' ? 'session' : 'browser'),

@@ -7,6 +7,7 @@ export class Grid extends View {
   #body = document.createElement('div');
   #current = null; // the drawn current cell
   #scrolledTo = 0;
+  #editor = null; // the box that floats over a cell while it is edited
 
   constructor(window, state) {
     const element = document.createElement('div');
@@ -21,6 +22,7 @@ export class Grid extends View {
     element.append(this.#head, this.#body);
     element.addEventListener('mousedown', (event) => this.#pressed(event));
     element.addEventListener('dblclick', (event) => {
+      if (event.target.closest('.cell-editor')) return;
       if (this.usable && event.target.closest('[role=gridcell]')) this.perform({ type: 'doubleClick' });
     });
     element.addEventListener('scroll', () => this.#scrolled());
@@ -31,6 +33,7 @@ export class Grid extends View {
     if (changes.content) this.#drawRows(before.content ?? [], before.columns);
     this.element.style.setProperty('--rows', this.state.visibleRows);
     this.#drawCurrent();
+    this.#drawEditor(this.state.editor);
   }
 
   shown() {
@@ -122,6 +125,22 @@ export class Grid extends View {
     this.#reveal();
   }
 
+  /** Puts the box that edits a cell into that cell; the rest of the page knows it as any text box. */
+  #drawEditor(edited) {
+    const box = edited ? this.window.views.get(edited.control) : null;
+    if (this.#editor && this.#editor !== box) {
+      this.#editor.element.remove();
+      this.#editor = null;
+    }
+    if (!box) return;
+    const cell = this.#body.children[edited.row]?.querySelector(`[data-column="${edited.column}"]`);
+    if (!cell || box.element.parentElement === cell) return;
+    this.#editor = box;
+    box.element.classList.add('cell-editor');
+    box.focusElement.setAttribute('aria-label', this.state.columns[edited.column].caption);
+    cell.append(box.element);
+  }
+
   /** Scrolls as far as needed; the header covers the first row's place. */
   #reveal() {
     const row = this.#current?.parentElement;
@@ -134,6 +153,7 @@ export class Grid extends View {
   }
 
   #pressed(event) {
+    if (event.target.closest('.cell-editor')) return;
     const cell = event.target.closest('[role=gridcell]');
     if (!cell) return;
     event.preventDefault();
