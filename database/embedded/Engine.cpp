@@ -12,8 +12,14 @@ namespace {
 /// While a translated statement takes its first step SQLite must not compile it anew by itself.
 class CompilingRefused {
 public:
-    explicit CompilingRefused(Session& session) : session_(session) { session_.refusesCompiling = true; }
-    ~CompilingRefused() { session_.refusesCompiling = false; }
+    explicit CompilingRefused(Session& session) : session_(session) {
+        session_.refusesCompiling = true;
+        session_.compilingRefused = false;
+    }
+    ~CompilingRefused() {
+        session_.refusesCompiling = false;
+        session_.compilingRefused = false;
+    }
     CompilingRefused(const CompilingRefused&) = delete;
     CompilingRefused& operator=(const CompilingRefused&) = delete;
 

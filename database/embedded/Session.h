@@ -29,6 +29,7 @@ struct Session {
     /// Set while a translated statement runs: SQLite must not quietly compile it anew for a
     /// changed schema, because the translation depends on the schema too.
     bool refusesCompiling = false;
+    bool compilingRefused = false; ///< it has tried to
 };
 
 } // namespace tellurix::embedded

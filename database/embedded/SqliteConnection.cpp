@@ -19,7 +19,11 @@ int compareTexts(void* collation, int leftSize, const void* left, int rightSize,
 
 /// SQLite compiles a statement anew by itself when the schema has changed; see Session.
 int allowCompiling(void* session, int, const char*, const char*, const char*, const char*) noexcept {
-    return static_cast<const Session*>(session)->refusesCompiling ? SQLITE_DENY : SQLITE_OK;
+    auto& refusing = *static_cast<Session*>(session);
+    if (!refusing.refusesCompiling) return SQLITE_OK;
+    // The error that SQLite makes of this depends on what was refused, so it is noted here.
+    refusing.compilingRefused = true;
+    return SQLITE_DENY;
 }
 
 DatabaseErrorCategory categoryOf(int code) {
@@ -141,7 +145,7 @@ void SqliteConnection::run(const std::string& sql) {
 }
 
 void SqliteConnection::fail(int code) {
-    if (session_.refusesCompiling && (code & 0xFF) == SQLITE_AUTH) throw SchemaChanged{};
+    if (session_.compilingRefused) throw SchemaChanged{};
     if (session_.failure) {
         const Fault fault = *session_.failure;
         session_.failure.reset();

@@ -135,7 +135,7 @@ TEST_F(Connections, ManyWritersLoseNothing) {
 
 TEST_F(Connections, AColumnThatAnotherConnectionMadeAnewIsReadWithItsNewType) {
     const std::string select = "SELECT PREIS FROM T";
-    const std::string insert = "INSERT INTO T (PREIS) VALUES (1.2345)";
+    const std::string insert = "INSERT INTO T (PREIS) VALUES ('1.2345')";
     first_->execute(insert);
     EXPECT_EQ(answer(*first_, select), "1.50\n2.50\n3.50\n1.23");
     second_->execute("DROP TABLE T CREATE TABLE T (PREIS decimal(10,4) NULL)");
@@ -146,6 +146,14 @@ TEST_F(Connections, AColumnThatAnotherConnectionMadeAnewIsReadWithItsNewType) {
     second_->execute("CREATE TABLE T (PREIS nvarchar(6))");
     first_->execute(insert);
     EXPECT_EQ(answer(*first_, select), "1.2345");
+}
+
+TEST_F(Connections, AWriteIntoATableThatAnotherConnectionMadeAnewUsesItsNewType) {
+    const std::string update = "UPDATE T SET PREIS = '1.2345'";
+    first_->execute(update);
+    second_->execute("DROP TABLE T CREATE TABLE T (PREIS decimal(10,4) NULL) INSERT INTO T VALUES (0)");
+    first_->execute(update);
+    EXPECT_EQ(answer(*second_, "SELECT PREIS FROM T"), "1.2345");
 }
 
 TEST_F(Connections, RowsWhoseTableChangedBeforeTheFirstFetchAreRefused) {
