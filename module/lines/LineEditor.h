@@ -88,7 +88,7 @@ protected:
     host::TlxVar session_;
     std::int32_t contract_ = 0;
 
-    ui::Grid MSFlexGrid1{*this, "MSFlexGrid1", 10};
+    ui::Grid MSFlexGrid1{*this, "MSFlexGrid1", 7};
     ui::UpDown UpDown1{*this, "UpDown1"};
     ui::Frame frmPosition{*this, "frmPosition", "Position"};
     ui::Label lblBezeichnung{*this, "lblBezeichnung", "Bezeichnung"};

@@ -40,7 +40,7 @@ PriceChange::PriceChange(ui::Form& form, host::HostServices& services, const hos
       txtWert(form, "txtWert", 12),
       lblFixProzent(form, "lblFixProzent", "+/-"),
       cmbFixProzent(form, "cmbFixProzent", 6),
-      grdVorschau(form, "grdVorschau", 6) {
+      grdVorschau(form, "grdVorschau", 4) {
     ui::makeNumberBox(txtWert, "-#####0.00", services_.locale);
     cmbFixProzent.add("+/-");
     cmbFixProzent.add("%");
