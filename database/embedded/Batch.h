@@ -3,8 +3,10 @@
 #include "embedded/SqliteStatement.h"
 #include "embedded/Translator.h"
 #include "embedded/ast.h"
+#include "embedded/packed.h"
 
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -34,6 +36,13 @@ public:
 
     /// @param node the part of the syntax tree that is meant
     Compiled& compiled(const void* node) { return compiled_[node]; }
+    /// What stands in the place of a part of the syntax tree for writing into the rows of a query.
+    const void* editNode(const std::vector<Edit>& edits) {
+        std::vector<std::pair<int, std::int64_t>> kinds;
+        for (const Edit& edit : edits)
+            kinds.emplace_back(edit.column, packType(edit.type));
+        return &*editNodes_.insert(std::move(kinds)).first;
+    }
 
 private:
     void collect(const Statement& statement);
@@ -46,6 +55,7 @@ private:
     Variables variables_;
     List<TableDefinition*> tableVariables_;
     std::unordered_map<const void*, Compiled> compiled_;
+    std::set<std::vector<std::pair<int, std::int64_t>>> editNodes_;
 };
 
 } // namespace tellurix::embedded

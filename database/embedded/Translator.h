@@ -47,6 +47,15 @@ struct Translation {
     /// An INSERT into a table with an identity: its folded name, and whether the key is given.
     std::string identityTable;
     bool givesIdentity = false;
+    /// A query whose rows are edited: its table, and the table's column of each field.
+    std::string editedTable;
+    std::vector<int> editedColumns;
+};
+
+/// What kind of value is written into a column of a row that is edited in place.
+struct Edit {
+    int column;
+    Type type;
 };
 
 /// Translates one statement at a time. Types are worked out here, so that the SQL holds every
@@ -68,7 +77,10 @@ public:
     /// `SELECT 1` when the condition holds, else 0.
     Translation condition(Expression& expression);
     /// A query on one table whose last column is the row's number in SQLite.
-    Translation updatable(const SelectStatement& select, const Table*& table, std::vector<int>& tableColumns);
+    Translation updatable(const SelectStatement& select);
+    /// Writes one row, and answers what its columns made of the values. Those are the first variables,
+    /// the row's number is the one behind them.
+    Translation edit(const std::string& table, const std::vector<Edit>& edits);
 
 private:
     struct Branch;
@@ -85,6 +97,8 @@ private:
     QueryText unionText(const Query& query, bool named);
     QueryText singleText(const Query& query, bool named, const EditItem& edit);
     void fillBranch(Branch& branch, const SelectBranch& source, const EditItem& edit);
+    /// Whether its WHERE asks for one key, so that there cannot be two rows.
+    bool choosesOneRow(const SelectBranch& branch) const;
     void addStar(Branch& branch, const SelectItem& item);
     std::string fromText(const List<FromItem>& from, Scope& scope);
     std::string fromItemText(const FromItem& item, Scope& scope);

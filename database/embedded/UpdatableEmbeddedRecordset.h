@@ -16,10 +16,10 @@ class UpdatableEmbeddedRecordset final : public common::UpdatableRecordset {
 public:
     UpdatableEmbeddedRecordset(std::shared_ptr<Engine> engine, std::string_view query);
 
-    std::size_t fieldCount() const override { return columns_.size(); }
-    std::string fieldName(std::size_t index) const override { return columns_.at(index).name; }
+    std::size_t fieldCount() const override { return columns_->size(); }
+    std::string fieldName(std::size_t index) const override { return columns_->at(index).name; }
     common::FieldType fieldType(std::size_t index) const override {
-        return fieldTypeOf(columns_.at(index).type);
+        return fieldTypeOf(columns_->at(index).type);
     }
 
     bool atEnd() override { return current_ >= rows_.size(); }
@@ -41,13 +41,12 @@ private:
     void readRows(const SelectStatement& select);
     Row& row();
     void writeChanges(Row& row);
-    void reread(Row& row);
-    void requireOneRow(std::int64_t changes) const;
+    void requireRow(bool found) const;
 
     std::shared_ptr<Engine> engine_;
-    std::string query_;
+    std::shared_ptr<Batch> batch_;
     std::string tableName_;
-    std::vector<Translation::Column> columns_;
+    std::shared_ptr<const std::vector<Translation::Column>> columns_;
     std::vector<int> tableColumns_; ///< the table's column of each field
     std::vector<Row> rows_;
     std::size_t current_ = 0;

@@ -362,7 +362,7 @@ Fragment Translator::subquery(const Expression& expression) {
     if (single && !oneRow) {
         text = queryText(query, false, [&](Fragment item, std::size_t) {
             type = item.type;
-            item.sql = only(item.sql);
+            if (!choosesOneRow(branch)) item.sql = only(item.sql);
             return item;
         });
     } else {

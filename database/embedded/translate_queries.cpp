@@ -35,8 +35,7 @@ Translator::resultColumns(const std::vector<OutputColumn>& columns) {
     return std::make_shared<const std::vector<Translation::Column>>(std::move(result));
 }
 
-Translation Translator::updatable(const SelectStatement& select, const Table*& editedTable,
-                                  std::vector<int>& tableColumns) {
+Translation Translator::updatable(const SelectStatement& select) {
     start();
     const Query& query = *select.query;
     const SelectBranch& source = *query.branches.front();
@@ -48,8 +47,6 @@ Translation Translator::updatable(const SelectStatement& select, const Table*& e
     Branch branch(nullptr);
     fillBranch(branch, source, {});
     const Source& edited = branch.scope.sources().front();
-    editedTable = edited.table;
-
     std::vector<OutputColumn> columns;
     for (std::size_t index = 0; index < branch.items.size(); ++index)
         columns.push_back({branch.names[index], branch.items[index].type, branch.items[index].collated});
@@ -57,13 +54,14 @@ Translation Translator::updatable(const SelectStatement& select, const Table*& e
     branch.rest = "," + edited.sqlAlias + "._rowid_" + branch.rest;
     Translation translation = finish(branchText(branch, false) + order + topText(source));
     translation.columns = resultColumns(columns);
+    translation.editedTable = edited.table->name();
     for (const SelectItem& item : source.items) {
         if (item.expression != nullptr)
-            tableColumns.push_back(item.expression->kind == ExpressionKind::column ? item.expression->column
-                                                                                   : Table::noColumn);
+            translation.editedColumns.push_back(
+                item.expression->kind == ExpressionKind::column ? item.expression->column : Table::noColumn);
         else
             for (std::size_t each = 0; each < edited.columnCount(); ++each)
-                tableColumns.push_back(static_cast<int>(each));
+                translation.editedColumns.push_back(static_cast<int>(each));
     }
     return translation;
 }
@@ -161,6 +159,31 @@ void Translator::fillBranch(Branch& branch, const SelectBranch& source, const Ed
         branch.names.push_back(!item.alias.empty() ? item.alias : column ? item.expression->name : Name{});
     }
     if (source.having != nullptr) branch.rest += " HAVING " + condition(source.having, "HAVING").sql;
+}
+
+/// Asked while the items are translated: the names in WHERE have been found by then.
+bool Translator::choosesOneRow(const SelectBranch& branch) const {
+    if (branch.where == nullptr || scope_->sources().size() != 1) return false;
+    const Source& source = scope_->sources().front();
+    if (source.table == nullptr) return false;
+    const auto isKey = [&](const Expression& side) {
+        return side.kind == ExpressionKind::column && side.source == source.id &&
+               source.table->column(side.column).identity;
+    };
+    const auto comesFromElsewhere = [&](const Expression& side) {
+        return side.kind == ExpressionKind::integerLiteral || side.kind == ExpressionKind::variable ||
+               (side.kind == ExpressionKind::column && side.source != source.id);
+    };
+    const std::function<bool(const Expression&)> oneRow = [&](const Expression& condition) {
+        if (condition.op == Operator::logicalAnd)
+            return std::ranges::any_of(condition.operands,
+                                       [&](const Expression* each) { return oneRow(*each); });
+        if (condition.kind != ExpressionKind::comparison || condition.op != Operator::equal) return false;
+        const Expression& left = *condition.operands[0];
+        const Expression& right = *condition.operands[1];
+        return (isKey(left) && comesFromElsewhere(right)) || (isKey(right) && comesFromElsewhere(left));
+    };
+    return oneRow(*branch.where);
 }
 
 void Translator::addStar(Branch& branch, const SelectItem& item) {

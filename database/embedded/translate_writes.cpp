@@ -184,6 +184,28 @@ std::string Translator::plainUpdate(const UpdateStatement& update) {
     return sql;
 }
 
+Translation Translator::edit(const std::string& tableName, const std::vector<Edit>& edits) {
+    start();
+    const Table* const target = catalogue_.find(foldName(tableName));
+    if (target == nullptr)
+        failUnknownName("There is no table " + tableName, common::DatabaseError::noPosition);
+    std::string sql = "UPDATE " + target->sqlName() + " SET ";
+    std::string answer = " RETURNING ";
+    for (std::size_t index = 0; index < edits.size(); ++index) {
+        const int column = edits[index].column;
+        if (target->column(column).identity)
+            failSyntax("The identity " + labelOf(*target, column) + " cannot be changed",
+                       common::DatabaseError::noPosition);
+        Fragment value{.sql = parameter(static_cast<int>(index)),
+                       .type = edits[index].type,
+                       .position = common::DatabaseError::noPosition};
+        const std::string name = (index == 0 ? "" : ",") + quoteName(target->column(column).name);
+        sql += name + "=" + convertForColumn(std::move(value), *target, column).sql;
+        answer += name;
+    }
+    return finish(sql + " WHERE _rowid_=" + parameter(static_cast<int>(edits.size())) + answer);
+}
+
 /// The joined rows are found first, with the new values of each target row; then they are written.
 std::string Translator::joinedUpdate(const UpdateStatement& update) {
     Scope scope(nullptr);

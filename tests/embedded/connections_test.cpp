@@ -210,6 +210,27 @@ TEST_F(Connections, EditedRowsTakeEveryKindOfValueAndShowWhatTheColumnMadeOfIt) 
               "NULL | NULL | 1 | NULL | NULL | NULL\nÄpfel | true | 12 | 2.6 | 0.5 | 2025-06-05");
 }
 
+TEST_F(Connections, ATextIsReadAndEditedInTurnsWhateverHappensToItsTable) {
+    const std::string text = "SELECT * FROM T WHERE ID = 1";
+    const auto edit = [&](const common::Value& price) {
+        const auto rows = first_->openUpdatable(text);
+        rows->setField("PREIS", price);
+        rows->update();
+        return writtenRow(*rows);
+    };
+    EXPECT_EQ(answer(*first_, text), "1 | 1 | 1.50");
+    EXPECT_EQ(edit(common::Decimal(25, 1)), "1 | 1 | 2.50");
+    EXPECT_EQ(answer(*first_, text), "1 | 1 | 2.50");
+    EXPECT_EQ(edit(common::Decimal(26, 1)), "1 | 1 | 2.60");
+    EXPECT_EQ(edit({}), "1 | 1 | NULL");
+
+    second_->execute("DROP TABLE T");
+    second_->execute("CREATE TABLE T (ID int PRIMARY KEY, PREIS decimal(10,3) NULL)");
+    second_->execute("INSERT INTO T VALUES (1,NULL)");
+    EXPECT_EQ(edit(common::Decimal(25, 1)), "1 | 2.500");
+    EXPECT_EQ(answer(*first_, text), "1 | 2.500");
+}
+
 TEST_F(Connections, ARowDeletedInPlaceLeavesTheOthers) {
     const auto rows = first_->openUpdatable("SELECT ID FROM T WHERE N > 1 ORDER BY ID");
     rows->remove();
