@@ -28,14 +28,22 @@ constexpr std::array counterparts{
         " LEFT JOIN PERSONAL P ON P.ID_PERSONAL=V.ID_PERSONAL_LIEFERADRESSE AND P.ID_PERSONAL>0"
         " WHERE V.ID_VERTRAG=?1",
         "--i", "dddddd" "tttttttttt" "4444444444" "ttbit"},
-    Counterpart{"price lines", "SELECT VERTRAG_PREISE.BEZEICHNUNG",
-        "SELECT BEZEICHNUNG,PREIS,(SELECT EINHEIT FROM WARENEINHEIT WHERE EINHEIT_ID=ID_WARENEINHEIT),EURO"
+    Counterpart{"setting", "FROM WORKBENCH_SETTING",
+        "SELECT VALUE FROM WORKBENCH_SETTING WHERE NAME=?1", "t", "t"},
+    Counterpart{"units in their order", "WARENEINHEIT WHERE HOLZ =1 ORDER BY",
+        "SELECT EINHEIT_ID,EINHEIT FROM WARENEINHEIT WHERE HOLZ=1 ORDER BY IFNULL(LDNR,0)", "--", "it"},
+    Counterpart{"units", "WARENEINHEIT WHERE HOLZ =1",
+        "SELECT EINHEIT_ID,EINHEIT FROM WARENEINHEIT WHERE HOLZ=1", "-", "it"},
+    Counterpart{"price lines", "SELECT VERTRAG_PREISE.ID,",
+        "SELECT ID,ID_VERTRAG,ORDNUNG,BEZEICHNUNG,MSZ_PERCENT,PREIS,"
+        "(SELECT EINHEIT FROM WARENEINHEIT WHERE EINHEIT_ID=ID_WARENEINHEIT),EURO,ID_WARENEINHEIT,PREIS_ABR2"
         " FROM VERTRAG_PREISE WHERE ID_VERTRAG=?1 ORDER BY ORDNUNG",
-        "i", "t4tb"},
-    Counterpart{"quantity lines", "SELECT VERTRAG_MENGEN.BEZEICHNUNG",
-        "SELECT BEZEICHNUNG,MENGE,(SELECT EINHEIT FROM WARENEINHEIT WHERE EINHEIT_ID=ID_WARENEINHEIT)"
+        "i", "iiit24tbi4"},
+    Counterpart{"quantity lines", "SELECT VERTRAG_MENGEN.ID,",
+        "SELECT ID,ID_VERTRAG,ORDNUNG,BEZEICHNUNG,MENGE,"
+        "(SELECT EINHEIT FROM WARENEINHEIT WHERE EINHEIT_ID=ID_WARENEINHEIT),ID_WARENEINHEIT"
         " FROM VERTRAG_MENGEN WHERE ID_VERTRAG=?1 ORDER BY ORDNUNG",
-        "i", "t3t"},
+        "i", "iiit3ti"},
     Counterpart{"deduction model", "SELECT ABS_MODEL FROM ABSCHLAG",
         "SELECT ABS_MODEL FROM ABSCHLAG WHERE RECH_NAME=?1 AND VER_TYPE=?2", "tt", "t"},
     Counterpart{"flags", "SELECT ISNULL(ABGESCHLOSSEN,0) AS ABGESCHLOSSEN",
@@ -151,18 +159,20 @@ constexpr std::array counterparts{
 
 } // namespace
 
-const Counterpart& counterpartOf(const std::string& statement) {
+const Counterpart* findCounterpart(const std::string& statement) {
     const Counterpart* found = nullptr;
     for (const Counterpart& counterpart : counterparts) {
-        const bool inPlace = statement.starts_with('[');
-        if (inPlace != counterpart.in.starts_with('[')) continue;
-        if (statement.find(counterpart.in) == std::string::npos) continue;
-        if (found != nullptr)
-            throw std::runtime_error{"two counterparts, " + std::string{found->name} + " and " +
-                                     std::string{counterpart.name} + ": " + statement};
-        found = &counterpart;
+        const bool edits = counterpart.in.starts_with('[');
+        if (edits != statement.starts_with('[') || statement.find(counterpart.in) == std::string::npos)
+            continue;
+        if (found == nullptr || counterpart.in.size() > found->in.size()) found = &counterpart;
     }
-    if (found == nullptr) throw std::runtime_error{"no counterpart in bench/counterparts.cpp: " + statement};
+    return found;
+}
+
+const Counterpart& counterpartOf(const std::string& statement) {
+    const Counterpart* const found = findCounterpart(statement);
+    if (found == nullptr) throw std::runtime_error{"no counterpart: " + statement};
     return *found;
 }
 

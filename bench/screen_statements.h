@@ -18,7 +18,7 @@ std::vector<std::string> screenStatements(const std::filesystem::path& database)
 /// The same work in SQLite's own SQL, as somebody would write it who needs nothing else.
 struct Counterpart {
     std::string_view name;
-    std::string_view in; ///< what only this statement's text holds
+    std::string_view in; ///< what the statement's text holds
     std::string_view sql;
     Kinds literals; ///< the numbers, texts and NULLs in the statement's text, in their order
     Kinds columns;  ///< of the rows
@@ -27,7 +27,10 @@ struct Counterpart {
     std::string_view before = {};
 };
 
-/// @throws std::runtime_error when the statement has none, or more than one
+/// The counterpart whose `in` stands in the statement, the longest where several do.
+/// @return nullptr when there is none yet
+const Counterpart* findCounterpart(const std::string& statement);
+/// @throws std::runtime_error when there is none
 const Counterpart& counterpartOf(const std::string& statement);
 
 /// The values that the literals of a statement's text mean.
