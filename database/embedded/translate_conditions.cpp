@@ -2,6 +2,8 @@
 #include "embedded/Translator.h"
 
 #include <algorithm>
+#include <ranges>
+#include <vector>
 
 namespace tellurix::embedded {
 
@@ -51,11 +53,23 @@ Fragment Translator::comparison(const Expression& expression) {
 Fragment Translator::logical(const Expression& expression) {
     if (expression.kind == ExpressionKind::logicalNot)
         return conditionOf("(NOT " + condition(expression.operands[0], "NOT").sql + ")", expression.position);
+    // A chain stays a chain: a pair of parentheses for each of its links would nest so deeply that SQLite
+    // refuses a condition of some ninety of them.
     const bool isAnd = expression.op == Operator::logicalAnd;
     const char* const word = isAnd ? "AND" : "OR";
-    std::string sql = "(" + condition(expression.operands[0], word).sql;
-    sql += isAnd ? " AND " : " OR ";
-    sql += condition(expression.operands[1], word).sql;
+    std::vector<Expression*> links;
+    const Expression* chain = &expression;
+    Expression* first = nullptr;
+    do {
+        links.push_back(chain->operands[1]);
+        first = chain->operands[0];
+        chain = first;
+    } while (chain->kind == ExpressionKind::logical && chain->op == expression.op);
+    std::string sql = "(" + condition(first, word).sql;
+    for (Expression* link : links | std::views::reverse) {
+        sql += isAnd ? " AND " : " OR ";
+        sql += condition(link, word).sql;
+    }
     sql += ')';
     return conditionOf(std::move(sql), expression.position);
 }
