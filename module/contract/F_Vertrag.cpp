@@ -82,7 +82,7 @@ void F_Vertrag::arrange() {
             }),
         }),
         frame(picZusatzText,
-              {fields(1, {field(lblZusatz, txtZusatz), field(lblZusatzText[0], txtZusatzText[0]),
+              {fields(3, {field(lblZusatz, txtZusatz), field(lblZusatzText[0], txtZusatzText[0]),
                           field(lblZusatzText[1], txtZusatzText[1])}),
                row({cmdZusatzText})}),
         row({

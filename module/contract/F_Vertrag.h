@@ -104,10 +104,10 @@ private:
 
     ui::Frame picZusatzText{*this, "picZusatzText", "Zusatztexte"};
     ui::Label lblZusatz{*this, "lblZusatz", "Zusatztext"};
-    ui::TextBox txtZusatz{*this, "txtZusatz", 60};
+    ui::TextBox txtZusatz{*this, "txtZusatz", 30};
     std::array<ui::Label, 2> lblZusatzText{ui::Label{*this, "lblZusatzText(0)", "Zusatztext 1"},
                                            ui::Label{*this, "lblZusatzText(1)", "Zusatztext 2"}};
-    std::array<ui::TextBox, 2> txtZusatzText = ui::controlArray<ui::TextBox, 2>(*this, "txtZusatzText", 60);
+    std::array<ui::TextBox, 2> txtZusatzText = ui::controlArray<ui::TextBox, 2>(*this, "txtZusatzText", 30);
     ui::Button cmdZusatzText{*this, "cmdZusatzText", "&Zus.text"};
 
     ui::Button btnAbschlag{*this, "btnAbschlag", "Abschlag"};

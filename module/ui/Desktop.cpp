@@ -314,7 +314,8 @@ void Desktop::handle(Form& form, const SelectionEvent& event) {
 
 void Desktop::handle(Form& form, const PasteEvent& event) {
     if (!editable(event.box) || !moveFocus(form, *event.box)) return;
-    for (const char32_t character : common::decodeUtf8(event.text)) {
+    const std::string text = event.box->onPaste ? event.box->onPaste(event.text) : event.text;
+    for (const char32_t character : common::decodeUtf8(text)) {
         const bool isText = character >= 32 || (character == U'\n' && event.box->lines() > 1);
         if (isText) typeCharacter(*event.box, character);
     }

@@ -11,6 +11,12 @@ void makeNumberBox(TextBox& box, std::string mask, const common::Locale& locale)
         if (key == U'.' && locale.decimal != '.') key = static_cast<char32_t>(locale.decimal);
         if (!common::fitsNumberMask(box.textAfterTyping(common::encodeUtf8(key)), mask, locale)) key = 0;
     };
+    box.onPaste = [locale](const std::string& pasted) {
+        // The thousands of a number copied from a list must not be taken for its decimals.
+        const auto number = common::parseNumber(pasted, locale);
+        if (!number) return pasted;
+        return common::replaceAll(number->toString(), ".", std::string{locale.decimal});
+    };
     box.onLeave = [&box, mask, locale] {
         box.setText(common::reformatNumber(box.text(), mask, locale));
         return true;

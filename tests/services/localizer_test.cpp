@@ -114,7 +114,7 @@ TEST_F(Localizing, TheLanguageCanBeSwitchedOnAFormThatIsKept) {
     localize(editor, "en");
     EXPECT_EQ(header.title(), "Head data");
     EXPECT_EQ(captionOf(*header.find("Label1")), "Delivery address");
-    EXPECT_EQ(captionOf(*editor.find("chkAbgeschlossen")), "Closed");
+    EXPECT_EQ(captionOf(*editor.find("chkAbgeschlossen")), "Close&d");
     EXPECT_EQ(editor.find("btnDeleteMan")->toolTip(), "Remove the customer from the contract");
     localize(header, "de");
     localize(editor, "de");

@@ -158,6 +158,9 @@ TEST_F(InputRules, ANumberBoxTakesWhatItsMaskCanShow) {
         user.control<ui::TextBox>("txtMenge").selectAll();
         user.paste("txtMenge", " 3,1x4 ");
         EXPECT_EQ(user.text("txtMenge"), "3,14") << "pasted characters pass the filter, too";
+        user.control<ui::TextBox>("txtMenge").selectAll();
+        user.paste("txtMenge", " 1.234,56 ");
+        EXPECT_EQ(user.text("txtMenge"), "1234,56") << "the thousands of a copied number are no decimals";
         user.close();
     });
 }
