@@ -17,9 +17,11 @@ export class Desktop {
     this.#root = root;
     this.#input = input;
     root.addEventListener('focusin', (event) => this.#focusMoved(event));
-    // Clicks beside the controls must not take the focus away.
+    // Clicks beside the controls must not take the focus away, and a button gets it from the session:
+    // one that throws input away is pressed without leaving the box before it.
     root.addEventListener('mousedown', (event) => {
-      if (!event.target.closest('input, textarea, select, .scrolls')) event.preventDefault();
+      const { target } = event;
+      if (target.closest('button') || !target.closest('input, textarea, select, .scrolls')) event.preventDefault();
     });
     for (const type of ['dragover', 'drop', 'submit']) {
       root.addEventListener(type, (event) => event.preventDefault());
