@@ -58,6 +58,9 @@ public:
     /// The way the host calls the module for a contract of the given type.
     void openContract(std::int32_t id, const std::string& type = "R", bool newVertrag = false);
 
+    /// What the module asks whether the host works on articles.
+    host::HostMainWindow& mainWindow() { return *this; }
+
     ScriptedDisplay display;
     FaultyConnection database;
     host::HostServices services;
