@@ -1,4 +1,5 @@
 #include "common/Decimal.h"
+#include "embedded/blanks.h"
 #include "embedded/decimal_units.h"
 #include "embedded/packed.h"
 #include "embedded/scalar_call.h"
@@ -29,14 +30,6 @@ std::string destination(const ScalarCall& call, int labelAt, const Type& type) {
 [[noreturn]] void failText(const ScalarCall& call, const Type& type) {
     failConversion("The text '" + excerpt(call.text(0)) + "' is no value for " + destination(call, 3, type),
                    call.position(2));
-}
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
 }
 
 void answerInRange(ScalarCall& call, std::int64_t value, const Type& type) {

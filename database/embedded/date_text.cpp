@@ -1,5 +1,7 @@
 #include "embedded/date_text.h"
 
+#include "embedded/blanks.h"
+
 #include <array>
 #include <cstdio>
 
@@ -52,14 +54,6 @@ public:
 private:
     std::string_view text_;
 };
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
-}
 
 bool readTime(Scanner& scanner, std::chrono::milliseconds& time) {
     int hours = 0;
