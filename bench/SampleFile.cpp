@@ -1,6 +1,6 @@
 #include "SampleFile.h"
 
-#include "start/database_file.h"
+#include "home/database_file.h"
 
 #include <cstdlib>
 #include <string>

@@ -1,6 +1,6 @@
 #include "start/CommandLine.h"
 
-#include "start/database_file.h"
+#include "home/database_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,10 @@
-#include "start/F_Start.h"
+#include "home/F_Start.h"
+#include "home/ModuleOpener.h"
 
 #include "embedded/Database.h"
+#include "home/database_file.h"
 #include "host/module_state.h"
 #include "start/TestFolder.h"
-#include "start/database_file.h"
 #include "support/ScriptedDisplay.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +36,9 @@ protected:
             script(user);
             throw SessionOver{};
         });
-        F_Start start{*services, session, [this](const std::string& language) { toldLanguage = language; }};
+        ModuleOpener module{*services, session};
+        F_Start start{*services, session, module,
+                      [this](const std::string& language) { toldLanguage = language; }};
         EXPECT_THROW(start.Run(), SessionOver);
         EXPECT_EQ(display.errors(), std::vector<std::string>{});
     }

@@ -1,6 +1,6 @@
 #include "start/DatabaseAccess.h"
 
-#include "start/database_file.h"
+#include "home/database_file.h"
 
 #include <stdexcept>
 

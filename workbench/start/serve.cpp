@@ -2,9 +2,10 @@
 
 #include "common/M_Common.h"
 #include "common/text.h"
+#include "home/F_Start.h"
+#include "home/ModuleOpener.h"
 #include "host/module_state.h"
 #include "start/DatabaseAccess.h"
-#include "start/F_Start.h"
 #include "web/Server.h"
 
 #include <pwd.h>
@@ -83,7 +84,8 @@ void work(Workbench& workbench, BrowserDisplay& display) {
     WorkbenchServices services{display, session, workbench.catalogue};
     const ErrorsOfSession errors{display, services.host().errors};
     const ModuleUnloading unloading;
-    F_Start start{services, session, [&display](const std::string& language) {
+    ModuleOpener module{services, session};
+    F_Start start{services, session, module, [&display](const std::string& language) {
                       display.setLanguage(common::toUpper(language));
                   }};
     start.Run();

@@ -1,4 +1,4 @@
-#include "start/contract_types.h"
+#include "home/contract_types.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "host/clsVertrag.h"
+#include "home/ContractOpener.h"
+#include "home/F_NewContract.h"
+#include "home/contract_list.h"
 #include "services/WorkbenchServices.h"
-#include "start/F_NewContract.h"
-#include "start/contract_list.h"
 #include "ui/Button.h"
 #include "ui/ComboBox.h"
 #include "ui/Form.h"
@@ -18,26 +18,28 @@
 namespace tellurix::workbench {
 
 /// The workbench's main window: the contracts, found by name, customer, type, delivery period and
-/// state, and the way into the contract module, which is called exactly as the host calls it. What
-/// the module told the host in return is listed below them.
-///
-/// It is the root window of its session and cannot be closed by the user; it goes with the session.
+/// state, and the way into the contract module. What the module told the host in return is listed
+/// below them.
 class F_Start final : public ui::Form {
 public:
     /// How many contracts are listed at once; more can be reached by narrowing.
     static constexpr std::size_t listedAtMost = 500;
 
+    /// Whether the user can close it. In a browser it is the root window of its session and goes with
+    /// the session; in a program with windows of its own closing it ends the program.
+    enum class Closing { never, allowed };
+
     /// @param session the language in it changes when the user chooses another one
     /// @param languageChanged told of the user's choice, "de" or "en"; may be empty
-    F_Start(WorkbenchServices& services, host::TlxVar& session,
-            std::function<void(const std::string&)> languageChanged = {});
+    F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpener& opener,
+            std::function<void(const std::string&)> languageChanged = {}, Closing closing = Closing::never);
     ~F_Start() override;
 
     /// Shows the contracts; returns when the window was closed.
     void Run();
 
 private:
-    bool queryUnload() override { return false; }
+    bool queryUnload() override { return closing_ == Closing::allowed; }
     void connect();
     void connectPeriod(ui::TextBox& box);
     void arrange();
@@ -61,8 +63,9 @@ private:
 
     WorkbenchServices& services_;
     host::TlxVar& session_;
+    ContractOpener& opener_;
     std::function<void(const std::string&)> languageChanged_;
-    host::clsVertrag module_;
+    Closing closing_;
     F_NewContract newContract_;
     ContractList list_; ///< its contracts stand beside the rows of the table
 

@@ -1,10 +1,10 @@
-#include "start/F_Start.h"
+#include "home/F_Start.h"
 
 #include "common/M_Common.h"
 #include "common/date_format.h"
 #include "common/field_text.h"
+#include "home/contract_types.h"
 #include "services/search_keys.h"
-#include "start/contract_types.h"
 #include "ui/date_box.h"
 
 #include <algorithm>
@@ -33,13 +33,14 @@ std::int16_t standardClient(host::NamedSettings& settings, const host::TlxVar& s
 
 } // namespace
 
-F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session,
-                 std::function<void(const std::string&)> languageChanged)
+F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpener& opener,
+                 std::function<void(const std::string&)> languageChanged, Closing closing)
     : Form("F_Start", "Verträge"),
       services_(services),
       session_(session),
+      opener_(opener),
       languageChanged_(std::move(languageChanged)),
-      module_(services.host()),
+      closing_(closing),
       newContract_(services, session) {
     grdContracts.setColumns({{.caption = "Vertrag", .width = 34},
                              {.caption = "Vertragsart", .width = 18},
@@ -224,13 +225,12 @@ void F_Start::create() {
 }
 
 void F_Start::open(std::int32_t id, const std::string& name, const std::string& type, bool newContract) {
-    host::HostServices& services = services_.host();
-    host::Variant confirmed = false;
-    host::Boolean16 euroChange = host::Boolean16::False;
-    module_.Vertrag_Run(session_, id, name, type, std::string{services.locale.grouping},
-                        std::string{services.locale.decimal}, name, confirmed, euroChange,
-                        services_.mainWindow(), standardClient(services.settings, session_), newContract,
-                        named("start.caption"), false);
+    opener_.open({.id = id,
+                  .name = name,
+                  .type = type,
+                  .isNew = newContract,
+                  .caption = named("start.caption"),
+                  .standardClient = standardClient(services_.host().settings, session_)});
     reload(id);
 }
 

@@ -1,4 +1,4 @@
-#include "start/database_file.h"
+#include "home/database_file.h"
 
 #include "common/text.h"
 #include "database_contents.h"

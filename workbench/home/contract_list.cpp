@@ -1,4 +1,4 @@
-#include "start/contract_list.h"
+#include "home/contract_list.h"
 
 #include "common/StatementText.h"
 #include "common/date_format.h"

@@ -1,9 +1,9 @@
-#include "start/F_NewContract.h"
+#include "home/F_NewContract.h"
 
 #include "common/M_Common.h"
 #include "common/text.h"
-#include "start/contract_list.h"
-#include "start/contract_types.h"
+#include "home/contract_list.h"
+#include "home/contract_types.h"
 
 namespace tellurix::workbench {
 
