@@ -7,7 +7,7 @@
 #include "SampleFile.h"
 #include "embedded/Database.h"
 #include "report.h"
-#include "start/contract_list.h"
+#include "home/contract_list.h"
 #include "statement_name.h"
 #include "tracing/TracingConnection.h"
 

@@ -4,7 +4,7 @@
 #include "SampleFile.h"
 #include "embedded/Database.h"
 #include "embedded/date_text.h"
-#include "start/contract_list.h"
+#include "home/contract_list.h"
 #include "tracing/TracingConnection.h"
 
 #include <algorithm>
