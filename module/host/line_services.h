@@ -30,11 +30,14 @@ class LookupGridDialog {
 public:
     virtual ~LookupGridDialog() = default;
     /// @param settingKey which list: "HOLZART_GRID", "HOLZSORTE_GRID", "GUETEKLASSE_GRID", "STKL_GRID"
-    /// @param text what is chosen so far
+    /// @param text always empty
     /// @param mode "01": several choices
-    /// @return the chosen codes separated by commas, or `text` when the user cancelled
+    /// @param current what is chosen so far, for a dialog that can start from it; the host's own knows
+    ///        only the other parameters
+    /// @return the chosen codes separated by commas, or `current` when the user cancelled
     virtual std::string choose(const TlxVar& session, const std::string& settingKey, const std::string& title,
-                               const std::string& text, const std::string& mode) = 0;
+                               const std::string& text, const std::string& mode,
+                               const std::string& current) = 0;
 };
 
 /// Completes what is typed into a box from the rows of a query.

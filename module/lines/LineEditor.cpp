@@ -17,6 +17,7 @@ constexpr std::int64_t noRow = -1;
 constexpr int missingEntryText = 223;
 constexpr const char* lineIsGone =
     "Diese Zeile wurde inzwischen verschoben oder gelöscht. Bitte das Fenster schließen und neu öffnen.";
+constexpr const char* closeUnsaved = "Die Zeile ist noch nicht gespeichert. Ohne Speichern schließen?";
 
 } // namespace
 
@@ -335,7 +336,12 @@ void LineEditor::moveLine(int step) {
 }
 
 bool LineEditor::queryUnload() {
-    // The close box during an edit throws the edit away, and with it the row of a line never saved.
+    // The close box during an edit would throw away what was typed, and the row of a line never saved.
+    if (!viewing() && common::ShowMessage(services_.display, closeUnsaved,
+                                          ui::box::yesNo + ui::box::question + ui::box::defaultButton2) !=
+                          ui::Answer::yes) {
+        return false;
+    }
     discardNewRow();
     return true;
 }

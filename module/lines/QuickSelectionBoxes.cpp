@@ -33,10 +33,9 @@ void QuickSelectionBoxes::connect(Attribute attribute, const char* query, const 
     ui::Label& label = labels_[static_cast<std::size_t>(attribute)];
     ui::TextBox& box = boxes_[static_cast<std::size_t>(attribute)];
     box.onFocus = [this, &box, query, column] { services_.typeAhead.bind(session_, box, query, column); };
-    // The dialog starts from what the box holds, so that cancelling it leaves the box as it was.
     box.onPick = [this, &label, &box, settingKey] {
         box.setText(services_.lookupGridDialog.choose(session_, settingKey, ui::plainCaption(label.caption()),
-                                                      box.text(), severalChoices));
+                                                      "", severalChoices, box.text()));
     };
 }
 

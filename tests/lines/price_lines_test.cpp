@@ -206,7 +206,13 @@ TEST_F(PriceLines, CancellingANewLineLeavesNothingBehind) {
                 user.click("cmdSelect");
                 EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "4");
             }
-            if (c.closeBox) return user.close();
+            if (c.closeBox) {
+                host.display.onMessage("nicht gespeichert", Answer::no);
+                user.close();
+                EXPECT_EQ(user.text("txtBEZEICHNUNG"), "verworfen");
+                host.display.onMessage("nicht gespeichert", Answer::yes);
+                return user.close();
+            }
             user.key(Key::escape);
             EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Fichte Blochholz A/B");
             EXPECT_EQ(user.text("txtHs"), "B");
@@ -298,10 +304,10 @@ TEST_F(PriceLines, TheQuickSelectionCompletesAndOffersCodes) {
         const char* bound;
     };
     const Case cases[] = {
-        {"txtHa", "HOLZART_GRID/Ha/X/01", "txtHa/HA"},
-        {"txtHs", "HOLZSORTE_GRID/Hs/X/01", "txtHs/HS"},
-        {"txtGKL", "GUETEKLASSE_GRID/GKL/X/01", "txtGKL/GKL"},
-        {"txtStkl", "STKL_GRID/Stkl/X/01", "txtStkl/STKL"},
+        {"txtHa", "HOLZART_GRID/Ha//01", "txtHa/HA"},
+        {"txtHs", "HOLZSORTE_GRID/Hs//01", "txtHs/HS"},
+        {"txtGKL", "GUETEKLASSE_GRID/GKL//01", "txtGKL/GKL"},
+        {"txtStkl", "STKL_GRID/Stkl//01", "txtStkl/STKL"},
     };
     editPrices(1, [&](User& user) {
         user.click("cmdBearbeiten");
@@ -318,6 +324,7 @@ TEST_F(PriceLines, TheQuickSelectionCompletesAndOffersCodes) {
         user.focus("txtHa");
         user.ctrl();
         EXPECT_EQ(user.text("txtHa"), "FI,TA");
+        user.key(Key::escape);
         user.close();
     });
 }

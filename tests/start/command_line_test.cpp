@@ -14,13 +14,14 @@ CommandLine parse(const std::vector<const char*>& arguments) {
 TEST(CommandLineParsing, TakesEveryOption) {
     const CommandLine serving =
         parse({"--database", "a=b.db", "--port=8080", "--trace", "t", "--language", "en", "--site", "WVO",
-               "--currency", "USD", "--access-level", "5", "--user", "Jörg"});
+               "--currency", "USD", "--setting", "MESZAHL=1", "--access-level", "5", "--user", "Jörg"});
     EXPECT_EQ(serving.command, CommandLine::Command::serve);
     EXPECT_EQ(serving.database, "a=b.db");
     EXPECT_EQ(serving.port, 8080);
     EXPECT_EQ(serving.traceFile, "t");
     EXPECT_EQ(serving.language, "en");
     EXPECT_EQ(serving.site, "WVO");
+    EXPECT_EQ(serving.settings.at("MESZAHL"), "1");
     EXPECT_EQ(serving.homeCurrency, "USD");
     EXPECT_EQ(serving.accessLevel, 5);
     EXPECT_EQ(serving.user, "Jörg");
@@ -47,6 +48,7 @@ TEST(CommandLineParsing, RefusesWhatMeansNothing) {
         {"a port beyond the last", {"--port", "65536"}, "65535"},
         {"a negative access level", {"--access-level", "-1"}, "-1"},
         {"a language that is not there", {"--language", "fr"}, "fr"},
+        {"a setting without a value", {"--setting", "MESZAHL"}, "NAME=VALUE"},
         {"an empty file name", {"--database", ""}, "--database"},
         {"a serving option for sql", {"sql", "--port", "1"}, "--port"},
         {"a sql option for serving", {"--file", "f"}, "--file"},

@@ -120,9 +120,9 @@ std::optional<std::string> TestHost::select(const host::TlxVar&, const std::stri
 }
 
 std::string TestHost::choose(const host::TlxVar&, const std::string& settingKey, const std::string& title,
-                             const std::string& text, const std::string& mode) {
+                             const std::string& text, const std::string& mode, const std::string& current) {
     picks.push_back(settingKey + "/" + title + "/" + text + "/" + mode);
-    return pickedText.empty() ? text : pickedText;
+    return pickedText.empty() ? current : pickedText;
 }
 
 void TestHost::bind(const host::TlxVar&, ui::TextBox& box, const std::string&,

@@ -108,7 +108,7 @@ private:
                                       const std::string& upperType, const std::string& out1,
                                       const std::string& out2) override;
     std::string choose(const host::TlxVar&, const std::string& settingKey, const std::string& title,
-                       const std::string& text, const std::string& mode) override;
+                       const std::string& text, const std::string& mode, const std::string& current) override;
     void bind(const host::TlxVar&, ui::TextBox& box, const std::string& query,
               const std::string& displayColumn) override;
     std::string translate(const host::TlxVar&, const std::string& kind, const std::string& sameKind,

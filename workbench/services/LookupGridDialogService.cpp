@@ -8,15 +8,15 @@
 namespace tellurix::workbench {
 
 std::string LookupGridDialogService::choose(const host::TlxVar& session, const std::string& settingKey,
-                                            const std::string& title, const std::string& text,
-                                            const std::string& mode) {
+                                            const std::string& title, const std::string&,
+                                            const std::string& mode, const std::string& current) {
     const AttributeKind* kind = findAttribute(settingKey);
     if (kind == nullptr) throw std::invalid_argument{"Es gibt keine Auswahlliste „" + settingKey + "“."};
     F_LookupGrid form{title, SelectionWords{localizer_, session, locale_}.choiceCaptions(),
-                      choicesOf(session, *kind), codesOf(text), mode == "01"};
+                      choicesOf(session, *kind), codesOf(current), mode == "01"};
     localizer_.localize(session, form);
     display_.showModal(form);
-    if (!form.chosen()) return text;
+    if (!form.chosen()) return current;
     std::string codes;
     for (const std::string& code : *form.chosen())
         codes += (codes.empty() ? "" : ",") + code;

@@ -12,7 +12,7 @@ public:
 
     /// @throws std::invalid_argument for a list that does not exist
     std::string choose(const host::TlxVar& session, const std::string& settingKey, const std::string& title,
-                       const std::string& text, const std::string& mode) override;
+                       const std::string& text, const std::string& mode, const std::string& current) override;
 
 private:
     ui::Display& display_;

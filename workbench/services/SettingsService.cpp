@@ -5,6 +5,7 @@
 namespace tellurix::workbench {
 
 std::string SettingsService::text(const host::TlxVar& session, const std::string& name) {
+    if (const auto replaced = replaced_.find(name); replaced != replaced_.end()) return replaced->second;
     common::StatementText query{"SELECT VALUE FROM WORKBENCH_SETTING WHERE NAME = "};
     const auto setting = session.connection->open(query.quoted(name).text());
     return setting->atEnd() ? std::string{} : setting->text("VALUE");

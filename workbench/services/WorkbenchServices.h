@@ -39,6 +39,7 @@ public:
     /// With the module's requests for the start page's list.
     ModuleService& moduleService() { return moduleService_; }
     Localizer& localizer() { return localizer_; }
+    SettingsService& settings() { return settings_; }
     const std::shared_ptr<host::HostMainWindow>& mainWindow() const { return mainWindow_; }
 
 private:

@@ -51,6 +51,13 @@ void setLanguage(CommandLine& line, const std::string& value) {
     line.language = value;
 }
 
+void addSetting(CommandLine& line, const std::string& value) {
+    const std::size_t equals = value.find('=');
+    if (equals == 0 || equals == std::string::npos)
+        throw UsageError{"--setting needs NAME=VALUE, not \"" + value + "\""};
+    line.settings[value.substr(0, equals)] = value.substr(equals + 1);
+}
+
 using Line = CommandLine;
 using Text = const std::string;
 
@@ -62,6 +69,7 @@ constexpr std::array options{
     Option{"--language", "de|en", For::serving, "the language to start in (default: de)", setLanguage},
     Option{"--site", "TEXT", For::serving, "the site, such as WVO (default: none)", [](Line& line, Text& v) { line.site = v; }},
     Option{"--currency", "TEXT", For::serving, "the home currency beside EUR (default: CHF)", [](Line& line, Text& v) { line.homeCurrency = notEmpty("--currency", v); }},
+    Option{"--setting", "NAME=VALUE", For::serving, "a host setting instead of the stored one, such as MESZAHL=1;\ncan be given several times", addSetting},
     Option{"--access-level", "N", For::serving, "the user's access level (default: 0, none)", [](Line& line, Text& v) { line.accessLevel = number("--access-level", v, std::numeric_limits<int>::max()); }},
     Option{"--user", "NAME", For::serving, "the user's name (default: who is signed on)", [](Line& line, Text& v) { line.user = notEmpty("--user", v); }},
     Option{"--empty", "", For::sql, "make a missing database without schema and sample data", [](Line& line, Text&) { line.emptyDatabase = true; }},

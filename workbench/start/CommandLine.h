@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -23,6 +24,7 @@ struct CommandLine {
     std::string homeCurrency = "CHF";
     std::string user; ///< empty for the name of the signed-on user
     int accessLevel = 0;
+    std::map<std::string, std::string> settings; ///< named settings that replace those in the database
 
     // sql: where the texts come from; with neither file nor texts, from standard input.
     bool emptyDatabase = false; ///< a missing database is made without schema and sample data

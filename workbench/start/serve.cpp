@@ -82,6 +82,7 @@ void work(Workbench& workbench, BrowserDisplay& display) {
                          .user = workbench.line.user,
                          .language = workbench.line.language};
     WorkbenchServices services{display, session, workbench.catalogue};
+    services.settings().replace(workbench.line.settings);
     const ErrorsOfSession errors{display, services.host().errors};
     const ModuleUnloading unloading;
     ModuleOpener module{services, session};
