@@ -47,6 +47,24 @@ Decimal decimalIn(const common::Value& field) {
     return common::numberIn(field).value_or(Decimal{});
 }
 
+/// Where a log's own measure is, by the way it was measured (`DSART`).
+struct OwnMeasure {
+    const char* column;
+    const char* unit;
+};
+OwnMeasure ownMeasure(std::int64_t wayOfMeasuring) {
+    switch (wayOfMeasuring) {
+    case 2:
+        return {"KUBRM", "Rm"};
+    case 3:
+        return {"STK", "Stk"};
+    case 4:
+        return {"KUBATRO", "t atro"};
+    default:
+        return {"KUBATUR", "Fm"};
+    }
+}
+
 } // namespace
 
 DeliveredQuantity::DeliveredQuantity(host::SelectionTranslator& translator, const host::TlxVar& session,
@@ -127,18 +145,21 @@ DeliveredQuantity::Explanation DeliveredQuantity::explain(int place) const {
     explanation.unitHasMeasure = !lines.back().expression.empty();
     const std::string logs = logsOf(lines, lines.size() - 1);
     if (!explanation.unitHasMeasure || logs.empty()) return explanation;
-    for (auto log = connection.open("SELECT LOGS.NUMMER,LOGS.DATUM,LOGS.HA,LOGS.HS,LOGS.KUBATUR," +
+    for (auto log = connection.open("SELECT LOGS.NUMMER,LOGS.DATUM,LOGS.HA,LOGS.HS,LOGS.DSART,LOGS.KUBATUR,"
+                                    "LOGS.KUBRM,LOGS.KUBATRO,LOGS.STK," +
                                     lines.back().expression + " AS MENGE_EINHEIT FROM LOGS WHERE " + logs +
                                     " ORDER BY LOGS.DATUM,LOGS.NUMMER");
          !log->atEnd(); log->moveNext()) {
         const common::Value date = log->field("DATUM");
+        const OwnMeasure measure = ownMeasure(log->integer("DSART"));
         explanation.logs.push_back({.number = log->text("NUMMER"),
                                     .date = std::holds_alternative<common::DateTime>(date)
                                                 ? std::optional{std::get<common::DateTime>(date)}
                                                 : std::nullopt,
                                     .species = log->text("HA"),
                                     .sort = log->text("HS"),
-                                    .volume = decimalIn(log->field("KUBATUR")),
+                                    .measured = decimalIn(log->field(measure.column)),
+                                    .measuredIn = measure.unit,
                                     .quantity = decimalIn(log->field("MENGE_EINHEIT"))});
     }
     return explanation;

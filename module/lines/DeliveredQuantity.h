@@ -32,8 +32,9 @@ public:
         std::optional<common::DateTime> date;
         std::string species;
         std::string sort;
-        common::Decimal volume;   ///< solid cubic metres
-        common::Decimal quantity; ///< in the line's unit
+        common::Decimal measured;    ///< as it was measured in the forest or at the mill
+        const char* measuredIn = ""; ///< "Fm", "Rm", "Stk", "t atro"
+        common::Decimal quantity;    ///< in the line's unit
     };
     /// How many logs of the contract another line has taken first.
     struct Claim {

@@ -27,7 +27,7 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
                         {.caption = "Datum", .width = 11},
                         {.caption = "Ha", .width = 8},
                         {.caption = "Hs", .width = 8},
-                        {.caption = "Fm", .width = 12, .rightAligned = true},
+                        {.caption = "Maß", .width = 14, .rightAligned = true},
                         {.caption = unit.empty() ? "Menge" : unit, .width = 14, .rightAligned = true}});
     Decimal sum;
     std::vector<ui::Grid::Row> rows;
@@ -36,7 +36,7 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
         rows.push_back(
             {log.number,
              log.date ? common::formatDate(*log.date, "dd.mm.yyyy", services_.locale) : std::string{},
-             log.species, log.sort, number(log.volume), number(log.quantity)});
+             log.species, log.sort, number(log.measured) + " " + log.measuredIn, number(log.quantity)});
     }
     grdHolz.setRows(std::move(rows));
 

@@ -121,9 +121,9 @@ TEST_F(QuantityLines, TheNumberCanBeChecked) {
     host.display.onWindow("F_OffeneMenge", [&](User& user) {
         const ui::Grid& grid = user.grid("grdHolz");
         ASSERT_EQ(grid.rows().size(), 3u);
-        EXPECT_EQ(cells(grid, 0), "250004|11.02.2025|TA|B|7,00|10,00");
-        EXPECT_EQ(cells(grid, 1), "250005|05.03.2025|LA|F|10,15|14,50");
-        EXPECT_EQ(cells(grid, 2), "250006|06.03.2025|DG|B|7,00|7,00");
+        EXPECT_EQ(cells(grid, 0), "250004|11.02.2025|TA|B|7,00 Fm|10,00");
+        EXPECT_EQ(cells(grid, 1), "250005|05.03.2025|LA|F|14,50 Rm|14,50");
+        EXPECT_EQ(cells(grid, 2), "250006|06.03.2025|DG|B|7,00 Fm|7,00");
         EXPECT_EQ(user.caption("lblSumme"), "Geliefert 31,50 Rm von 100,00 Rm, offen 68,50 Rm");
         EXPECT_EQ(user.items("lstFrueher"), "Zeile 1: 2 Stämme\nZeile 2: 1 Stamm\n");
         user.key(Key::escape);
