@@ -1,5 +1,6 @@
 #include "embedded/Engine.h"
 
+#include "embedded/ConditionMemory.h"
 #include "embedded/EmbeddedRecordset.h"
 #include "embedded/definitions.h"
 
@@ -59,6 +60,8 @@ void Engine::bind(SqliteStatement& statement, const Translation& translation, co
         const int parameter = static_cast<int>(index) + 1;
         if (number == Translation::now)
             statement.bind(parameter, toMilliseconds(session().clock.now()));
+        else if (number == Translation::memory)
+            ConditionMemory::bind(statement, parameter);
         else
             bindCell(statement, parameter, frame[static_cast<std::size_t>(number)]);
     }
@@ -96,6 +99,11 @@ Running Engine::start(Batch& batch, const Task& task, const Frame& frame) {
 
 void Engine::giveBack(Running running) {
     running.statement.reset();
+    // The memory serves one run, and is not kept with a statement that waits for its next one.
+    const std::vector<int>& parameters = running.compiled->translation.parameters;
+    const auto memory = std::find(parameters.begin(), parameters.end(), Translation::memory);
+    if (memory != parameters.end())
+        running.statement.bindNull(static_cast<int>(memory - parameters.begin()) + 1);
     running.compiled->idle.push_back(std::move(running.statement));
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tellurix::embedded {
 
@@ -21,6 +22,8 @@ struct Fragment {
     Literal literal = Literal::none;
     std::int64_t units = 0;     ///< of an exact literal, in the scale of its type
     std::string_view text = {}; ///< of a text literal
+    /// Of a condition that asks the row itself and no other one: the columns that it depends on.
+    std::vector<std::string> rowColumns = {};
 
     bool isNull() const { return type.kind == TypeKind::null; }
 };

@@ -1,5 +1,6 @@
 #include "embedded/SqliteConnection.h"
 
+#include "embedded/ConditionMemory.h"
 #include "embedded/only_aggregate.h"
 #include "embedded/scalar_call.h"
 
@@ -110,6 +111,7 @@ void SqliteConnection::configure() {
     registerTextFunctions(handle_.get(), session_);
     registerDateFunctions(handle_.get(), session_);
     registerOnlyAggregate(handle_.get(), session_);
+    registerConditionMemory(handle_.get(), session_);
     // Readers and one writer work side by side; a commit is one append to the log. A killed process
     // loses nothing that was committed; only a power failure can lose the last moments, whole
     // statements at a time, which is worth a commit without waiting for the disk.

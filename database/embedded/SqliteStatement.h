@@ -33,6 +33,10 @@ public:
         sqlite3_bind_text64(statement_.get(), parameter, value.data(), value.size(), SQLITE_TRANSIENT,
                             SQLITE_UTF8);
     }
+    /// @param destroy is called when something else is bound there, and with the statement
+    void bindPointer(int parameter, void* pointer, const char* type, void (*destroy)(void*)) {
+        sqlite3_bind_pointer(statement_.get(), parameter, pointer, type, destroy);
+    }
 
     int columnCount() const { return sqlite3_column_count(statement_.get()); }
     int columnType(int column) const { return sqlite3_column_type(statement_.get(), column); }

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tellurix::embedded {
@@ -34,6 +35,8 @@ struct Variables {
 struct Translation {
     /// Stands among the parameters for the moment at which the statement starts (GETDATE).
     static constexpr int now = -1;
+    /// The same for the statement's ConditionMemory.
+    static constexpr int memory = -2;
 
     struct Column {
         std::string name;
@@ -41,7 +44,7 @@ struct Translation {
     };
 
     std::string sql;
-    std::vector<int> parameters; ///< what ?1, ?2, … are: numbers of variables, or `now`
+    std::vector<int> parameters; ///< what ?1, ?2, … are: numbers of variables, `now`, `memory`
     /// Of a query; shared with the recordsets that are open on it.
     std::shared_ptr<const std::vector<Column>> columns = std::make_shared<std::vector<Column>>();
     /// An INSERT into a table with an identity: its folded name, and whether the key is given.
@@ -138,6 +141,7 @@ private:
     // translate_conditions.cpp
     Fragment comparison(const Expression& expression);
     Fragment logical(const Expression& expression);
+    std::string remembered(const std::vector<std::string>& columns, const std::string& condition);
     Fragment isNull(const Expression& expression);
     Fragment inList(const Expression& expression);
     Fragment inQuery(const Expression& expression);
@@ -175,6 +179,9 @@ private:
     const Variables& variables_;
     Scope* scope_ = nullptr;
     int sourceCount_ = 0;
+    int rememberedCount_ = 0;
+    /// Source and column of every use of a column so far.
+    std::vector<std::pair<int, int>> usedColumns_;
     std::vector<int> parameters_;
     Arena defaults_; ///< syntax trees of columns' defaults
 };

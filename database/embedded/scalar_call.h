@@ -21,6 +21,7 @@ public:
 
     Session& session() const { return *static_cast<Session*>(sqlite3_user_data(context_)); }
     int count() const { return count_; }
+    sqlite3_value** values() const { return values_; }
     bool isNull(int index) const { return sqlite3_value_type(values_[index]) == SQLITE_NULL; }
     std::int64_t integer(int index) const { return sqlite3_value_int64(values_[index]); }
     int smallInteger(int index) const { return sqlite3_value_int(values_[index]); }
@@ -66,7 +67,7 @@ void runScalar(sqlite3_context* context, int count, sqlite3_value** values) noex
     }
 }
 
-/// Makes a function known to one connection. All of ours give the same result for the same
+/// Makes a function known to one connection. These give the same result for the same
 /// arguments within one statement, which lets SQLite compute constants once.
 template <ScalarBody body, int nullable>
 void registerScalar(sqlite3* connection, const char* name, int arguments, Session& session) {

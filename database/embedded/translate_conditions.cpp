@@ -2,7 +2,11 @@
 #include "embedded/Translator.h"
 
 #include <algorithm>
+#include <iterator>
+#include <map>
 #include <ranges>
+#include <set>
+#include <span>
 #include <vector>
 
 namespace tellurix::embedded {
@@ -41,6 +45,27 @@ std::string compared(const Fragment& left, const char* sign, const Fragment& rig
     return sql;
 }
 
+/// Conditions joined by a word with blanks around it. A chain of them must not nest by its length,
+/// neither in the text, where SQLite takes some ninety parentheses, nor in the tree that SQLite makes
+/// of it, which a chain without parentheses makes as deep as it is long: a thousand at most.
+std::string chained(std::span<const std::string> links, std::string_view word) {
+    constexpr std::size_t longestFlat = 64;
+    if (links.size() == 1) return links.front();
+    std::string sql = "(";
+    if (links.size() > longestFlat) {
+        const std::size_t half = links.size() / 2;
+        sql += chained(links.first(half), word);
+        sql += word;
+        sql += chained(links.subspan(half), word);
+    } else {
+        for (const std::string& link : links) {
+            if (sql.size() > 1) sql += word;
+            sql += link;
+        }
+    }
+    return sql + ")";
+}
+
 } // namespace
 
 Fragment Translator::comparison(const Expression& expression) {
@@ -53,8 +78,6 @@ Fragment Translator::comparison(const Expression& expression) {
 Fragment Translator::logical(const Expression& expression) {
     if (expression.kind == ExpressionKind::logicalNot)
         return conditionOf("(NOT " + condition(expression.operands[0], "NOT").sql + ")", expression.position);
-    // A chain stays a chain: a pair of parentheses for each of its links would nest so deeply that SQLite
-    // refuses a condition of some ninety of them.
     const bool isAnd = expression.op == Operator::logicalAnd;
     const char* const word = isAnd ? "AND" : "OR";
     std::vector<Expression*> links;
@@ -65,13 +88,34 @@ Fragment Translator::logical(const Expression& expression) {
         first = chain->operands[0];
         chain = first;
     } while (chain->kind == ExpressionKind::logical && chain->op == expression.op);
-    std::string sql = "(" + condition(first, word).sql;
-    for (Expression* link : links | std::views::reverse) {
-        sql += isAnd ? " AND " : " OR ";
-        sql += condition(link, word).sql;
+    links.push_back(first);
+    std::vector<std::string> texts;
+    std::map<std::vector<std::string>, std::vector<std::string>> byColumns;
+    for (Expression* const link : links | std::views::reverse) {
+        Fragment fragment = condition(link, word);
+        (fragment.rowColumns.empty() ? texts : byColumns[fragment.rowColumns])
+            .push_back(std::move(fragment.sql));
     }
-    sql += ')';
-    return conditionOf(std::move(sql), expression.position);
+    const std::string_view joint = isAnd ? " AND " : " OR ";
+    // Asking every row every condition takes long where both are many; the columns that some of the
+    // conditions share have few different values. Below this number remembering costs more than asking.
+    constexpr std::size_t worthRemembering = 8;
+    for (const auto& [columns, conditions] : byColumns) {
+        std::string all = chained(conditions, joint);
+        texts.push_back(conditions.size() < worthRemembering ? std::move(all) : remembered(columns, all));
+    }
+    return conditionOf(chained(texts, joint), expression.position);
+}
+
+/// The condition, asked once for each combination of the columns' values.
+std::string Translator::remembered(const std::vector<std::string>& columns, const std::string& condition) {
+    const std::string place = parameter(Translation::memory) + "," + std::to_string(rememberedCount_++);
+    std::string values;
+    for (const std::string& column : columns)
+        values += "," + column;
+    // As a value a chain would be worked out to its end, as a condition only until it is decided.
+    return "ifnull(ts_recalled(" + place + values + "),ts_noted(" + place + ",CASE WHEN " + condition +
+           " THEN 1 ELSE 0 END))";
 }
 
 Fragment Translator::isNull(const Expression& expression) {
@@ -85,7 +129,7 @@ Fragment Translator::inList(const Expression& expression) {
     // Where all agree on one SQLite representation the list stays a list, which an index can serve.
     bool uniform = true;
     std::string list;
-    std::string alternatives;
+    std::vector<std::string> alternatives;
     std::string common;
     for (std::size_t index = 1; index < expression.operands.size(); ++index) {
         Fragment left = subject;
@@ -94,17 +138,15 @@ Fragment Translator::inList(const Expression& expression) {
         if (right.type.isText()) collate(left); // IN takes the collation of its left side alone
         if (index == 1) common = left.sql;
         uniform = uniform && left.sql == common;
-        if (index > 1) {
-            list += ',';
-            alternatives += " OR ";
-        }
+        if (index > 1) list += ',';
         list += right.sql;
-        alternatives += compared(left, "=", right);
+        alternatives.push_back(compared(left, "=", right));
     }
     if (uniform)
         return conditionOf("(" + common + (expression.negated ? " NOT IN (" : " IN (") + list + "))",
                            expression.position);
-    return conditionOf((expression.negated ? "(NOT (" : "((") + alternatives + "))", expression.position);
+    return conditionOf((expression.negated ? "(NOT " : "(") + chained(alternatives, " OR ") + ")",
+                       expression.position);
 }
 
 /// `T.KEY IN (SELECT T.KEY FROM T WHERE …)` with the table's identity on both sides asks the row
@@ -138,11 +180,24 @@ std::optional<Fragment> Translator::ownRowCondition(const Expression& expression
     const Scope::Place item = inner.find(*branch.items.front().expression);
     if (item.scope != &inner || item.column != place.column) return std::nullopt;
     value(subject); // it counts as used where it stands
+    const auto usedBefore = static_cast<std::ptrdiff_t>(usedColumns_.size());
+    const int sourcesBefore = sourceCount_;
     scope_ = &inner;
     const Fragment where = condition(branch.where, "WHERE");
     scope_ = outer;
-    return conditionOf("(" + where.sql + (expression.negated ? " IS NOT TRUE)" : " IS TRUE)"),
-                       expression.position);
+    Fragment result = conditionOf("(" + where.sql + (expression.negated ? " IS NOT TRUE)" : " IS TRUE)"),
+                                  expression.position);
+
+    // Sources that came since belong to subqueries inside the condition.
+    std::set<int> columns;
+    for (auto used = usedColumns_.begin() + usedBefore; used != usedColumns_.end(); ++used) {
+        if (used->first > sourcesBefore) continue;
+        if (used->first != source.id) return result;
+        columns.insert(used->second);
+    }
+    for (const int column : columns)
+        result.rowColumns.push_back(source.columnSql(static_cast<std::size_t>(column)));
+    return result;
 }
 
 Fragment Translator::inQuery(const Expression& expression) {

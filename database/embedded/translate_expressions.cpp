@@ -189,6 +189,7 @@ Fragment Translator::column(Expression& expression) {
     expression.source = place.source->id;
     expression.column = place.column;
     place.scope->use(expression);
+    usedColumns_.emplace_back(expression.source, expression.column);
     return {.sql = place.source->columnSql(index),
             .type = place.source->columnType(index),
             .position = expression.position,

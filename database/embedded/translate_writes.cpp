@@ -25,6 +25,8 @@ void Translator::start() {
     scope_ = nullptr;
     parameters_.clear();
     sourceCount_ = 0;
+    rememberedCount_ = 0;
+    usedColumns_.clear();
 }
 
 Translation Translator::finish(std::string sql) {
