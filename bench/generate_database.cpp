@@ -135,8 +135,8 @@ ORDER BY C.N)",
         contracts));
 }
 
-/// The selections of a contract's lines in turn, in the form of the quick selection; the first
-/// two overlap.
+/// The selections of a contract's lines, in the form of the quick selection: four kinds in turn, each
+/// from the fifth line on with a length, so that no two lines are the same. The first two overlap.
 void makeLines(Connection& connection, std::int64_t lines) {
     constexpr std::string_view everyLine =
         R"(
@@ -144,8 +144,10 @@ FROM (SELECT N,
         CASE N - N / 4 * 4
             WHEN 1 THEN '83 IN (''FI'') ;'
             WHEN 2 THEN '83 IN (''FI'', ''KI'') ;87 IN (''B'', ''L'') ;'
-            WHEN 3 THEN '83 IN (''TA'', ''LA'') ;90 IN (''B'', ''C'') ;94 IN (4, 4.5, 5) ;'
+            WHEN 3 THEN '83 IN (''TA'', ''LA'') ;90 IN (''B'', ''C'') ;'
             ELSE '87 IN (''S'', ''F'') ;93 IN (''1a'', ''1b'', ''2a'') ;'
+        END + CASE WHEN N > 4 THEN '94 IN (' + CAST(N / 4 + 2 AS nvarchar(10)) + ') ;'
+            WHEN N = 3 THEN '94 IN (4, 4.5, 5) ;' ELSE ''
         END AS SELEKTION
     FROM BENCH_NUMBER WHERE N <= %) AS L
     INNER JOIN VERTRAEGE ON 1=1
