@@ -45,8 +45,10 @@ void noted(ScalarCall& call) {
 } // namespace
 
 void ConditionMemory::bind(SqliteStatement& statement, int parameter) {
-    statement.bindPointer(parameter, std::make_unique<ConditionMemory>().release(), pointerType,
-                          [](void* memory) { delete static_cast<ConditionMemory*>(memory); });
+    statement.bindPointer(
+        parameter, std::make_unique<ConditionMemory>().release(), pointerType, [](void* memory) {
+            const std::unique_ptr<ConditionMemory> gone(static_cast<ConditionMemory*>(memory));
+        });
 }
 
 ConditionMemory* ConditionMemory::of(sqlite3_value* parameter) {
