@@ -1,0 +1,65 @@
+#pragma once
+
+#include "ui/Desktop.h"
+#include "ui/Display.h"
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tellurix::windows {
+
+class WindowFrame;
+
+/// Thrown out of `showModal` when the host's thread is told to end (WM_QUIT) while a screen is open.
+/// No std::exception, so that it passes all handlers of the screens: nothing is asked and nothing is
+/// written. The WM_QUIT has been posted again for the host's own loop.
+struct MessageLoopEnded {};
+
+/// The display for Windows: each form is a top-level window with native controls. It belongs to the
+/// thread that made it; several threads may have one each.
+class Win32Display final : public ui::Display {
+public:
+    /// @param owner window of the host that waits while a screen is open; null for none
+    explicit Win32Display(HWND owner = nullptr);
+    ~Win32Display() override;
+    Win32Display(const Win32Display&) = delete;
+    Win32Display& operator=(const Win32Display&) = delete;
+
+    /// Where errors inside an event of an open screen go. Without it they are shown as a message.
+    /// @param errors outlives the display's last use, or is replaced by null
+    void setErrorHandling(ui::ErrorHandling* errors) { errors_.handling = errors; }
+    /// Language of the display's own texts: "DE" (the default) or "EN". The buttons of message boxes
+    /// and file dialogs are in the language of Windows.
+    void setLanguage(std::string language);
+
+    void showModal(ui::Form& form) override;
+    ui::Answer messageBox(const std::string& text, int flags, const std::string& title) override;
+    std::optional<std::string> openFile(const std::string& title, const std::string& filter) override;
+    void setBusy(bool busy) override;
+    void refresh() override;
+
+private:
+    struct Errors final : ui::ErrorHandling {
+        explicit Errors(Win32Display& shownOn) : display(shownOn) {}
+        void report(const std::exception& error) override;
+        Win32Display& display;
+        ui::ErrorHandling* handling = nullptr;
+    };
+
+    ui::Event nextEvent();
+    void draw();
+    /// The window that a dialog of Windows belongs to.
+    HWND topWindow() const;
+
+    HWND owner_;
+    Errors errors_{*this};
+    ui::Desktop desktop_{errors_};
+    std::vector<std::unique_ptr<WindowFrame>> windows_; ///< the topmost last
+    std::string language_ = "DE";
+    int busy_ = 0;
+};
+
+} // namespace tellurix::windows
