@@ -51,7 +51,14 @@ export async function open(browser, address, size = { width: 1366, height: 768 }
       constructor(address) {
         super(address);
         open.add(this);
+        this.addEventListener('message', ({ data }) => {
+          window.lastAnswered = JSON.parse(data).ack ?? window.lastAnswered;
+        });
         if (window.lineIsCut) this.close();
+      }
+      send(text) {
+        window.lastSaid = JSON.parse(text).n ?? window.lastSaid;
+        super.send(text);
       }
     };
     window.cutLine = () => {
@@ -77,7 +84,12 @@ export function focused(page) {
   return page.evaluate(() => document.activeElement?.dataset.control ?? '');
 }
 
-/** Waits until the session has dealt with everything. */
+/** Waits until the session has dealt with everything that the page has told it. */
+export async function settled(page) {
+  await page.waitForFunction(() => window.lastAnswered >= window.lastSaid);
+}
+
+/** Waits until something is so: the condition answers true, or else what is so instead. */
 export async function until(condition, what) {
   const end = Date.now() + 5000;
   for (;;) {

@@ -1,0 +1,168 @@
+// Plays a scenario in a real browser: play_scenario.js SCENARIO DATABASE
+// The steps are described in tests/scenarios/README.md.
+import { readFileSync } from 'node:fs';
+import { control, focused, open, serve, settled, startBrowser, until } from './support.js';
+
+const [scenario, database] = process.argv.slice(2);
+
+/** The steps of a scenario; "open" becomes the steps that it stands for. */
+function read(file) {
+  const steps = [];
+  readFileSync(file, 'utf8').split('\n').forEach((text, index) => {
+    const found = [...text.matchAll(/#.*|"([^"]*)"|(\S+)/g)].filter(([whole]) => !whole.startsWith('#'));
+    const words = found.map(([, quoted, plain]) => ({ text: quoted ?? plain, quoted: quoted !== undefined }));
+    if (words.length === 0) return;
+    const [{ text: verb }, ...rest] = words;
+    const add = (...step) => steps.push({ line: index + 1, verb: step[0], words: step.slice(1) });
+    if (verb !== 'open') return add(verb, ...rest);
+    add('window', { text: 'F_Start' });
+    add('type', { text: 'txtSearch' }, rest[0]);
+    add('key', { text: 'Enter' });
+    add('window', { text: 'F_Vertrag' });
+  });
+  return steps;
+}
+
+const keyNames = {
+  Esc: 'Escape', Ctrl: 'Control', Up: 'ArrowUp', Down: 'ArrowDown', Left: 'ArrowLeft', Right: 'ArrowRight',
+};
+
+/** As the browser's driver calls a key or a chord. */
+function chord(word) {
+  return word.split('+').map((part, at, all) => (at === all.length - 1 && all.length > 1 && part.length === 1
+    ? part.toLowerCase() : keyNames[part] ?? part)).join('+');
+}
+
+class Player {
+  constructor(page) {
+    this.page = page;
+  }
+
+  window([form]) {
+    return this.page.locator(`.window:not(.behind)[data-form="${form.text}"]`).waitFor({ timeout: 5000 });
+  }
+
+  async type(words) {
+    if (!words[0].quoted) await this.#over(words[0].text);
+    const text = words.at(-1).text;
+    if (text === '') await this.page.keyboard.press('Delete');
+    else await this.page.keyboard.type(text);
+  }
+
+  async key(words) {
+    for (const { text } of words) {
+      await this.page.keyboard.press(chord(text));
+      await settled(this.page);
+    }
+  }
+
+  click([name, half]) {
+    const found = this.#control(name);
+    if (half) return found.locator('button').nth(half.text === 'up' ? 0 : 1).click();
+    return found.click();
+  }
+
+  async select([name, choice]) {
+    const found = this.#control(name);
+    if (!choice.quoted) {
+      await found.locator('.grid-row').nth(Number(choice.text) - 1).locator('[role=gridcell]').first().click();
+    } else if (await found.evaluate((element) => element.tagName === 'SELECT')) {
+      await found.selectOption({ label: choice.text });
+    } else {
+      await found.locator('[role=option], [role=tab]').getByText(choice.text, { exact: true }).click();
+    }
+  }
+
+  doubleClick([name]) {
+    return this.#control(name).locator('.current').first().dblclick();
+  }
+
+  async paste([name, { text }]) {
+    await this.#over(name.text);
+    await this.page.evaluate((pasted) => navigator.clipboard.writeText(pasted), text);
+    await this.page.keyboard.press('Control+v');
+  }
+
+  async answer([button, containing]) {
+    const message = this.page.locator('.message');
+    await message.waitFor({ timeout: 5000 });
+    const text = await message.locator('#message-text').textContent();
+    if (!text.includes(containing.text)) throw new Error(`the message is: ${text}`);
+    await message.getByRole('button', { name: button.text, exact: true }).click();
+  }
+
+  async expect([name, ...rest]) {
+    const wanted = rest.at(-1).text;
+    if (name.text === 'focus') {
+      await until(async () => { const now = await focused(this.page); return now === wanted || now; }, 'focus');
+      return;
+    }
+    const found = this.#control(name);
+    const [row, ...cells] = rest;
+    if (!row.quoted) {
+      const shown = found.locator('.grid-row').nth(Number(row.text) - 1).locator('[role=gridcell]');
+      await until(async () => {
+        const texts = await shown.allTextContents();
+        return cells.every(({ text }) => texts.includes(text)) || texts;
+      }, 'cells');
+      return;
+    }
+    await until(async () => { const now = await this.#shown(found); return now === wanted || now; }, name.text);
+  }
+
+  close() {
+    return this.page.locator('.window:not(.behind) .close').click();
+  }
+
+  #control({ text }) {
+    return control(this.page, text);
+  }
+
+  /** Goes to a box and selects its text. */
+  async #over(name) {
+    await control(this.page, name).click();
+    await settled(this.page);
+    await until(async () => { const now = await focused(this.page); return now === name || now; }, 'focus');
+    await this.page.keyboard.press('Control+a');
+  }
+
+  #shown(found) {
+    return found.evaluate((element) => {
+      if (element.type === 'checkbox') return element.checked ? 'ja' : 'nein';
+      if (element.tagName === 'SELECT') return element.selectedOptions[0]?.textContent ?? '';
+      if (element.getAttribute('role') === 'listbox') {
+        return element.querySelector('[aria-selected=true]')?.textContent ?? '';
+      }
+      return element.value ?? element.textContent;
+    });
+  }
+}
+
+const browser = await startBrowser();
+const server = await serve(process.env.TELLURIX_WORKBENCH, '--database', database, '--port', '0', '--user', 'test');
+try {
+  const { page, problems } = await open(browser, server.address);
+  await page.context().grantPermissions(['clipboard-read', 'clipboard-write']);
+  page.setDefaultTimeout(5000);
+  const player = new Player(page);
+  for (const { line, verb, words } of read(scenario)) {
+    try {
+      if (!Player.prototype[verb]) throw new Error('there is no such verb');
+      if (verb !== 'answer' && await page.locator('.message').count() > 0) {
+        throw new Error(`unexpected message: ${await page.locator('#message-text').textContent()}`);
+      }
+      await player[verb](words);
+      await settled(page);
+    } catch (error) {
+      throw new Error(`${scenario}, line ${line} (${verb}): ${error.message}`);
+    }
+  }
+  await player.window([{ text: 'F_Start' }]);
+  if (problems.length > 0) throw new Error(problems.join('\n'));
+} catch (error) {
+  console.error(error.message);
+  process.exitCode = 1;
+} finally {
+  await server.stop();
+  await browser.close();
+}
