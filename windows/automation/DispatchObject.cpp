@@ -1,38 +1,11 @@
 #include "automation/DispatchObject.h"
 
 #include "automation/AutomationError.h"
-#include "automation/Bstr.h"
+#include "automation/invoke_failure.h"
 
 #include <cwchar>
 
 namespace tellurix::windows {
-
-namespace {
-
-/// Tells the caller of Invoke about the exception that is being handled.
-HRESULT fill(EXCEPINFO* error, const char* source) noexcept {
-    const Failure failure = currentFailure(source);
-    switch (failure.code) {
-    case DISP_E_MEMBERNOTFOUND:
-    case DISP_E_BADPARAMCOUNT:
-    case DISP_E_NONAMEDARGS:
-        return failure.code; // mistakes of the call itself have no further description
-    default:
-        break;
-    }
-    if (error == nullptr) return report(failure);
-    *error = {};
-    error->scode = failure.code;
-    try {
-        error->bstrSource = Bstr(failure.source).detach();
-        error->bstrDescription = Bstr(failure.description).detach();
-    } catch (const std::bad_alloc&) {
-        // The code alone has to do.
-    }
-    return DISP_E_EXCEPTION;
-}
-
-} // namespace
 
 DispatchTable& DispatchTable::defaultMember(const wchar_t* name) {
     default_ = numberOf(name);
@@ -88,7 +61,7 @@ HRESULT DispatchObject::Invoke(DISPID number, REFIID, LCID, WORD kind, DISPPARAM
         if (answer != nullptr) result.detachTo(*answer);
         return S_OK;
     } catch (...) {
-        return fill(error, source());
+        return tellInvoker(error, source());
     }
 }
 
