@@ -1,10 +1,9 @@
 #pragma once
 
-#include <unicode/ucol.h>
+#include "embedded/language.h"
 
 #include <array>
 #include <cstdint>
-#include <memory>
 #include <string_view>
 
 namespace tellurix::embedded {
@@ -16,25 +15,19 @@ public:
     /// The name under which SQLite knows it.
     static constexpr const char* name = "ts";
 
-    /// @throws Fault (other) when ICU has no rules
+    /// @throws Fault (other) when the platform has no rules
     Collation();
 
     /// Negative, zero or positive as `left` sorts before, with or after `right`.
     int compare(std::string_view left, std::string_view right) const;
 
     /// Changes when the rules do; indexes built with other rules have to be rebuilt.
-    std::int32_t version() const;
+    std::int32_t version() const { return order_.version(); }
 
 private:
-    struct Close {
-        void operator()(UCollator* collator) const { ucol_close(collator); }
-    };
-
-    int compareAll(std::string_view left, std::string_view right) const;
-
-    std::unique_ptr<UCollator, Close> collator_;
-    /// The order of the plain ASCII characters among each other, taken from ICU; 0 for those that
-    /// only ICU can judge. Most texts here hold nothing else.
+    SortOrder order_;
+    /// The order of the plain ASCII characters among each other, taken from the order; 0 for those
+    /// that only it can judge. Most texts here hold nothing else.
     std::array<std::uint8_t, 256> ranks_{};
 };
 

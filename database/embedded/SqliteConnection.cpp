@@ -92,11 +92,13 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, bool creat
     // Every connection belongs to one thread, so SQLite need not guard it.
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (create ? SQLITE_OPEN_CREATE : 0);
     sqlite3* handle = nullptr;
-    const int code = sqlite3_open_v2(file.c_str(), &handle, flags, nullptr);
+    const std::u8string characters = file.u8string();
+    const std::string name(characters.begin(), characters.end());
+    const int code = sqlite3_open_v2(name.c_str(), &handle, flags, nullptr);
     handle_.reset(handle);
     if (code != SQLITE_OK)
         throw Fault(DatabaseErrorCategory::connection,
-                    "The database " + file.string() + " cannot be opened: " +
+                    "The database " + name + " cannot be opened: " +
                         (handle == nullptr ? sqlite3_errstr(code) : sqlite3_errmsg(handle)));
     configure();
 }

@@ -2,12 +2,20 @@
 
 #include <array>
 
+#ifndef __SIZEOF_INT128__
+#include <boost/multiprecision/cpp_int.hpp>
+#endif
+
 namespace tellurix::embedded {
 
 namespace {
 
 // Products of two 18-digit numbers need 36 digits on the way.
+#ifdef __SIZEOF_INT128__
 __extension__ using Wide = __int128;
+#else
+using Wide = boost::multiprecision::int128_t;
+#endif
 
 constexpr int mostDigits = 18;
 

@@ -1,12 +1,10 @@
 #include "embedded/Collation.h"
+#include "embedded/language.h"
 #include "embedded/like_pattern.h"
 #include "embedded/scalar_call.h"
 #include "embedded/utf8.h"
 
-#include <unicode/ucasemap.h>
-
 #include <algorithm>
-#include <memory>
 
 namespace tellurix::embedded {
 
@@ -60,20 +58,9 @@ void length(ScalarCall& call) {
     call.answer(static_cast<std::int64_t>(utf16Length(text)));
 }
 
-using CaseMapping = std::int32_t (*)(const UCaseMap*, char*, std::int32_t, const char*, std::int32_t,
-                                     UErrorCode*);
-
-template <CaseMapping mapping>
+template <std::string (*change)(std::string_view)>
 void changeCase(ScalarCall& call) {
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<UCaseMap, decltype(&ucasemap_close)> map(ucasemap_open("de", 0, &status),
-                                                                   &ucasemap_close);
-    const std::string_view text = call.text(0);
-    std::string changed(text.size() * 3 + 1, '\0'); // no letter grows by more
-    const std::int32_t size = mapping(map.get(), changed.data(), static_cast<std::int32_t>(changed.size()),
-                                      text.data(), static_cast<std::int32_t>(text.size()), &status);
-    if (U_FAILURE(status)) failConversion("The case of a text cannot be changed");
-    call.answer(std::string_view(changed).substr(0, static_cast<std::size_t>(size)));
+    call.answer(std::string_view(change(call.text(0))));
 }
 
 } // namespace
@@ -85,8 +72,8 @@ void registerTextFunctions(sqlite3* connection, Session& session) {
     registerScalar<left, 2>(connection, "ts_left", 3, session);
     registerScalar<substring, 3>(connection, "ts_substring", 4, session);
     registerScalar<length, 1>(connection, "ts_len", 1, session);
-    registerScalar<changeCase<ucasemap_utf8ToUpper>, 1>(connection, "ts_upper", 1, session);
-    registerScalar<changeCase<ucasemap_utf8ToLower>, 1>(connection, "ts_lower", 1, session);
+    registerScalar<changeCase<upperCase>, 1>(connection, "ts_upper", 1, session);
+    registerScalar<changeCase<lowerCase>, 1>(connection, "ts_lower", 1, session);
 }
 
 } // namespace tellurix::embedded

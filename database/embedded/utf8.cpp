@@ -1,6 +1,6 @@
 #include "embedded/utf8.h"
 
-#include <unicode/uchar.h>
+#include "embedded/language.h"
 
 namespace tellurix::embedded {
 
@@ -34,7 +34,7 @@ char32_t nextCharacter(std::string_view text, std::size_t& index) {
 char32_t foldCharacter(char32_t character) {
     if (character < 0x80U)
         return character >= U'A' && character <= U'Z' ? character + (U'a' - U'A') : character;
-    return static_cast<char32_t>(u_foldCase(static_cast<UChar32>(character), U_FOLD_CASE_DEFAULT));
+    return foldLetter(character);
 }
 
 void appendCharacter(std::string& text, char32_t character) {

@@ -65,6 +65,30 @@ void build(const fs::path& file, DatabaseContents contents, const common::Clock&
     }
 }
 
+#ifdef _WIN32
+/// Where programs keep the user's data.
+fs::path dataFolder() {
+    const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");
+    if (folder == nullptr)
+        throw std::runtime_error{"LOCALAPPDATA is not set: name the database with --database"};
+    return folder;
+}
+#else
+/// Where programs keep the user's data.
+fs::path dataFolder() {
+    const auto variable = [](const char* name) {
+        const char* value = std::getenv(name);
+        return fs::path{value == nullptr ? "" : value};
+    };
+    // A relative folder there is to be ignored, so says the convention that the variable is from.
+    if (fs::path folder = variable("XDG_DATA_HOME"); folder.is_absolute()) return folder;
+    const fs::path home = variable("HOME");
+    if (home.empty())
+        throw std::runtime_error{"neither XDG_DATA_HOME nor HOME is set: name the database with --database"};
+    return home / ".local" / "share";
+}
+#endif
+
 } // namespace
 
 bool isConnectionString(std::string_view database) {
@@ -74,20 +98,7 @@ bool isConnectionString(std::string_view database) {
 }
 
 fs::path defaultDatabaseFile() {
-    const auto variable = [](const char* name) {
-        const char* value = std::getenv(name);
-        return fs::path{value == nullptr ? "" : value};
-    };
-    fs::path folder = variable("XDG_DATA_HOME");
-    // A relative folder there is to be ignored, so says the convention that the variable is from.
-    if (!folder.is_absolute()) {
-        const fs::path home = variable("HOME");
-        if (home.empty())
-            throw std::runtime_error{
-                "neither XDG_DATA_HOME nor HOME is set: name the database with --database"};
-        folder = home / ".local" / "share";
-    }
-    folder /= "tellurix-workbench";
+    const fs::path folder = dataFolder() / "tellurix-workbench";
     fs::create_directories(folder);
     return folder / "tellurix.db";
 }
