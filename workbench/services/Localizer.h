@@ -23,11 +23,11 @@ public:
     /// The same, or `otherwise` when the language has none.
     std::string namedOr(std::string_view key, const host::TlxVar& session,
                         const std::string& otherwise) const;
+    /// The caption under a key of the catalogue, such as "F_Vertrag.btnSave.caption".
+    /// @param shown what the control shows now
+    std::string translated(const host::TlxVar& session, const std::string& key, const std::string& shown);
 
 private:
-    std::string translated(const host::TlxVar& session, const std::string& key, const std::string& shown);
-    void localize(const host::TlxVar& session, const std::string& base, ui::Control& control);
-
     const TextCatalogue& catalogue_;
     /// The design's own text under each key that was replaced.
     std::map<std::string, std::string> design_;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ui/Control.h"
+
+#include <optional>
+#include <string>
+
+namespace tellurix::ui {
+
+/// Whether the words on a control are several captions: the pages of tabs, the columns of a grid.
+bool hasSeveralCaptions(const Control& control);
+
+/// The words on a control as one text, several captions with "|" between them; nothing for a control
+/// that has none of its own.
+std::optional<std::string> captionText(const Control& control);
+
+/// Replaces them. A text of another number of captions is for another version of the control and
+/// changes nothing.
+void setCaptionText(Control& control, const std::string& text);
+
+} // namespace tellurix::ui
