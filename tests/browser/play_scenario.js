@@ -65,16 +65,16 @@ class Player {
   async select([name, choice]) {
     const found = this.#control(name);
     if (!choice.quoted) {
-      await found.locator('.grid-row').nth(Number(choice.text) - 1).locator('[role=gridcell]').first().click();
+      await this.#row(name, choice).first().click();
     } else if (await found.evaluate((element) => element.tagName === 'SELECT')) {
       await found.selectOption({ label: choice.text });
     } else {
-      await found.locator('[role=option], [role=tab]').getByText(choice.text, { exact: true }).click();
+      await found.locator('[role=option]').getByText(choice.text, { exact: true }).click();
     }
   }
 
-  doubleClick([name]) {
-    return this.#control(name).locator('.current').first().dblclick();
+  doubleClick([name, row]) {
+    return this.#row(name, row).first().dblclick();
   }
 
   async paste([name, { text }]) {
@@ -100,9 +100,8 @@ class Player {
     const found = this.#control(name);
     const [row, ...cells] = rest;
     if (!row.quoted) {
-      const shown = found.locator('.grid-row').nth(Number(row.text) - 1).locator('[role=gridcell]');
       await until(async () => {
-        const texts = await shown.allTextContents();
+        const texts = await this.#row(name, row).allTextContents();
         return cells.every(({ text }) => texts.includes(text)) || texts;
       }, 'cells');
       return;
@@ -116,6 +115,11 @@ class Player {
 
   #control({ text }) {
     return control(this.page, text);
+  }
+
+  /** The cells of a row, which counts from 1. */
+  #row(name, row) {
+    return this.#control(name).locator('.grid-row').nth(Number(row.text) - 1).locator('[role=gridcell]');
   }
 
   /** Goes to a box and selects its text. */

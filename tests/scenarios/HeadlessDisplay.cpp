@@ -4,7 +4,6 @@
 #include "ui/CheckBox.h"
 #include "ui/ItemList.h"
 #include "ui/Label.h"
-#include "ui/Tabs.h"
 #include "ui/TextBox.h"
 #include "ui/caption.h"
 
@@ -24,15 +23,10 @@ int placeOf(const std::string& wanted, const std::vector<std::string>& texts) {
     return found == texts.end() ? -1 : static_cast<int>(found - texts.begin());
 }
 
-std::vector<std::string> choices(const ui::Control& control) {
+std::vector<std::string> textsOf(const ui::ItemList& list) {
     std::vector<std::string> texts;
-    if (const auto* list = dynamic_cast<const ui::ItemList*>(&control)) {
-        for (const auto& item : list->items())
-            texts.push_back(item.text);
-    } else if (const auto* tabs = dynamic_cast<const ui::Tabs*>(&control)) {
-        for (const std::string& caption : tabs->captions())
-            texts.push_back(ui::plainCaption(caption));
-    }
+    for (const auto& item : list.items())
+        texts.push_back(item.text);
     return texts;
 }
 
@@ -137,19 +131,17 @@ void HeadlessDisplay::click(const Step& step) {
 }
 
 void HeadlessDisplay::select(const Step& step) {
-    auto& control = user_.control<ui::Control>(step.word(0));
-    int index = 0;
-    int column = 0;
-    if (step.quoted(1)) {
-        index = placeOf(step.word(1), choices(control));
-        if (index < 0) throw ScenarioError{step, "there is no such choice"};
-    } else {
-        auto& grid = user_.grid(step.word(0));
-        index = step.number(1) - 1;
-        if (index >= static_cast<int>(grid.rows().size())) throw ScenarioError{step, "there is no such row"};
-        column = grid.currentColumn();
-    }
-    user_.select(step.word(0), index, column);
+    if (!step.quoted(1)) return selectRow(step);
+    const int index = placeOf(step.word(1), textsOf(user_.control<ui::ItemList>(step.word(0))));
+    if (index < 0) throw ScenarioError{step, "there is no such choice"};
+    user_.select(step.word(0), index);
+}
+
+void HeadlessDisplay::selectRow(const Step& step) {
+    const int row = step.number(1) - 1;
+    if (row >= static_cast<int>(user_.grid(step.word(0)).rows().size()))
+        throw ScenarioError{step, "there is no such row"};
+    user_.select(step.word(0), row);
 }
 
 std::string HeadlessDisplay::shown(const Step& step, ui::Control& control) {

@@ -35,6 +35,7 @@ private:
     void perform(const Step& step);
     void click(const Step& step);
     void select(const Step& step);
+    void selectRow(const Step& step);
     void expect(const Step& step);
     std::string shown(const Step& step, ui::Control& control);
     /// Ends the scenario from wherever it is.
