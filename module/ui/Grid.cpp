@@ -4,31 +4,32 @@
 
 namespace tellurix::ui {
 
-void Grid::markContentDirty() {
-    contentDirty_ = true;
+void Grid::markRowsDirty() {
+    rowsDirty_ = true;
     markDirty();
 }
 
 void Grid::setColumns(std::vector<Column> columns) {
     columns_ = std::move(columns);
-    markContentDirty();
+    columnsDirty_ = true;
+    markDirty();
 }
 
 void Grid::setRows(std::vector<Row> rows) {
     rows_ = std::move(rows);
     currentRow_ = std::clamp(currentRow_, rows_.empty() ? none : 0, static_cast<int>(rows_.size()) - 1);
-    markContentDirty();
+    markRowsDirty();
 }
 
 void Grid::addRow(Row row) {
     rows_.push_back(std::move(row));
-    markContentDirty();
+    markRowsDirty();
 }
 
 void Grid::removeRow(int row) {
     rows_.erase(rows_.begin() + row);
     currentRow_ = std::min(currentRow_, static_cast<int>(rows_.size()) - 1);
-    markContentDirty();
+    markRowsDirty();
 }
 
 const std::string& Grid::cell(int row, int column) const {
@@ -39,7 +40,8 @@ void Grid::setCell(int row, int column, std::string text) {
     std::string& cell = rows_.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column));
     if (cell == text) return;
     cell = std::move(text);
-    markContentDirty();
+    changedRows_.insert(row);
+    markDirty();
 }
 
 void Grid::setCurrent(int row, int column) {
@@ -63,7 +65,9 @@ void Grid::hideCellEditor() {
 
 void Grid::drawn() {
     Control::drawn();
-    contentDirty_ = false;
+    columnsDirty_ = false;
+    rowsDirty_ = false;
+    changedRows_.clear();
 }
 
 } // namespace tellurix::ui

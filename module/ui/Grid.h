@@ -3,6 +3,7 @@
 #include "ui/Control.h"
 #include "ui/TextBox.h"
 
+#include <set>
 #include <vector>
 
 namespace tellurix::ui {
@@ -50,8 +51,11 @@ public:
     void showCellEditor(TextBox& box, int row, int column);
     void hideCellEditor();
 
-    /// Rows or columns changed since the last drawing, not only the current cell.
-    bool contentDirty() const { return contentDirty_; }
+    /// What changed since the last drawing besides the current cell: the columns; which rows there
+    /// are; or else only the texts of some rows.
+    bool columnsDirty() const { return columnsDirty_; }
+    bool rowsDirty() const { return rowsDirty_; }
+    const std::set<int>& changedRows() const { return changedRows_; }
     void drawn() override;
 
     /// The user moved the current cell.
@@ -64,7 +68,7 @@ public:
     std::function<void()> onScroll;
 
 private:
-    void markContentDirty();
+    void markRowsDirty();
 
     std::vector<Column> columns_;
     std::vector<Row> rows_;
@@ -74,7 +78,9 @@ private:
     TextBox* cellEditor_ = nullptr;
     int editedRow_ = none;
     int editedColumn_ = 0;
-    bool contentDirty_ = true;
+    bool columnsDirty_ = true;
+    bool rowsDirty_ = true;
+    std::set<int> changedRows_;
 };
 
 } // namespace tellurix::ui

@@ -12,7 +12,7 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
   let problems;
 
   before(async () => {
-    server = await serve(program, '1500');
+    server = await serve(program, '3000');
     browser = await startBrowser();
   });
   after(async () => {
@@ -215,8 +215,17 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await press('End', 'ArrowUp', 'Enter');
     await state('Zeile 599');
     assert.equal(await page.locator('.grid-row.current').getAttribute('aria-rowindex'), '600');
-    await page.locator('.grid-row >> nth=597').locator('div >> nth=1').dblclick();
+    await page.getByRole('gridcell', { name: '598', exact: true }).dblclick();
     await state('Zeile 598');
+    await page.mouse.wheel(0, -300 * 26);
+    const far = page.getByRole('gridcell', { name: '297', exact: true });
+    await far.waitFor();
+    assert.equal(await page.evaluate(() => {
+      const cell = document.getElementById(document.activeElement.getAttribute('aria-activedescendant'));
+      return cell?.parentElement.getAttribute('aria-rowindex');
+    }), '599', 'the current row is out of sight, and screen readers still find it');
+    await far.dblclick();
+    await state('Zeile 297');
 
     await page.getByRole('tab', { name: 'Texte' }).click();
     await until(() => control(page, 'txtNotes').isVisible(), 'second page');
@@ -301,7 +310,7 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
   test('a browser that stays away too long is told so and can start again', async () => {
     await type('weg');
     await page.evaluate(() => window.cutLine());
-    await page.waitForTimeout(1700);
+    await page.waitForTimeout(3300);
     await page.evaluate(() => window.mendLine());
     const ended = page.getByRole('alertdialog', { name: 'Sitzung beendet' });
     await ended.waitFor();

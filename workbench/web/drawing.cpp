@@ -46,6 +46,17 @@ void draw(json& out, const ui::ItemList& list, bool whole) {
     out["items"] = std::move(items);
 }
 
+json drawColumns(const ui::Grid& grid) {
+    json columns = json::array();
+    for (const auto& column : grid.columns()) {
+        columns.push_back({{"caption", column.caption},
+                           {"width", column.width},
+                           {"right", column.rightAligned},
+                           {"visible", column.visible}});
+    }
+    return columns;
+}
+
 void draw(json& out, const ui::Grid& grid, bool whole) {
     out["kind"] = "grid";
     out["current"] = {grid.currentRow(), grid.currentColumn()};
@@ -56,16 +67,16 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     if (const ui::TextBox* box = grid.cellEditor()) {
         out["editor"] = {{"control", box->id()}, {"row", grid.editedRow()}, {"column", grid.editedColumn()}};
     }
-    if (!whole && !grid.contentDirty()) return;
-    json columns = json::array();
-    for (const auto& column : grid.columns()) {
-        columns.push_back({{"caption", column.caption},
-                           {"width", column.width},
-                           {"right", column.rightAligned},
-                           {"visible", column.visible}});
+    if (whole || grid.columnsDirty()) out["columns"] = drawColumns(grid);
+    if (whole || grid.rowsDirty()) {
+        out["content"] = grid.rows();
+    } else if (!grid.changedRows().empty()) {
+        // One written cell of hundreds of rows is told in a line, not in all of them.
+        json rows = json::array();
+        for (const int row : grid.changedRows())
+            rows.push_back({row, grid.rows()[static_cast<std::size_t>(row)]});
+        out["changedRows"] = std::move(rows);
     }
-    out["columns"] = std::move(columns);
-    out["content"] = grid.rows();
 }
 
 json drawControl(const Control& control, bool whole) {

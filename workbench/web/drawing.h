@@ -15,7 +15,8 @@ namespace tellurix::workbench {
 nlohmann::json drawWindow(int id, ui::Form& form);
 
 /// The controls of a form that changed since the last drawing, as an array; those count as drawn
-/// then. Rows and items are left out where only the current one changed.
+/// then. Rows and items are left out where only the current one changed, and of a table whose cells
+/// were written only the rows with those are told.
 nlohmann::json drawChanges(ui::Form& form);
 
 /// A message box with its buttons in the user's language.

@@ -1,12 +1,18 @@
-// A table with a current cell. Rows are reused where they can be, so that a changed cell in a long
-// table costs no more than a short one.
+// A table with a current cell. Only the rows that are seen stand in the page, some more above and below
+// them, and the current one, which screen readers are told about wherever it is: so that a changed cell
+// in a long table costs no more than in a short one. Rows have a fixed height, which gives each its
+// place and the whole its height to scroll.
 import { newElementId, View } from './view.js';
+
+const rowsBeyond = 8; // drawn above and below those that are seen: scrolling shows no gaps
 
 export class Grid extends View {
   #head = document.createElement('div');
   #body = document.createElement('div');
+  #rows = new Map(); // the drawn rows by their index
   #current = null; // the drawn current cell
   #scrolledTo = 0;
+  #laidOut = false; // it has room on the screen, and is not on the page of a tab behind another
   #editor = null; // the box that floats over a cell while it is edited
 
   constructor(window, state) {
@@ -17,6 +23,8 @@ export class Grid extends View {
     element.setAttribute('role', 'grid');
     this.#head.className = 'grid-head';
     this.#head.setAttribute('role', 'row');
+    // Screen readers are told about the header row as the first.
+    this.#head.setAttribute('aria-rowindex', 1);
     this.#body.className = 'grid-body';
     this.#body.setAttribute('role', 'rowgroup');
     element.append(this.#head, this.#body);
@@ -26,18 +34,22 @@ export class Grid extends View {
       if (this.usable && event.target.closest('[role=gridcell]')) this.perform({ type: 'doubleClick' });
     });
     element.addEventListener('scroll', () => this.#scrolled());
+    new ResizeObserver(() => this.#resized()).observe(element);
   }
 
   draw(changes, before) {
     if (changes.columns) this.#drawColumns();
-    if (changes.content) this.#drawRows(before.content ?? [], before.columns);
+    if (changes.content) this.#takeRows();
+    for (const [index, texts] of changes.changedRows ?? []) this.#takeRow(index, texts);
     this.element.style.setProperty('--rows', this.state.visibleRows);
+    if (String(this.state.current) !== String(before.current)) this.#reveal();
+    this.#drawRows();
     this.#drawCurrent();
     this.#drawEditor(this.state.editor);
   }
 
   shown() {
-    this.#reveal();
+    this.#resized();
   }
 
   #drawColumns() {
@@ -58,30 +70,68 @@ export class Grid extends View {
       return cell;
     }));
     this.element.setAttribute('aria-colcount', visible.length);
+    this.#remove(() => true);
   }
 
-  #drawRows(before, columnsBefore) {
-    const { content, columns } = this.state;
+  #takeRows() {
+    const { content } = this.state;
     this.element.setAttribute('aria-rowcount', content.length + 1);
-    const sameColumns = JSON.stringify(columns) === JSON.stringify(columnsBefore);
-    if (!sameColumns) this.#body.replaceChildren();
-    while (this.#body.children.length > content.length) this.#body.lastChild.remove();
-    const added = document.createDocumentFragment();
-    content.forEach((row, index) => {
-      const drawn = this.#body.children[index];
-      if (drawn) this.#fill(drawn, row, before[index]);
-      else added.append(this.#row(row, index));
-    });
-    this.#body.append(added);
-    // Screen readers are told about the header row as the first.
-    this.#head.setAttribute('aria-rowindex', 1);
+    this.element.style.setProperty('--count', content.length);
+    this.#remove((index) => index >= content.length);
+    for (const [index, row] of this.#rows) this.#fill(row, content[index]);
   }
 
-  #row(texts, index) {
+  #takeRow(index, texts) {
+    this.state.content[index] = texts;
+    const row = this.#rows.get(index);
+    if (row) this.#fill(row, texts);
+  }
+
+  /** Puts the rows into the page that have to be there now, and takes the others away. */
+  #drawRows() {
+    const wanted = this.#wanted();
+    this.#remove((index) => !wanted.includes(index));
+    let next = this.#body.firstChild;
+    for (const index of wanted) {
+      const drawn = this.#rows.get(index);
+      if (drawn) {
+        next = drawn.nextSibling;
+        continue;
+      }
+      const row = this.#row(index);
+      this.#rows.set(index, row);
+      this.#body.insertBefore(row, next);
+    }
+  }
+
+  /** Indices in their order: of the rows that are seen and those around them, of the current and the edited one. */
+  #wanted() {
+    const { content, current, editor } = this.state;
+    const wanted = new Set([current[0], editor?.row ?? current[0]]);
+    const height = this.#rowHeight;
+    if (height > 0) {
+      const first = Math.floor(this.element.scrollTop / height) - rowsBeyond;
+      const last = Math.ceil((this.element.scrollTop + this.element.clientHeight) / height) + rowsBeyond;
+      for (let index = first; index < last; ++index) wanted.add(index);
+    }
+    return [...wanted].filter((index) => index >= 0 && index < content.length).sort((a, b) => a - b);
+  }
+
+  #remove(matches) {
+    for (const [index, row] of this.#rows) {
+      if (!matches(index)) continue;
+      row.remove();
+      this.#rows.delete(index);
+    }
+  }
+
+  #row(index) {
     const row = document.createElement('div');
-    row.className = 'grid-row';
+    row.className = index % 2 ? 'grid-row even' : 'grid-row';
+    row.style.setProperty('--at', index);
     row.setAttribute('role', 'row');
     row.setAttribute('aria-rowindex', index + 2);
+    row.dataset.row = index;
     this.state.columns.forEach((column, at) => {
       if (!column.visible) return;
       const cell = document.createElement('div');
@@ -90,24 +140,27 @@ export class Grid extends View {
       if (column.right) cell.className = 'right';
       row.append(cell);
     });
-    this.#fill(row, texts, undefined);
+    this.#fill(row, this.state.content[index]);
     return row;
   }
 
-  #fill(row, texts, before) {
+  #fill(row, texts) {
     for (const cell of row.children) {
       const shown = texts[cell.dataset.column] ?? '';
-      if (before && before[cell.dataset.column] === shown) continue;
+      if (cell.title === shown) continue;
       cell.textContent = shown;
       cell.title = shown;
     }
   }
 
+  #cell(row, column) {
+    return this.#rows.get(row)?.querySelector(`[data-column="${column}"]`) ?? null;
+  }
+
   #drawCurrent() {
-    const [rowIndex, columnIndex] = this.state.current;
-    const row = this.#body.children[rowIndex];
-    const cell = row?.querySelector(`[data-column="${columnIndex}"]`) ?? row?.firstChild ?? null;
-    if (cell === this.#current && row?.classList.contains('current') !== false) return;
+    const [row, column] = this.state.current;
+    const cell = this.#cell(row, column) ?? this.#rows.get(row)?.firstChild ?? null;
+    if (cell === this.#current) return;
     const rowBefore = this.#current?.parentElement;
     rowBefore?.classList.remove('current');
     rowBefore?.removeAttribute('aria-selected');
@@ -117,12 +170,11 @@ export class Grid extends View {
       this.element.removeAttribute('aria-activedescendant');
       return;
     }
-    row.classList.add('current');
-    row.setAttribute('aria-selected', 'true');
+    cell.parentElement.classList.add('current');
+    cell.parentElement.setAttribute('aria-selected', 'true');
     cell.classList.add('current');
     cell.id ||= newElementId();
     this.element.setAttribute('aria-activedescendant', cell.id);
-    this.#reveal();
   }
 
   /** Puts the box that edits a cell into that cell; the rest of the page knows it as any text box. */
@@ -133,7 +185,7 @@ export class Grid extends View {
       this.#editor = null;
     }
     if (!box) return;
-    const cell = this.#body.children[edited.row]?.querySelector(`[data-column="${edited.column}"]`);
+    const cell = this.#cell(edited.row, edited.column);
     if (!cell || box.element.parentElement === cell) return;
     this.#editor = box;
     box.element.classList.add('cell-editor');
@@ -141,15 +193,29 @@ export class Grid extends View {
     cell.append(box.element);
   }
 
-  /** Scrolls as far as needed; the header covers the first row's place. */
+  /** The header is as high as every row; 0 while nothing can be seen. */
+  get #rowHeight() {
+    return this.#head.offsetHeight;
+  }
+
+  /** Scrolls as far as needed to the current row; the header covers the first row's place. */
   #reveal() {
-    const row = this.#current?.parentElement;
-    if (!row) return;
-    const top = row.offsetTop - this.#head.offsetHeight;
-    const bottom = row.offsetTop + row.offsetHeight - this.element.clientHeight;
+    const [row] = this.state.current;
+    const height = this.#rowHeight;
+    if (row < 0 || height === 0) return;
+    const top = row * height;
+    const bottom = top + 2 * height - this.element.clientHeight;
     if (this.element.scrollTop > top) this.element.scrollTop = top;
     else if (this.element.scrollTop < bottom) this.element.scrollTop = bottom;
     this.#scrolledTo = this.element.scrollTop;
+  }
+
+  #resized() {
+    const hadRoom = this.#laidOut;
+    this.#laidOut = this.#rowHeight > 0;
+    if (!this.#laidOut) return;
+    if (!hadRoom) this.#reveal();
+    this.#drawRows();
   }
 
   #pressed(event) {
@@ -158,11 +224,11 @@ export class Grid extends View {
     if (!cell) return;
     event.preventDefault();
     if (!this.usable) return;
-    const index = [...this.#body.children].indexOf(cell.parentElement);
-    this.perform({ type: 'select', index, column: Number(cell.dataset.column) });
+    this.perform({ type: 'select', index: Number(cell.parentElement.dataset.row), column: Number(cell.dataset.column) });
   }
 
   #scrolled() {
+    this.#drawRows();
     if (!this.state.scrolls || this.element.scrollTop === this.#scrolledTo) return;
     this.#scrolledTo = this.element.scrollTop;
     this.perform({ type: 'scroll' });
