@@ -1,8 +1,8 @@
 #include "embedded/language.h"
 
 #include "embedded/Fault.h"
+#include "embedded/utf8.h"
 
-#include <unicode/ucasemap.h>
 #include <unicode/uchar.h>
 #include <unicode/ucol.h>
 
@@ -10,27 +10,16 @@ namespace tellurix::embedded {
 
 namespace {
 
-constexpr const char* german = "de";
-
 struct CloseCollator {
     void operator()(UCollator* collator) const { ucol_close(collator); }
 };
-struct CloseCaseMap {
-    void operator()(UCaseMap* map) const { ucasemap_close(map); }
-};
-
-using CaseMapping = std::int32_t (*)(const UCaseMap*, char*, std::int32_t, const char*, std::int32_t,
-                                     UErrorCode*);
-
-std::string mapCase(std::string_view text, CaseMapping mapping) {
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<UCaseMap, CloseCaseMap> map{ucasemap_open(german, 0, &status)};
-    std::string mapped(text.size() * 3 + 1, '\0'); // no letter grows by more
-    const std::int32_t size = mapping(map.get(), mapped.data(), static_cast<std::int32_t>(mapped.size()),
-                                      text.data(), static_cast<std::int32_t>(text.size()), &status);
-    if (U_FAILURE(status))
-        throw Fault(common::DatabaseErrorCategory::conversion, "The case of a text cannot be changed");
-    mapped.resize(static_cast<std::size_t>(size));
+/// Letter by letter, as the server does it: ß has no upper case.
+std::string mapCase(std::string_view text, UChar32 (*mapping)(UChar32)) {
+    std::string mapped;
+    mapped.reserve(text.size());
+    for (std::size_t index = 0; index < text.size();)
+        appendCharacter(mapped,
+                        static_cast<char32_t>(mapping(static_cast<UChar32>(nextCharacter(text, index)))));
     return mapped;
 }
 
@@ -42,7 +31,7 @@ struct SortOrder::Rules {
 
 SortOrder::SortOrder() : rules_(std::make_unique<Rules>()) {
     UErrorCode status = U_ZERO_ERROR;
-    rules_->collator.reset(ucol_open(german, &status));
+    rules_->collator.reset(ucol_open("de", &status));
     if (U_FAILURE(status))
         throw Fault(common::DatabaseErrorCategory::other,
                     std::string("The rules for comparing texts cannot be loaded: ") + u_errorName(status));
@@ -71,11 +60,11 @@ char32_t foldLetter(char32_t character) {
 }
 
 std::string upperCase(std::string_view text) {
-    return mapCase(text, ucasemap_utf8ToUpper);
+    return mapCase(text, u_toupper);
 }
 
 std::string lowerCase(std::string_view text) {
-    return mapCase(text, ucasemap_utf8ToLower);
+    return mapCase(text, u_tolower);
 }
 
 } // namespace tellurix::embedded
