@@ -3,7 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
-#include <cstdlib>
+#include <random>
 #include <type_traits>
 
 namespace tellurix::embedded {
@@ -38,9 +38,10 @@ std::string writtenNumber(double number) {
 } // namespace
 
 EmbeddedTest::EmbeddedTest() {
-    std::string name = (std::filesystem::temp_directory_path() / "embedded_XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for the test: " + name);
-    folder_ = name;
+    // Tests that run at once must not meet.
+    folder_ = std::filesystem::temp_directory_path() / ("embedded_" + std::to_string(std::random_device{}()));
+    if (!std::filesystem::create_directory(folder_))
+        throw std::runtime_error("no folder for the test: " + folder_.string());
     file_ = folder_ / "test.db";
 }
 
