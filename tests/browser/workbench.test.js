@@ -133,6 +133,24 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     assert.equal(await focused(page), 'txtKopf(1)');
   });
 
+  test('after a restart the page says where to go on, and so does its old address', async () => {
+    await page.evaluate(() => window.cutLine());
+    await server.stop();
+    const { port } = new URL(server.address);
+    const before = server.address;
+    server = await serve(program, '--database', join(folder, 'trade.db'), '--port', port);
+    await page.evaluate(() => window.mendLine());
+    const ended = page.getByRole('alertdialog', { name: 'Sitzung beendet' });
+    await ended.getByText('neu gestartet').waitFor();
+    assert.equal(await ended.getByRole('button').count(), 0);
+    await page.goto(before);
+    await page.getByRole('heading', { name: 'Diese Adresse gilt nicht' }).waitFor();
+    await page.goto(server.address);
+    await top('F_Start');
+    // The browser itself tells of an application that was away, and of an address that was refused.
+    problems.splice(0, problems.length, ...problems.filter((text) => !/ERR_CONNECTION_REFUSED|403/.test(text)));
+  });
+
   test('the language can be changed while the program runs', async () => {
     await tabTo('cboLanguage');
     await press('ArrowDown');

@@ -12,6 +12,7 @@ namespace tellurix::workbench {
 namespace {
 
 constexpr const char* connectionName = "session";
+constexpr const char* refusal = "unknown_address.html";
 
 SiteReply plain(int status, std::string body) {
     return {status, "text/plain; charset=utf-8", std::move(body), {}};
@@ -82,7 +83,9 @@ SiteReply Site::answer(const SiteRequest& request) const {
 
 SiteReply Site::page(const SiteRequest& request) const {
     const auto name = keyedName(request.target);
-    if (!ownHost(request.host) || !name) return plain(403, "403\n");
+    if (!ownHost(request.host)) return plain(403, "403\n");
+    // Most likely the address of an earlier start: its user is told where to find the new one.
+    if (!name) return {403, contentTypeOf(refusal), std::string{page::file(refusal)}, {}};
     if (request.method != "GET" && request.method != "HEAD") return plain(405, "405\n");
     if (*name == connectionName) return plain(403, "403\n");
     try {

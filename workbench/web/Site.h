@@ -30,7 +30,7 @@ struct SiteReply {
 /// The page stands at "/?key=KEY", its files at "/KEY/name" and its connection at "/KEY/session".
 /// So every request carries the key, and nothing has to be remembered by the browser: a cookie
 /// would be sent to every other program that listens on this machine, because cookies do not tell
-/// ports apart.
+/// ports apart. Another key is refused with a page that says where the address is to be found.
 class Site {
 public:
     Site(std::uint16_t port, std::string key);

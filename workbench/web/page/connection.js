@@ -11,6 +11,7 @@ const retryDelays = [100, 250, 500, 1000, 2000];
 const slowAfter = 250;
 const noticeAfter = 400;
 const giveUpAfter = 150_000;
+const answerWithin = 5000;
 
 export class Connection {
   onDrawing = () => {};
@@ -133,7 +134,22 @@ export class Connection {
       return;
     }
     const delay = retryDelays[Math.min(this.#attempt++, retryDelays.length - 1)];
-    setTimeout(() => this.start(), delay);
+    setTimeout(() => this.#retry(), delay);
+  }
+
+  /**
+   * Connects again, if the application is there and knows this page's address. Started anew it has
+   * another one, and would refuse every connection for ever, which a socket does not tell from an
+   * application that is not there.
+   */
+  async #retry() {
+    try {
+      const { status } = await fetch(import.meta.url, { method: 'HEAD', signal: AbortSignal.timeout(answerWithin) });
+      if (status === 403) this.#end('restarted');
+      else this.start();
+    } catch {
+      this.#lost();
+    }
   }
 
   #found() {

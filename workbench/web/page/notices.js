@@ -38,14 +38,21 @@ export class Notices {
     const explanation = document.createElement('p');
     explanation.id = 'ended-text';
     explanation.textContent = text('ended')[reason] ?? text('ended').closed;
+    panel.append(title, explanation);
+    document.getElementById('desktop').inert = true;
+    document.getElementById('message-box').inert = true;
+    this.#ended.replaceChildren(panel);
+    if (reason === 'restarted') {
+      // This page's address leads nowhere any more.
+      panel.tabIndex = -1;
+      panel.focus();
+      return;
+    }
     const again = document.createElement('button');
     again.className = 'button default';
     again.textContent = text('again');
     again.addEventListener('click', () => location.reload());
-    panel.append(title, explanation, again);
-    document.getElementById('desktop').inert = true;
-    document.getElementById('message-box').inert = true;
-    this.#ended.replaceChildren(panel);
+    panel.append(again);
     again.focus();
   }
 }
