@@ -28,6 +28,8 @@ public:
     Win32Display(const Win32Display&) = delete;
     Win32Display& operator=(const Win32Display&) = delete;
 
+    /// Another window to wait while a screen is open; for the screens that are shown from now on.
+    void setOwner(HWND owner) { owner_ = owner; }
     /// Where errors inside an event of an open screen go. Without it they are shown as a message.
     /// @param errors outlives the display's last use, or is replaced by null
     void setErrorHandling(ui::ErrorHandling* errors) { errors_.handling = errors; }
