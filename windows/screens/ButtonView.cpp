@@ -1,0 +1,47 @@
+#include "screens/ButtonView.h"
+
+#include "automation/wide.h"
+#include "screens/pictures.h"
+#include "ui/caption.h"
+
+namespace tellurix::windows {
+
+ButtonView::ButtonView(ViewHost& host, ui::Button& button) : ControlView(host, button), button_(button) {
+    create(L"BUTTON", WS_TABSTOP | BS_PUSHBUTTON);
+}
+
+ButtonView::~ButtonView() {
+    if (icon_ != nullptr) DestroyIcon(icon_);
+}
+
+Room ButtonView::room() const {
+    const int width = icon_ != nullptr ? theme().lineHeight() + theme().scaled(4)
+                                       : theme().textSize(button_.caption(), true).cx + theme().scaled(22);
+    return {Extent::fixed(width), Extent::fixed(theme().lineHeight())};
+}
+
+void ButtonView::draw() {
+    if (button_.picture() != shownPicture_) {
+        shownPicture_ = button_.picture();
+        HICON before = icon_;
+        icon_ = makePicture(shownPicture_, theme().scaled(16), GetSysColor(COLOR_BTNTEXT));
+        const LONG_PTR style = GetWindowLongPtrW(handle(), GWL_STYLE) & ~LONG_PTR{BS_ICON};
+        SetWindowLongPtrW(handle(), GWL_STYLE, icon_ == nullptr ? style : style | BS_ICON);
+        SendMessageW(handle(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon_));
+        if (before != nullptr) DestroyIcon(before);
+    }
+    showText(widen(button_.caption()));
+    if (icon_ != nullptr && button_.toolTip().empty()) {
+        host().setToolTip(handle(), ui::plainCaption(button_.caption()));
+    }
+}
+
+KeyUse ButtonView::useOf(const ui::KeyDown& key) const {
+    return key.key == ui::Key::space ? KeyUse::session : KeyUse::native;
+}
+
+void ButtonView::notified(UINT code, NMHDR*) {
+    if (code == BN_CLICKED) tell(ui::ClickEvent{&button_});
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/Button.h"
+
+#include <string>
+
+namespace tellurix::windows {
+
+/// A push button with a caption or a picture.
+class ButtonView final : public ControlView {
+public:
+    ButtonView(ViewHost& host, ui::Button& button);
+    ~ButtonView() override;
+
+    Room room() const override;
+    KeyUse useOf(const ui::KeyDown& key) const override;
+    void notified(UINT code, NMHDR* details) override;
+
+private:
+    void draw() override;
+
+    ui::Button& button_;
+    HICON icon_ = nullptr;
+    std::string shownPicture_;
+};
+
+} // namespace tellurix::windows

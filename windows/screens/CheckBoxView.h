@@ -1,0 +1,23 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/CheckBox.h"
+
+namespace tellurix::windows {
+
+/// A box to tick, with its caption.
+class CheckBoxView final : public ControlView {
+public:
+    CheckBoxView(ViewHost& host, ui::CheckBox& check);
+
+    Room room() const override;
+    KeyUse useOf(const ui::KeyDown& key) const override;
+    void notified(UINT code, NMHDR* details) override;
+
+private:
+    void draw() override;
+
+    ui::CheckBox& check_;
+};
+
+} // namespace tellurix::windows

@@ -1,0 +1,154 @@
+#include "screens/ControlView.h"
+
+#include <stdexcept>
+
+namespace tellurix::windows {
+
+ControlView::~ControlView() {
+    destroy();
+}
+
+HBRUSH ControlView::background() const {
+    return onPage_ ? theme().pageBrush() : GetSysColorBrush(COLOR_3DFACE);
+}
+
+HBRUSH ControlView::colour(HDC dc) const {
+    SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
+    SetBkColor(dc, onPage_ ? theme().pageColour() : GetSysColor(COLOR_3DFACE));
+    return background();
+}
+
+HWND ControlView::createPart(const wchar_t* windowClass, DWORD style, DWORD extendedStyle,
+                             const std::wstring& text) {
+    HWND made = CreateWindowExW(extendedStyle, windowClass, text.c_str(), WS_CHILD | WS_CLIPSIBLINGS | style,
+                                0, 0, 0, 0, host_.window(), nullptr, moduleInstance(), nullptr);
+    if (made == nullptr) throw std::runtime_error{"Windows could not make the control " + control_.name()};
+    SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(theme().font()), FALSE);
+    return made;
+}
+
+void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
+    handle_ = createPart(windowClass, style, extendedStyle, {});
+    setName(handle_, control_.name());
+    // The window's notifications come to its parent, which finds the view here.
+    SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    nativeProcedure_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlView::procedure)));
+}
+
+void ControlView::destroy() {
+    if (handle_ == nullptr) return;
+    host_.setToolTip(handle_, {});
+    forgetName(handle_);
+    SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(nativeProcedure_));
+    DestroyWindow(handle_);
+    handle_ = nullptr;
+}
+
+void ControlView::place(const RECT& rect) {
+    rect_ = rect;
+    move(handle_, rect);
+}
+
+void ControlView::move(HWND window, const RECT& rect) {
+    RECT now{};
+    GetWindowRect(window, &now);
+    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&now), 2);
+    if (EqualRect(&now, &rect)) return;
+    SetWindowPos(window, nullptr, rect.left, rect.top, widthOf(rect), heightOf(rect),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ControlView::enable(HWND window, bool visible, bool enabled) {
+    if ((IsWindowEnabled(window) != FALSE) != enabled) EnableWindow(window, enabled);
+    const bool seen = (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
+    if (seen != visible) ShowWindow(window, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void ControlView::enable(bool visible, bool enabled) {
+    enable(handle_, visible, enabled);
+}
+
+void ControlView::update() {
+    if (control_.dirty() || stale_ || new_) {
+        draw();
+        host_.setToolTip(handle_, control_.toolTip());
+        control_.drawn();
+        stale_ = new_ = false;
+    }
+    // What is around a control decides too, and that does not make it dirty.
+    enable(control_.showing(), control_.usable());
+    const Room now = room();
+    if (now == lastRoom_ && control_.visible() == lastVisible_) return;
+    lastRoom_ = now;
+    lastVisible_ = control_.visible();
+    host_.roomChanged();
+}
+
+void ControlView::showText(const std::wstring& text) {
+    if (windowText(handle_) != text) SetWindowTextW(handle_, text.c_str());
+}
+
+void ControlView::tell(ui::Event event) {
+    told_ = true;
+    host_.happened(std::move(event));
+}
+
+LRESULT ControlView::native(UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcW(nativeProcedure_, handle_, message, wParam, lParam);
+}
+
+LRESULT ControlView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return native(message, wParam, lParam);
+}
+
+LRESULT CALLBACK ControlView::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto& view = *reinterpret_cast<ControlView*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    try {
+        return view.dispatch(message, wParam, lParam);
+    } catch (...) {
+        view.host_.failed(std::current_exception());
+        return 0;
+    }
+}
+
+LRESULT ControlView::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+    case WM_CHAR:
+    case WM_SYSCHAR:
+        if (host_.keyboard(*this, message, wParam, lParam)) return 0;
+        break;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+        return pressed(message, wParam, lParam);
+    case WM_CAPTURECHANGED:
+        pressing_ = false;
+        break;
+    case WM_SETFOCUS: {
+        const LRESULT result = onMessage(message, wParam, lParam);
+        if (!pressing_ && !host_.isFocused(*this)) tell(ui::FocusEvent{&control_});
+        return result;
+    }
+    default:
+        break;
+    }
+    return onMessage(message, wParam, lParam);
+}
+
+LRESULT ControlView::pressed(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_LBUTTONDOWN) {
+        pressing_ = true;
+        told_ = false;
+    }
+    const LRESULT result = onMessage(message, wParam, lParam);
+    if (message == WM_LBUTTONDOWN && GetCapture() == handle_) return result;
+    pressing_ = false;
+    if (GetFocus() == handle_ && !told_ && !host_.isFocused(*this)) tell(ui::FocusEvent{&control_});
+    return result;
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,114 @@
+#include "screens/Keyboard.h"
+
+namespace tellurix::windows {
+
+namespace {
+
+using ui::Key;
+using ui::KeyDown;
+
+bool isHeld(int code) {
+    return (GetKeyState(code) & 0x8000) != 0;
+}
+
+/// A key as the rules of input know it, `none` for one that they do not.
+Key keyOf(WPARAM code) {
+    if (code >= VK_NUMPAD0 && code <= VK_NUMPAD9) return static_cast<Key>('0' + (code - VK_NUMPAD0));
+    const bool named = (code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z') ||
+                       (code >= VK_F1 && code <= VK_F24) || (code >= VK_SPACE && code <= VK_DOWN) ||
+                       code == VK_BACK || code == VK_TAB || code == VK_RETURN || code == VK_ESCAPE ||
+                       code == VK_INSERT || code == VK_DELETE;
+    return named ? static_cast<Key>(code) : Key::none;
+}
+
+KeyDown pressed(WPARAM code) {
+    KeyDown key{keyOf(code), isHeld(VK_SHIFT), isHeld(VK_CONTROL), isHeld(VK_MENU)};
+    // AltGr is Ctrl and Alt together, and makes characters.
+    if (key.ctrl && key.alt) key.ctrl = key.alt = false;
+    return key;
+}
+
+/// A key that is held down acts once where a second time would be an accident.
+bool actsOnce(const ControlView* view, Key key) {
+    if (key == Key::enter || key == Key::escape || key == Key::f4) return true;
+    return key == Key::space && view != nullptr && view->control().kind() != ui::ControlKind::textBox;
+}
+
+} // namespace
+
+KeyUse Keyboard::useOf(const ControlView* view, const KeyDown& key) {
+    if (key.key == Key::none || key.alt) return KeyUse::native;
+    if (view != nullptr && view->hasOpenList() && key.key != Key::tab) return KeyUse::native;
+    switch (key.key) {
+    case Key::f4:
+        // Opens a list, as everywhere; in a box it is the picker.
+        return view != nullptr && view->control().kind() == ui::ControlKind::comboBox ? KeyUse::native
+                                                                                      : KeyUse::session;
+    case Key::enter:
+    case Key::escape:
+        return KeyUse::session;
+    case Key::tab:
+        return key.ctrl ? KeyUse::nobody : KeyUse::session;
+    default:
+        return view == nullptr ? KeyUse::native : view->useOf(key);
+    }
+}
+
+bool Keyboard::handle(ControlView* view, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+        return down(view, wParam, lParam);
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+        return up(view, wParam);
+    case WM_CHAR:
+        return character(view, static_cast<wchar_t>(wParam));
+    case WM_SYSCHAR:
+        // Alt and the space bar open the window's own menu.
+        if (wParam <= VK_SPACE) return false;
+        tell_(view, ui::AccessKeyEvent{static_cast<char32_t>(wParam)});
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool Keyboard::down(ControlView* view, WPARAM code, LPARAM details) {
+    const bool repeated = (HIWORD(details) & KF_REPEAT) != 0;
+    const KeyDown key = pressed(code);
+    if (code == VK_CONTROL) {
+        if (!repeated) ctrlAlone_ = !key.shift && !isHeld(VK_MENU);
+        return false;
+    }
+    ctrlAlone_ = false;
+    if (repeated && actsOnce(view, key.key)) return true;
+    const KeyUse use = useOf(view, key);
+    if (use == KeyUse::session || use == KeyUse::overheard) tell_(view, ui::KeyDownEvent{key});
+    return use == KeyUse::session || use == KeyUse::nobody;
+}
+
+bool Keyboard::up(ControlView* view, WPARAM code) {
+    if (code != VK_CONTROL || !ctrlAlone_) return false;
+    ctrlAlone_ = false;
+    tell_(view, ui::KeyDownEvent{KeyDown{.key = Key::ctrl, .ctrl = true}});
+    tell_(view, ui::KeyUpEvent{Key::ctrl});
+    return false;
+}
+
+bool Keyboard::character(ControlView* view, wchar_t unit) {
+    const KeyUse use = view == nullptr ? KeyUse::nobody : view->useOfCharacter(unit);
+    if (use != KeyUse::session) return use == KeyUse::nobody;
+    if (IS_HIGH_SURROGATE(unit)) {
+        highSurrogate_ = unit;
+        return true;
+    }
+    char32_t character = unit;
+    if (IS_LOW_SURROGATE(unit)) {
+        character = 0x10000 + ((static_cast<char32_t>(highSurrogate_) - 0xD800) << 10) + (character - 0xDC00);
+    }
+    tell_(view, ui::KeyPressEvent{character});
+    return true;
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/Label.h"
+
+namespace tellurix::windows {
+
+/// A caption beside or above a control; a long one is broken into lines.
+class LabelView final : public ControlView {
+public:
+    LabelView(ViewHost& host, ui::Label& label);
+
+    Room room() const override;
+
+private:
+    void draw() override;
+    int wrapAt() const { return 80 * theme().characterWidth(); }
+
+    ui::Label& label_;
+};
+
+} // namespace tellurix::windows

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/ItemList.h"
+
+namespace tellurix::windows {
+
+/// What closed and open lists share: the items, and the messages that set them.
+class ItemView : public ControlView {
+public:
+    KeyUse useOf(const ui::KeyDown& key) const override;
+    KeyUse useOfCharacter(wchar_t unit) const override;
+
+protected:
+    struct Messages {
+        UINT add, clear, select, selected;
+    };
+    ItemView(ViewHost& host, ui::ItemList& list, Messages messages)
+        : ControlView(host, list), list_(list), messages_(messages) {}
+
+    void draw() override;
+    /// The user chose the item that the native control shows.
+    void tellSelection();
+    ui::ItemList& list() const { return list_; }
+
+private:
+    ui::ItemList& list_;
+    Messages messages_;
+};
+
+/// A drop-down list.
+class ComboBoxView final : public ItemView {
+public:
+    ComboBoxView(ViewHost& host, ui::ItemList& list);
+
+    Room room() const override;
+    void place(const RECT& rect) override;
+    bool hasOpenList() const override;
+    void notified(UINT code, NMHDR* details) override;
+
+private:
+    int borders_;
+    bool cancelled_ = false;
+};
+
+/// A list that shows several items at once.
+class ListBoxView final : public ItemView {
+public:
+    ListBoxView(ViewHost& host, ui::ItemList& list);
+
+    Room room() const override;
+    void notified(UINT code, NMHDR* details) override;
+};
+
+} // namespace tellurix::windows

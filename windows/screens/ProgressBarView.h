@@ -1,0 +1,22 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/ProgressBar.h"
+
+namespace tellurix::windows {
+
+/// How far a long operation has come.
+class ProgressBarView final : public ControlView {
+public:
+    ProgressBarView(ViewHost& host, ui::ProgressBar& progress);
+
+    Room room() const override;
+    void place(const RECT& rect) override;
+
+private:
+    void draw() override;
+
+    ui::ProgressBar& progress_;
+};
+
+} // namespace tellurix::windows

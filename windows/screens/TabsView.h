@@ -1,0 +1,32 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/Tabs.h"
+
+#include <string>
+#include <vector>
+
+namespace tellurix::windows {
+
+/// The row of tabs and the page below it. What stands on the pages are windows beside it.
+class TabsView final : public ControlView {
+public:
+    TabsView(ViewHost& host, ui::Tabs& tabs);
+
+    /// What the tabs take at least; the pages are the arrangement's.
+    Room room() const override;
+    /// The space between the border and the page.
+    RECT padding() const;
+
+    KeyUse useOf(const ui::KeyDown& key) const override;
+    void notified(UINT code, NMHDR* details) override;
+
+private:
+    void draw() override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    ui::Tabs& tabs_;
+    std::vector<std::string> shown_;
+};
+
+} // namespace tellurix::windows

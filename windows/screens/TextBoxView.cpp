@@ -1,0 +1,243 @@
+#include "screens/TextBoxView.h"
+
+#include "automation/wide.h"
+#include "screens/shown_text.h"
+
+#include <algorithm>
+
+namespace tellurix::windows {
+
+namespace {
+
+constexpr wchar_t selectAllCharacter = 1; // Ctrl+A
+constexpr wchar_t undoCharacter = 26;     // Ctrl+Z
+
+/// The text on the clipboard, empty for none.
+std::wstring clipboardText(HWND window) {
+    std::wstring text;
+    if (!OpenClipboard(window)) return text;
+    if (HANDLE held = GetClipboardData(CF_UNICODETEXT)) {
+        if (const auto* start = static_cast<const wchar_t*>(GlobalLock(held))) {
+            text = start;
+            GlobalUnlock(held);
+        }
+    }
+    CloseClipboard();
+    return text;
+}
+
+} // namespace
+
+TextBoxView::TextBoxView(ViewHost& host, ui::TextBox& box) : ControlView(host, box), box_(box) {
+    make();
+}
+
+TextBoxView::~TextBoxView() {
+    if (pick_ != nullptr) DestroyWindow(pick_);
+}
+
+DWORD TextBoxView::wantedStyle() const {
+    DWORD style = WS_TABSTOP | ES_LEFT;
+    if (box_.rightAligned()) style |= ES_RIGHT;
+    style |= severalLines() ? DWORD{ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL} : DWORD{ES_AUTOHSCROLL};
+    return style;
+}
+
+void TextBoxView::make() {
+    style_ = wantedStyle();
+    create(L"EDIT", style_, WS_EX_CLIENTEDGE);
+}
+
+Room TextBoxView::room() const {
+    const int width = box_.width() * theme().characterWidth() + theme().scaled(severalLines() ? 28 : 10);
+    const int pick = box_.onPick ? theme().lineHeight() : 0;
+    const int extraLines = (box_.lines() - 1) * theme().textHeight();
+    const int small = std::min(width, 6 * theme().characterWidth() + theme().scaled(10));
+    return {{small + pick, width + pick},
+            {theme().lineHeight() + (extraLines > 0 ? theme().textHeight() : 0),
+             theme().lineHeight() + extraLines}};
+}
+
+void TextBoxView::place(const RECT& rect) {
+    if (pick_ == nullptr || !box_.onPick) {
+        ControlView::place(rect);
+        return;
+    }
+    RECT text = rect;
+    RECT pick = rect;
+    text.right = pick.left = rect.right - theme().lineHeight();
+    ControlView::place(text);
+    move(pick_, pick);
+}
+
+void TextBoxView::draw() {
+    if (wantedStyle() != style_) {
+        // These styles cannot be changed in a control that exists.
+        const HWND above = GetWindow(handle(), GW_HWNDPREV);
+        const RECT where = rect();
+        destroy();
+        make();
+        ControlView::place(where);
+        SetWindowPos(handle(), above == nullptr ? HWND_TOP : above, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    SendMessageW(handle(), EM_SETLIMITTEXT, static_cast<WPARAM>(box_.maxLength()), 0);
+    SendMessageW(handle(), EM_SETREADONLY, box_.locked(), 0);
+    showText(shownText(box_.text(), severalLines()));
+    known_ = {box_.selectionStart(), box_.selectionLength()};
+    const int start = shownUnits(box_.text(), known_.start, severalLines());
+    const int end = shownUnits(box_.text(), known_.start + known_.length, severalLines());
+    SendMessageW(handle(), EM_SETSEL, static_cast<WPARAM>(start), end);
+    SendMessageW(handle(), EM_SCROLLCARET, 0, 0);
+    InvalidateRect(handle(), nullptr, FALSE);
+    drawPick();
+}
+
+void TextBoxView::drawPick() {
+    if (!box_.onPick || pick_ != nullptr) return;
+    pick_ = createPart(L"BUTTON", BS_PUSHBUTTON, 0, L"\u2026");
+    SetWindowLongPtrW(pick_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+void TextBoxView::enable(bool visible, bool enabled) {
+    ControlView::enable(visible, enabled);
+    if (pick_ != nullptr) ControlView::enable(pick_, visible && box_.onPick, enabled && !box_.locked());
+    // A warning is seen as a colour, and read where the pointer rests.
+    if (!box_.warning().empty()) host().setToolTip(handle(), box_.warning());
+}
+
+KeyUse TextBoxView::useOf(const ui::KeyDown& key) const {
+    using ui::Key;
+    if (!box_.onKeyDown) return KeyUse::native;
+    switch (key.key) {
+    case Key::backspace:
+    case Key::del:
+        return key.ctrl ? KeyUse::native : KeyUse::session;
+    case Key::up:
+    case Key::down:
+    case Key::pageUp:
+    case Key::pageDown:
+        return severalLines() ? KeyUse::native : KeyUse::session;
+    case Key::left:
+    case Key::right:
+    case Key::home:
+    case Key::end:
+        return KeyUse::overheard;
+    default:
+        // The character comes after it, and has a use of its own.
+        return key.ctrl || box_.locked() ? KeyUse::native : KeyUse::overheard;
+    }
+}
+
+KeyUse TextBoxView::useOfCharacter(wchar_t unit) const {
+    switch (unit) {
+    case L'\b':
+        return useOf(ui::KeyDown{.key = ui::Key::backspace}) == KeyUse::session ? KeyUse::nobody
+                                                                                : KeyUse::native;
+    case L'\t':
+    case L'\r':
+    case L'\n':
+    case 27:
+    case 127:
+        return KeyUse::nobody;
+    default:
+        return unit >= 32 && filtered() && changeable() ? KeyUse::session : KeyUse::native;
+    }
+}
+
+TextBoxView::Selection TextBoxView::selection() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    SendMessageW(handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    const int first = charactersBefore(box_.text(), static_cast<int>(start), severalLines());
+    return {first, charactersBefore(box_.text(), static_cast<int>(end), severalLines()) - first};
+}
+
+std::optional<ui::Event> TextBoxView::newSelection() {
+    const Selection now = selection();
+    if (now == known_) return std::nullopt;
+    known_ = now;
+    return ui::SelectionEvent{&box_, now.start, now.length};
+}
+
+void TextBoxView::notified(UINT code, NMHDR*) {
+    if (code == EN_CHANGE) edited();
+}
+
+void TextBoxView::edited() {
+    const std::wstring before = shownText(box_.text(), severalLines());
+    const std::wstring now = windowText(handle());
+    if (now == before) return;
+    markStale();
+    if (filtered() && !onlyRemoves(before, now)) {
+        // Something that helps the user type: the filter has to see it, in place of everything.
+        tell(ui::FocusEvent{&box_});
+        tell(ui::SelectionEvent{
+            &box_, 0, charactersBefore(box_.text(), static_cast<int>(before.size()), severalLines())});
+        tell(ui::PasteEvent{&box_, editedText(now, severalLines())});
+        return;
+    }
+    DWORD start = 0;
+    DWORD end = 0;
+    SendMessageW(handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    std::string text = editedText(now, severalLines());
+    const int first = charactersBefore(text, static_cast<int>(start), severalLines());
+    const int last = charactersBefore(text, static_cast<int>(end), severalLines());
+    known_ = {first, last - first};
+    tell(ui::TextEditedEvent{&box_, std::move(text), first, last - first});
+}
+
+void TextBoxView::paste() {
+    if (!changeable()) return;
+    const std::string text = editedText(clipboardText(handle()), severalLines());
+    if (text.empty()) return;
+    if (filtered() || box_.onPaste) {
+        if (auto selected = newSelection()) tell(*selected);
+        tell(ui::PasteEvent{&box_, text});
+    } else {
+        // The native paste would end at the first line end.
+        SendMessageW(handle(), EM_REPLACESEL, TRUE,
+                     reinterpret_cast<LPARAM>(shownText(text, severalLines()).c_str()));
+    }
+}
+
+LRESULT TextBoxView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_LBUTTONDOWN:
+        // A click into a box goes to it, and going to a box selects its text.
+        if (host().isFocused(*this) && GetFocus() == handle()) break;
+        tell(ui::FocusEvent{&box_});
+        return 0;
+    case WM_PASTE:
+        paste();
+        return 0;
+    case WM_UNDO:
+    case EM_UNDO:
+        // It would bring back text past the filter.
+        if (filtered()) return FALSE;
+        break;
+    case WM_CHAR:
+        if (wParam == selectAllCharacter) {
+            SendMessageW(handle(), EM_SETSEL, 0, -1);
+            return 0;
+        }
+        if (wParam == undoCharacter && filtered()) return 0;
+        break;
+    case WM_GETDLGCODE:
+        return DLGC_WANTALLKEYS | DLGC_HASSETSEL;
+    default:
+        break;
+    }
+    return native(message, wParam, lParam);
+}
+
+HBRUSH TextBoxView::colour(HDC dc) const {
+    const bool open = box_.usable() && !box_.locked();
+    SetTextColor(dc, !box_.warning().empty() ? theme().warningColour()
+                     : box_.usable()         ? GetSysColor(COLOR_WINDOWTEXT)
+                                             : GetSysColor(COLOR_GRAYTEXT));
+    SetBkColor(dc, GetSysColor(open ? COLOR_WINDOW : COLOR_3DFACE));
+    return GetSysColorBrush(open ? COLOR_WINDOW : COLOR_3DFACE);
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/TextBox.h"
+
+namespace tellurix::windows {
+
+/// A box to type into, with the small button beside it when it has a picker. The native control edits
+/// the text, unless a filter or a key handler of the form has to see each character first.
+class TextBoxView final : public ControlView {
+public:
+    TextBoxView(ViewHost& host, ui::TextBox& box);
+    ~TextBoxView() override;
+
+    Room room() const override;
+    void place(const RECT& rect) override;
+    KeyUse useOf(const ui::KeyDown& key) const override;
+    KeyUse useOfCharacter(wchar_t unit) const override;
+    std::optional<ui::Event> newSelection() override;
+    void notified(UINT code, NMHDR* details) override;
+    HBRUSH colour(HDC dc) const override;
+
+private:
+    struct Selection {
+        int start = 0;
+        int length = 0;
+        bool operator==(const Selection&) const = default;
+    };
+
+    void make();
+    DWORD wantedStyle() const;
+    void draw() override;
+    void drawPick();
+    void enable(bool visible, bool enabled) override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void edited();
+    void paste();
+    Selection selection() const;
+    bool severalLines() const { return box_.lines() > 1; }
+    /// The form has to see each character.
+    bool filtered() const { return box_.onKeyPress || box_.onKeyDown; }
+    bool changeable() const { return box_.usable() && !box_.locked(); }
+
+    ui::TextBox& box_;
+    HWND pick_ = nullptr;
+    DWORD style_ = 0;
+    Selection known_; ///< as the form knows it
+};
+
+} // namespace tellurix::windows

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "screens/native.h"
+
+#include <string>
+
+namespace tellurix::windows {
+
+/// How things look and how large they are: the font, colours and resolution of the system at the
+/// moment a window opens. All sizes are pixels of that resolution.
+class Theme {
+public:
+    Theme();
+
+    HFONT font() const { return font_; }
+    HFONT boldFont() const { return boldFont_; }
+    /// The background inside tab pages, which visual styles give a colour of its own.
+    HBRUSH pageBrush() const { return pageBrush_; }
+    COLORREF pageColour() const { return pageColour_; }
+    /// Text that warns. With high contrast it is the system's own colour.
+    COLORREF warningColour() const;
+
+    /// A length that is `pixels` at 96 dots an inch.
+    int scaled(int pixels) const { return MulDiv(pixels, dotsPerInch_, 96); }
+    int characterWidth() const { return characterWidth_; }
+    int textHeight() const { return textHeight_; }
+    /// Height of everything that is one line high: boxes, buttons, labels.
+    int lineHeight() const { return textHeight_ + scaled(8); }
+    int gap() const { return scaled(6); }
+    int margin() const { return scaled(10); }
+    /// Room that a caption needs; it is broken into lines of `wrapAt` pixels at most, 0 for never.
+    /// @param withMark whether "&" marks an access key in it
+    SIZE textSize(const std::string& text, bool withMark, int wrapAt = 0) const;
+
+private:
+    int dotsPerInch_;
+    GdiObject<HFONT> font_;
+    GdiObject<HFONT> boldFont_;
+    COLORREF pageColour_;
+    GdiObject<HBRUSH> pageBrush_;
+    int characterWidth_ = 0;
+    int textHeight_ = 0;
+};
+
+} // namespace tellurix::windows

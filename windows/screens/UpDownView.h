@@ -1,0 +1,24 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "ui/UpDown.h"
+
+namespace tellurix::windows {
+
+/// A pair of small buttons, up and down, that can have the focus.
+class UpDownView final : public ControlView {
+public:
+    UpDownView(ViewHost& host, ui::UpDown& upDown);
+
+    Room room() const override;
+    KeyUse useOf(const ui::KeyDown& key) const override;
+    void notified(UINT code, NMHDR* details) override;
+
+private:
+    void draw() override {}
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    ui::UpDown& upDown_;
+};
+
+} // namespace tellurix::windows

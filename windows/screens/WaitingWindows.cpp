@@ -1,0 +1,32 @@
+#include "screens/WaitingWindows.h"
+
+#include <utility>
+
+namespace tellurix::windows {
+
+WaitingWindows::WaitingWindows(HWND owner) {
+    std::vector<HWND> ofThread;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM found) -> BOOL {
+            reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&ofThread));
+    for (HWND window : ofThread)
+        if (IsWindowVisible(window)) disable(window);
+    // It may belong to another thread.
+    if (owner != nullptr) disable(owner);
+}
+
+void WaitingWindows::disable(HWND window) {
+    // Answers whether it was disabled before.
+    if (!EnableWindow(window, FALSE)) windows_.push_back(window);
+}
+
+void WaitingWindows::release() {
+    for (HWND window : std::exchange(windows_, {}))
+        if (IsWindow(window)) EnableWindow(window, TRUE);
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,104 @@
+#include "screens/Win32Display.h"
+
+#include "automation/wide.h"
+#include "screens/WindowFrame.h"
+#include "screens/file_dialog.h"
+
+#include <stdexcept>
+
+namespace tellurix::windows {
+
+Win32Display::Win32Display(HWND owner) : owner_(owner) {}
+
+Win32Display::~Win32Display() = default;
+
+void Win32Display::Errors::report(const std::exception& error) {
+    if (handling != nullptr) {
+        handling->report(error);
+    } else {
+        display.messageBox(error.what(), ui::box::ok | ui::box::critical, "Tellurix");
+    }
+}
+
+HWND Win32Display::topWindow() const {
+    if (!windows_.empty()) return windows_.back()->window();
+    return owner_ == nullptr ? nullptr : GetAncestor(owner_, GA_ROOT);
+}
+
+void Win32Display::showModal(ui::Form& form) {
+    struct Shown {
+        explicit Shown(Win32Display& on, ui::Form& form) : display(on) {
+            display.windows_.push_back(
+                std::make_unique<WindowFrame>(form, display.topWindow(), display.busy_));
+        }
+        ~Shown() { display.windows_.pop_back(); }
+        Shown(const Shown&) = delete;
+        Shown& operator=(const Shown&) = delete;
+        Win32Display& display;
+    };
+    const Shown shown{*this, form};
+    desktop_.runModal(form, [this] { return nextEvent(); });
+}
+
+ui::Event Win32Display::nextEvent() {
+    draw();
+    WindowFrame& top = *windows_.back();
+    struct Listening {
+        explicit Listening(WindowFrame& listener) : frame(listener) { frame.listen(true); }
+        ~Listening() { frame.listen(false); }
+        Listening(const Listening&) = delete;
+        Listening& operator=(const Listening&) = delete;
+        WindowFrame& frame;
+    };
+    while (!top.hasEvent()) {
+        // A native control may have taken the focus without anything having come of it.
+        if (GetCapture() == nullptr) top.placeFocus();
+        MSG message{};
+        {
+            const Listening listening{top};
+            if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+                PostQuitMessage(static_cast<int>(message.wParam));
+                throw MessageLoopEnded{};
+            }
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        top.throwFailure();
+    }
+    return top.takeEvent();
+}
+
+void Win32Display::draw() {
+    for (const auto& window : windows_)
+        window->draw();
+    if (!windows_.empty()) windows_.back()->placeFocus();
+}
+
+ui::Answer Win32Display::messageBox(const std::string& text, int flags, const std::string& title) {
+    draw();
+    const VisualStyles styles;
+    HWND owner = topWindow();
+    const UINT style = static_cast<UINT>(flags) | (owner == nullptr ? MB_TASKMODAL : 0U);
+    const int pressed = MessageBoxW(owner, widen(text).c_str(), widen(title).c_str(), style);
+    if (pressed == 0) throw std::runtime_error{"Windows could not show the message: " + text};
+    return static_cast<ui::Answer>(pressed);
+}
+
+std::optional<std::string> Win32Display::openFile(const std::string& title, const std::string& filter) {
+    draw();
+    return chooseFile(topWindow(), title, filter);
+}
+
+void Win32Display::setBusy(bool busy) {
+    busy_ += busy ? 1 : -1;
+    SetCursor(LoadCursorW(nullptr, busy_ > 0 ? IDC_WAIT : IDC_ARROW));
+    if (busy) refresh();
+}
+
+void Win32Display::refresh() {
+    draw();
+    for (const auto& window : windows_)
+        RedrawWindow(window->window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+} // namespace tellurix::windows

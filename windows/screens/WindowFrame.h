@@ -1,0 +1,89 @@
+#pragma once
+
+#include "screens/ControlView.h"
+#include "screens/Keyboard.h"
+#include "screens/Part.h"
+#include "screens/ToolTips.h"
+#include "screens/WaitingWindows.h"
+#include "ui/Form.h"
+
+#include <deque>
+#include <exception>
+#include <memory>
+#include <vector>
+
+namespace tellurix::windows {
+
+/// The window of one form: it owns the views of the controls, arranges them as the layout says, and
+/// gathers what the user does as events. All other windows of the thread wait while it is open.
+class WindowFrame final : private ViewHost {
+public:
+    /// Makes the window; the first drawing shows it.
+    /// @param owner the window it belongs to, null for none
+    /// @param busy whether the hourglass is shown, asked for each movement of the pointer
+    WindowFrame(ui::Form& form, HWND owner, const int& busy);
+    ~WindowFrame();
+    WindowFrame(const WindowFrame&) = delete;
+    WindowFrame& operator=(const WindowFrame&) = delete;
+
+    HWND window() const override { return window_; }
+    /// Shows what changed.
+    void draw();
+    /// Gives the native focus to the control that has the form's.
+    void placeFocus();
+
+    /// While it listens, what its windows report is what the user did. What they report at other times
+    /// was caused by the program.
+    void listen(bool listening) { listening_ = listening; }
+    bool hasEvent() const { return !events_.empty(); }
+    ui::Event takeEvent();
+    /// Throws what went wrong inside a window procedure.
+    void throwFailure();
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+
+    const Theme& theme() const override { return theme_; }
+    void happened(ui::Event event) override;
+    ControlView& viewOf(const ui::Control& control) override { return *views_[control.id()]; }
+    bool isFocused(const ControlView& view) const override;
+    bool keyboard(ControlView& view, UINT message, WPARAM wParam, LPARAM lParam) override;
+    void roomChanged() override { roomChanged_ = true; }
+    void setToolTip(HWND over, const std::string& text) override { toolTips_->set(over, text); }
+    void failed(std::exception_ptr error) override;
+
+    void makeWindow();
+    void makeViews();
+    void makeViews(const ui::Layout& layout, bool onPage);
+    void show();
+    void close();
+    /// Makes it as large as its content likes, in the middle of what it covers.
+    void fitToContent();
+    void growToContent();
+    void arrange();
+    void scroll(int bar, WORD request);
+    void scrollTo(int x, int y);
+    void reveal(const ControlView& view);
+    SIZE sizeAround(SIZE content) const;
+    SIZE wanted(int Extent::*which) const;
+    void wake();
+
+    ui::Form& form_;
+    HWND owner_;
+    const int& busy_;
+    Theme theme_;
+    WaitingWindows waiting_;
+    HWND window_ = nullptr;
+    std::unique_ptr<ToolTips> toolTips_;
+    std::vector<std::unique_ptr<ControlView>> views_; ///< by the controls' ids
+    std::unique_ptr<Part> content_;
+    Keyboard keyboard_;
+    std::deque<ui::Event> events_;
+    std::exception_ptr failure_;
+    POINT scrolled_{};
+    bool listening_ = false;
+    bool roomChanged_ = false;
+};
+
+} // namespace tellurix::windows
