@@ -1,0 +1,245 @@
+#include "windows/support/WindowsUser.h"
+
+#include "automation/wide.h"
+
+#include <array>
+#include <stdexcept>
+#include <string_view>
+#include <vector>
+
+namespace tellurix::tests {
+
+using windows::narrow;
+using windows::widen;
+
+namespace {
+
+/// A key that no screen knows. When the thread fetches it, all input before it has been dealt with.
+constexpr WORD markKey = VK_F24;
+constexpr DWORD patience = 20'000;
+constexpr wchar_t nameProperty[] = L"Tellurix.Name";
+
+/// Set when the mark has been fetched.
+HANDLE markFetched() {
+    static const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    return event;
+}
+
+LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam) {
+    auto* message = reinterpret_cast<MSG*>(lParam);
+    if (code == HC_ACTION && wParam == PM_REMOVE && message->wParam == markKey &&
+        (message->message == WM_KEYUP || message->message == WM_SYSKEYUP)) {
+        message->message = WM_NULL;
+        SetEvent(markFetched());
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+INPUT keyInput(WORD key, wchar_t unit, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = unit;
+    input.ki.dwFlags = flags;
+    return input;
+}
+
+void send(std::vector<INPUT> inputs) {
+    if (SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) != inputs.size())
+        throw std::runtime_error{"the keyboard is blocked"};
+}
+
+std::wstring classOf(HWND window) {
+    std::array<wchar_t, 64> name{};
+    return {name.data(), static_cast<std::size_t>(GetClassNameW(window, name.data(), name.size()))};
+}
+
+std::string windowText(HWND window) {
+    std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(
+        SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+    return narrow(text);
+}
+
+/// The first window of a thread that is so, the topmost first.
+HWND firstWindow(DWORD thread, bool (*wanted)(HWND)) {
+    struct Search {
+        bool (*wanted)(HWND);
+        HWND found;
+    } search{wanted, nullptr};
+    EnumThreadWindows(
+        thread,
+        [](HWND window, LPARAM argument) -> BOOL {
+            auto& wish = *reinterpret_cast<Search*>(argument);
+            if (IsWindowVisible(window) && wish.wanted(window)) wish.found = window;
+            return wish.found == nullptr;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+/// A caption as it is read: without the marks of access keys.
+std::string plain(const std::string& caption) {
+    std::string text;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && i + 1 < caption.size()) ++i;
+        text += caption[i];
+    }
+    return text;
+}
+
+} // namespace
+
+WindowsUser::WindowsUser(DWORD thread)
+    : thread_(thread), hook_(SetWindowsHookExW(WH_GETMESSAGE, watch, nullptr, thread)) {}
+
+WindowsUser::~WindowsUser() {
+    UnhookWindowsHookEx(hook_);
+}
+
+HWND WindowsUser::top() const {
+    return firstWindow(thread_,
+                       [](HWND window) { return IsWindowEnabled(window) && !nameOf(window).empty(); });
+}
+
+std::string WindowsUser::nameOf(HWND window) {
+    std::array<wchar_t, 256> name{};
+    const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, nameProperty)));
+    if (atom == 0) return {};
+    return narrow({name.data(), GlobalGetAtomNameW(atom, name.data(), name.size())});
+}
+
+std::string WindowsUser::focused() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(thread_, &info);
+    return info.hwndFocus == nullptr ? std::string{} : nameOf(info.hwndFocus);
+}
+
+HWND WindowsUser::control(const std::string& name) const {
+    struct Search {
+        const std::string& name;
+        HWND found;
+    } search{name, nullptr};
+    EnumChildWindows(
+        top(),
+        [](HWND window, LPARAM argument) -> BOOL {
+            auto& wish = *reinterpret_cast<Search*>(argument);
+            if (nameOf(window) == wish.name) wish.found = window;
+            return wish.found == nullptr;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    if (search.found == nullptr || !IsWindowVisible(search.found))
+        throw std::runtime_error{nameOf(top()) + " shows no " + name};
+    return search.found;
+}
+
+std::string WindowsUser::textOf(HWND control) {
+    const std::wstring kind = classOf(control);
+    if (kind == L"Button") return SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED ? "ja" : "nein";
+    if (kind == L"Static") return plain(windowText(control));
+    return windowText(control);
+}
+
+std::vector<std::string> WindowsUser::rowOf(HWND grid, int row) {
+    static const UINT cellText = RegisterWindowMessageW(L"Tellurix.CellText");
+    std::array<wchar_t, 256> text{};
+    std::vector<std::string> texts;
+    while (SendMessageW(grid, cellText, MAKEWPARAM(row, texts.size()),
+                        reinterpret_cast<LPARAM>(text.data())) != 0)
+        texts.push_back(narrow(text.data()));
+    return texts;
+}
+
+void WindowsUser::settle() const {
+    send({keyInput(markKey, 0, KEYEVENTF_KEYUP)});
+    if (WaitForSingleObject(markFetched(), patience) != WAIT_OBJECT_0)
+        throw std::runtime_error{"the program does not answer"};
+}
+
+void WindowsUser::key(const ui::KeyDown& key) {
+    // The codes of the screens' keys are those of Windows.
+    std::vector<WORD> keys;
+    if (key.ctrl) keys.push_back(VK_CONTROL);
+    if (key.shift) keys.push_back(VK_SHIFT);
+    if (key.alt) keys.push_back(VK_MENU);
+    keys.push_back(static_cast<WORD>(key.key));
+    std::vector<INPUT> inputs;
+    for (const WORD down : keys)
+        inputs.push_back(keyInput(down, 0, 0));
+    for (auto up = keys.rbegin(); up != keys.rend(); ++up)
+        inputs.push_back(keyInput(*up, 0, KEYEVENTF_KEYUP));
+    send(std::move(inputs));
+    settle();
+}
+
+void WindowsUser::type(const std::string& text) {
+    for (const wchar_t unit : widen(text)) {
+        send({keyInput(0, unit, KEYEVENTF_UNICODE), keyInput(0, unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP)});
+        settle();
+    }
+}
+
+void WindowsUser::post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!PostMessageW(window, message, wParam, lParam)) throw std::runtime_error{"the window is gone"};
+}
+
+void WindowsUser::press(HWND window, UINT message, POINT place) {
+    post(window, message, MK_LBUTTON, MAKELPARAM(place.x, place.y));
+    post(window, WM_LBUTTONUP, 0, MAKELPARAM(place.x, place.y));
+}
+
+void WindowsUser::click(HWND window, int part, int parts) {
+    RECT area{};
+    GetClientRect(window, &area);
+    press(window, WM_LBUTTONDOWN, {area.right / 2, area.bottom * part / parts});
+    settle();
+}
+
+void WindowsUser::clickRow(HWND grid, int row, bool twice) {
+    static const UINT cellPlace = RegisterWindowMessageW(L"Tellurix.CellPlace");
+    RECT cell{};
+    if (SendMessageW(grid, cellPlace, MAKEWPARAM(row, 0), reinterpret_cast<LPARAM>(&cell)) == 0)
+        throw std::runtime_error{"there is no such row"};
+    const POINT place{(cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2};
+    press(grid, WM_LBUTTONDOWN, place);
+    if (twice) press(grid, WM_LBUTTONDBLCLK, place);
+    settle();
+}
+
+void WindowsUser::close() {
+    post(top(), WM_CLOSE, 0, 0);
+    settle();
+}
+
+bool WindowsUser::choose(HWND list, const std::string& entry) {
+    const std::wstring wanted = widen(entry);
+    const LRESULT index = SendMessageW(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                       reinterpret_cast<LPARAM>(wanted.c_str()));
+    if (index < 0) return false;
+    SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    // What the list tells its window after the user has chosen.
+    post(GetParent(list), WM_COMMAND, static_cast<WPARAM>(MAKELONG(GetDlgCtrlID(list), CBN_SELCHANGE)),
+         reinterpret_cast<LPARAM>(list));
+    settle();
+    return true;
+}
+
+HWND WindowsUser::message() const {
+    return firstWindow(thread_, [](HWND window) { return classOf(window) == L"#32770"; });
+}
+
+std::string WindowsUser::messageText(HWND message) {
+    constexpr int textItem = 0xFFFF;
+    return windowText(GetDlgItem(message, textItem));
+}
+
+void WindowsUser::answer(HWND message, ui::Answer answer) {
+    HWND button = GetDlgItem(message, static_cast<int>(answer));
+    // Where there is only one button, it can be the one for Esc.
+    if (button == nullptr && answer == ui::Answer::ok) button = GetDlgItem(message, IDCANCEL);
+    if (button == nullptr) throw std::runtime_error{"the message has no such button"};
+    click(button);
+}
+
+} // namespace tellurix::tests
