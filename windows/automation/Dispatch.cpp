@@ -89,16 +89,29 @@ Variant Dispatch::invoke(const wchar_t* name, WORD kind, Arguments arguments) {
     return answer;
 }
 
+bool Dispatch::has(const wchar_t* name) {
+    DISPID number = DISPID_UNKNOWN;
+    return SUCCEEDED(ask(name, number));
+}
+
 DISPID Dispatch::numberOf(const wchar_t* name) {
-    if (!object_) throw AutomationError(E_POINTER, narrow(name) + ": there is no object");
+    DISPID number = DISPID_UNKNOWN;
+    check(ask(name, number), narrow(name));
+    return number;
+}
+
+HRESULT Dispatch::ask(const wchar_t* name, DISPID& number) {
+    if (!object_) return E_POINTER;
     const auto known = numbers_.find(std::wstring_view(name));
-    if (known != numbers_.end()) return known->second;
+    if (known != numbers_.end()) {
+        number = known->second;
+        return S_OK;
+    }
     std::wstring asked = name;
     LPOLESTR names = asked.data();
-    DISPID number = DISPID_UNKNOWN;
-    check(object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &number), narrow(name));
-    numbers_.emplace(std::move(asked), number);
-    return number;
+    const HRESULT result = object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &number);
+    if (SUCCEEDED(result)) numbers_.emplace(std::move(asked), number);
+    return result;
 }
 
 } // namespace tellurix::windows

@@ -31,6 +31,9 @@ public:
     /// Assigns an object as VBScript's Set does.
     void putReference(const wchar_t* name, const Dispatch& value);
 
+    /// Whether the object knows a member of that name.
+    bool has(const wchar_t* name);
+
     const ComPtr<IDispatch>& object() const { return object_; }
     explicit operator bool() const { return static_cast<bool>(object_); }
 
@@ -40,6 +43,7 @@ private:
 
     Variant invoke(const wchar_t* name, WORD kind, Arguments arguments);
     DISPID numberOf(const wchar_t* name);
+    HRESULT ask(const wchar_t* name, DISPID& number);
 
     ComPtr<IDispatch> object_;
     std::map<std::wstring, DISPID, std::less<>> numbers_;

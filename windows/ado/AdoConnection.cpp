@@ -1,0 +1,49 @@
+#include "ado/AdoConnection.h"
+
+#include "ado/AdoRecordset.h"
+#include "ado/constants.h"
+#include "ado/errors.h"
+
+#include <string>
+
+namespace tellurix::windows::ado {
+
+common::ExecuteResult AdoConnection::execute(std::string_view statement) {
+    return reported(connection_, statement, [&] {
+        common::ExecuteResult result;
+        Variant affected = -1;
+        Variant answer = connection_.call(
+            L"Execute", {Variant(statement), Variant::reference(affected), Variant(adCmdText)});
+        // A write that the server counts answers with a recordset of its own, which is closed.
+        for (;;) {
+            if (const std::int32_t count = affected.integer(); count >= 0) result.rowsAffected = count;
+            const ComPtr<IDispatch> object = answer.object();
+            if (!object) return result;
+            Dispatch recordset(object);
+            if ((recordset.get(L"State").integer() & adStateOpen) != 0) {
+                result.rows =
+                    std::make_unique<AdoRecordset>(std::move(recordset), connection_, std::string(statement));
+                return result;
+            }
+            affected = -1;
+            answer = recordset.call(L"NextRecordset", {Variant::reference(affected)});
+        }
+    });
+}
+
+std::unique_ptr<common::UpdatableRecordset> AdoConnection::openUpdatable(std::string_view query) {
+    return reported(connection_, query, [&] {
+        Dispatch recordset = newRecordset();
+        recordset.call(L"Open", {Variant(query), Variant(connection_.object()), Variant(adOpenKeyset),
+                                 Variant(adLockOptimistic), Variant(adCmdText)});
+        return std::make_unique<AdoRecordset>(std::move(recordset), connection_, std::string(query));
+    });
+}
+
+/// A connection that is not of ADO's own making has recordsets of its own and makes them itself.
+Dispatch AdoConnection::newRecordset() {
+    if (connection_.has(L"NewRecordset")) return Dispatch(connection_.call(L"NewRecordset"));
+    return Dispatch::create("ADODB.Recordset");
+}
+
+} // namespace tellurix::windows::ado

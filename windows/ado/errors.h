@@ -1,0 +1,27 @@
+#pragma once
+
+#include "automation/AutomationError.h"
+#include "automation/Dispatch.h"
+#include "common/database.h"
+
+#include <string_view>
+
+namespace tellurix::windows::ado {
+
+/// What the database port says about a failed call. What a server reported stands in the connection's
+/// Errors: all its texts, each on a line, and the number and SQLSTATE of the first. A failure of ADO
+/// itself never gets that far; its own text and number are taken.
+common::DatabaseError databaseError(const AutomationError& error, Dispatch& connection,
+                                    std::string_view statement);
+
+/// Runs `work` and turns a failed call of ADO into the error that the database port promises.
+template <typename Work>
+auto reported(Dispatch& connection, std::string_view statement, const Work& work) -> decltype(work()) {
+    try {
+        return work();
+    } catch (const AutomationError& error) {
+        throw databaseError(error, connection, statement);
+    }
+}
+
+} // namespace tellurix::windows::ado

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ado/standin/ServerErrors.h"
+#include "automation/DispatchObject.h"
+#include "common/Clock.h"
+#include "common/database.h"
+
+#include <memory>
+#include <string>
+
+namespace tellurix::windows::ado {
+
+/// ADODB.Connection over the embedded database.
+class ConnectionObject final : public DispatchObject {
+public:
+    explicit ConnectionObject(const common::Clock& clock) : clock_(clock) {}
+
+    /// The connection that an ActiveConnection holds: only one of ours will do, by its own private name.
+    /// @throws AutomationError when it is something else
+    static ComPtr<ConnectionObject> in(const Variant& value);
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** answer) override;
+
+    /// @throws AutomationError when it is closed
+    common::Connection& connection();
+
+    /// Runs something on the database. An error of it is kept for `Errors`, and thrown as
+    /// AutomationError.
+    template <typename Work>
+    auto onDatabase(const Work& work) -> decltype(work()) {
+        try {
+            return work();
+        } catch (const common::DatabaseError& error) {
+            raise(error);
+        }
+    }
+
+protected:
+    const DispatchTable& table() const override;
+    const char* source() const override { return sourceName; }
+
+private:
+    void open(const CallArguments& arguments);
+    void close(const CallArguments& arguments);
+    Variant execute(const CallArguments& arguments);
+    [[noreturn]] void raise(const common::DatabaseError& error);
+
+    const common::Clock& clock_;
+    std::string connectionString_;
+    std::unique_ptr<common::Connection> connection_;
+    std::shared_ptr<ServerErrors> errors_ = std::make_shared<ServerErrors>();
+};
+
+} // namespace tellurix::windows::ado

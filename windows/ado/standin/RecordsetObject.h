@@ -1,0 +1,59 @@
+#pragma once
+
+#include "ado/constants.h"
+#include "ado/standin/ConnectionObject.h"
+#include "automation/DispatchObject.h"
+#include "common/database.h"
+
+#include <map>
+#include <memory>
+#include <string>
+
+namespace tellurix::windows::ado {
+
+/// ADODB.Recordset over a connection's rows. Forward only; opened with a lock type other than read
+/// only, its rows can be edited and deleted.
+class RecordsetObject final : public DispatchObject {
+public:
+    /// What a statement answered with. As with ADO, a counted write in front of the query has a closed
+    /// recordset of its own, and the rows come with NextRecordset.
+    static ComPtr<IDispatch> answering(ComPtr<ConnectionObject> connection, const std::string& statement,
+                                       common::ExecuteResult result);
+
+    /// For the fields: the open rows, and the current row's values with what has been assigned to them.
+    common::Recordset& rows();
+    /// The field of a name, or of a number counted from zero.
+    std::size_t fieldIndex(const Variant& key);
+    common::Value value(std::size_t field);
+    void assign(std::size_t field, common::Value value);
+
+protected:
+    const DispatchTable& table() const override;
+    const char* source() const override { return sourceName; }
+
+private:
+    void open(const CallArguments& arguments);
+    void openRows();
+    void close(const CallArguments& arguments);
+    void moveNext(const CallArguments& arguments);
+    void update(const CallArguments& arguments);
+    void cancelUpdate(const CallArguments& arguments);
+    void remove(const CallArguments& arguments);
+    Variant nextRecordset(const CallArguments& arguments);
+    Variant fields(const CallArguments& arguments);
+    bool atEnd();
+    void requireRow();
+    common::UpdatableRecordset& editableRows();
+
+    ComPtr<ConnectionObject> connection_;
+    std::string statement_;
+    std::int32_t cursorType_ = adOpenForwardOnly;
+    std::int32_t lockType_ = adLockReadOnly;
+    std::unique_ptr<common::Recordset> rows_;
+    common::UpdatableRecordset* editable_ = nullptr; ///< the same rows, when they can be edited
+    std::unique_ptr<common::Recordset> next_;
+    bool hadRow_ = false; ///< whether there has been any row, for BOF
+    std::map<std::size_t, common::Value> assigned_;
+};
+
+} // namespace tellurix::windows::ado
