@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ado/AdoConnection.h"
+#include "host/ComContractOpener.h"
+#include "host/HostOptions.h"
+#include "screens/Win32Display.h"
+#include "services/WorkbenchServices.h"
+
+namespace tellurix::windows {
+
+/// One user's session of the host program: a connection through ADO, the start page on it in native
+/// windows, and the way to the module through COM. Belongs to the thread that made it, which has to
+/// be an apartment of its own.
+class HostSession {
+public:
+    /// Connects. @throws AutomationError when there is no such database, or a library is not registered
+    explicit HostSession(const HostOptions& options);
+    ~HostSession();
+    HostSession(const HostSession&) = delete;
+    HostSession& operator=(const HostSession&) = delete;
+
+    /// Shows the start page; returns when the user closed it.
+    void run();
+
+private:
+    Dispatch connection_;
+    ado::AdoConnection database_;
+    Win32Display display_;
+    const workbench::TextCatalogue catalogue_ = workbench::TextCatalogue::builtIn();
+    host::TlxVar session_;
+    workbench::WorkbenchServices services_;
+    Dispatch moduleService_; ///< of the companion library, which the module calls
+};
+
+} // namespace tellurix::windows
