@@ -1,0 +1,15 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace tellurix::windows {
+
+/// An error of a screen on its way to the host's library and back: in words, "statement" for a value
+/// that no statement can carry, the category of a database error, or empty for any other one.
+std::string errorKind(const std::exception& error);
+
+/// The error that such a word and its message stand for.
+std::exception_ptr errorOfKind(const std::string& kind, const std::string& message);
+
+} // namespace tellurix::windows
