@@ -1,0 +1,51 @@
+#pragma once
+
+#include "automation/CallArguments.h"
+#include "automation/Dispatch.h"
+#include "screens/Win32Display.h"
+#include "services/WorkbenchServices.h"
+#include "session/Session.h"
+
+namespace tellurix::windows {
+
+/// The workbench's services for one thread of the host, with a display of their own. The thread's
+/// service objects share it.
+class Workplace {
+public:
+    Workplace();
+    Workplace(const Workplace&) = delete;
+    Workplace& operator=(const Workplace&) = delete;
+
+    /// Told of every request of the module; Nothing for none.
+    Dispatch listener;
+
+    /// One call of a service, with the session of its caller. What it shows stands above the window
+    /// that the user works in.
+    class Call {
+    public:
+        /// @param record the session record among the arguments
+        Call(Workplace& workplace, const CallArguments& arguments, std::size_t record);
+        ~Call();
+        Call(const Call&) = delete;
+        Call& operator=(const Call&) = delete;
+
+        const host::TlxVar& session() const { return session_.values(); }
+        host::HostServices& services() { return workplace_.services_.host(); }
+        workbench::WorkbenchServices& workbench() { return workplace_.services_; }
+
+    private:
+        Workplace& workplace_;
+        Session session_;
+        host::TlxVar callers_; ///< of a call that this one interrupts
+    };
+
+private:
+    void notify(const workbench::Notification& notification);
+
+    Win32Display display_;
+    host::TlxVar session_;
+    workbench::TextCatalogue catalogue_ = workbench::TextCatalogue::builtIn();
+    workbench::WorkbenchServices services_{display_, session_, catalogue_};
+};
+
+} // namespace tellurix::windows
