@@ -1,0 +1,45 @@
+#pragma once
+
+#include "component/services/LateServices.h"
+#include "host/clsVertrag.h"
+#include "screens/Win32Display.h"
+#include "session/Session.h"
+
+namespace tellurix::windows {
+
+/// What one thread of the host has of the module: a display, the host's services and the module-wide
+/// values. The thread's COM objects share it, and it goes with the last of them, windows, services
+/// and kept screens included.
+class Apartment {
+public:
+    Apartment();
+    ~Apartment();
+    Apartment(const Apartment&) = delete;
+    Apartment& operator=(const Apartment&) = delete;
+
+    host::clsVertrag& module() { return module_; }
+
+    /// One operation of the host that shows a screen, with its session and the window that waits.
+    class Call {
+    public:
+        /// @throws AutomationError when the thread is in such an operation already
+        Call(Apartment& apartment, const ::TlxVar& record, HWND owner);
+        ~Call();
+        Call(const Call&) = delete;
+        Call& operator=(const Call&) = delete;
+
+        host::TlxVar& session() { return session_.values(); }
+
+    private:
+        Apartment& apartment_;
+        Session session_;
+    };
+
+private:
+    Win32Display display_;
+    LateServices services_{display_};
+    host::clsVertrag module_{services_.host()};
+    bool called_ = false;
+};
+
+} // namespace tellurix::windows

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "automation/Variant.h"
+#include "host/variant.h"
+
+namespace tellurix::windows {
+
+/// Values of the host's variant type, between COM and the module.
+
+/// @throws AutomationError for a kind of value that the module does not meet, such as an object
+host::Variant hostVariant(const VARIANT& value);
+
+Variant comVariant(const host::Variant& value);
+
+/// Puts the value into a variant of the caller; where that refers to a variable, into the variable, in
+/// its type.
+void writeTo(VARIANT& target, const host::Variant& value);
+
+} // namespace tellurix::windows

@@ -1,0 +1,20 @@
+#include "component/services/ErrorReport.h"
+
+#include "automation/AutomationError.h"
+#include "common/M_Common.h"
+#include "session/error_kind.h"
+
+namespace tellurix::windows {
+
+void ErrorReport::report(const std::exception& error) {
+    try {
+        if (session_ == nullptr) throw AutomationError(E_UNEXPECTED, "No session");
+        SessionRecord record(*session_);
+        object_.call(L"Show", {record.argument(), errorKind(error), error.what()});
+    } catch (const std::exception&) {
+        // What happened first is what the user has to know.
+        common::ShowMessage(display_, error.what(), ui::box::critical);
+    }
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "component/WindowsClock.h"
+#include "component/services/ErrorReport.h"
+#include "component/services/control_services.h"
+#include "component/services/data_services.h"
+#include "component/services/dialog_services.h"
+
+namespace tellurix::windows {
+
+/// All services of the host's library, for the screens of one thread.
+class LateServices {
+public:
+    /// @param display outlives the services
+    explicit LateServices(ui::Display& display);
+    LateServices(const LateServices&) = delete;
+    LateServices& operator=(const LateServices&) = delete;
+
+    host::HostServices& host() { return host_; }
+    ErrorReport& errors() { return errors_; }
+
+private:
+    WindowsClock clock_;
+    ErrorReport errors_;
+    LateDataAccess dataAccess_;
+    LateModuleService moduleService_;
+    LateLocalizer localizer_;
+    LatePersonalPicker personalPicker_;
+    LateListPicker listPicker_;
+    LateLookupValidation lookupValidation_;
+    LatePersonQuery personQuery_;
+    LateDateConverter dateConverter_;
+    LateSettings settings_;
+    LateGridLayoutStore gridLayouts_;
+    LateColumnUpdate columnUpdate_;
+    LateSelectionDialog selectionDialog_;
+    LateLookupGridDialog lookupGridDialog_;
+    LateTypeAhead typeAhead_;
+    LateSelectionTranslator selectionTranslator_;
+    host::HostServices host_;
+};
+
+} // namespace tellurix::windows
