@@ -97,6 +97,7 @@ void TextBoxView::drawPick() {
     if (!box_.onPick || pick_ != nullptr) return;
     pick_ = createPart(L"BUTTON", BS_PUSHBUTTON, 0, L"\u2026");
     SetWindowLongPtrW(pick_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowPos(pick_, handle(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void TextBoxView::enable(bool visible, bool enabled) {
