@@ -1,3 +1,5 @@
+#include "ado/standin/embedded_connection.h"
+#include "home/database_file.h"
 #include "loc/ServiceObject.h"
 #include "server/ServedClass.h"
 
@@ -12,6 +14,14 @@ namespace {
 template <typename Interface, const ServiceClass& (*served)()>
 ComPtr<IUnknown> service() {
     return ComPtr<IUnknown>::adopt(new ServiceObject(__uuidof(Interface), served()));
+}
+
+ComPtr<IUnknown> embeddedConnection() {
+    static const workbench::SystemClock clock;
+    const auto makeSample = [](const std::filesystem::path& file) {
+        workbench::createWhenMissing(file, workbench::DatabaseContents::sample, clock);
+    };
+    return ComPtr<IUnknown>(ado::createEmbeddedConnection(clock, makeSample).get());
 }
 
 } // namespace
@@ -34,6 +44,7 @@ std::span<const ServedClass> servedClasses() {
         ServedClass{__uuidof(TypeAhead), service<_TypeAhead, typeAhead>},
         ServedClass{__uuidof(SelectionTranslator), service<_SelectionTranslator, selectionTranslator>},
         ServedClass{__uuidof(HostErrorReport), service<_HostErrorReport, hostErrorReport>},
+        ServedClass{__uuidof(EmbeddedConnection), embeddedConnection},
     };
     return classes;
 }

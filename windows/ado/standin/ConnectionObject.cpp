@@ -30,8 +30,8 @@ std::filesystem::path fileNamedIn(std::string_view connectionString) {
 
 } // namespace
 
-ComPtr<IDispatch> createEmbeddedConnection(const common::Clock& clock) {
-    return ComPtr<IDispatch>::adopt(new ConnectionObject(clock));
+ComPtr<IDispatch> createEmbeddedConnection(const common::Clock& clock, PrepareFile prepare) {
+    return ComPtr<IDispatch>::adopt(new ConnectionObject(clock, std::move(prepare)));
 }
 
 const DispatchTable& ConnectionObject::table() const {
@@ -88,8 +88,9 @@ common::Connection& ConnectionObject::connection() {
 void ConnectionObject::open(const CallArguments& arguments) {
     if (connection_) fail(AdoError::alreadyOpen);
     if (arguments.has(0)) connectionString_ = arguments[0].text();
-    connection_ =
-        onDatabase([&] { return embedded::Database(fileNamedIn(connectionString_), clock_).connect(); });
+    const std::filesystem::path file = fileNamedIn(connectionString_);
+    if (prepare_) prepare_(file);
+    connection_ = onDatabase([&] { return embedded::Database(file, clock_).connect(); });
 }
 
 void ConnectionObject::close(const CallArguments&) {

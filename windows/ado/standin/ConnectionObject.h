@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/standin/ServerErrors.h"
+#include "ado/standin/embedded_connection.h"
 #include "automation/DispatchObject.h"
 #include "common/Clock.h"
 #include "common/database.h"
@@ -13,7 +14,8 @@ namespace tellurix::windows::ado {
 /// ADODB.Connection over the embedded database.
 class ConnectionObject final : public DispatchObject {
 public:
-    explicit ConnectionObject(const common::Clock& clock) : clock_(clock) {}
+    ConnectionObject(const common::Clock& clock, PrepareFile prepare)
+        : clock_(clock), prepare_(std::move(prepare)) {}
 
     /// The connection that an ActiveConnection holds: only one of ours will do, by its own private name.
     /// @throws AutomationError when it is something else
@@ -46,6 +48,7 @@ private:
     [[noreturn]] void raise(const common::DatabaseError& error);
 
     const common::Clock& clock_;
+    PrepareFile prepare_;
     std::string connectionString_;
     std::unique_ptr<common::Connection> connection_;
     std::shared_ptr<ServerErrors> errors_ = std::make_shared<ServerErrors>();
