@@ -26,7 +26,11 @@ protected:
     EmbeddedTest();
     ~EmbeddedTest() override;
 
-    std::unique_ptr<common::Connection> connect() const { return database().connect(); }
+    /// As the program of tests reaches the database: this folder's own directly, that of the ADO
+    /// adapter through it. Each says so in a file of its own.
+    std::unique_ptr<common::Connection> connect() const;
+    /// Whether errors tell where in the statement they are.
+    static const bool tellsPositions;
     Database database() const {
         return Database(file_, clock_, {.create = true, .patience = std::chrono::milliseconds{300}});
     }

@@ -4,7 +4,7 @@
 #include "automation/AutomationError.h"
 
 #include <cmath>
-#include <optional>
+#include <cstdint>
 
 namespace tellurix::windows::ado {
 
@@ -16,23 +16,30 @@ using std::chrono::milliseconds;
 constexpr common::DateTime firstDay = common::startOf(std::chrono::year{1899} / 12 / 30);
 constexpr double millisecondsOfDay = 86'400'000.0;
 
-std::optional<common::Decimal> fitting(const DECIMAL& number) {
-    if (number.Hi32 != 0 || number.Lo64 > static_cast<ULONGLONG>(common::Decimal::maxUnits) ||
-        number.scale > common::Decimal::maxScale)
-        return std::nullopt;
-    const auto units = static_cast<std::int64_t>(number.Lo64);
-    return common::Decimal((number.sign & DECIMAL_NEG) != 0 ? -units : units, number.scale);
+bool fits(const DECIMAL& number) {
+    return number.Hi32 == 0 && number.Lo64 <= static_cast<ULONGLONG>(common::Decimal::maxUnits) &&
+           number.scale <= common::Decimal::maxScale;
 }
 
-common::Decimal decimalFrom(const DECIMAL& number) {
-    if (const auto fits = fitting(number)) return *fits;
-    DECIMAL source = number;
-    for (int scale = number.scale - 1; scale >= 0; --scale) {
-        DECIMAL rounded{};
-        check(VarDecRound(&source, scale, &rounded), "Rounding a number");
-        if (const auto fits = fitting(rounded)) return *fits;
-    }
-    throw AutomationError(DISP_E_OVERFLOW, "The number has more than 18 digits before the point");
+/// Takes the last digit off the 96 bits, and tells it.
+std::uint64_t removeLastDigit(DECIMAL& number) {
+    const std::uint64_t middle = (std::uint64_t{number.Hi32 % 10} << 32) | number.Mid32;
+    const std::uint64_t low = (middle % 10 << 32) | number.Lo32;
+    number.Hi32 /= 10;
+    number.Mid32 = static_cast<ULONG>(middle / 10);
+    number.Lo32 = static_cast<ULONG>(low / 10);
+    --number.scale;
+    return low % 10;
+}
+
+/// Decimals that 18 digits have no room for are rounded off, half away from zero.
+common::Decimal decimalFrom(DECIMAL number) {
+    while (number.scale > 0 && !fits(number))
+        if (removeLastDigit(number) >= 5 && fits(number)) ++number.Lo64;
+    if (!fits(number))
+        throw AutomationError(DISP_E_OVERFLOW, "The number has more than 18 digits before the point");
+    const auto units = static_cast<std::int64_t>(number.Lo64);
+    return common::Decimal((number.sign & DECIMAL_NEG) != 0 ? -units : units, number.scale);
 }
 
 DECIMAL decimalOf(CY amount) {

@@ -1,0 +1,11 @@
+#include "EmbeddedTest.h"
+
+namespace tellurix::embedded {
+
+const bool EmbeddedTest::tellsPositions = true;
+
+std::unique_ptr<common::Connection> EmbeddedTest::connect() const {
+    return database().connect();
+}
+
+} // namespace tellurix::embedded

@@ -1,0 +1,18 @@
+#include "ado/AdoConnection.h"
+#include "ado/standin/embedded_connection.h"
+#include "automation/wide.h"
+#include "embedded/EmbeddedTest.h"
+
+namespace tellurix::embedded {
+
+const bool EmbeddedTest::tellsPositions = false;
+
+std::unique_ptr<common::Connection> EmbeddedTest::connect() const {
+    // The file has to be there.
+    database().connect();
+    windows::Dispatch connection(windows::ado::createEmbeddedConnection(clock()));
+    connection.call(L"Open", {windows::narrow(file().wstring())});
+    return std::make_unique<windows::ado::AdoConnection>(connection);
+}
+
+} // namespace tellurix::embedded
