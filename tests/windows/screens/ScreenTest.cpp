@@ -42,6 +42,7 @@ HostThread::Outcome HostThread::run(const Show& show, std::promise<void>& starte
     } catch (const windows::MessageLoopEnded&) {
         outcome.ended = true;
     }
+    closed_.set_value();
     outcome.ownerEnabled = IsWindowEnabled(owner_) != FALSE;
     outcome.ownerActive = GetActiveWindow() == owner_;
     // The host goes on with its own work until it is told to end.

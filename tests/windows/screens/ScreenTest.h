@@ -32,6 +32,8 @@ public:
     HWND owner() const { return owner_; }
     /// Ends the host's message loop, and with it the screens that are still open.
     void end() const;
+    /// Waits until no screen is open any more.
+    void waitUntilClosed() { closed_.get_future().wait(); }
     /// Ends the host and waits for it.
     Outcome join();
 
@@ -40,6 +42,7 @@ private:
 
     DWORD id_ = 0;
     HWND owner_ = nullptr;
+    std::promise<void> closed_;
     std::future<Outcome> outcome_;
     std::thread thread_;
 };

@@ -1,0 +1,189 @@
+// Windows as the host sees them: they go as they came, whatever ends them.
+
+#include "ui/GridEditor.h"
+#include "web/DemoForm.h"
+#include "windows/screens/ScreenTest.h"
+
+#include <gtest/gtest.h>
+
+namespace tellurix::tests {
+
+namespace {
+
+using ui::Key;
+
+/// Windows of a thread, and the GDI and USER objects of the process.
+struct Held {
+    int windows = 0;
+    DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+
+    Held() {
+        EnumThreadWindows(
+            GetCurrentThreadId(),
+            [](HWND, LPARAM count) -> BOOL {
+                ++*reinterpret_cast<int*>(count);
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&windows));
+    }
+    bool operator==(const Held&) const = default;
+};
+
+/// A table that is edited in place: its numbers take digits only, and "7" is not written.
+class EditedTable final : public ui::Form {
+public:
+    EditedTable() : Form("EditedTable", "Tabelle") {
+        grdTable.setColumns({{"Text", 12, false}, {"Zahl", 8, true}});
+        std::vector<ui::Grid::Row> rows;
+        for (int i = 0; i < 40; ++i)
+            rows.push_back({"Zeile", std::to_string(i)});
+        grdTable.setRows(std::move(rows));
+        grdTable.setCurrent(0, 1);
+        txtCell.onKeyPress = [](char32_t& character) {
+            if (character < U'0' || character > U'9') character = 0;
+        };
+        editor_.canEdit = [](int, int column) { return column == 1; };
+        editor_.write = [](int, int, const std::string& typed) {
+            if (typed == "7") throw std::runtime_error{"Sieben geht nicht."};
+            return typed + "!";
+        };
+        setLayout(ui::column({ui::Layout{grdTable}.growing(), btnNext}));
+    }
+
+private:
+    ui::Grid grdTable{*this, "grdTable", 6};
+    ui::TextBox txtCell{*this, "txtCell", 8};
+    ui::Button btnNext{*this, "btnNext", "&Weiter"};
+    ui::GridEditor editor_{grdTable, txtCell};
+};
+
+/// Closes itself as soon as it has been shown.
+class ShortForm final : public ui::Form {
+public:
+    explicit ShortForm(bool fails) : Form("ShortForm") {
+        txtOne.onFocus = [this, fails] {
+            if (fails) throw std::string{"no std::exception"};
+            unload();
+        };
+        setLayout(ui::column({txtOne}));
+    }
+
+private:
+    ui::TextBox txtOne{*this, "txtOne"};
+};
+
+} // namespace
+
+TEST(WindowsOfScreens, LeaveNothingBehind) {
+    Held before;
+    Held after;
+    HostThread host{[&](windows::Win32Display& display) {
+        const auto openAndClose = [&display] {
+            workbench::DemoForm form{display};
+            form.txtName.onFocus = [&] {
+                display.refresh();
+                PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
+            };
+            display.showModal(form);
+        };
+        // What Windows keeps for the next time is made by the first ones.
+        for (int i = 0; i < 3; ++i)
+            openAndClose();
+        before = Held{};
+        for (int i = 0; i < 200; ++i)
+            openAndClose();
+        after = Held{};
+    }};
+    host.waitUntilClosed();
+    EXPECT_FALSE(host.join().ended);
+    EXPECT_EQ(after.windows, before.windows);
+    EXPECT_EQ(after.gdi, before.gdi);
+    EXPECT_EQ(after.user, before.user);
+}
+
+TEST(WindowsOfScreens, FreeTheOwnerHoweverTheyEnd) {
+    const struct {
+        const char* how;
+        HostThread::Show show;
+    } cases[] = {
+        {"closed by the form",
+         [](windows::Win32Display& display) {
+             ShortForm form{false};
+             display.showModal(form);
+         }},
+        {"an exception that no event loop takes",
+         [](windows::Win32Display& display) {
+             ShortForm form{true};
+             EXPECT_THROW(display.showModal(form), std::string);
+         }},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.how);
+        HostThread host{row.show};
+        host.waitUntilClosed();
+        const HostThread::Outcome outcome = host.join();
+        EXPECT_TRUE(outcome.ownerEnabled);
+        EXPECT_TRUE(outcome.ownerActive);
+    }
+}
+
+TEST(WindowsOfScreens, EndWithTheHostsMessageLoop) {
+    HostThread host{[](windows::Win32Display& display) {
+        workbench::DemoForm form{display};
+        display.showModal(form);
+    }};
+    {
+        WindowsUser user{host.id()};
+        ASSERT_TRUE(isOpen(user, "DemoForm"));
+        user.type("offen"); // closing would ask
+        user.click(user.control("btnOpen"));
+        ASSERT_TRUE(isOpen(user, "DemoForm"));
+    }
+    const HostThread::Outcome outcome = host.join();
+    EXPECT_TRUE(outcome.ended);
+    EXPECT_TRUE(outcome.ownerEnabled);
+}
+
+TEST(EditingInPlace, TheBoxFloatsOverItsCell) {
+    HostThread host{[](windows::Win32Display& display) {
+        EditedTable form;
+        display.showModal(form);
+    }};
+    {
+        WindowsUser user{host.id()};
+        ASSERT_TRUE(isOpen(user, "EditedTable"));
+        const auto cell = [&](int row) { return WindowsUser::rowOf(user.control("grdTable"), row).at(1); };
+        const auto press = [&](Key key) { user.key({.key = key}); };
+        user.type("x"); // filtered out: the box stays away
+        EXPECT_EQ(user.focused(), "grdTable");
+        user.type("45");
+        EXPECT_EQ(user.focused(), "txtCell");
+        RECT box{};
+        RECT place{};
+        GetWindowRect(user.control("txtCell"), &box);
+        SendMessageW(user.control("grdTable"), RegisterWindowMessageW(L"Tellurix.CellPlace"),
+                     MAKEWPARAM(0, 1), reinterpret_cast<LPARAM>(&place));
+        MapWindowPoints(user.control("grdTable"), nullptr, reinterpret_cast<POINT*>(&place), 2);
+        EXPECT_TRUE(EqualRect(&box, &place));
+        press(Key::down);
+        EXPECT_EQ(cell(0), "45!");
+        EXPECT_EQ(user.focused(), "grdTable");
+        user.clickRow(user.control("grdTable"), 1, false);
+        press(Key::right);
+        user.type("7");
+        press(Key::enter);
+        ASSERT_TRUE(eventually([&] { return user.message() != nullptr; }));
+        user.answer(user.message(), ui::Answer::ok);
+        EXPECT_EQ(user.focused(), "txtCell");
+        EXPECT_EQ(cell(1), "1");
+        user.type("8");
+        press(Key::tab);
+        EXPECT_EQ(user.focused(), "btnNext");
+        EXPECT_EQ(cell(1), "78!");
+        user.close();
+    }
+    EXPECT_FALSE(host.join().ended);
+}
+
+} // namespace tellurix::tests
