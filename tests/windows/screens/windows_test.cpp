@@ -6,16 +6,29 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace tellurix::tests {
 
 namespace {
 
 using ui::Key;
 
-/// Windows of a thread, and the GDI and USER objects of the process.
+/// Windows counts the GDI objects of a process. Wine does not, but knows an object by its place in the
+/// table of all, which Windows does not.
+DWORD gdiObjects() {
+    constexpr std::uintptr_t places = 0x4000;
+    DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    for (std::uintptr_t place = 1; place < places; ++place)
+        count += GetObjectType(reinterpret_cast<HGDIOBJ>(place)) != 0 ? 1U : 0U;
+    return count;
+}
+
+/// Windows of a thread, and the GDI and USER objects of the process. An icon has bitmaps, which are GDI
+/// objects.
 struct Held {
     int windows = 0;
-    DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    DWORD gdi = gdiObjects();
     DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
 
     Held() {
@@ -97,6 +110,7 @@ TEST(WindowsOfScreens, LeaveNothingBehind) {
     }};
     host.waitUntilClosed();
     EXPECT_FALSE(host.join().ended);
+    EXPECT_GT(before.gdi, 0U);
     EXPECT_EQ(after.windows, before.windows);
     EXPECT_EQ(after.gdi, before.gdi);
     EXPECT_EQ(after.user, before.user);
