@@ -40,12 +40,16 @@ export class Grid extends View {
   draw(changes, before) {
     if (changes.columns) this.#drawColumns();
     if (changes.content) this.#takeRows();
-    for (const [index, texts] of changes.changedRows ?? []) this.#takeRow(index, texts);
-    this.element.style.setProperty('--rows', this.state.visibleRows);
+    if (changes.visibleRows !== before.visibleRows) this.element.style.setProperty('--rows', changes.visibleRows);
+    // The browser is asked for places before anything changes, or it would have to lay out twice. To take
+    // a box with the focus away is to ask as well.
     if (String(this.state.current) !== String(before.current)) this.#reveal();
-    this.#drawRows();
+    const wanted = this.#wanted();
+    if (!this.state.editor) this.#removeEditor();
+    this.#drawRows(wanted);
+    for (const [index, texts] of changes.changedRows ?? []) this.#takeRow(index, texts);
     this.#drawCurrent();
-    this.#drawEditor(this.state.editor);
+    if (this.state.editor) this.#drawEditor(this.state.editor);
   }
 
   shown() {
@@ -88,8 +92,7 @@ export class Grid extends View {
   }
 
   /** Puts the rows into the page that have to be there now, and takes the others away. */
-  #drawRows() {
-    const wanted = this.#wanted();
+  #drawRows(wanted = this.#wanted()) {
     this.#remove((index) => !wanted.includes(index));
     let next = this.#body.firstChild;
     for (const index of wanted) {
@@ -178,19 +181,20 @@ export class Grid extends View {
   }
 
   /** Puts the box that edits a cell into that cell; the rest of the page knows it as any text box. */
-  #drawEditor(edited) {
-    const box = edited ? this.window.views.get(edited.control) : null;
-    if (this.#editor && this.#editor !== box) {
-      this.#editor.element.remove();
-      this.#editor = null;
-    }
-    if (!box) return;
-    const cell = this.#cell(edited.row, edited.column);
+  #drawEditor({ control, row, column }) {
+    const box = this.window.views.get(control);
+    const cell = this.#cell(row, column);
     if (!cell || box.element.parentElement === cell) return;
+    this.#removeEditor();
     this.#editor = box;
     box.element.classList.add('cell-editor');
-    box.focusElement.setAttribute('aria-label', this.state.columns[edited.column].caption);
+    box.focusElement.setAttribute('aria-label', this.state.columns[column].caption);
     cell.append(box.element);
+  }
+
+  #removeEditor() {
+    this.#editor?.element.remove();
+    this.#editor = null;
   }
 
   /** The header is as high as every row; 0 while nothing can be seen. */
