@@ -31,12 +31,11 @@ public:
 
     /// Calls one of the functions for registering.
     template <typename... Arguments>
-    void call(const char* function, Arguments... arguments) const {
+    HRESULT call(const char* function, Arguments... arguments) const {
         using Function = HRESULT(STDAPICALLTYPE*)(Arguments...);
         const FARPROC address = GetProcAddress(handle_, function);
         if (address == nullptr) throw std::runtime_error{narrow(name_) + " hat kein " + function};
-        check(reinterpret_cast<Function>(reinterpret_cast<void*>(address))(arguments...),
-              narrow(name_) + " " + function);
+        return reinterpret_cast<Function>(reinterpret_cast<void*>(address))(arguments...);
     }
 
 private:
@@ -44,28 +43,30 @@ private:
     HMODULE handle_ = nullptr;
 };
 
-bool areFound() {
-    CLSID id{};
-    return SUCCEEDED(CLSIDFromProgID(L"Tellurix_Vertrag.clsVertrag", &id)) &&
-           SUCCEEDED(CLSIDFromProgID(L"Tellurix_Loc.HostModuleService", &id));
+/// Registers for the machine or takes that back. @return false when the user may not
+bool forMachine(const char* function) {
+    for (const wchar_t* name : libraries) {
+        const HRESULT result = Library{name}.call(function);
+        if (result == E_ACCESSDENIED || result == TYPE_E_REGISTRYACCESS) return false;
+        check(result, narrow(name) + " " + function);
+    }
+    return true;
+}
+
+void forUser(bool install) {
+    for (const wchar_t* name : libraries)
+        check(Library{name}.call("DllInstall", BOOL{install}, PCWSTR{L"user"}), narrow(name) + " DllInstall");
 }
 
 } // namespace
 
 void registerLibraries() {
-    for (const wchar_t* name : libraries)
-        Library{name}.call("DllInstall", BOOL{TRUE}, PCWSTR{L"user"});
-    if (areFound()) return;
-    for (const wchar_t* name : libraries)
-        Library{name}.call("DllRegisterServer");
+    if (!forMachine("DllRegisterServer")) forUser(true);
 }
 
 void unregisterLibraries() {
-    for (const wchar_t* name : libraries)
-        Library{name}.call("DllInstall", BOOL{FALSE}, PCWSTR{L"user"});
-    if (!areFound()) return;
-    for (const wchar_t* name : libraries)
-        Library{name}.call("DllUnregisterServer");
+    forUser(false);
+    forMachine("DllUnregisterServer");
 }
 
 } // namespace tellurix::windows

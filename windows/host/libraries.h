@@ -2,8 +2,8 @@
 
 namespace tellurix::windows {
 
-/// Registers the contract module and the host's companion library, which lie beside this program,
-/// for the user who runs it; where Windows does not look at a user's own classes, for the machine.
+/// Registers the contract module and the host's companion library, which lie beside this program, for
+/// the machine; for the user alone who runs it, when that user may not do so.
 /// @throws std::runtime_error when a library is missing or refuses
 void registerLibraries();
 /// Takes back what `registerLibraries` did, in either way.
