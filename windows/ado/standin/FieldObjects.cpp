@@ -62,11 +62,14 @@ protected:
         using Self = FieldsObject;
         static const DispatchTable table =
             DispatchTable()
-                .method<Self>(L"Item",
-                              [](Self& self, const CallArguments& arguments) -> Variant {
-                                  return fieldObject(self.recordset_,
-                                                     self.recordset_->fieldIndex(arguments[0]));
-                              })
+                .property<Self>(
+                    L"Item",
+                    [](Self& self, const CallArguments& arguments) -> Variant {
+                        return fieldObject(self.recordset_, self.recordset_->fieldIndex(arguments[0]));
+                    },
+                    [](Self& self, const CallArguments& arguments) {
+                        self.recordset_->assignField(arguments);
+                    })
                 .method<Self>(L"Count",
                               [](Self& self, const CallArguments&) -> Variant {
                                   return static_cast<std::int32_t>(self.recordset_->rows().fieldCount());

@@ -1,6 +1,7 @@
 #include "ado/standin/RecordsetObject.h"
 
 #include "ado/standin/FieldObjects.h"
+#include "ado/values.h"
 #include "automation/Dispatch.h"
 #include "common/text.h"
 
@@ -33,7 +34,7 @@ const DispatchTable& RecordsetObject::table() const {
             .method<Self>(L"CancelUpdate", &Self::cancelUpdate)
             .method<Self>(L"Delete", &Self::remove)
             .method<Self>(L"NextRecordset", &Self::nextRecordset)
-            .method<Self>(L"Fields", &Self::fields)
+            .property<Self>(L"Fields", &Self::fields, &Self::assignField)
             .method<Self>(L"EOF", [](Self& self, const CallArguments&) -> Variant { return self.atEnd(); })
             .method<Self>(
                 L"BOF",
@@ -76,6 +77,12 @@ common::UpdatableRecordset& RecordsetObject::editableRows() {
     requireRow();
     if (editable_ == nullptr) fail(AdoError::notSupported);
     return *editable_;
+}
+
+/// What scripts write as `rows("NAME") = value`.
+void RecordsetObject::assignField(const CallArguments& arguments) {
+    const std::size_t field = fieldIndex(arguments[0]);
+    assign(field, valueOf(arguments[1], rows().fieldType(field)));
 }
 
 bool RecordsetObject::atEnd() {

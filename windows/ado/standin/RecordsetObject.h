@@ -26,6 +26,8 @@ public:
     std::size_t fieldIndex(const Variant& key);
     common::Value value(std::size_t field);
     void assign(std::size_t field, common::Value value);
+    /// The same by a call with the field's name or number, and the value.
+    void assignField(const CallArguments& arguments);
 
 protected:
     const DispatchTable& table() const override;
