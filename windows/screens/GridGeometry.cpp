@@ -33,8 +33,9 @@ void GridGeometry::fit(int width, int height) {
     for (std::size_t i = 0; i < widths_.size(); ++i) {
         if (!visible(i)) continue;
         const bool text = !grid_.columns()[i].rightAligned;
-        if (missing > 0 && text) widths_[i] -= MulDiv(widths_[i] / 2, missing, flexible);
-        if (spare > 0) widths_[i] += MulDiv(widths_[i], spare, wanted);
+        // Rounded so that no column is pushed out by a pixel.
+        if (missing > 0 && text) widths_[i] -= (widths_[i] / 2 * missing + flexible - 1) / flexible;
+        if (spare > 0) widths_[i] += widths_[i] * spare / wanted;
     }
     scrollTo(firstRow_, left_);
 }

@@ -59,15 +59,16 @@ Room TextBoxView::room() const {
 }
 
 void TextBoxView::place(const RECT& rect) {
-    if (pick_ == nullptr || !box_.onPick) {
-        ControlView::place(rect);
-        return;
-    }
     RECT text = rect;
-    RECT pick = rect;
-    text.right = pick.left = rect.right - theme().lineHeight();
+    if (pick_ != nullptr && box_.onPick) {
+        RECT pick = rect;
+        text.right = pick.left = rect.right - theme().lineHeight();
+        move(pick_, pick);
+    }
+    if (EqualRect(&text, &this->rect())) return;
     ControlView::place(text);
-    move(pick_, pick);
+    // What can be seen of a text depends on the room for it.
+    if (selection() == known_ || !host().isFocused(*this)) showSelection();
 }
 
 void TextBoxView::draw() {
@@ -84,13 +85,19 @@ void TextBoxView::draw() {
     SendMessageW(handle(), EM_SETLIMITTEXT, static_cast<WPARAM>(box_.maxLength()), 0);
     SendMessageW(handle(), EM_SETREADONLY, box_.locked(), 0);
     showText(shownText(box_.text(), severalLines()));
-    known_ = {box_.selectionStart(), box_.selectionLength()};
-    const int start = shownUnits(box_.text(), known_.start, severalLines());
-    const int end = shownUnits(box_.text(), known_.start + known_.length, severalLines());
-    SendMessageW(handle(), EM_SETSEL, static_cast<WPARAM>(start), end);
-    SendMessageW(handle(), EM_SCROLLCARET, 0, 0);
+    showSelection();
     InvalidateRect(handle(), nullptr, FALSE);
     drawPick();
+}
+
+void TextBoxView::showSelection() {
+    known_ = {box_.selectionStart(), box_.selectionLength()};
+    // A box that nobody works in shows the beginning of its text.
+    const bool focused = host().isFocused(*this);
+    const int start = focused ? shownUnits(box_.text(), known_.start, severalLines()) : 0;
+    const int end = focused ? shownUnits(box_.text(), known_.start + known_.length, severalLines()) : 0;
+    SendMessageW(handle(), EM_SETSEL, static_cast<WPARAM>(start), end);
+    SendMessageW(handle(), EM_SCROLLCARET, 0, 0);
 }
 
 void TextBoxView::drawPick() {

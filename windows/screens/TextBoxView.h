@@ -31,6 +31,7 @@ private:
     DWORD wantedStyle() const;
     void draw() override;
     void drawPick();
+    void showSelection();
     void enable(bool visible, bool enabled) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void edited();
