@@ -16,8 +16,10 @@ bool anyPresent(const Parts& parts) {
 
 /// Length of the gaps between the parts that are shown.
 int gapsBetween(const Parts& parts, int gap) {
-    const auto shown = std::ranges::count_if(parts, [](const auto& part) { return part->present(); });
-    return shown > 1 ? gap * static_cast<int>(shown - 1) : 0;
+    int sum = -gap;
+    for (const auto& part : parts)
+        if (part->present()) sum += gap + part->leading();
+    return std::max(sum, 0);
 }
 
 /// Adds up the parts along one direction and takes the largest across.
@@ -95,6 +97,7 @@ void RowPart::place(const RECT& rect) {
         if (!part.present()) continue;
         const bool whole = part.grows() || part.fills();
         const int height = whole ? heightOf(rect) : std::min(part.room().height.preferred, heightOf(rect));
+        x += part.leading();
         part.place({x, rect.top, x + widths[i], rect.top + height});
         x += widths[i] + gap_;
     }

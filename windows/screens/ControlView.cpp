@@ -56,7 +56,7 @@ void ControlView::move(HWND window, const RECT& rect) {
     MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&now), 2);
     if (EqualRect(&now, &rect)) return;
     SetWindowPos(window, nullptr, rect.left, rect.top, widthOf(rect), heightOf(rect),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
 
 void ControlView::enable(HWND window, bool visible, bool enabled) {

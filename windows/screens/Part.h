@@ -24,9 +24,13 @@ public:
     virtual bool fills() const { return true; }
 
     void setGrowing(bool grows) { grows_ = grows; }
+    /// Space before it in a row, beside the usual gap.
+    void setLeading(int pixels) { leading_ = pixels; }
+    int leading() const { return leading_; }
 
 private:
     bool grows_ = false;
+    int leading_ = 0;
 };
 
 using Parts = std::vector<std::unique_ptr<Part>>;

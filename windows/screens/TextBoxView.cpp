@@ -96,8 +96,14 @@ void TextBoxView::showSelection() {
     const bool focused = host().isFocused(*this);
     const int start = focused ? shownUnits(box_.text(), known_.start, severalLines()) : 0;
     const int end = focused ? shownUnits(box_.text(), known_.start + known_.length, severalLines()) : 0;
+    const bool all = start == 0 && end == GetWindowTextLengthW(handle());
+    // The same goes for one whose whole text is selected, because somebody has just come to it.
+    if (all) {
+        SendMessageW(handle(), EM_SETSEL, 0, 0);
+        SendMessageW(handle(), EM_SCROLLCARET, 0, 0);
+    }
     SendMessageW(handle(), EM_SETSEL, static_cast<WPARAM>(start), end);
-    SendMessageW(handle(), EM_SCROLLCARET, 0, 0);
+    if (!all) SendMessageW(handle(), EM_SCROLLCARET, 0, 0);
 }
 
 void TextBoxView::drawPick() {

@@ -139,12 +139,13 @@ void WindowFrame::fitToContent() {
 }
 
 void WindowFrame::growToContent() {
+    if (IsZoomed(window_)) return;
     const RECT work = workAreaFor(window_);
-    const SIZE least = sizeAround(wanted(&Extent::minimum));
+    const SIZE size = sizeAround(wanted(sizedByUser_ ? &Extent::minimum : &Extent::preferred));
     RECT now{};
     GetWindowRect(window_, &now);
-    const LONG width = std::max<LONG>(widthOf(now), std::min<LONG>(least.cx, widthOf(work)));
-    const LONG height = std::max<LONG>(heightOf(now), std::min<LONG>(least.cy, heightOf(work)));
+    const LONG width = std::max<LONG>(widthOf(now), std::min<LONG>(size.cx, widthOf(work)));
+    const LONG height = std::max<LONG>(heightOf(now), std::min<LONG>(size.cy, heightOf(work)));
     if (width == widthOf(now) && height == heightOf(now)) return;
     SetWindowPos(window_, nullptr, inside(now.left, width, work.left, work.right),
                  inside(now.top, height, work.top, work.bottom), width, height,
@@ -176,12 +177,13 @@ void WindowFrame::arrange() {
     content_->place({margin - scrolled_.x, margin - scrolled_.y, width - margin - scrolled_.x,
                      height - margin - scrolled_.y});
     roomChanged_ = false;
+    // Moved controls leave their pictures behind where several lie above each other.
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void WindowFrame::scrollTo(int x, int y) {
     scrolled_ = {x, y};
     arrange();
-    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void WindowFrame::scroll(int bar, WORD request) {
@@ -308,6 +310,9 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SIZE:
         arrange();
         return 0;
+    case WM_SIZING:
+        sizedByUser_ = true;
+        break;
     case WM_GETMINMAXINFO:
         if (content_ != nullptr) {
             const RECT work = workAreaFor(window_);

@@ -60,6 +60,7 @@ private:
     void close();
     /// Makes it as large as its content likes, in the middle of what it covers.
     void fitToContent();
+    /// Grows with what it shows; a window that the user sized only as far as it has to.
     void growToContent();
     void arrange();
     void scroll(int bar, WORD request);
@@ -82,6 +83,7 @@ private:
     std::deque<ui::Event> events_;
     std::exception_ptr failure_;
     POINT scrolled_{};
+    bool sizedByUser_ = false;
     bool listening_ = false;
     bool roomChanged_ = false;
 };

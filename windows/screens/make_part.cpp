@@ -20,6 +20,14 @@ std::unique_ptr<Part> makeField(const Layout& layout, ViewHost& host) {
     return std::make_unique<RowPart>(std::move(parts), host.theme().gap());
 }
 
+std::unique_ptr<Part> makeRow(const Layout& layout, ViewHost& host) {
+    Parts parts = makeParts(layout.children, host);
+    // A label stands closer to its own box than to the box before it.
+    for (std::size_t i = 1; i < parts.size(); ++i)
+        if (layout.children[i].kind == Layout::Kind::field) parts[i]->setLeading(host.theme().gap());
+    return std::make_unique<RowPart>(std::move(parts), host.theme().gap());
+}
+
 std::unique_ptr<Part> makeFrame(const Layout& layout, ViewHost& host) {
     auto& view = static_cast<FrameView&>(host.viewOf(*layout.control));
     Parts content;
@@ -39,7 +47,7 @@ std::unique_ptr<Part> make(const Layout& layout, ViewHost& host) {
     case Layout::Kind::field:
         return makeField(layout, host);
     case Layout::Kind::row:
-        return std::make_unique<RowPart>(makeParts(layout.children, host), host.theme().gap());
+        return makeRow(layout, host);
     case Layout::Kind::fields:
         return makeFieldTable(layout, host);
     case Layout::Kind::frame:

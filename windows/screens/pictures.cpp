@@ -3,7 +3,6 @@
 #include "screens/native.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <map>
 #include <span>
 #include <vector>
@@ -57,40 +56,15 @@ const std::map<std::string_view, std::vector<Point>>& drawings() {
     return all;
 }
 
-constexpr int fineness = 4; ///< each pixel is made of so many lines of so many dots
-
-/// A bitmap of 32 bits a pixel, from the top, and its pixels.
-class PixelBitmap {
-public:
-    explicit PixelBitmap(int size) : size_(static_cast<std::size_t>(size)), bitmap_(make(size, pixels_)) {}
-    HBITMAP handle() const { return bitmap_; }
-    std::uint32_t& at(std::size_t x, std::size_t y) { return pixels_[y * size_ + x]; }
-
-private:
-    static HBITMAP make(int size, std::uint32_t*& pixels) {
-        BITMAPINFO wanted{};
-        wanted.bmiHeader.biSize = sizeof wanted.bmiHeader;
-        wanted.bmiHeader.biWidth = size;
-        wanted.bmiHeader.biHeight = -size;
-        wanted.bmiHeader.biPlanes = 1;
-        wanted.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        HBITMAP made = CreateDIBSection(nullptr, &wanted, DIB_RGB_COLORS, &bits, nullptr, 0);
-        pixels = static_cast<std::uint32_t*>(bits);
-        return made;
-    }
-
-    std::size_t size_;
-    std::uint32_t* pixels_ = nullptr;
-    GdiObject<HBITMAP> bitmap_;
-};
-
-/// Draws lines in white on black.
-void draw(HBITMAP bitmap, std::span<const Point> points, int size) {
+/// Draws the lines of a picture on a ground of one colour.
+void draw(HBITMAP bitmap, std::span<const Point> points, int size, COLORREF line, COLORREF ground) {
     HDC dc = CreateCompatibleDC(nullptr);
     {
         const Selected onto{dc, bitmap};
-        const GdiObject<HPEN> pen{CreatePen(PS_SOLID, std::max(1, size * 14 / 160), RGB(255, 255, 255))};
+        const GdiObject<HBRUSH> brush{CreateSolidBrush(ground)};
+        const RECT all{0, 0, size, size};
+        FillRect(dc, &all, brush);
+        const GdiObject<HPEN> pen{CreatePen(PS_SOLID, std::max(1, size * 15 / 160), line)};
         const Selected with{dc, HPEN{pen}};
         bool starts = true;
         for (const Point& point : points) {
@@ -103,9 +77,16 @@ void draw(HBITMAP bitmap, std::span<const Point> points, int size) {
             }
             starts = point.ends;
         }
-        GdiFlush();
     }
     DeleteDC(dc);
+}
+
+/// A bitmap with the colours of the screen.
+HBITMAP makeBitmap(int size) {
+    HDC screen = GetDC(nullptr);
+    HBITMAP made = CreateCompatibleBitmap(screen, size, size);
+    ReleaseDC(nullptr, screen);
+    return made;
 }
 
 } // namespace
@@ -113,26 +94,12 @@ void draw(HBITMAP bitmap, std::span<const Point> points, int size) {
 HICON makePicture(std::string_view name, int size, COLORREF colour) {
     const auto found = drawings().find(name);
     if (found == drawings().end()) return nullptr;
-    PixelBitmap fine{size * fineness};
-    draw(fine.handle(), found->second, size * fineness);
-
-    // How many of its dots are drawn is how much of a pixel is seen: smooth lines at any size.
-    PixelBitmap smooth{size};
-    const auto edge = static_cast<std::size_t>(size);
-    for (std::size_t y = 0; y < edge; ++y) {
-        for (std::size_t x = 0; x < edge; ++x) {
-            std::uint32_t dots = 0;
-            for (std::size_t dot = 0; dot < fineness * fineness; ++dot) {
-                dots += (fine.at(x * fineness + dot % fineness, y * fineness + dot / fineness) & 0xFF) != 0;
-            }
-            const std::uint32_t opaque = dots * 255 / (fineness * fineness);
-            smooth.at(x, y) = opaque << 24 | static_cast<std::uint32_t>(GetRValue(colour)) << 16 |
-                              static_cast<std::uint32_t>(GetGValue(colour)) << 8 | GetBValue(colour);
-        }
-    }
-    const std::vector<unsigned char> noMask(static_cast<std::size_t>((size + 15) / 16 * 2 * size), 0);
-    const GdiObject<HBITMAP> mask{CreateBitmap(size, size, 1, 1, noMask.data())};
-    ICONINFO icon{TRUE, 0, 0, mask, smooth.handle()};
+    // With a mask and not with transparent colours: Windows can grey only those out.
+    const GdiObject<HBITMAP> colours{makeBitmap(size)};
+    const GdiObject<HBITMAP> mask{CreateBitmap(size, size, 1, 1, nullptr)};
+    draw(colours, found->second, size, colour, RGB(0, 0, 0));
+    draw(mask, found->second, size, RGB(0, 0, 0), RGB(255, 255, 255));
+    ICONINFO icon{TRUE, 0, 0, mask, colours};
     return CreateIconIndirect(&icon);
 }
 
