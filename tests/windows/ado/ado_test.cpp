@@ -12,6 +12,8 @@
 
 #include <oledberr.h>
 
+#include <functional>
+
 namespace tellurix::windows::ado {
 namespace {
 
@@ -262,7 +264,9 @@ TEST_F(AdoObjects, TheAdapterWritesOnlyWhatIsMeantToBeWritten) {
     EXPECT_EQ(embedded::failureOf([&] { rows->update(); }).substr(0, 10), "conversion");
     rows->moveNext();
     rows->remove();
-    EXPECT_EQ(embedded::failureOf([&] { rows->field(0); }), "other: There is no current row");
+    for (const std::function<void()>& use : {std::function<void()>([&] { rows->field(0); }),
+                                             std::function<void()>([&] { rows->setField("Name", {}); })})
+        EXPECT_EQ(embedded::failureOf(use), "other: There is no current row");
     rows->moveNext();
     EXPECT_TRUE(rows->atEnd());
     EXPECT_EQ(embedded::answer(port, "SELECT * FROM T"), "1 | a\n2 | b");
