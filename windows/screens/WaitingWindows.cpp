@@ -4,15 +4,18 @@
 
 namespace tellurix::windows {
 
+namespace {
+
+BOOL CALLBACK collect(HWND window, LPARAM found) {
+    reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+    return TRUE;
+}
+
+} // namespace
+
 WaitingWindows::WaitingWindows(HWND owner) {
     std::vector<HWND> ofThread;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM found) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&ofThread));
+    EnumThreadWindows(GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&ofThread));
     for (HWND window : ofThread)
         if (IsWindowVisible(window)) disable(window);
     // It may belong to another thread.
