@@ -119,7 +119,7 @@ class Player {
 
   /** The cells of a row, which counts from 1. */
   #row(name, row) {
-    return this.#control(name).locator('.grid-row').nth(Number(row.text) - 1).locator('[role=gridcell]');
+    return this.#control(name).locator(`[aria-rowindex="${Number(row.text) + 1}"]`).locator('[role=gridcell]');
   }
 
   /** Goes to a box and selects its text. */
