@@ -6,6 +6,8 @@
 #include "server/ServedClass.h"
 #include "server/own_module.h"
 
+#include <shlwapi.h>
+
 #include <array>
 
 // Windows has them, the headers of the compiler do not.
@@ -105,6 +107,8 @@ void registerClass(HKEY root, const Library& library, const Registered& served) 
 
 void unregisterClass(HKEY root, const Registered& served) {
     removeKey(root, served.classKey);
+    // A user whose first class of his own this was had no such key before.
+    if (root == HKEY_CURRENT_USER) SHDeleteEmptyKeyW(root, L"Software\\Classes\\CLSID");
     // Both halves of the registry share the ProgID: the DLL of the other kind may still need it.
     if (!keyExists(root, served.classKey, otherHalf)) removeKey(root, served.progIdKey);
 }
@@ -138,7 +142,10 @@ void unregisterServer(RegistrationScope scope) {
         scope == RegistrationScope::machine ? UnRegisterTypeLib : UnRegisterTypeLibForUser;
     const TLIBATTR& id = *library.attributes;
     const HRESULT result = unregisterLibrary(id.guid, id.wMajorVerNum, id.wMinorVerNum, id.lcid, id.syskind);
-    if (result != TYPE_E_REGISTRYACCESS) check(result, "Unregistering the type library");
+    // So it is answered when there was nothing to take away. A registry that cannot be written has
+    // been told about by the classes' keys.
+    const bool notThere = result == TYPE_E_REGISTRYACCESS || result == E_INVALIDARG;
+    if (!notThere) check(result, "Unregistering the type library");
 }
 
 } // namespace tellurix::windows
