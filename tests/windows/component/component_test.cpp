@@ -1,0 +1,226 @@
+#include "automation/AutomationError.h"
+#include "automation/wide.h"
+#include "host/libraries.h"
+#include "windows/component/ComponentClient.h"
+#include "windows/support/WindowsUser.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <future>
+#include <thread>
+
+namespace tellurix::tests {
+namespace {
+
+using namespace std::chrono_literals;
+using windows::Variant;
+
+constexpr auto patience = 20s;
+
+struct Component : testing::Test {
+    static void SetUpTestSuite() { windows::registerLibraries(); }
+};
+
+struct Way {
+    const char* name;
+    Outcome (*call)(_clsVertrag&, RunCall&);
+};
+constexpr Way ways[] = {{"through the interface", callDirectly}, {"by name", callByName}};
+
+/// The contract editor that a thread shows, waited for as long as `meanwhile` allows; null for none.
+template <typename Still>
+HWND editorOf(DWORD thread, const Still& meanwhile) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (meanwhile() && std::chrono::steady_clock::now() < deadline) {
+        HWND editor = nullptr;
+        EnumThreadWindows(
+            thread,
+            [](HWND window, LPARAM found) -> BOOL {
+                if (!IsWindowVisible(window) || WindowsUser::nameOf(window) != "F_Vertrag") return TRUE;
+                *reinterpret_cast<HWND*>(found) = window;
+                return FALSE;
+            },
+            reinterpret_cast<LPARAM>(&editor));
+        if (editor != nullptr) return editor;
+        std::this_thread::sleep_for(5ms);
+    }
+    return nullptr;
+}
+
+/// Closes the editor of the calling thread as soon as it is there.
+class Closer {
+public:
+    Closer()
+        : thread_([this, opener = GetCurrentThreadId()] {
+              if (const HWND editor = editorOf(opener, [this] { return !over_; }))
+                  PostMessageW(editor, WM_CLOSE, 0, 0);
+          }) {}
+    ~Closer() {
+        over_ = true;
+        thread_.join();
+    }
+
+private:
+    std::atomic<bool> over_{false};
+    std::thread thread_;
+};
+
+TEST_F(Component, GivesBackWhatTheHostHandedOverAndTellsItWhatWasEdited) {
+    struct Case {
+        const char* rule;
+        const char* type;
+        Variant ok;
+        VARIANT_BOOL euroChange;
+        bool okAfter;
+        std::vector<std::string> notifications;
+    };
+    const Case cases[] = {
+        {"a supply contract", "R", Variant(true), VARIANT_FALSE, true, {"1VVM R"}},
+        {"a purchase contract", "A3", Variant(), VARIANT_TRUE, false, {"2VABR3 A3"}},
+        {"a code in small letters", "r", Variant("False"), 7, false, {}},
+        {"a number for a Boolean", "A1", Variant(5), VARIANT_FALSE, true, {"2VABR1 A1"}},
+    };
+    ComponentClient host;
+    for (const Way& way : ways)
+        for (const Case& c : cases) {
+            SCOPED_TRACE(std::string(c.rule) + " " + way.name);
+            host.notifications.clear();
+            RunCall call{.type = c.type, .ok = c.ok, .euroChange = c.euroChange, .record = &host.record()};
+            const Closer closer;
+            const Outcome outcome = way.call(*host.createModule(), call);
+            EXPECT_EQ(outcome.code, S_OK) << outcome.description;
+            EXPECT_EQ(call.ok.vt, VT_BOOL);
+            EXPECT_EQ(call.ok.flag(), c.okAfter);
+            EXPECT_EQ(call.euroChange, c.euroChange);
+            EXPECT_EQ(host.notifications, c.notifications);
+        }
+}
+
+TEST_F(Component, TellsTheHostWhatWentWrong) {
+    ComponentClient host;
+    ::TlxVar unconnected = host.record();
+    unconnected.Connection = nullptr;
+    struct Case {
+        const char* rule;
+        RunCall call;
+        const char* description;
+    };
+    const Case cases[] = {
+        {"no record", {.record = nullptr}, "TlxVar"},
+        {"no connection", {.record = &unconnected}, "connection"},
+        {"no such contract", {.id = 4711, .record = &host.record()}, "row"},
+        {"neither true nor false", {.ok = Variant("vielleicht"), .record = &host.record()}, "vielleicht"},
+    };
+    for (const Way& way : ways)
+        for (const Case& c : cases) {
+            SCOPED_TRACE(std::string(c.rule) + " " + way.name);
+            RunCall call = c.call;
+            const Outcome outcome = way.call(*host.createModule(), call);
+            EXPECT_TRUE(FAILED(outcome.code));
+            EXPECT_EQ(outcome.source, "Tellurix_Vertrag.clsVertrag");
+            EXPECT_NE(outcome.description.find(c.description), std::string::npos) << outcome.description;
+        }
+    host.connection().call(L"Close");
+    RunCall call{.record = &host.record()};
+    EXPECT_TRUE(FAILED(callDirectly(*host.createModule(), call).code)) << "a closed connection";
+    EXPECT_TRUE(FAILED(host.createModule()->F_Bereitstellung_WVO_Run(&host.record(), 1)));
+    EXPECT_TRUE(host.createModule().as<ISupportErrorInfo>());
+}
+
+TEST_F(Component, GivesEachThreadValuesAndWindowsOfItsOwn) {
+    struct Apartment {
+        std::string type;
+        std::vector<std::string> notifications{};
+        std::promise<DWORD> thread{};
+        std::future<HRESULT> ended{};
+    };
+    std::array<Apartment, 2> apartments{Apartment{.type = "R"}, Apartment{.type = "A3"}};
+    std::array<HWND, 2> editors{};
+    for (std::size_t i = 0; i < 2; ++i) {
+        Apartment& apartment = apartments[i];
+        apartment.ended = std::async(std::launch::async, [&apartment] {
+            ComponentClient host;
+            RunCall call{.type = apartment.type, .record = &host.record()};
+            apartment.thread.set_value(GetCurrentThreadId());
+            const Outcome outcome = callDirectly(*host.createModule(), call);
+            apartment.notifications = host.notifications;
+            return outcome.code;
+        });
+        editors[i] = editorOf(apartment.thread.get_future().get(),
+                              [&] { return apartment.ended.wait_for(0s) == std::future_status::timeout; });
+        ASSERT_NE(editors[i], nullptr);
+    }
+    PostMessageW(editors[0], WM_CLOSE, 0, 0);
+    EXPECT_EQ(apartments[0].ended.get(), S_OK);
+    EXPECT_TRUE(IsWindow(editors[1]) && IsWindowEnabled(editors[1])) << "the other contract stays open";
+    PostMessageW(editors[1], WM_CLOSE, 0, 0);
+    EXPECT_EQ(apartments[1].ended.get(), S_OK);
+    EXPECT_EQ(apartments[0].notifications, std::vector<std::string>{"1VVM R"});
+    EXPECT_EQ(apartments[1].notifications, std::vector<std::string>{"2VABR3 A3"});
+}
+
+TEST_F(Component, TakesNoSecondContractOnAThreadThatShowsOne) {
+    ComponentClient host;
+    const auto module = host.createModule();
+    Outcome second;
+    // As a host's own timer would do it, which goes on while the editor is open.
+    static ComponentClient* inside = nullptr;
+    static Outcome* told = nullptr;
+    inside = &host;
+    told = &second;
+    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        RunCall call{.record = &inside->record()};
+        *told = callDirectly(*inside->createModule(), call);
+        const HWND editor = editorOf(GetCurrentThreadId(), [] { return true; });
+        PostMessageW(editor, WM_CLOSE, 0, 0);
+    });
+    RunCall call{.record = &host.record()};
+    EXPECT_EQ(callDirectly(*module, call).code, S_OK);
+    EXPECT_EQ(second.code, HRESULT_FROM_WIN32(ERROR_BUSY)) << second.description;
+}
+
+/// What a script writes to its console.
+std::string outputOf(const std::string& script) {
+    std::string command = "cscript //nologo Z:";
+    command.append(TELLURIX_TEST_FOLDER).append("/").append(script);
+    FILE* const console = _popen(command.c_str(), "r");
+    std::string output;
+    for (int c = std::fgetc(console); c != EOF; c = std::fgetc(console))
+        output += static_cast<char>(c);
+    _pclose(console);
+    return output;
+}
+
+TEST_F(Component, IsUsedByAScript) {
+    EXPECT_EQ(outputOf("client.vbs"), "Everything is as it should be.\n");
+}
+
+TEST_F(Component, ShowsTheScreensWithTheServicesOfTheHostsLibrary) {
+    ComponentClient host;
+    const windows::Bstr english("en");
+    host.record().Language = english.get();
+    RunCall call{.record = &host.record()};
+    const DWORD thread = GetCurrentThreadId();
+    auto script = std::async(std::launch::async, [&] {
+        const HWND editor = editorOf(thread, [] { return true; });
+        std::array<wchar_t, 40> caption{};
+        WindowsUser user(thread);
+        GetWindowTextW(user.control("btnZusatz"), caption.data(), static_cast<int>(caption.size()));
+        EXPECT_EQ(windows::narrow(caption.data()), "E&xtra texts");
+        user.click(user.control("PreisButton"));
+        user.click(user.control("cmdBearbeiten"));
+        user.click(user.control("txtHa"));
+        user.type("k");
+        EXPECT_EQ(WindowsUser::textOf(user.control("txtHa")), "KI") << "completed";
+        user.click(user.control("cmdAbbrechen"));
+        user.close();
+        PostMessageW(editor, WM_CLOSE, 0, 0);
+    });
+    callDirectly(*host.createModule(), call);
+    script.get();
+}
+
+} // namespace
+} // namespace tellurix::tests
