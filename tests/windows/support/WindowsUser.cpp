@@ -3,8 +3,8 @@
 #include "automation/wide.h"
 
 #include <array>
+#include <functional>
 #include <stdexcept>
-#include <string_view>
 #include <vector>
 
 namespace tellurix::tests {
@@ -61,20 +61,22 @@ std::string windowText(HWND window) {
     return narrow(text);
 }
 
+/// A search among windows. Callbacks of Windows have a calling convention that lambdas have not.
+struct Search {
+    std::function<bool(HWND)> wanted;
+    HWND found = nullptr;
+};
+
+BOOL CALLBACK lookAt(HWND window, LPARAM search) {
+    auto& wish = *reinterpret_cast<Search*>(search);
+    if (IsWindowVisible(window) && wish.wanted(window)) wish.found = window;
+    return wish.found == nullptr;
+}
+
 /// The first window of a thread that is so, the topmost first.
-HWND firstWindow(DWORD thread, bool (*wanted)(HWND)) {
-    struct Search {
-        bool (*wanted)(HWND);
-        HWND found;
-    } search{wanted, nullptr};
-    EnumThreadWindows(
-        thread,
-        [](HWND window, LPARAM argument) -> BOOL {
-            auto& wish = *reinterpret_cast<Search*>(argument);
-            if (IsWindowVisible(window) && wish.wanted(window)) wish.found = window;
-            return wish.found == nullptr;
-        },
-        reinterpret_cast<LPARAM>(&search));
+HWND firstWindow(DWORD thread, std::function<bool(HWND)> wanted) {
+    Search search{std::move(wanted)};
+    EnumThreadWindows(thread, lookAt, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
@@ -117,20 +119,9 @@ std::string WindowsUser::focused() const {
 }
 
 HWND WindowsUser::control(const std::string& name) const {
-    struct Search {
-        const std::string& name;
-        HWND found;
-    } search{name, nullptr};
-    EnumChildWindows(
-        top(),
-        [](HWND window, LPARAM argument) -> BOOL {
-            auto& wish = *reinterpret_cast<Search*>(argument);
-            if (nameOf(window) == wish.name) wish.found = window;
-            return wish.found == nullptr;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    if (search.found == nullptr || !IsWindowVisible(search.found))
-        throw std::runtime_error{nameOf(top()) + " shows no " + name};
+    Search search{[&name](HWND window) { return nameOf(window) == name; }};
+    EnumChildWindows(top(), lookAt, reinterpret_cast<LPARAM>(&search));
+    if (search.found == nullptr) throw std::runtime_error{nameOf(top()) + " shows no " + name};
     return search.found;
 }
 
