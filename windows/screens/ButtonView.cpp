@@ -14,7 +14,7 @@ ButtonView::~ButtonView() {
     if (icon_ != nullptr) DestroyIcon(icon_);
 }
 
-Room ButtonView::room() const {
+Room ButtonView::measure() const {
     const int width = icon_ != nullptr ? theme().lineHeight() + theme().scaled(4)
                                        : theme().textSize(button_.caption(), true).cx + theme().scaled(22);
     return {Extent::fixed(width), Extent::fixed(theme().lineHeight())};

@@ -13,7 +13,7 @@ public:
     ButtonView(ViewHost& host, ui::Button& button);
     ~ButtonView() override;
 
-    Room room() const override;
+    Room measure() const override;
     KeyUse useOf(const ui::KeyDown& key) const override;
     void notified(UINT code, NMHDR* details) override;
 

@@ -9,7 +9,7 @@ CheckBoxView::CheckBoxView(ViewHost& host, ui::CheckBox& check) : ControlView(ho
     create(L"BUTTON", WS_TABSTOP | BS_CHECKBOX);
 }
 
-Room CheckBoxView::room() const {
+Room CheckBoxView::measure() const {
     const int caption = theme().textSize(check_.caption(), true).cx;
     return {Extent::fixed(caption + theme().scaled(24)), Extent::fixed(theme().lineHeight())};
 }

@@ -10,7 +10,7 @@ class CheckBoxView final : public ControlView {
 public:
     CheckBoxView(ViewHost& host, ui::CheckBox& check);
 
-    Room room() const override;
+    Room measure() const override;
     KeyUse useOf(const ui::KeyDown& key) const override;
     void notified(UINT code, NMHDR* details) override;
 

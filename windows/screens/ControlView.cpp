@@ -46,15 +46,12 @@ void ControlView::destroy() {
 }
 
 void ControlView::place(const RECT& rect) {
+    if (isAt(rect)) return;
     rect_ = rect;
     move(handle_, rect);
 }
 
 void ControlView::move(HWND window, const RECT& rect) {
-    RECT now{};
-    GetWindowRect(window, &now);
-    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&now), 2);
-    if (EqualRect(&now, &rect)) return;
     SetWindowPos(window, nullptr, rect.left, rect.top, widthOf(rect), heightOf(rect),
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
@@ -75,14 +72,13 @@ void ControlView::update() {
         host_.setToolTip(handle_, control_.toolTip());
         control_.drawn();
         stale_ = new_ = false;
+        const Room now = measure();
+        if (now != room_ || control_.visible() != shown_) host_.roomChanged();
+        room_ = now;
+        shown_ = control_.visible();
     }
     // What is around a control decides too, and that does not make it dirty.
     enable(control_.showing(), control_.usable());
-    const Room now = room();
-    if (now == lastRoom_ && control_.visible() == lastVisible_) return;
-    lastRoom_ = now;
-    lastVisible_ = control_.visible();
-    host_.roomChanged();
 }
 
 void ControlView::showText(const std::wstring& text) {

@@ -76,7 +76,8 @@ public:
     ui::Control& control() const { return control_; }
     HWND handle() const { return handle_; }
 
-    virtual Room room() const = 0;
+    /// The room that it needs, as of its last drawing.
+    const Room& room() const { return room_; }
     /// Puts it somewhere; in coordinates of the window's client area.
     virtual void place(const RECT& rect);
     const RECT& rect() const { return rect_; }
@@ -110,6 +111,7 @@ protected:
     void destroy();
     /// Makes a native window that belongs to this view beside the main one.
     HWND createPart(const wchar_t* windowClass, DWORD style, DWORD extendedStyle, const std::wstring& text);
+    virtual Room measure() const = 0;
     /// Shows what is particular to this kind of control.
     virtual void draw() = 0;
     /// Nothing has been drawn so far: everything has to be, not only what changed in the form.
@@ -129,6 +131,7 @@ protected:
     /// Sets the native window's text if it is another one.
     void showText(const std::wstring& text);
     static void move(HWND window, const RECT& rect);
+    bool isAt(const RECT& rect) const { return EqualRect(&rect, &rect_) != FALSE; }
     /// For controls whose native window is larger than what is seen of it.
     void rememberPlace(const RECT& rect) { rect_ = rect; }
 
@@ -144,8 +147,8 @@ private:
     HWND handle_ = nullptr;
     WNDPROC nativeProcedure_ = nullptr;
     RECT rect_{};
-    Room lastRoom_;
-    bool lastVisible_ = false;
+    Room room_;
+    bool shown_ = false; ///< of the control alone, whatever is around it
     bool onPage_ = false;
     bool new_ = true;
     bool stale_ = false;

@@ -10,7 +10,7 @@ FrameView::FrameView(ViewHost& host, ui::Frame& frame) : ControlView(host, frame
     create(L"BUTTON", BS_GROUPBOX);
 }
 
-Room FrameView::room() const {
+Room FrameView::measure() const {
     const int caption = frame_.caption().empty() ? 0 : theme().textSize(frame_.caption(), true).cx;
     const RECT space = padding();
     return {Extent::fixed(caption + space.left + space.right), Extent::fixed(space.top + space.bottom)};

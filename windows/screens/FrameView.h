@@ -12,7 +12,7 @@ public:
     FrameView(ViewHost& host, ui::Frame& frame);
 
     /// What the border takes at least; its content is the arrangement's.
-    Room room() const override;
+    Room measure() const override;
     /// The space between the border and the content.
     RECT padding() const;
 

@@ -33,7 +33,7 @@ GridView::GridView(ViewHost& host, ui::Grid& grid)
     create(gridClass(), WS_TABSTOP | WS_VSCROLL | WS_HSCROLL, WS_EX_CLIENTEDGE);
 }
 
-Room GridView::room() const {
+Room GridView::measure() const {
     const int frame = theme().scaled(4);
     const int width = geometry_.preferredWidth() + GetSystemMetrics(SM_CXVSCROLL) + frame;
     const int height = (grid_.visibleRows() + 1) * geometry_.rowHeight() + frame;
@@ -42,6 +42,7 @@ Room GridView::room() const {
 }
 
 void GridView::place(const RECT& rect) {
+    if (isAt(rect)) return;
     ControlView::place(rect);
     fit();
     if (geometry_.reveal(grid_.currentRow(), grid_.currentColumn())) showScrollBars();

@@ -23,7 +23,7 @@ class GridView final : public ControlView {
 public:
     GridView(ViewHost& host, ui::Grid& grid);
 
-    Room room() const override;
+    Room measure() const override;
     void place(const RECT& rect) override;
     KeyUse useOf(const ui::KeyDown& key) const override;
     KeyUse useOfCharacter(wchar_t unit) const override;

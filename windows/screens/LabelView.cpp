@@ -10,7 +10,7 @@ LabelView::LabelView(ViewHost& host, ui::Label& label) : ControlView(host, label
     create(L"STATIC", SS_LEFT);
 }
 
-Room LabelView::room() const {
+Room LabelView::measure() const {
     const SIZE size = theme().textSize(label_.caption(), true, wrapAt());
     const int height = std::max(static_cast<int>(size.cy), theme().lineHeight());
     return {Extent::fixed(size.cx + theme().scaled(2)), Extent::fixed(height)};

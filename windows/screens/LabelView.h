@@ -10,7 +10,7 @@ class LabelView final : public ControlView {
 public:
     LabelView(ViewHost& host, ui::Label& label);
 
-    Room room() const override;
+    Room measure() const override;
 
 private:
     void draw() override;

@@ -64,14 +64,14 @@ ComboBoxView::ComboBoxView(ViewHost& host, ui::ItemList& list)
     SendMessageW(handle(), CB_SETITEMHEIGHT, ~WPARAM{0}, theme().lineHeight() - borders_);
 }
 
-Room ComboBoxView::room() const {
+Room ComboBoxView::measure() const {
     const int width = list().width() * theme().characterWidth() + theme().scaled(30);
     const int small = std::min(width, 8 * theme().characterWidth() + theme().scaled(30));
     return {{small, width}, Extent::fixed(theme().lineHeight())};
 }
 
 void ComboBoxView::place(const RECT& rect) {
-    if (EqualRect(&rect, &this->rect())) return;
+    if (isAt(rect)) return;
     // The height that a combo box is given is that with its list open.
     RECT open = rect;
     open.bottom += openRows * (theme().textHeight() + theme().scaled(2));
@@ -115,7 +115,7 @@ ListBoxView::ListBoxView(ViewHost& host, ui::ItemList& list)
     SendMessageW(handle(), LB_SETITEMHEIGHT, 0, theme().textHeight() + theme().scaled(2));
 }
 
-Room ListBoxView::room() const {
+Room ListBoxView::measure() const {
     const int width = list().width() * theme().characterWidth() + theme().scaled(30);
     const int row = theme().textHeight() + theme().scaled(2);
     const int rows = static_cast<const ui::ListBox&>(list()).rows();

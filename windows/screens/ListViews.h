@@ -33,7 +33,7 @@ class ComboBoxView final : public ItemView {
 public:
     ComboBoxView(ViewHost& host, ui::ItemList& list);
 
-    Room room() const override;
+    Room measure() const override;
     void place(const RECT& rect) override;
     bool hasOpenList() const override;
     void notified(UINT code, NMHDR* details) override;
@@ -48,7 +48,7 @@ class ListBoxView final : public ItemView {
 public:
     ListBoxView(ViewHost& host, ui::ItemList& list);
 
-    Room room() const override;
+    Room measure() const override;
     void notified(UINT code, NMHDR* details) override;
 };
 

@@ -7,7 +7,7 @@ ProgressBarView::ProgressBarView(ViewHost& host, ui::ProgressBar& progress)
     create(PROGRESS_CLASSW, 0);
 }
 
-Room ProgressBarView::room() const {
+Room ProgressBarView::measure() const {
     return {{theme().scaled(80), theme().scaled(200)}, Extent::fixed(theme().lineHeight())};
 }
 

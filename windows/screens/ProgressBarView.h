@@ -10,7 +10,7 @@ class ProgressBarView final : public ControlView {
 public:
     ProgressBarView(ViewHost& host, ui::ProgressBar& progress);
 
-    Room room() const override;
+    Room measure() const override;
     void place(const RECT& rect) override;
 
 private:

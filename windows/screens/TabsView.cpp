@@ -17,7 +17,7 @@ RECT TabsView::padding() const {
     return {page.left + inside, page.top + inside, 1000 - page.right + inside, 1000 - page.bottom + inside};
 }
 
-Room TabsView::room() const {
+Room TabsView::measure() const {
     int width = theme().scaled(8);
     for (const std::string& caption : tabs_.captions())
         width += theme().textSize(ui::plainCaption(caption), false).cx + theme().scaled(16);

@@ -14,7 +14,7 @@ public:
     TabsView(ViewHost& host, ui::Tabs& tabs);
 
     /// What the tabs take at least; the pages are the arrangement's.
-    Room room() const override;
+    Room measure() const override;
     /// The space between the border and the page.
     RECT padding() const;
 

@@ -48,7 +48,7 @@ void TextBoxView::make() {
     create(L"EDIT", style_, WS_EX_CLIENTEDGE);
 }
 
-Room TextBoxView::room() const {
+Room TextBoxView::measure() const {
     const int width = box_.width() * theme().characterWidth() + theme().scaled(severalLines() ? 28 : 10);
     const int pick = box_.onPick ? theme().lineHeight() : 0;
     const int extraLines = (box_.lines() - 1) * theme().textHeight();
@@ -60,12 +60,9 @@ Room TextBoxView::room() const {
 
 void TextBoxView::place(const RECT& rect) {
     RECT text = rect;
-    if (pick_ != nullptr && box_.onPick) {
-        RECT pick = rect;
-        text.right = pick.left = rect.right - theme().lineHeight();
-        move(pick_, pick);
-    }
-    if (EqualRect(&text, &this->rect())) return;
+    if (pick_ != nullptr && box_.onPick) text.right -= theme().lineHeight();
+    if (isAt(text)) return;
+    if (pick_ != nullptr) move(pick_, {text.right, rect.top, rect.right, rect.bottom});
     ControlView::place(text);
     // What can be seen of a text depends on the room for it.
     if (selection() == known_ || !host().isFocused(*this)) showSelection();
@@ -78,7 +75,7 @@ void TextBoxView::draw() {
         const RECT where = rect();
         destroy();
         make();
-        ControlView::place(where);
+        move(handle(), where);
         SetWindowPos(handle(), above == nullptr ? HWND_TOP : above, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }

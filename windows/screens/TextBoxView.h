@@ -12,7 +12,7 @@ public:
     TextBoxView(ViewHost& host, ui::TextBox& box);
     ~TextBoxView() override;
 
-    Room room() const override;
+    Room measure() const override;
     void place(const RECT& rect) override;
     KeyUse useOf(const ui::KeyDown& key) const override;
     KeyUse useOfCharacter(wchar_t unit) const override;

@@ -9,7 +9,7 @@ UpDownView::UpDownView(ViewHost& host, ui::UpDown& upDown) : ControlView(host, u
     SendMessageW(handle(), UDM_SETPOS32, 0, 1);
 }
 
-Room UpDownView::room() const {
+Room UpDownView::measure() const {
     return {Extent::fixed(theme().scaled(18)), Extent::fixed(theme().lineHeight())};
 }
 

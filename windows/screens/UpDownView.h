@@ -10,7 +10,7 @@ class UpDownView final : public ControlView {
 public:
     UpDownView(ViewHost& host, ui::UpDown& upDown);
 
-    Room room() const override;
+    Room measure() const override;
     KeyUse useOf(const ui::KeyDown& key) const override;
     void notified(UINT code, NMHDR* details) override;
 

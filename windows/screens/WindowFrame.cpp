@@ -171,12 +171,13 @@ void WindowFrame::arrange() {
     GetClientRect(window_, &client);
     setBar(SB_HORZ, least.cx, client.right, scrolled_.x);
     GetClientRect(window_, &client);
-    const int margin = theme_.margin();
-    const LONG width = std::max(client.right, least.cx);
-    const LONG height = std::max(client.bottom, least.cy);
-    content_->place({margin - scrolled_.x, margin - scrolled_.y, width - margin - scrolled_.x,
-                     height - margin - scrolled_.y});
+    RECT place{0, 0, std::max(client.right, least.cx), std::max(client.bottom, least.cy)};
+    InflateRect(&place, -theme_.margin(), -theme_.margin());
+    OffsetRect(&place, static_cast<int>(-scrolled_.x), static_cast<int>(-scrolled_.y));
+    if (!roomChanged_ && EqualRect(&place, &arranged_)) return;
     roomChanged_ = false;
+    arranged_ = place;
+    content_->place(place);
     // Moved controls leave their pictures behind where several lie above each other.
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

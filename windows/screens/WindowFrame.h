@@ -83,6 +83,7 @@ private:
     std::deque<ui::Event> events_;
     std::exception_ptr failure_;
     POINT scrolled_{};
+    RECT arranged_{}; ///< where the content stands
     bool sizedByUser_ = false;
     bool listening_ = false;
     bool roomChanged_ = false;
