@@ -88,6 +88,8 @@ private:
             if (tries == 500) throw std::runtime_error{"there is no window " + form};
             std::this_thread::sleep_for(std::chrono::milliseconds{20});
         }
+        // The first window of a program that just had none may not get the keyboard by itself.
+        SetForegroundWindow(user_.top());
         user_.settle();
     }
 

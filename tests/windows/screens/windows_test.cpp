@@ -24,6 +24,11 @@ DWORD gdiObjects() {
     return count;
 }
 
+BOOL CALLBACK countWindow(HWND, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
 /// Windows of a thread, and the GDI and USER objects of the process. An icon has bitmaps, which are GDI
 /// objects.
 struct Held {
@@ -32,13 +37,7 @@ struct Held {
     DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
 
     Held() {
-        EnumThreadWindows(
-            GetCurrentThreadId(),
-            [](HWND, LPARAM count) -> BOOL {
-                ++*reinterpret_cast<int*>(count);
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&windows));
+        EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&windows));
     }
     bool operator==(const Held&) const = default;
 };
