@@ -31,9 +31,12 @@ void ButtonView::draw() {
         if (before != nullptr) DestroyIcon(before);
     }
     showText(widen(button_.caption()));
-    if (icon_ != nullptr && button_.toolTip().empty()) {
-        host().setToolTip(handle(), ui::plainCaption(button_.caption()));
-    }
+}
+
+/// A picture is explained by its caption.
+std::string ButtonView::tip() const {
+    const bool explains = icon_ != nullptr && button_.toolTip().empty();
+    return explains ? ui::plainCaption(button_.caption()) : button_.toolTip();
 }
 
 KeyUse ButtonView::useOf(const ui::KeyDown& key) const {

@@ -19,6 +19,7 @@ public:
 
 private:
     void draw() override;
+    std::string tip() const override;
 
     ui::Button& button_;
     HICON icon_ = nullptr;

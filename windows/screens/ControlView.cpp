@@ -69,7 +69,7 @@ void ControlView::enable(bool visible, bool enabled) {
 void ControlView::update() {
     if (control_.dirty() || stale_ || new_) {
         draw();
-        host_.setToolTip(handle_, control_.toolTip());
+        host_.setToolTip(handle_, tip());
         control_.drawn();
         stale_ = new_ = false;
         const Room now = measure();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/DisplayState.h"
 #include "screens/Theme.h"
 #include "ui/Control.h"
 #include "ui/events.h"
@@ -19,6 +20,7 @@ class ViewHost {
 public:
     virtual HWND window() const = 0;
     virtual const Theme& theme() const = 0;
+    virtual const DisplayState& display() const = 0;
     /// The user did something. Nothing is done yet: the event waits for the loop of the display, so
     /// that no handler of a screen ever runs inside a window procedure.
     virtual void happened(ui::Event event) = 0;
@@ -95,6 +97,8 @@ public:
     virtual KeyUse useOfCharacter(wchar_t) const { return KeyUse::nobody; }
     /// A list hangs open over the window and gets all keys.
     virtual bool hasOpenList() const { return false; }
+    /// Takes the item that an open list stands on, and closes it.
+    virtual void closeList() {}
     /// The selection in a box, when the form does not know it yet.
     virtual std::optional<ui::Event> newSelection() { return std::nullopt; }
     /// The native control has got the focus on behalf of the form.
@@ -112,6 +116,8 @@ protected:
     /// Makes a native window that belongs to this view beside the main one.
     HWND createPart(const wchar_t* windowClass, DWORD style, DWORD extendedStyle, const std::wstring& text);
     virtual Room measure() const = 0;
+    /// What is shown while the pointer rests over it.
+    virtual std::string tip() const { return control_.toolTip(); }
     /// Shows what is particular to this kind of control.
     virtual void draw() = 0;
     /// Nothing has been drawn so far: everything has to be, not only what changed in the form.

@@ -84,6 +84,7 @@ bool Keyboard::down(ControlView* view, WPARAM code, LPARAM details) {
     ctrlAlone_ = false;
     if (repeated && actsOnce(view, key.key)) return true;
     const KeyUse use = useOf(view, key);
+    if (use == KeyUse::session && view != nullptr && view->hasOpenList()) view->closeList();
     if (use == KeyUse::session || use == KeyUse::overheard) tell_(view, ui::KeyDownEvent{key});
     return use == KeyUse::session || use == KeyUse::nobody;
 }

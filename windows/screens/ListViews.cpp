@@ -83,6 +83,11 @@ bool ComboBoxView::hasOpenList() const {
     return SendMessageW(handle(), CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
+void ComboBoxView::closeList() {
+    tellSelection();
+    SendMessageW(handle(), CB_SHOWDROPDOWN, FALSE, 0);
+}
+
 void ComboBoxView::notified(UINT code, NMHDR*) {
     switch (code) {
     case CBN_DROPDOWN:

@@ -36,6 +36,7 @@ public:
     Room measure() const override;
     void place(const RECT& rect) override;
     bool hasOpenList() const override;
+    void closeList() override;
     void notified(UINT code, NMHDR* details) override;
 
 private:

@@ -33,7 +33,9 @@ TextBoxView::TextBoxView(ViewHost& host, ui::TextBox& box) : ControlView(host, b
 }
 
 TextBoxView::~TextBoxView() {
-    if (pick_ != nullptr) DestroyWindow(pick_);
+    if (pick_ == nullptr) return;
+    host().setToolTip(pick_, {});
+    DestroyWindow(pick_);
 }
 
 DWORD TextBoxView::wantedStyle() const {
@@ -112,9 +114,14 @@ void TextBoxView::drawPick() {
 
 void TextBoxView::enable(bool visible, bool enabled) {
     ControlView::enable(visible, enabled);
-    if (pick_ != nullptr) ControlView::enable(pick_, visible && box_.onPick, enabled && !box_.locked());
-    // A warning is seen as a colour, and read where the pointer rests.
-    if (!box_.warning().empty()) host().setToolTip(handle(), box_.warning());
+    if (pick_ == nullptr) return;
+    ControlView::enable(pick_, visible && box_.onPick, enabled && !box_.locked());
+    host().setToolTip(pick_, host().display().language == "EN" ? "Choose (F4)" : "Auswählen (F4)");
+}
+
+/// A warning is seen as a colour, and read where the pointer rests.
+std::string TextBoxView::tip() const {
+    return box_.warning().empty() ? box_.toolTip() : box_.warning();
 }
 
 KeyUse TextBoxView::useOf(const ui::KeyDown& key) const {

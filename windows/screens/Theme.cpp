@@ -29,9 +29,16 @@ HFONT messageFont(LONG weight) {
     return CreateFontIndirectW(&metrics.lfMessageFont);
 }
 
+bool isHighContrast() {
+    HIGHCONTRASTW contrast{};
+    contrast.cbSize = sizeof contrast;
+    SystemParametersInfoW(SPI_GETHIGHCONTRAST, contrast.cbSize, &contrast, 0);
+    return (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
 COLORREF colourOfPages() {
     COLORREF colour = GetSysColor(COLOR_3DFACE);
-    if (!IsAppThemed()) return colour;
+    if (!IsAppThemed() || isHighContrast()) return colour;
     if (const HTHEME theme = OpenThemeData(nullptr, L"TAB")) {
         if (FAILED(GetThemeColor(theme, TABP_BODY, 0, TMT_FILLCOLORHINT, &colour))) {
             colour = GetSysColor(COLOR_3DFACE);
@@ -60,10 +67,7 @@ Theme::Theme()
 }
 
 COLORREF Theme::warningColour() const {
-    HIGHCONTRASTW contrast{};
-    contrast.cbSize = sizeof contrast;
-    SystemParametersInfoW(SPI_GETHIGHCONTRAST, contrast.cbSize, &contrast, 0);
-    return (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0 ? GetSysColor(COLOR_HOTLIGHT) : RGB(163, 34, 27);
+    return isHighContrast() ? GetSysColor(COLOR_HOTLIGHT) : RGB(163, 34, 27);
 }
 
 SIZE Theme::textSize(const std::string& text, bool withMark, int wrapAt) const {

@@ -29,7 +29,7 @@ void Win32Display::showModal(ui::Form& form) {
     struct Shown {
         explicit Shown(Win32Display& on, ui::Form& form) : display(on) {
             display.windows_.push_back(
-                std::make_unique<WindowFrame>(form, display.topWindow(), display.busy_));
+                std::make_unique<WindowFrame>(form, display.topWindow(), display.state_));
         }
         ~Shown() { display.windows_.pop_back(); }
         Shown(const Shown&) = delete;
@@ -90,8 +90,8 @@ std::optional<std::string> Win32Display::openFile(const std::string& title, cons
 }
 
 void Win32Display::setBusy(bool busy) {
-    busy_ += busy ? 1 : -1;
-    SetCursor(LoadCursorW(nullptr, busy_ > 0 ? IDC_WAIT : IDC_ARROW));
+    state_.busy += busy ? 1 : -1;
+    SetCursor(LoadCursorW(nullptr, state_.busy > 0 ? IDC_WAIT : IDC_ARROW));
     if (busy) refresh();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/DisplayState.h"
 #include "ui/Desktop.h"
 #include "ui/Display.h"
 
@@ -35,7 +36,7 @@ public:
     void setErrorHandling(ui::ErrorHandling* errors) { errors_.handling = errors; }
     /// Language of the display's own texts: "DE" (the default) or "EN". The buttons of message boxes
     /// and file dialogs are in the language of Windows.
-    void setLanguage(std::string language);
+    void setLanguage(std::string language) { state_.language = std::move(language); }
 
     void showModal(ui::Form& form) override;
     ui::Answer messageBox(const std::string& text, int flags, const std::string& title) override;
@@ -60,8 +61,7 @@ private:
     Errors errors_{*this};
     ui::Desktop desktop_{errors_};
     std::vector<std::unique_ptr<WindowFrame>> windows_; ///< the topmost last
-    std::string language_ = "DE";
-    int busy_ = 0;
+    DisplayState state_;
 };
 
 } // namespace tellurix::windows

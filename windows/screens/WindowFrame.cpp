@@ -27,10 +27,10 @@ LONG inside(LONG start, LONG length, LONG from, LONG to) {
 
 } // namespace
 
-WindowFrame::WindowFrame(ui::Form& form, HWND owner, const int& busy)
+WindowFrame::WindowFrame(ui::Form& form, HWND owner, const DisplayState& display)
     : form_(form),
       owner_(owner),
-      busy_(busy),
+      display_(display),
       waiting_(owner),
       keyboard_([this](ControlView* view, ui::Event event) {
           if (view != nullptr) {
@@ -347,7 +347,7 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case WM_SETCURSOR:
-        if (busy_ == 0) break;
+        if (display_.busy == 0) break;
         SetCursor(LoadCursorW(nullptr, IDC_WAIT));
         return TRUE;
     case WM_VSCROLL:

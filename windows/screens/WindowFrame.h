@@ -20,8 +20,8 @@ class WindowFrame final : private ViewHost {
 public:
     /// Makes the window; the first drawing shows it.
     /// @param owner the window it belongs to, null for none
-    /// @param busy whether the hourglass is shown, asked for each movement of the pointer
-    WindowFrame(ui::Form& form, HWND owner, const int& busy);
+    /// @param display lives longer than the window, and may change meanwhile
+    WindowFrame(ui::Form& form, HWND owner, const DisplayState& display);
     ~WindowFrame();
     WindowFrame(const WindowFrame&) = delete;
     WindowFrame& operator=(const WindowFrame&) = delete;
@@ -45,6 +45,7 @@ private:
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
 
     const Theme& theme() const override { return theme_; }
+    const DisplayState& display() const override { return display_; }
     void happened(ui::Event event) override;
     ControlView& viewOf(const ui::Control& control) override { return *views_[control.id()]; }
     bool isFocused(const ControlView& view) const override;
@@ -72,7 +73,7 @@ private:
 
     ui::Form& form_;
     HWND owner_;
-    const int& busy_;
+    const DisplayState& display_;
     Theme theme_;
     WaitingWindows waiting_;
     HWND window_ = nullptr;

@@ -228,6 +228,12 @@ TEST_F(DemoFormOnWindows, ListsByKeyboardAndPointer) {
     EXPECT_EQ(text("cboType"), "Verkauf Rundholz");
     EXPECT_EQ(WindowsUser::nameOf(user.top()), "DemoForm");
 
+    press(Key::f4);
+    press(Key::up);
+    press(Key::tab); // takes what the open list stands on
+    EXPECT_EQ(text("cboType"), "Einkauf Schnittholz");
+    EXPECT_EQ(user.focused(), "txtWeek");
+
     user.click(user.control("updWeek"), 1, 4);
     EXPECT_EQ(user.focused(), "updWeek");
     EXPECT_EQ(text("txtWeek"), "15");
