@@ -60,6 +60,12 @@ void forUser(bool install) {
 
 } // namespace
 
+bool librariesAreRegistered() {
+    CLSID id{};
+    return SUCCEEDED(CLSIDFromProgID(L"Tellurix_Loc.EmbeddedConnection", &id)) &&
+           SUCCEEDED(CLSIDFromProgID(L"Tellurix_Vertrag.clsVertrag", &id));
+}
+
 void registerLibraries() {
     if (!forMachine("DllRegisterServer")) forUser(true);
 }

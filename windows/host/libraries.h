@@ -6,6 +6,8 @@ namespace tellurix::windows {
 /// the machine; for the user alone who runs it, when that user may not do so.
 /// @throws std::runtime_error when a library is missing or refuses
 void registerLibraries();
+/// Whether both are registered, wherever they lie.
+bool librariesAreRegistered();
 /// Takes back what `registerLibraries` did, in either way.
 /// @throws std::runtime_error when a library is missing or refuses
 void unregisterLibraries();

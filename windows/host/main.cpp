@@ -6,6 +6,7 @@
 #include <shellapi.h>
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,10 @@ void perform(HostOptions options) {
     case HostOptions::Task::unregisterLibraries:
         return unregisterLibraries();
     case HostOptions::Task::work:
+        if (!librariesAreRegistered()) {
+            throw std::runtime_error{
+                "Die Bibliotheken sind nicht angemeldet. Anmelden mit: tellurix-host --register"};
+        }
         if (options.user.empty()) options.user = signedOnUser();
         HostSession{options}.run();
     }
