@@ -50,12 +50,17 @@ void GridView::place(const RECT& rect) {
 }
 
 void GridView::fit() {
-    // Which scroll bars there are depends on the room, and the room on the scroll bars.
-    showScrollBars();
-    RECT client{};
-    GetClientRect(handle(), &client);
-    geometry_.fit(client.right, client.bottom);
-    showScrollBars();
+    // Which scroll bars there are depends on the room, and the room on the scroll bars: one of them can
+    // bring the other one.
+    RECT fitted{};
+    for (int pass = 0; pass < 3; ++pass) {
+        RECT client{};
+        GetClientRect(handle(), &client);
+        if (pass > 0 && EqualRect(&client, &fitted)) break;
+        fitted = client;
+        geometry_.fit(client.right, client.bottom);
+        showScrollBars();
+    }
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
