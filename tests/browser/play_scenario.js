@@ -109,6 +109,14 @@ class Player {
     await until(async () => { const now = await this.#shown(found); return now === wanted || now; }, name.text);
   }
 
+  /** Into the folder that TELLURIX_PICTURES names. */
+  picture([name]) {
+    const message = this.page.locator('.message');
+    const window = this.page.locator('.window:not(.behind)');
+    const path = `${process.env.TELLURIX_PICTURES}/browser-${name.text}.png`;
+    return message.or(window).last().screenshot({ path });
+  }
+
   close() {
     return this.page.locator('.window:not(.behind) .close').click();
   }
@@ -152,7 +160,7 @@ try {
   for (const { line, verb, words } of read(scenario)) {
     try {
       if (!Player.prototype[verb]) throw new Error('there is no such verb');
-      if (verb !== 'answer' && await page.locator('.message').count() > 0) {
+      if (verb !== 'answer' && verb !== 'picture' && await page.locator('.message').count() > 0) {
         throw new Error(`unexpected message: ${await page.locator('#message-text').textContent()}`);
       }
       await player[verb](words);

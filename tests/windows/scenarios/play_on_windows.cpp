@@ -94,6 +94,19 @@ void answer(WindowsUser& user, const Step& step) {
     user.answer(message, answerOf(step));
 }
 
+/// Says where the topmost window stands, "NAME LEFT TOP WIDTH HEIGHT", and waits for a line from whoever
+/// takes the picture.
+void picture(WindowsUser& user, const Step& step) {
+    // What is to be painted comes after everything else.
+    Sleep(300);
+    RECT place{};
+    GetWindowRect(user.message() != nullptr ? user.message() : user.top(), &place);
+    std::cout << step.word(0) << ' ' << place.left << ' ' << place.top << ' ' << place.right - place.left
+              << ' ' << place.bottom - place.top << std::endl;
+    std::string taken;
+    std::getline(std::cin, taken);
+}
+
 void expectWindow(WindowsUser& user, const Step& step) {
     const std::string name = WindowsUser::nameOf(user.top());
     if (name != step.word(0)) throw ScenarioError{step, "the topmost window is " + name};
@@ -117,6 +130,7 @@ const std::map<std::string, Verb>& verbs() {
         {"paste", paste},
         {"expect", expect},
         {"answer", answer},
+        {"picture", picture},
         {"close", [](WindowsUser& user, const Step&) { user.close(); }},
     };
     return known;
@@ -126,7 +140,7 @@ void perform(WindowsUser& user, const Step& step) {
     const auto verb = verbs().find(step.verb);
     if (verb == verbs().end()) throw ScenarioError{step, "there is no such verb"};
     HWND message = user.message();
-    if (message != nullptr && step.verb != "answer")
+    if (message != nullptr && step.verb != "answer" && step.verb != "picture")
         throw ScenarioError{step, "unexpected message: " + WindowsUser::messageText(message)};
     try {
         verb->second(user, step);
