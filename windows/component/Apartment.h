@@ -5,12 +5,14 @@
 #include "screens/Win32Display.h"
 #include "session/Session.h"
 
+#include <memory>
+
 namespace tellurix::windows {
 
 /// What one thread of the host has of the module: a display, the host's services and the module-wide
 /// values. The thread's COM objects share it, and it goes with the last of them, windows, services
 /// and kept screens included.
-class Apartment {
+class Apartment : public std::enable_shared_from_this<Apartment> {
 public:
     Apartment();
     ~Apartment();

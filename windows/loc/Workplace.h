@@ -6,11 +6,13 @@
 #include "services/WorkbenchServices.h"
 #include "session/Session.h"
 
+#include <memory>
+
 namespace tellurix::windows {
 
 /// The workbench's services for one thread of the host, with a display of their own. The thread's
 /// service objects share it.
-class Workplace {
+class Workplace : public std::enable_shared_from_this<Workplace> {
 public:
     Workplace();
     Workplace(const Workplace&) = delete;
