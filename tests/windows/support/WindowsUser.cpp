@@ -3,6 +3,7 @@
 #include "automation/wide.h"
 
 #include <array>
+#include <atomic>
 #include <functional>
 #include <stdexcept>
 #include <vector>
@@ -16,7 +17,11 @@ namespace {
 
 /// A key that no screen knows. When the thread fetches it, all input before it has been dealt with.
 constexpr WORD markKey = VK_F24;
-constexpr DWORD patience = 20'000;
+/// A key is lost while one window has gone and the next one is not there yet.
+constexpr DWORD markAgainAfter = 200;
+constexpr int marks = 100;
+/// Tells the marks apart; a keyboard's scan code has seven bits for it.
+std::atomic<WORD> currentMark{1};
 constexpr wchar_t nameProperty[] = L"Tellurix.Name";
 
 /// Set when the mark has been fetched.
@@ -30,7 +35,7 @@ LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && wParam == PM_REMOVE && message->wParam == markKey &&
         (message->message == WM_KEYUP || message->message == WM_SYSKEYUP)) {
         message->message = WM_NULL;
-        SetEvent(markFetched());
+        if (((message->lParam >> 16) & 0x7F) == currentMark) SetEvent(markFetched());
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -143,9 +148,13 @@ std::vector<std::string> WindowsUser::rowOf(HWND grid, int row) {
 }
 
 void WindowsUser::settle() const {
-    send({keyInput(markKey, 0, KEYEVENTF_KEYUP)});
-    if (WaitForSingleObject(markFetched(), patience) != WAIT_OBJECT_0)
-        throw std::runtime_error{"the program does not answer"};
+    currentMark = currentMark % 0x7F + 1;
+    ResetEvent(markFetched());
+    for (int i = 0; i < marks; ++i) {
+        send({keyInput(markKey, currentMark, KEYEVENTF_KEYUP)});
+        if (WaitForSingleObject(markFetched(), markAgainAfter) == WAIT_OBJECT_0) return;
+    }
+    throw std::runtime_error{"the program does not answer"};
 }
 
 void WindowsUser::key(const ui::KeyDown& key) {
