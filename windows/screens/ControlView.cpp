@@ -30,7 +30,6 @@ HWND ControlView::createPart(const wchar_t* windowClass, DWORD style, DWORD exte
 void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {
     handle_ = createPart(windowClass, style, extendedStyle, {});
     setName(handle_, control_.name());
-    // The window's notifications come to its parent, which finds the view here.
     SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     nativeProcedure_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlView::procedure)));

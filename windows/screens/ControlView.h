@@ -77,6 +77,8 @@ public:
 
     ui::Control& control() const { return control_; }
     HWND handle() const { return handle_; }
+    /// Whether a window is the native control, or a part of the view beside it.
+    virtual bool has(HWND window) const { return window == handle_; }
 
     /// The room that it needs, as of its last drawing.
     const Room& room() const { return room_; }
@@ -104,8 +106,10 @@ public:
     /// The native control has got the focus on behalf of the form.
     virtual void focusPlaced() {}
 
-    /// WM_COMMAND and WM_NOTIFY of this control.
+    /// WM_COMMAND and WM_NOTIFY of the native control.
     virtual void notified(UINT /*code*/, NMHDR* /*details*/) {}
+    /// WM_COMMAND of a part beside it.
+    virtual void partNotified(UINT /*code*/) {}
     /// WM_CTLCOLOR…: sets up the device context. @return the background
     virtual HBRUSH colour(HDC dc) const;
 

@@ -50,6 +50,10 @@ void TextBoxView::make() {
     create(L"EDIT", style_, WS_EX_CLIENTEDGE);
 }
 
+bool TextBoxView::has(HWND window) const {
+    return window == handle() || window == pick_;
+}
+
 Room TextBoxView::measure() const {
     const int width = box_.width() * theme().characterWidth() + theme().scaled(severalLines() ? 28 : 10);
     const int pick = box_.onPick ? theme().lineHeight() : 0;
@@ -108,7 +112,6 @@ void TextBoxView::showSelection() {
 void TextBoxView::drawPick() {
     if (!box_.onPick || pick_ != nullptr) return;
     pick_ = createPart(L"BUTTON", BS_PUSHBUTTON, 0, L"\u2026");
-    SetWindowLongPtrW(pick_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     SetWindowPos(pick_, handle(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
@@ -180,6 +183,10 @@ std::optional<ui::Event> TextBoxView::newSelection() {
 
 void TextBoxView::notified(UINT code, NMHDR*) {
     if (code == EN_CHANGE) edited();
+}
+
+void TextBoxView::partNotified(UINT code) {
+    if (code == BN_CLICKED) tell(ui::PickEvent{&box_});
 }
 
 void TextBoxView::edited() {

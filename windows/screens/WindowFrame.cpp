@@ -292,11 +292,13 @@ LRESULT CALLBACK WindowFrame::procedure(HWND window, UINT message, WPARAM wParam
     }
 }
 
+ControlView* WindowFrame::viewWith(HWND window) const {
+    for (const auto& view : views_)
+        if (view != nullptr && view->has(window)) return view.get();
+    return nullptr;
+}
+
 LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto viewFor = [](HWND window) {
-        return window == nullptr ? nullptr
-                                 : reinterpret_cast<ControlView*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    };
     switch (message) {
     case WM_CLOSE:
         happened(ui::CloseEvent{});
@@ -322,27 +324,29 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
                 std::min<LONG>(least.cx, widthOf(work)), std::min<LONG>(least.cy, heightOf(work))};
         }
         return 0;
-    case WM_COMMAND:
-        if (ControlView* view = viewFor(reinterpret_cast<HWND>(lParam))) {
-            const bool isPart = view->handle() != reinterpret_cast<HWND>(lParam);
-            if (isPart && HIWORD(wParam) == BN_CLICKED) {
-                happened(ui::PickEvent{&view->control()});
-            } else if (!isPart) {
+    case WM_COMMAND: {
+        HWND sender = reinterpret_cast<HWND>(lParam);
+        if (ControlView* view = viewWith(sender)) {
+            if (sender == view->handle()) {
                 view->notified(HIWORD(wParam), nullptr);
+            } else {
+                view->partNotified(HIWORD(wParam));
             }
         }
         return 0;
+    }
     case WM_NOTIFY: {
         auto* details = reinterpret_cast<NMHDR*>(lParam);
-        for (const auto& view : views_)
-            if (view != nullptr && view->handle() == details->hwndFrom)
-                view->notified(details->code, details);
+        if (ControlView* view = viewWith(details->hwndFrom)) view->notified(details->code, details);
         return 0;
     }
+    case WM_PARENTNOTIFY:
+        keyboard_.forgetCtrl();
+        break;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORBTN:
-        if (const ControlView* view = viewFor(reinterpret_cast<HWND>(lParam))) {
+        if (const ControlView* view = viewWith(reinterpret_cast<HWND>(lParam))) {
             return reinterpret_cast<LRESULT>(view->colour(reinterpret_cast<HDC>(wParam)));
         }
         break;

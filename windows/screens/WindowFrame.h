@@ -43,6 +43,8 @@ public:
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    /// The view that a native window belongs to, or null: anybody can send a message that names one.
+    ControlView* viewWith(HWND window) const;
 
     const Theme& theme() const override { return theme_; }
     const DisplayState& display() const override { return display_; }

@@ -5,6 +5,7 @@
 #include "windows/screens/ScreenTest.h"
 
 #include "automation/wide.h"
+#include "ui/caption.h"
 
 #include <gtest/gtest.h>
 
@@ -64,6 +65,43 @@ protected:
     WindowsUser user{host.id()};
 };
 
+/// What is seen of a control, in the client area of its window.
+struct Piece {
+    std::string name;
+    RECT place;
+    LONG textWidth; ///< what its caption takes, 0 for a control without one
+};
+
+/// The controls that are seen, without frames and tabs, which others stand on.
+std::vector<Piece> piecesOf(HWND window) {
+    std::vector<Piece> pieces;
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        wchar_t kind[32];
+        GetClassNameW(child, kind, 32);
+        const bool isButton = kind == std::wstring{L"Button"};
+        const bool isGround = kind == std::wstring{WC_TABCONTROLW} ||
+                              (isButton && (GetWindowLongW(child, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX);
+        if (!IsWindowVisible(child) || isGround) continue;
+        Piece piece{WindowsUser::nameOf(child), {}, 0};
+        GetWindowRect(child, &piece.place);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&piece.place), 2);
+        const bool pictured = (GetWindowLongW(child, GWL_STYLE) & BS_ICON) != 0;
+        if (kind == std::wstring{L"Static"} || (isButton && !pictured)) {
+            wchar_t text[128];
+            SendMessageW(child, WM_GETTEXT, 128, reinterpret_cast<LPARAM>(text));
+            const std::wstring caption = windows::widen(ui::plainCaption(windows::narrow(text)));
+            HDC dc = GetDC(child);
+            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(child, WM_GETFONT, 0, 0)));
+            SIZE size{};
+            GetTextExtentPoint32W(dc, caption.c_str(), static_cast<int>(caption.size()), &size);
+            ReleaseDC(child, dc);
+            piece.textWidth = size.cx;
+        }
+        pieces.push_back(piece);
+    }
+    return pieces;
+}
+
 void copyToClipboard(const std::string& text) {
     const std::wstring wide = windows::widen(text);
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (wide.size() + 1) * sizeof(wchar_t));
@@ -77,6 +115,27 @@ void copyToClipboard(const std::string& text) {
 }
 
 } // namespace
+
+TEST_F(DemoFormOnWindows, NothingOverlapsOrIsCutOff) {
+    for (int page = 0; page < 2; ++page) {
+        SCOPED_TRACE(page);
+        clickTab(page);
+        const std::vector<Piece> pieces = piecesOf(user.top());
+        EXPECT_GT(pieces.size(), 20U);
+        RECT client{};
+        GetClientRect(user.top(), &client);
+        for (std::size_t i = 0; i < pieces.size(); ++i) {
+            RECT common{};
+            IntersectRect(&common, &pieces[i].place, &client);
+            EXPECT_TRUE(EqualRect(&common, &pieces[i].place)) << pieces[i].name << " is not wholly seen";
+            EXPECT_LE(pieces[i].textWidth, pieces[i].place.right - pieces[i].place.left) << pieces[i].name;
+            for (std::size_t other = 0; other < i; ++other) {
+                EXPECT_FALSE(IntersectRect(&common, &pieces[i].place, &pieces[other].place))
+                    << pieces[i].name << " lies over " << pieces[other].name;
+            }
+        }
+    }
+}
 
 TEST_F(DemoFormOnWindows, TypesFilteredAndFree) {
     EXPECT_FALSE(IsWindowEnabled(host.owner()));

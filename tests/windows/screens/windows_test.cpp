@@ -36,9 +36,7 @@ struct Held {
     DWORD gdi = gdiObjects();
     DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
 
-    Held() {
-        EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&windows));
-    }
+    Held() { EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&windows)); }
     bool operator==(const Held&) const = default;
 };
 
