@@ -34,8 +34,9 @@ struct ModuleState {
 /// The values of the calling thread.
 ModuleState& moduleState();
 
-/// Forgets the calling thread's values: what unloading the module from an apartment does. The
-/// services that the kept screens were given may go away after it.
+/// Forgets the calling thread's values: what unloading the module from an apartment does. To be called
+/// before a thread ends that has used them. The services that the kept screens were given may go away
+/// after it.
 void releaseModuleState();
 
 } // namespace tellurix::host

@@ -133,6 +133,7 @@ TEST_F(EntryClass, ThreadsShareNoValues) {
             EXPECT_EQ(host::moduleState().context.StrVer_Type, "");
             EXPECT_TRUE(host::moduleState().screens.empty());
             host::moduleState().context.StrVer_Type = "A5";
+            host::releaseModuleState();
         }};
         other.join();
         EXPECT_EQ(host::moduleState().context.StrVer_Type, "R");
