@@ -1,5 +1,6 @@
 #include "loc/Workplace.h"
 
+#include "common/text.h"
 #include "screens/active_window.h"
 
 namespace tellurix::windows {
@@ -21,6 +22,7 @@ Workplace::Call::Call(Workplace& workplace, const CallArguments& arguments, std:
       callers_(workplace.session_) {
     workplace_.session_ = session_.values();
     workplace_.display_.setOwner(activeWindow());
+    workplace_.display_.setLanguage(common::toUpper(session().language));
 }
 
 Workplace::Call::~Call() {
