@@ -181,6 +181,37 @@ TEST_F(Component, TakesNoSecondContractOnAThreadThatShowsOne) {
     EXPECT_EQ(second.code, HRESULT_FROM_WIN32(ERROR_BUSY)) << second.description;
 }
 
+TEST_F(Component, EndsWithTheHostsThreadWhateverIsOpen) {
+    ComponentClient host;
+    RunCall call{.record = &host.record()};
+    const DWORD thread = GetCurrentThreadId();
+    auto script = std::async(std::launch::async, [&] {
+        editorOf(thread, [] { return true; });
+        WindowsUser user(thread);
+        user.click(user.control("KundeButton"));
+        EXPECT_EQ(WindowsUser::nameOf(user.top()), "F_PersonPicker");
+        PostThreadMessageW(thread, WM_QUIT, 0, 0);
+    });
+    EXPECT_EQ(callDirectly(*host.createModule(), call).code, E_UNEXPECTED);
+    script.get();
+    MSG message{};
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "for the host's own loop";
+}
+
+TEST_F(Component, IsUnloadedWhenNobodyUsesItOnWhateverThread) {
+    const auto openOnce = [] {
+        ComponentClient host;
+        RunCall call{.record = &host.record()};
+        const Closer closer;
+        EXPECT_EQ(callDirectly(*host.createModule(), call).code, S_OK);
+    };
+    for (int i = 0; i < 3; ++i) {
+        i == 0 ? openOnce() : std::thread(openOnce).join();
+        for (const wchar_t* library : {L"Tellurix_Vertrag.dll", L"Tellurix_Loc.dll"})
+            EXPECT_EQ(GetModuleHandleW(library), nullptr) << windows::narrow(library);
+    }
+}
+
 /// What a script writes to its console.
 std::string outputOf(const std::string& script) {
     std::string command = "cscript //nologo Z:";
