@@ -28,20 +28,19 @@ struct Way {
 };
 constexpr Way ways[] = {{"through the interface", callDirectly}, {"by name", callByName}};
 
+BOOL CALLBACK takeEditor(HWND window, LPARAM found) {
+    if (!IsWindowVisible(window) || WindowsUser::nameOf(window) != "F_Vertrag") return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
 /// The contract editor that a thread shows, waited for as long as `meanwhile` allows; null for none.
 template <typename Still>
 HWND editorOf(DWORD thread, const Still& meanwhile) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     while (meanwhile() && std::chrono::steady_clock::now() < deadline) {
         HWND editor = nullptr;
-        EnumThreadWindows(
-            thread,
-            [](HWND window, LPARAM found) -> BOOL {
-                if (!IsWindowVisible(window) || WindowsUser::nameOf(window) != "F_Vertrag") return TRUE;
-                *reinterpret_cast<HWND*>(found) = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&editor));
+        EnumThreadWindows(thread, takeEditor, reinterpret_cast<LPARAM>(&editor));
         if (editor != nullptr) return editor;
         std::this_thread::sleep_for(5ms);
     }
@@ -160,25 +159,25 @@ TEST_F(Component, GivesEachThreadValuesAndWindowsOfItsOwn) {
     EXPECT_EQ(apartments[1].notifications, std::vector<std::string>{"2VABR3 A3"});
 }
 
+/// For the timer of the next test, which can be given nothing else.
+ComponentClient* hostOfTimer = nullptr;
+Outcome outcomeOfTimer;
+
+void CALLBACK openSecond(HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    RunCall call{.record = &hostOfTimer->record()};
+    outcomeOfTimer = callDirectly(*hostOfTimer->createModule(), call);
+    PostMessageW(editorOf(GetCurrentThreadId(), [] { return true; }), WM_CLOSE, 0, 0);
+}
+
 TEST_F(Component, TakesNoSecondContractOnAThreadThatShowsOne) {
     ComponentClient host;
-    const auto module = host.createModule();
-    Outcome second;
+    hostOfTimer = &host;
     // As a host's own timer would do it, which goes on while the editor is open.
-    static ComponentClient* inside = nullptr;
-    static Outcome* told = nullptr;
-    inside = &host;
-    told = &second;
-    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        KillTimer(nullptr, timer);
-        RunCall call{.record = &inside->record()};
-        *told = callDirectly(*inside->createModule(), call);
-        const HWND editor = editorOf(GetCurrentThreadId(), [] { return true; });
-        PostMessageW(editor, WM_CLOSE, 0, 0);
-    });
+    SetTimer(nullptr, 0, 50, openSecond);
     RunCall call{.record = &host.record()};
-    EXPECT_EQ(callDirectly(*module, call).code, S_OK);
-    EXPECT_EQ(second.code, HRESULT_FROM_WIN32(ERROR_BUSY)) << second.description;
+    EXPECT_EQ(callDirectly(*host.createModule(), call).code, S_OK);
+    EXPECT_EQ(outcomeOfTimer.code, HRESULT_FROM_WIN32(ERROR_BUSY)) << outcomeOfTimer.description;
 }
 
 TEST_F(Component, EndsWithTheHostsThreadWhateverIsOpen) {
