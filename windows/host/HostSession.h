@@ -23,6 +23,8 @@ public:
     void run();
 
 private:
+    void speak(const std::string& language);
+
     Dispatch connection_;
     ado::AdoConnection database_;
     Win32Display display_;
