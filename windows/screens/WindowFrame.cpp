@@ -13,18 +13,6 @@ namespace {
 
 constexpr DWORD frameStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
-RECT workAreaFor(HWND window) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor.rcWork;
-}
-
-/// Moves a length of a window into the screen.
-LONG inside(LONG start, LONG length, LONG from, LONG to) {
-    return std::max(std::min(start, to - length), from);
-}
-
 } // namespace
 
 WindowFrame::WindowFrame(ui::Form& form, HWND owner, const DisplayState& display)
@@ -90,8 +78,8 @@ void WindowFrame::makeViews() {
 }
 
 void WindowFrame::show() {
-    content_ = makePart(form_.layout(), *this);
-    fitToContent();
+    content_ = std::make_unique<WindowContent>(window_, frameStyle, theme_, makePart(form_.layout(), *this));
+    content_->fit(owner_);
     // Access keys and the focus are always shown: most work is done by keyboard.
     SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS), 0);
     ShowWindow(window_, SW_SHOW);
@@ -113,112 +101,6 @@ void WindowFrame::makeViews(const ui::Layout& layout, bool onPage) {
     if (isContainer) make();
 }
 
-SIZE WindowFrame::wanted(int Extent::*which) const {
-    const Room room = content_->room();
-    return {room.width.*which + 2 * theme_.margin(), room.height.*which + 2 * theme_.margin()};
-}
-
-SIZE WindowFrame::sizeAround(SIZE content) const {
-    RECT rect{0, 0, content.cx, content.cy};
-    // The scroll bars that it may have at the moment stand inside.
-    AdjustWindowRectEx(&rect, frameStyle, FALSE, 0);
-    return {widthOf(rect), heightOf(rect)};
-}
-
-void WindowFrame::fitToContent() {
-    const RECT work = workAreaFor(owner_ != nullptr ? owner_ : window_);
-    const SIZE size = sizeAround(wanted(&Extent::preferred));
-    const LONG width = std::min<LONG>(std::max<LONG>(size.cx, theme_.scaled(240)), widthOf(work));
-    const LONG height = std::min<LONG>(size.cy, heightOf(work));
-    RECT middle = work;
-    if (owner_ != nullptr && IsWindowVisible(owner_) && !IsIconic(owner_)) GetWindowRect(owner_, &middle);
-    const LONG x = inside((middle.left + middle.right - width) / 2, width, work.left, work.right);
-    const LONG y = inside((middle.top + middle.bottom - height) / 2, height, work.top, work.bottom);
-    SetWindowPos(window_, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-    arrange();
-}
-
-void WindowFrame::growToContent() {
-    if (IsZoomed(window_)) return;
-    const RECT work = workAreaFor(window_);
-    const SIZE size = sizeAround(wanted(sizedByUser_ ? &Extent::minimum : &Extent::preferred));
-    RECT now{};
-    GetWindowRect(window_, &now);
-    const LONG width = std::max<LONG>(widthOf(now), std::min<LONG>(size.cx, widthOf(work)));
-    const LONG height = std::max<LONG>(heightOf(now), std::min<LONG>(size.cy, heightOf(work)));
-    if (width == widthOf(now) && height == heightOf(now)) return;
-    SetWindowPos(window_, nullptr, inside(now.left, width, work.left, work.right),
-                 inside(now.top, height, work.top, work.bottom), width, height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void WindowFrame::arrange() {
-    if (content_ == nullptr) return;
-    const SIZE least = wanted(&Extent::minimum);
-    const auto setBar = [this](int bar, LONG length, LONG page, LONG& position) {
-        SCROLLINFO info{};
-        info.cbSize = sizeof info;
-        info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-        info.nMax = static_cast<int>(length - 1);
-        info.nPage = static_cast<UINT>(page);
-        position = std::clamp<LONG>(position, 0, std::max<LONG>(length - page, 0));
-        info.nPos = static_cast<int>(position);
-        SetScrollInfo(window_, bar, &info, TRUE);
-    };
-    RECT client{};
-    GetClientRect(window_, &client);
-    setBar(SB_VERT, least.cy, client.bottom, scrolled_.y);
-    GetClientRect(window_, &client);
-    setBar(SB_HORZ, least.cx, client.right, scrolled_.x);
-    GetClientRect(window_, &client);
-    RECT place{0, 0, std::max(client.right, least.cx), std::max(client.bottom, least.cy)};
-    InflateRect(&place, -theme_.margin(), -theme_.margin());
-    OffsetRect(&place, static_cast<int>(-scrolled_.x), static_cast<int>(-scrolled_.y));
-    if (!roomChanged_ && EqualRect(&place, &arranged_)) return;
-    roomChanged_ = false;
-    arranged_ = place;
-    content_->place(place);
-    // Moved controls leave their pictures behind where several lie above each other.
-    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-}
-
-void WindowFrame::scrollTo(int x, int y) {
-    scrolled_ = {x, y};
-    arrange();
-}
-
-void WindowFrame::scroll(int bar, WORD request) {
-    SCROLLINFO now{};
-    now.cbSize = sizeof now;
-    now.fMask = SIF_ALL;
-    GetScrollInfo(window_, bar, &now);
-    int to = now.nPos;
-    if (request == SB_LINEUP) to -= theme_.lineHeight();
-    if (request == SB_LINEDOWN) to += theme_.lineHeight();
-    if (request == SB_PAGEUP) to -= static_cast<int>(now.nPage);
-    if (request == SB_PAGEDOWN) to += static_cast<int>(now.nPage);
-    if (request == SB_THUMBTRACK || request == SB_THUMBPOSITION) to = now.nTrackPos;
-    if (to == now.nPos) return;
-    if (bar == SB_VERT) {
-        scrollTo(scrolled_.x, to);
-    } else {
-        scrollTo(to, scrolled_.y);
-    }
-}
-
-/// On a screen that is too small for the window, the control that has the focus is never out of sight.
-void WindowFrame::reveal(const ControlView& view) {
-    RECT client{};
-    GetClientRect(window_, &client);
-    const RECT& rect = view.rect();
-    const auto shift = [](LONG start, LONG end, LONG room) {
-        return start < 0 ? start : end > room ? std::min(end - room, start) : 0;
-    };
-    const LONG x = shift(rect.left, rect.right, client.right);
-    const LONG y = shift(rect.top, rect.bottom, client.bottom);
-    if (x != 0 || y != 0) scrollTo(static_cast<int>(scrolled_.x + x), static_cast<int>(scrolled_.y + y));
-}
-
 void WindowFrame::draw() {
     if (form_.titleDirty()) {
         SetWindowTextW(window_, widen(form_.title()).c_str());
@@ -228,9 +110,8 @@ void WindowFrame::draw() {
         view->update();
     if (content_ == nullptr) {
         show();
-    } else if (roomChanged_) {
-        growToContent();
-        arrange();
+    } else {
+        content_->update();
     }
 }
 
@@ -244,7 +125,7 @@ void WindowFrame::placeFocus() {
     ControlView& view = *views_[focused->id()];
     if (GetFocus() == view.handle()) return;
     SetFocus(view.handle());
-    reveal(view);
+    content_->reveal(view.rect());
 }
 
 void WindowFrame::happened(ui::Event event) {
@@ -311,17 +192,15 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         placeFocus();
         return 0;
     case WM_SIZE:
-        arrange();
+        if (content_ != nullptr) content_->arrange();
         return 0;
     case WM_SIZING:
-        sizedByUser_ = true;
+        content_->sizedByUser();
         break;
     case WM_GETMINMAXINFO:
         if (content_ != nullptr) {
-            const RECT work = workAreaFor(window_);
-            const SIZE least = sizeAround(wanted(&Extent::minimum));
-            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {
-                std::min<LONG>(least.cx, widthOf(work)), std::min<LONG>(least.cy, heightOf(work))};
+            const SIZE least = content_->leastSize();
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {least.cx, least.cy};
         }
         return 0;
     case WM_COMMAND: {
@@ -356,10 +235,10 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     case WM_VSCROLL:
     case WM_HSCROLL:
-        if (lParam == 0) scroll(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
+        if (lParam == 0) content_->scroll(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
         return 0;
     case WM_MOUSEWHEEL:
-        scroll(SB_VERT, static_cast<short>(HIWORD(wParam)) > 0 ? SB_LINEUP : SB_LINEDOWN);
+        content_->scroll(SB_VERT, static_cast<short>(HIWORD(wParam)) > 0 ? SB_LINEUP : SB_LINEDOWN);
         return 0;
     case WM_KEYDOWN:
     case WM_KEYUP:

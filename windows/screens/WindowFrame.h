@@ -2,9 +2,9 @@
 
 #include "screens/ControlView.h"
 #include "screens/Keyboard.h"
-#include "screens/Part.h"
 #include "screens/ToolTips.h"
 #include "screens/WaitingWindows.h"
+#include "screens/WindowContent.h"
 #include "ui/Form.h"
 
 #include <deque>
@@ -52,7 +52,9 @@ private:
     ControlView& viewOf(const ui::Control& control) override { return *views_[control.id()]; }
     bool isFocused(const ControlView& view) const override;
     bool keyboard(ControlView& view, UINT message, WPARAM wParam, LPARAM lParam) override;
-    void roomChanged() override { roomChanged_ = true; }
+    void roomChanged() override {
+        if (content_ != nullptr) content_->roomChanged();
+    }
     void setToolTip(HWND over, const std::string& text) override { toolTips_->set(over, text); }
     void failed(std::exception_ptr error) override;
 
@@ -61,16 +63,6 @@ private:
     void makeViews(const ui::Layout& layout, bool onPage);
     void show();
     void close();
-    /// Makes it as large as its content likes, in the middle of what it covers.
-    void fitToContent();
-    /// Grows with what it shows; a window that the user sized only as far as it has to.
-    void growToContent();
-    void arrange();
-    void scroll(int bar, WORD request);
-    void scrollTo(int x, int y);
-    void reveal(const ControlView& view);
-    SIZE sizeAround(SIZE content) const;
-    SIZE wanted(int Extent::*which) const;
     void wake();
 
     ui::Form& form_;
@@ -81,15 +73,11 @@ private:
     HWND window_ = nullptr;
     std::unique_ptr<ToolTips> toolTips_;
     std::vector<std::unique_ptr<ControlView>> views_; ///< by the controls' ids
-    std::unique_ptr<Part> content_;
+    std::unique_ptr<WindowContent> content_;          ///< null until it is shown
     Keyboard keyboard_;
     std::deque<ui::Event> events_;
     std::exception_ptr failure_;
-    POINT scrolled_{};
-    RECT arranged_{}; ///< where the content stands
-    bool sizedByUser_ = false;
     bool listening_ = false;
-    bool roomChanged_ = false;
 };
 
 } // namespace tellurix::windows
