@@ -18,8 +18,8 @@ namespace {
 /// A key that no screen knows. When the thread fetches it, all input before it has been dealt with.
 constexpr WORD markKey = VK_F24;
 /// A key is lost while one window has gone and the next one is not there yet.
-constexpr DWORD markAgainAfter = 200;
-constexpr int marks = 100;
+constexpr DWORD markAgainAfter = 20;
+constexpr int marks = 1000;
 /// Tells the marks apart; a keyboard's scan code has seven bits for it.
 std::atomic<WORD> currentMark{1};
 constexpr wchar_t nameProperty[] = L"Tellurix.Name";
