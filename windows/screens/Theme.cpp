@@ -29,6 +29,14 @@ HFONT messageFont(LONG weight) {
     return CreateFontIndirectW(&metrics.lfMessageFont);
 }
 
+HFONT signsOfSize(int height) {
+    LOGFONTW font{};
+    font.lfHeight = height;
+    font.lfCharSet = SYMBOL_CHARSET;
+    wcscpy(font.lfFaceName, L"Marlett");
+    return CreateFontIndirectW(&font);
+}
+
 bool isHighContrast() {
     HIGHCONTRASTW contrast{};
     contrast.cbSize = sizeof contrast;
@@ -54,6 +62,7 @@ Theme::Theme()
     : dotsPerInch_(GetDeviceCaps(ScreenContext{}, LOGPIXELSX)),
       font_(messageFont(0)),
       boldFont_(messageFont(FW_BOLD)),
+      signFont_(signsOfSize(scaled(16))),
       pageColour_(colourOfPages()),
       pageBrush_(CreateSolidBrush(pageColour_)) {
     const ScreenContext screen;

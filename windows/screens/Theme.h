@@ -14,6 +14,8 @@ public:
 
     HFONT font() const { return font_; }
     HFONT boldFont() const { return boldFont_; }
+    /// Windows' own signs: its "a" is the tick of menus.
+    HFONT signFont() const { return signFont_; }
     /// The background inside tab pages, which visual styles give a colour of its own.
     HBRUSH pageBrush() const { return pageBrush_; }
     COLORREF pageColour() const { return pageColour_; }
@@ -36,6 +38,7 @@ private:
     int dotsPerInch_;
     GdiObject<HFONT> font_;
     GdiObject<HFONT> boldFont_;
+    GdiObject<HFONT> signFont_;
     COLORREF pageColour_;
     GdiObject<HBRUSH> pageBrush_;
     int characterWidth_ = 0;

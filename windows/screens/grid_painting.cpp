@@ -8,6 +8,8 @@ namespace tellurix::windows {
 
 namespace {
 
+constexpr const char* tick = "✓";
+
 class Painter {
 public:
     Painter(HDC dc, const ui::Grid& grid, const GridGeometry& geometry, const Theme& theme, bool focused)
@@ -69,7 +71,10 @@ private:
     void paintText(RECT cell, const std::string& text, bool rightAligned) {
         cell.left += theme_.scaled(4);
         cell.right -= theme_.scaled(5);
-        const std::wstring wide = widen(text);
+        // The system's fonts for windows have no tick.
+        const bool isTick = text == tick;
+        const Selected withFont{dc_, isTick ? theme_.signFont() : GetCurrentObject(dc_, OBJ_FONT)};
+        const std::wstring wide = isTick ? L"a" : widen(text);
         DrawTextW(dc_, wide.c_str(), static_cast<int>(wide.size()), &cell,
                   DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS |
                       (rightAligned ? DT_RIGHT : DT_LEFT));
