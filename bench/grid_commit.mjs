@@ -1,10 +1,12 @@
 // What a price costs that is typed into a cell of the price lines' grid, as its user waits for it in a
 // browser: from the key that commits it (Down or Up) to the changed page, and to the frame with it.
 //
-//   node bench/grid_commit.mjs [BUILD FOLDER] [--lines N] [--commits N] [--screenshot FILE]
+//   node bench/grid_commit.mjs [BUILD FOLDER] [--lines N] [--commits N] [--unpaced]
+//                              [--screenshot FILE]
 //
 // The build folder has the workbench and generate_database in it; build/bench by default. The browser's
-// driver is that of tests/browser (npm ci there).
+// driver is that of tests/browser (npm ci there). With --unpaced a frame begins as soon as there is
+// something to draw, instead of with the screen's next sixtieth of a second: what redrawing itself costs.
 import { execFileSync } from 'node:child_process';
 import { mkdtempSync, rmSync } from 'node:fs';
 import { tmpdir } from 'node:os';
@@ -18,6 +20,7 @@ const { values: options, positionals } = parseArgs({
   options: {
     lines: { type: 'string', default: '500' },
     commits: { type: 'string', default: '400' },
+    unpaced: { type: 'boolean', default: false },
     screenshot: { type: 'string' },
   },
 });
@@ -121,7 +124,7 @@ let browser;
 try {
   execFileSync(join(build, 'bench/generate_database'), [database, '--contracts', '1', '--lines', `${lines}`, '--logs', '0']);
   server = await serve(program, '--database', database, '--port', '0');
-  browser = await startBrowser();
+  browser = await startBrowser(options.unpaced ? ['--disable-frame-rate-limit', '--disable-gpu-vsync'] : []);
   const { page, problems } = await open(browser, server.address);
   await openPrices(page);
   const { times, prices } = await measure(page);

@@ -31,8 +31,8 @@ export async function serve(program, ...options) {
   };
 }
 
-export function startBrowser() {
-  return chromium.launch({ executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium', args: quiet });
+export function startBrowser(options = []) {
+  return chromium.launch({ executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium', args: [...quiet, ...options] });
 }
 
 /** Opens the address in a tab of its own browser profile, whose connection can be cut. */
