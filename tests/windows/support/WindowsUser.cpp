@@ -21,10 +21,11 @@ constexpr WORD markKey = VK_F24;
 constexpr DWORD markAgainAfter = 20;
 constexpr int marks = 1000;
 /// Tells the marks apart; a keyboard's scan code has seven bits for it.
-std::atomic<WORD> currentMark{1};
+constexpr WORD markNumbers = 0x7F;
+std::atomic<WORD> fetchedMark{0};
 constexpr wchar_t nameProperty[] = L"Tellurix.Name";
 
-/// Set when the mark has been fetched.
+/// Set when a mark has been fetched; it may be one of those that were sent again for the mark before.
 HANDLE markFetched() {
     static const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     return event;
@@ -35,7 +36,8 @@ LRESULT CALLBACK watch(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && wParam == PM_REMOVE && message->wParam == markKey &&
         (message->message == WM_KEYUP || message->message == WM_SYSKEYUP)) {
         message->message = WM_NULL;
-        if (((message->lParam >> 16) & 0x7F) == currentMark) SetEvent(markFetched());
+        fetchedMark = static_cast<WORD>((message->lParam >> 16) & markNumbers);
+        SetEvent(markFetched());
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -148,11 +150,12 @@ std::vector<std::string> WindowsUser::rowOf(HWND grid, int row) {
 }
 
 void WindowsUser::settle() const {
-    currentMark = currentMark % 0x7F + 1;
-    ResetEvent(markFetched());
+    static std::atomic<WORD> lastMark{0};
+    const WORD mark = lastMark = static_cast<WORD>(lastMark % markNumbers + 1);
     for (int i = 0; i < marks; ++i) {
-        send({keyInput(markKey, currentMark, KEYEVENTF_KEYUP)});
-        if (WaitForSingleObject(markFetched(), markAgainAfter) == WAIT_OBJECT_0) return;
+        send({keyInput(markKey, mark, KEYEVENTF_KEYUP)});
+        if (WaitForSingleObject(markFetched(), markAgainAfter) == WAIT_OBJECT_0 && fetchedMark == mark)
+            return;
     }
     throw std::runtime_error{"the program does not answer"};
 }
