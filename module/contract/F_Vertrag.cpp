@@ -58,6 +58,8 @@ void F_Vertrag::connect() {
     btnSpeichern.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { unload(); };
     setCancelButton(btnAbbrechen);
+    // A contract to take over from that is not there must not keep the window open.
+    btnAbbrechen.setCausesValidation(false);
     for (AdditionalText& text : additionalTexts_) {
         text.box.setLines(2);
         text.box.onLeave = [this, &text] {

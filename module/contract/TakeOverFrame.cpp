@@ -118,6 +118,8 @@ void TakeOverFrame::takeOver() {
                                                    std::to_string(lines.total()) + " Zeilen übernommen. " +
                                                    error.what()});
     }
+    // Pressing the button once more must not take the same lines over again.
+    clear();
     tookOver_();
 }
 

@@ -81,7 +81,7 @@ TEST_F(ContractHeader, OkWritesWhatTheBoxesShow) {
         {"a short date is completed", "txtDate2", "1.2.26", "DATE1", "2026-02-01"},
         {"a cleared delivery end is NULL", "txtLieferBis", "", "LIEFERBIS", "NULL"},
         {"a decimal comma becomes a point", "txtNumber(0)", "12,5", "NUMM1", "12.5000"},
-        {"a grouped number is none in this mask", "txtNumber(1)", "1.250", "NUMM2", "1.2500"},
+        {"a point between thousands is no decimal point", "txtNumber(1)", "1.250", "NUMM2", "1250.0000"},
         {"what is not numeric is NULL", "txtNumber(2)", ",", "NUMM3", "NULL"},
         {"a free text as it stands", "txtKopf(3)", "Länge \"4,0\"; -- 10 % [Übermaß]", "KOPF4",
          "Länge \"4,0\"; -- 10 % [Übermaß]"},

@@ -141,6 +141,9 @@ TEST_F(InputRules, ANumberBoxTakesWhatItsMaskCanShow) {
     const Case cases[] = {
         {"decimal comma", "12,5", "12,5", "12,50"},
         {"the point is a second way to type it", "12.5", "12,5", "12,50"},
+        {"a point between thousands", "1.234,5", "1234,5", "1234,50"},
+        {"two of them", "12.345.6", "12345,6", "12345,60"},
+        {"a comma is never one", "1,2345", "1,23", "1,23"},
         {"letters and a second comma are dropped", "1a2,3,4", "12,34", "12,34"},
         {"no more decimals than the mask", "1,239", "1,23", "1,23"},
         {"no minus without one in the mask", "-3", "3", "3,00"},
