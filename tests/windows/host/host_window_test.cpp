@@ -6,6 +6,8 @@
 
 #include <winternl.h>
 
+#include <cstdint>
+
 namespace tellurix::tests {
 namespace {
 
@@ -92,15 +94,15 @@ std::ostream& operator<<(std::ostream& out, const Held& held) {
 }
 
 /// Entries of the table in which Windows keeps the drawing objects of a process. GetGuiResources, which
-/// counts them, answers 0 under Wine.
+/// counts them, answers 0 under Wine. Wine's entries have room for 64 bit in both kinds of processes.
 int drawingObjects() {
     struct Entry {
-        void* object;
+        std::uint64_t object;
         USHORT process;
         USHORT count;
         USHORT unique;
         USHORT type;
-        void* user;
+        std::uint64_t user;
     };
     constexpr int entries = 0x4000;
     constexpr std::size_t tableOffset = sizeof(void*) == 8 ? 0xF8 : 0x94; // in the process' own block
