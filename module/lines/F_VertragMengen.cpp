@@ -40,9 +40,8 @@ F_VertragMengen::F_VertragMengen(host::HostServices& services)
     txtOffen.setRightAligned(true);
     btnOffen.setToolTip("Zeigt, welche Stämme für diese Zeile zählen");
     btnOffen.onClick = [this] { explainOpenQuantity(); };
-    arrange({ui::field(lblBezeichnung, txtBEZEICHNUNG), ui::field(lblMenge, txtMenge),
-             ui::field(lblUnit, cboUnit)},
-            {}, {ui::field(lblOffen, txtOffen, btnOffen)});
+    arrange({ui::field(lblMenge, txtMenge), ui::field(lblUnit, cboUnit)}, {},
+            {ui::field(lblOffen, txtOffen, btnOffen)});
 }
 
 void F_VertragMengen::prepare(bool shown) {

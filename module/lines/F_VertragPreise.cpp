@@ -65,9 +65,8 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
     cellEditor_.write = [this](int row, int column, const std::string& typed) {
         return CommitCellEdit(row, column, typed);
     };
-    arrange({ui::field(lblBezeichnung, txtBEZEICHNUNG), ui::field(lblMsz, txtMsz),
-             ui::field(lblPreis, txtPreis), ui::field(lblUnit, cboUnit), ui::field(lblGeld, cboGeld),
-             ui::field(lblPreis_Abr2, txtPreis_Abr2)},
+    arrange({ui::field(lblMsz, txtMsz), ui::field(lblPreis, txtPreis), ui::field(lblUnit, cboUnit),
+             ui::field(lblGeld, cboGeld), ui::field(lblPreis_Abr2, txtPreis_Abr2)},
             {chkEdit}, {priceChange_.layout(), ui::row({priceChange_.button()})});
 }
 

@@ -50,6 +50,7 @@ void LineEditor::connect() {
 
 void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
                          std::vector<ui::Layout> below) {
+    fields.insert(fields.begin(), ui::field(lblBezeichnung, txtBEZEICHNUNG).growing());
     besideGrid.insert(besideGrid.begin(), UpDown1);
     std::vector<ui::Layout> screen{
         ui::row({ui::Layout{MSFlexGrid1}.growing(), ui::column(std::move(besideGrid))}).growing(),

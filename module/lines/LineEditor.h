@@ -69,7 +69,7 @@ protected:
     virtual void currentLineShown() {}
     virtual void stateShown() {}
 
-    /// The layout around the fields of the kind: `fields` in their frame, and what goes below them.
+    /// The layout around the fields of the kind: `fields` below the description, and what goes below them.
     void arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
                  std::vector<ui::Layout> below);
 

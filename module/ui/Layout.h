@@ -22,7 +22,8 @@ public:
         field,   ///< a label with the control or controls that it names
         row,     ///< side by side
         column,  ///< one below the other
-        fields,  ///< fields in a table of `columns` columns, labels and boxes aligned, filled by rows
+        fields,  ///< fields in a table of `columns` columns, labels and boxes aligned, filled by rows;
+                 ///< a growing one has a row of its own
         frame,   ///< a column inside the border of `control`, a Frame
         tabs     ///< one child a page of `control`, a Tabs
     };

@@ -9,8 +9,9 @@ namespace {
 
 using ui::Layout;
 
-/// Fields in a table of columns, labels and boxes aligned, filled by rows. A row that begins with a
-/// field is a field with something behind it; what is no field takes the place of label and box.
+/// Fields in a table of columns, labels and boxes aligned, filled by rows; a growing one has a row of its
+/// own. A row that begins with a field is a field with something behind it; what is no field takes the
+/// place of label and box.
 class FieldTable final : public Part {
 public:
     FieldTable(const Layout& layout, ViewHost& host)
@@ -21,33 +22,34 @@ public:
             cells_.push_back(cellOf(child, host));
     }
 
-    bool present() const override { return !shown().empty(); }
+    bool present() const override { return !rows().empty(); }
 
     Room room() const override {
-        const auto cells = shown();
+        const Rows shown = rows();
         Room sum;
-        for (const Share& share : columnShares(cells))
+        for (const Share& share : columnShares(shown))
             sum.width = sum.width + share.extent;
-        sum.width = sum.width + Extent::fixed(gapsAcross(cells));
-        for (const Share& share : rowShares(cells))
+        sum.width = sum.width + Extent::fixed(gapsAcross(shown));
+        for (const auto& row : shown)
+            if (row.front()->grows()) widen(sum.width, row.front()->width(gap_));
+        for (const Share& share : rowShares(shown))
             sum.height = sum.height + share.extent;
-        sum.height = sum.height + Extent::fixed(gap_ * (static_cast<int>(rowsOf(cells)) - 1));
+        sum.height = sum.height + Extent::fixed(gapsDown(shown));
         return sum;
     }
 
     void place(const RECT& rect) override {
-        const auto cells = shown();
-        const std::vector<int> widths = divide(widthOf(rect) - gapsAcross(cells), columnShares(cells));
-        const std::vector<int> heights =
-            divide(heightOf(rect) - gap_ * (static_cast<int>(rowsOf(cells)) - 1), rowShares(cells));
+        const Rows shown = rows();
+        const std::vector<int> widths = divide(widthOf(rect) - gapsAcross(shown), columnShares(shown));
+        const std::vector<int> heights = divide(heightOf(rect) - gapsDown(shown), rowShares(shown));
         int y = rect.top;
-        for (std::size_t row = 0; row < heights.size(); ++row) {
+        for (std::size_t row = 0; row < shown.size(); ++row) {
             int x = rect.left;
-            for (std::size_t column = 0; column < columns_ && row * columns_ + column < cells.size();
-                 ++column) {
+            for (std::size_t column = 0; column < shown[row].size(); ++column) {
+                const Cell& cell = *shown[row][column];
                 const int label = widths[2 * column];
-                const int content = widths[2 * column + 1];
-                cells[row * columns_ + column]->place(x, y, label, content, heights[row], gap_);
+                const int content = cell.grows() ? rect.right - x - label - gap_ : widths[2 * column + 1];
+                cell.place(x, y, label, content, heights[row], gap_);
                 x += label + gap_ + content + columnGap_;
             }
             y += heights[row] + gap_;
@@ -55,7 +57,7 @@ public:
     }
 
     bool fills() const override {
-        return std::ranges::any_of(shown(), [](const Cell* cell) { return cell->content->grows(); });
+        return std::ranges::any_of(cells_, [](const Cell& cell) { return cell.present() && cell.grows(); });
     }
 
 private:
@@ -63,6 +65,11 @@ private:
         std::unique_ptr<Part> label; ///< null for what is no field
         std::unique_ptr<Part> content;
 
+        bool grows() const { return content->grows(); }
+        Extent width(int gap) const {
+            const Extent box = content->room().width;
+            return label != nullptr ? label->room().width + Extent::fixed(gap) + box : box;
+        }
         bool present() const { return (label != nullptr && label->present()) || content->present(); }
         void place(int x, int y, int labelWidth, int contentWidth, int height, int gap) const {
             int left = x;
@@ -72,11 +79,11 @@ private:
             }
             const int room = x + labelWidth + gap + contentWidth - left;
             const Extent wanted = content->room().width;
-            const int width = content->grows() || content->fills() ? room : std::min(wanted.preferred, room);
+            const int width = grows() || content->fills() ? room : std::min(wanted.preferred, room);
             if (content->present()) content->place({left, y, left + width, y + height});
         }
     };
-    using Cells = std::vector<const Cell*>;
+    using Rows = std::vector<std::vector<const Cell*>>;
 
     static Cell cellOf(const Layout& node, ViewHost& host) {
         const bool isRow = node.kind == Layout::Kind::row && !node.children.empty();
@@ -96,48 +103,61 @@ private:
         return {std::make_unique<ControlPart>(host.viewOf(*field.control)), std::move(row)};
     }
 
-    Cells shown() const {
-        Cells cells;
-        for (const Cell& cell : cells_)
-            if (cell.present()) cells.push_back(&cell);
-        return cells;
-    }
-
-    std::size_t rowsOf(const Cells& cells) const { return (cells.size() + columns_ - 1) / columns_; }
-
-    int gapsAcross(const Cells& cells) const {
-        const int used = static_cast<int>(std::min(columns_, cells.size()));
-        return used * gap_ + std::max(used - 1, 0) * columnGap_;
-    }
-
-    /// Two shares a column: labels and contents.
-    std::vector<Share> columnShares(const Cells& cells) const {
-        std::vector<Share> shares(2 * columns_);
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            if (cells[i]->label == nullptr) continue;
-            Share& label = shares[2 * (i % columns_)];
-            Share& content = shares[2 * (i % columns_) + 1];
-            widen(label.extent, cells[i]->label->room().width);
-            widen(content.extent, cells[i]->content->room().width);
-            content.grows = content.grows || cells[i]->content->grows();
+    /// What is shown at the moment, row by row.
+    Rows rows() const {
+        Rows rows;
+        bool full = true;
+        for (const Cell& cell : cells_) {
+            if (!cell.present()) continue;
+            if (full || cell.grows()) rows.emplace_back();
+            rows.back().push_back(&cell);
+            full = cell.grows() || rows.back().size() == columns_;
         }
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            if (cells[i]->label != nullptr) continue;
-            const Extent label = shares[2 * (i % columns_)].extent;
-            Extent rest = cells[i]->content->room().width;
-            rest.minimum -= label.minimum + gap_;
-            rest.preferred -= label.preferred + gap_;
-            widen(shares[2 * (i % columns_) + 1].extent, rest);
+        return rows;
+    }
+
+    int gapsAcross(const Rows& rows) const {
+        std::size_t used = 0;
+        for (const auto& row : rows)
+            used = std::max(used, row.size());
+        const int columns = static_cast<int>(used);
+        return columns * gap_ + std::max(columns - 1, 0) * columnGap_;
+    }
+
+    int gapsDown(const Rows& rows) const { return gap_ * (static_cast<int>(rows.size()) - 1); }
+
+    /// Two shares a column: labels and contents. A growing content takes what the others leave it.
+    std::vector<Share> columnShares(const Rows& rows) const {
+        std::vector<Share> shares(2 * columns_);
+        for (const auto& row : rows) {
+            for (std::size_t column = 0; column < row.size(); ++column) {
+                const Cell& cell = *row[column];
+                if (cell.label == nullptr) continue;
+                widen(shares[2 * column].extent, cell.label->room().width);
+                if (!cell.grows()) widen(shares[2 * column + 1].extent, cell.content->room().width);
+            }
+        }
+        for (const auto& row : rows) {
+            for (std::size_t column = 0; column < row.size(); ++column) {
+                if (row[column]->label != nullptr) continue;
+                const Extent label = shares[2 * column].extent;
+                Extent rest = row[column]->content->room().width;
+                rest.minimum -= label.minimum + gap_;
+                rest.preferred -= label.preferred + gap_;
+                widen(shares[2 * column + 1].extent, rest);
+            }
         }
         return shares;
     }
 
-    std::vector<Share> rowShares(const Cells& cells) const {
-        std::vector<Share> shares(rowsOf(cells));
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            Share& share = shares[i / columns_];
-            if (cells[i]->label != nullptr) widen(share.extent, cells[i]->label->room().height);
-            widen(share.extent, cells[i]->content->room().height);
+    std::vector<Share> rowShares(const Rows& rows) const {
+        std::vector<Share> shares;
+        for (const auto& row : rows) {
+            Share& share = shares.emplace_back();
+            for (const Cell* cell : row) {
+                if (cell->label != nullptr) widen(share.extent, cell->label->room().height);
+                widen(share.extent, cell->content->room().height);
+            }
         }
         return shares;
     }

@@ -6,7 +6,7 @@ const builders = {
   row: (node, views) => box('row', node.children.map((child) => build(child, views))),
   column: (node, views) => box('column', node.children.map((child) => build(child, views))),
   fields(node, views) {
-    const table = box('fields', node.children.flatMap((child, at) => fieldCells(child, views, at % node.columns === 0)));
+    const table = box('fields', node.children.flatMap((child) => fieldCells(child, views)));
     table.style.setProperty('--columns', node.columns);
     return table;
   },
@@ -59,18 +59,17 @@ function fieldContent(node, views) {
  * One field of a table: a cell for the label and one for the rest, so that all of them stand in
  * line. A row that begins with a field is one too; what is none gets both cells.
  */
-function fieldCells(node, views, first) {
+function fieldCells(node, views) {
   const field = node.kind === 'row' ? node.children?.[0] : node;
   if (field?.kind !== 'field') {
     const whole = build(node, views);
     whole.classList.add('whole');
-    if (!first) whole.classList.add('later');
     return [whole];
   }
   const rest = node.kind === 'row' ? node.children.slice(1) : [];
-  const label = box(first ? 'label-cell' : 'label-cell later', [labelOf({ children: [], ...field }, views)]);
+  const label = box('label-cell', [labelOf({ children: [], ...field }, views)]);
   const content = fieldContent({ children: [], ...field }, views);
   content.append(...rest.map((child) => build(child, views)));
-  if (node.grows) content.classList.add('grows');
+  if (node.grows) for (const cell of [label, content]) cell.classList.add('grows');
   return [label, content];
 }
