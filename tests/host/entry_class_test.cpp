@@ -82,49 +82,42 @@ TEST_F(EntryClass, HandsTheFlagsBack) {
     EXPECT_THROW(host.openContract(1), std::invalid_argument);
 }
 
-/// A report screen that counts how often the host made and called it.
+/// A report screen that counts how often the host made it and says with what it was called.
 struct CountingScreen final : host::ReportScreen {
-    explicit CountingScreen(int& made) { ++made; }
+    CountingScreen(int& made, std::string& seen) : seen_(seen) { ++made; }
     void Run(const host::TlxVar&, std::int16_t modul) override {
-        calls += std::to_string(modul) + " ";
-        seen = calls;
+        seen_ = calls_ += std::to_string(modul) + " ";
     }
-    std::string calls;
-    static inline std::string seen;
+
+private:
+    std::string calls_;
+    std::string& seen_;
 };
 
-TEST_F(EntryClass, ReleasesOnlyTheProvisionReports) {
+TEST_F(EntryClass, OfTheReportScreensOnlyThatOfQuantitiesIsKept) {
     int provisions = 0;
     int quantities = 0;
-    host::clsVertrag module{host.services,
-                            [&](auto&) { return std::make_unique<CountingScreen>(provisions); },
-                            [&](auto&) { return std::make_unique<CountingScreen>(quantities); }};
-    module.F_VertragMengenmeldung_WVO_Run(host.session, 1);
-    module.F_Bereitstellung_WVO_Run(host.session, 2);
-    EXPECT_EQ(CountingScreen::seen, "2 ") << "a fresh screen";
-    module.F_Bereitstellung_WVO_Run(host.session, 3);
-    EXPECT_EQ(CountingScreen::seen, "3 ") << "a fresh one again";
-    module.F_VertragMengenmeldung_WVO_Run(host.session, 4);
-    EXPECT_EQ(CountingScreen::seen, "1 4 ") << "the kept screen, as the first call left it";
-    EXPECT_EQ(provisions, 2);
-    EXPECT_EQ(quantities, 1);
-}
-
-TEST_F(EntryClass, QuantityReportsReleaseAKeptProvisionReport) {
-    int provisions = 0;
-    host::clsVertrag module{host.services,
-                            [&](auto&) { return std::make_unique<CountingScreen>(provisions); },
-                            [&](auto&) { return std::make_unique<CountingScreen>(provisions); }};
-    host::moduleState().screens["F_Bereitstellung_WVO"] = std::make_unique<CountingScreen>(provisions);
+    std::string seen;
+    const auto counting = [&seen](int& made) {
+        return [&](auto&) { return std::make_unique<CountingScreen>(made, seen); };
+    };
+    host::clsVertrag module{host.services, counting(provisions), counting(quantities)};
+    host::moduleState().screens["F_Bereitstellung_WVO"] = counting(provisions)(host.services);
     module.F_VertragMengenmeldung_WVO_Run(host.session, 1);
     EXPECT_FALSE(host::moduleState().screens.contains("F_Bereitstellung_WVO"));
-    EXPECT_TRUE(host::moduleState().screens.contains("F_VertragMengenmeldung_WVO"));
-}
+    module.F_Bereitstellung_WVO_Run(host.session, 2);
+    EXPECT_EQ(seen, "2 ") << "a fresh screen";
+    module.F_Bereitstellung_WVO_Run(host.session, 3);
+    EXPECT_EQ(seen, "3 ") << "a fresh one again";
+    module.F_VertragMengenmeldung_WVO_Run(host.session, 4);
+    EXPECT_EQ(seen, "1 4 ") << "the kept screen, as the first call left it";
+    EXPECT_EQ(provisions, 3);
+    EXPECT_EQ(quantities, 1);
 
-TEST_F(EntryClass, AReportWithoutItsScreenSaysSo) {
-    host::clsVertrag module{host.services};
-    EXPECT_THROW(module.F_Bereitstellung_WVO_Run(host.session, 1), host::NotAvailable);
-    EXPECT_THROW(module.F_VertragMengenmeldung_WVO_Run(host.session, 1), host::NotAvailable);
+    host::clsVertrag without{host.services};
+    host::moduleState().screens.clear();
+    EXPECT_THROW(without.F_Bereitstellung_WVO_Run(host.session, 1), host::NotAvailable);
+    EXPECT_THROW(without.F_VertragMengenmeldung_WVO_Run(host.session, 1), host::NotAvailable);
 }
 
 TEST_F(EntryClass, ThreadsShareNoValues) {
