@@ -3,9 +3,9 @@
 #include "embedded/Catalogue.h"
 #include "embedded/ast.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tellurix::embedded {
@@ -84,6 +84,20 @@ private:
     int aggregateDepth_ = 0;
     const List<Expression*>* groupBy_ = nullptr;
     std::vector<const Expression*> loose_;
+};
+
+/// Lets a pointer point to a scope for as long as this object lives.
+class EnteredScope {
+public:
+    EnteredScope(Scope*& current, Scope* entered)
+        : current_(current), before_(std::exchange(current, entered)) {}
+    ~EnteredScope() { current_ = before_; }
+    EnteredScope(const EnteredScope&) = delete;
+    EnteredScope& operator=(const EnteredScope&) = delete;
+
+private:
+    Scope*& current_;
+    Scope* before_;
 };
 
 } // namespace tellurix::embedded

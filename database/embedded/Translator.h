@@ -99,6 +99,7 @@ private:
     QueryText queryText(const Query& query, bool named, const EditItem& edit = {});
     QueryText unionText(const Query& query, bool named);
     QueryText singleText(const Query& query, bool named, const EditItem& edit);
+    /// Inside the branch's scope.
     void fillBranch(Branch& branch, const SelectBranch& source, const EditItem& edit);
     /// Whether its WHERE asks for one key, so that there cannot be two rows.
     bool choosesOneRow(const SelectBranch& branch) const;
@@ -111,6 +112,10 @@ private:
     static std::string branchText(const Branch& branch, bool named);
 
     // translate_writes.cpp
+    std::string insertedQuery(const Query& query, const Table& target, const std::vector<int>& given,
+                              const std::string& tail);
+    std::string insertedRows(const List<List<Expression*>>& rows, const Table& target,
+                             const std::vector<int>& given, const std::string& tail);
     std::string plainUpdate(const UpdateStatement& update);
     std::string joinedUpdate(const UpdateStatement& update);
     std::vector<int> insertColumns(const InsertStatement& insert, const Table& table) const;
@@ -168,6 +173,12 @@ private:
     Fragment sum(const Expression& call, const Fragment& argument);
     Fragment cast(const Expression& call);
     Fragment datePart(const Expression& call);
+    /// Any value, and the type of the text that is made of it.
+    struct TextArgument {
+        std::string sql;
+        Type type;
+    };
+    TextArgument changedArgument(const Expression& call);
     Fragment textArgument(const Expression& call, std::size_t index);
     Fragment integerArgument(const Expression& call, std::size_t index);
     Fragment dateArgument(const Expression& call, std::size_t index);

@@ -170,8 +170,7 @@ std::optional<Fragment> Translator::ownRowCondition(const Expression& expression
         &table(from.table) != source.table)
         return std::nullopt;
 
-    Scope* const outer = scope_;
-    Scope inner(outer);
+    Scope inner(scope_);
     Source row = source;
     const Name& name = from.alias.empty() ? from.table : from.alias;
     row.folded = name.folded;
@@ -182,9 +181,10 @@ std::optional<Fragment> Translator::ownRowCondition(const Expression& expression
     value(subject); // it counts as used where it stands
     const auto usedBefore = static_cast<std::ptrdiff_t>(usedColumns_.size());
     const int sourcesBefore = sourceCount_;
-    scope_ = &inner;
-    const Fragment where = condition(branch.where, "WHERE");
-    scope_ = outer;
+    const Fragment where = [&] {
+        const EnteredScope inside(scope_, &inner);
+        return condition(branch.where, "WHERE");
+    }();
     Fragment result = conditionOf("(" + where.sql + (expression.negated ? " IS NOT TRUE)" : " IS TRUE)"),
                                   expression.position);
 

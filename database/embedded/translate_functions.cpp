@@ -132,6 +132,13 @@ Fragment Translator::textArgument(const Expression& call, std::size_t index) {
     return convert(value(*call.operands[index]), Type::text(Type::unlimited));
 }
 
+Translator::TextArgument Translator::changedArgument(const Expression& call) {
+    Fragment source = value(*call.operands[0]);
+    Type type = source.type.isText() ? source.type : Type::text(Type::unlimited);
+    type.padded = false;
+    return {convert(std::move(source), Type::text(Type::unlimited)).sql, type};
+}
+
 Fragment Translator::integerArgument(const Expression& call, std::size_t index) {
     return convert(value(*call.operands[index]), Type::integer());
 }
@@ -142,27 +149,21 @@ Fragment Translator::dateArgument(const Expression& call, std::size_t index) {
 
 Fragment Translator::textEnd(const Expression& call) {
     requireArguments(call, 2, 2);
-    Fragment source = value(*call.operands[0]);
+    auto [text, type] = changedArgument(call);
     const Fragment count = integerArgument(call, 1);
-    Type type = source.type.isText() ? source.type : Type::text(Type::unlimited);
-    type.padded = false;
-    source = convert(std::move(source), Type::text(Type::unlimited));
     if (count.literal == Fragment::Literal::exact && count.units > 0 &&
         (type.length == Type::unlimited || count.units < type.length))
         type.length = static_cast<std::int32_t>(count.units);
     const char* const name = call.name.folded == "left" ? "ts_left(" : "ts_right(";
-    return {.sql = name + source.sql + "," + count.sql + "," + std::to_string(call.position) + ")",
+    return {.sql = name + text + "," + count.sql + "," + std::to_string(call.position) + ")",
             .type = type,
             .position = call.position};
 }
 
 Fragment Translator::substring(const Expression& call) {
     requireArguments(call, 3, 3);
-    Fragment source = value(*call.operands[0]);
-    Type type = source.type.isText() ? source.type : Type::text(Type::unlimited);
-    type.padded = false;
-    source = convert(std::move(source), Type::text(Type::unlimited));
-    return {.sql = "ts_substring(" + source.sql + "," + integerArgument(call, 1).sql + "," +
+    auto [text, type] = changedArgument(call);
+    return {.sql = "ts_substring(" + text + "," + integerArgument(call, 1).sql + "," +
                    integerArgument(call, 2).sql + "," + std::to_string(call.position) + ")",
             .type = type,
             .position = call.position};
@@ -170,10 +171,7 @@ Fragment Translator::substring(const Expression& call) {
 
 Fragment Translator::changedText(const Expression& call) {
     requireArguments(call, 1, 1);
-    Fragment source = value(*call.operands[0]);
-    Type type = source.type.isText() ? source.type : Type::text(Type::unlimited);
-    type.padded = false;
-    const std::string text = convert(std::move(source), Type::text(Type::unlimited)).sql;
+    auto [text, type] = changedArgument(call);
     const std::string_view name = call.name.folded;
     std::string sql;
     if (name == "ltrim" || name == "rtrim")

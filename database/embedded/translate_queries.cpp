@@ -45,6 +45,7 @@ Translation Translator::updatable(const SelectStatement& select) {
     if (!oneTable || source.from.front().table.written.starts_with('@'))
         failSyntax("Only a query on one table, without groups, can be edited", query.position);
     Branch branch(nullptr);
+    const EnteredScope inside(scope_, &branch.scope);
     fillBranch(branch, source, {});
     const Source& edited = branch.scope.sources().front();
     std::vector<OutputColumn> columns;
@@ -67,19 +68,13 @@ Translation Translator::updatable(const SelectStatement& select) {
 }
 
 Translator::QueryText Translator::queryText(const Query& query, bool named, const EditItem& edit) {
-    Scope* const outer = scope_;
-    QueryText text;
-    if (query.branches.size() == 1)
-        text = singleText(query, named, edit);
-    else
-        text = unionText(query, named);
-    scope_ = outer;
-    return text;
+    return query.branches.size() == 1 ? singleText(query, named, edit) : unionText(query, named);
 }
 
 Translator::QueryText Translator::singleText(const Query& query, bool named, const EditItem& edit) {
     const SelectBranch& source = *query.branches.front();
     Branch branch(scope_);
+    const EnteredScope inside(scope_, &branch.scope);
     fillBranch(branch, source, edit);
     QueryText text;
     for (std::size_t index = 0; index < branch.items.size(); ++index)
@@ -93,12 +88,11 @@ Translator::QueryText Translator::singleText(const Query& query, bool named, con
 
 /// All branches take the types on which their columns agree.
 Translator::QueryText Translator::unionText(const Query& query, bool named) {
-    Scope* const outer = scope_;
     std::vector<std::unique_ptr<Branch>> branches;
     for (const SelectBranch* const source : query.branches) {
         if (source->top != nullptr) failSyntax("TOP inside a UNION is not supported", source->top->position);
-        scope_ = outer;
-        branches.push_back(std::make_unique<Branch>(outer));
+        branches.push_back(std::make_unique<Branch>(scope_));
+        const EnteredScope inside(scope_, &branches.back()->scope);
         fillBranch(*branches.back(), *source, {});
         branches.back()->scope.requireGrouped();
         if (branches.back()->items.size() != branches.front()->items.size())
@@ -132,7 +126,6 @@ Translator::QueryText Translator::unionText(const Query& query, bool named) {
 
 void Translator::fillBranch(Branch& branch, const SelectBranch& source, const EditItem& edit) {
     Scope& scope = branch.scope;
-    scope_ = &scope;
     branch.distinct = source.distinct;
     if (!source.from.empty()) branch.rest = fromText(source.from, scope);
     if (source.where != nullptr) branch.rest += " WHERE " + condition(source.where, "WHERE").sql;
@@ -256,10 +249,8 @@ std::string Translator::fromItemText(const FromItem& item, Scope& scope) {
     std::string sql;
     if (item.derived != nullptr) {
         // A derived table sees nothing of the FROM clause that it stands in, only what is around it.
-        Scope* const inside = scope_;
-        scope_ = scope.outer();
+        const EnteredScope outside(scope_, scope.outer());
         QueryText text = queryText(*item.derived, true);
-        scope_ = inside;
         for (const OutputColumn& column : text.columns)
             if (column.name.empty())
                 failSyntax("Every column of " + std::string(item.alias.written) + " needs a name",

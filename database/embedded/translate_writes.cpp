@@ -19,10 +19,16 @@ Fragment convertForColumn(Fragment value, const Table& table, int column) {
                    {.purpose = Destination::Purpose::column, .column = label});
 }
 
+void requireCount(std::size_t count, std::size_t columns, std::size_t position) {
+    if (count != columns)
+        failSyntax("INSERT names " + std::to_string(columns) + " columns and gives " + std::to_string(count) +
+                       " values",
+                   position);
+}
+
 } // namespace
 
 void Translator::start() {
-    scope_ = nullptr;
     parameters_.clear();
     sourceCount_ = 0;
     rememberedCount_ = 0;
@@ -128,41 +134,46 @@ Translation Translator::insert(const InsertStatement& insert) {
     for (const int column : defaulted)
         tail += "," + defaultOf(target, column).sql;
 
-    const auto requireCount = [&](std::size_t count, std::size_t position) {
-        if (count != given.size())
-            failSyntax("INSERT names " + std::to_string(given.size()) + " columns and gives " +
-                           std::to_string(count) + " values",
-                       position);
-    };
-    if (insert.query != nullptr) {
-        QueryText text = queryText(*insert.query, true);
-        requireCount(text.columns.size(), insert.query->position);
-        sql += " SELECT ";
-        for (std::size_t index = 0; index < given.size(); ++index) {
-            Fragment item{.sql = "s.c" + std::to_string(index + 1),
-                          .type = text.columns[index].type,
-                          .position = insert.query->position};
-            sql += (index == 0 ? "" : ",") + convertForColumn(std::move(item), target, given[index]).sql;
-        }
-        sql += tail + " FROM (" + text.sql + ") s";
-    } else {
-        sql += " VALUES ";
-        for (std::size_t row = 0; row < insert.rows.size(); ++row) {
-            requireCount(insert.rows[row].size(), insert.rows[row].front()->position);
-            sql += row == 0 ? "(" : ",(";
-            for (std::size_t index = 0; index < given.size(); ++index) {
-                Fragment item = convertForColumn(value(*insert.rows[row][index]), target, given[index]);
-                sql += (index == 0 ? "" : ",") + item.sql;
-            }
-            sql += tail + ")";
-        }
-    }
+    sql += insert.query != nullptr ? insertedQuery(*insert.query, target, given, tail)
+                                   : insertedRows(insert.rows, target, given, tail);
     Translation translation = finish(std::move(sql));
     if (hasIdentity) {
         translation.identityTable = foldName(target.name());
         translation.givesIdentity = givesIdentity;
     }
     return translation;
+}
+
+/// @param given the columns that the query's columns are for
+/// @param tail what every row ends with
+std::string Translator::insertedQuery(const Query& query, const Table& target, const std::vector<int>& given,
+                                      const std::string& tail) {
+    const QueryText text = queryText(query, true);
+    requireCount(text.columns.size(), given.size(), query.position);
+    std::string sql = " SELECT ";
+    for (std::size_t index = 0; index < given.size(); ++index) {
+        Fragment item{.sql = "s.c" + std::to_string(index + 1),
+                      .type = text.columns[index].type,
+                      .position = query.position};
+        sql += (index == 0 ? "" : ",") + convertForColumn(std::move(item), target, given[index]).sql;
+    }
+    return sql + tail + " FROM (" + text.sql + ") s";
+}
+
+/// The same of rows of values.
+std::string Translator::insertedRows(const List<List<Expression*>>& rows, const Table& target,
+                                     const std::vector<int>& given, const std::string& tail) {
+    std::string sql = " VALUES ";
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        requireCount(rows[row].size(), given.size(), rows[row].front()->position);
+        sql += row == 0 ? "(" : ",(";
+        for (std::size_t index = 0; index < given.size(); ++index) {
+            Fragment item = convertForColumn(value(*rows[row][index]), target, given[index]);
+            sql += (index == 0 ? "" : ",") + item.sql;
+        }
+        sql += tail + ")";
+    }
+    return sql;
 }
 
 Translation Translator::update(const UpdateStatement& update) {
@@ -172,7 +183,7 @@ Translation Translator::update(const UpdateStatement& update) {
 
 std::string Translator::plainUpdate(const UpdateStatement& update) {
     Scope scope(nullptr);
-    scope_ = &scope;
+    const EnteredScope inside(scope_, &scope);
     FromItem item;
     item.table = update.target;
     std::string sql = "UPDATE " + fromItemText(item, scope) + " SET ";
@@ -211,7 +222,7 @@ Translation Translator::edit(const std::string& tableName, const std::vector<Edi
 /// The joined rows are found first, with the new values of each target row; then they are written.
 std::string Translator::joinedUpdate(const UpdateStatement& update) {
     Scope scope(nullptr);
-    scope_ = &scope;
+    const EnteredScope inside(scope_, &scope);
     const std::string from = fromText(update.from, scope);
     const Source* const source = scope.findSource(update.target.folded);
     if (source == nullptr || source->table == nullptr)
@@ -235,7 +246,7 @@ std::string Translator::joinedUpdate(const UpdateStatement& update) {
 Translation Translator::remove(const DeleteStatement& deletion) {
     start();
     Scope scope(nullptr);
-    scope_ = &scope;
+    const EnteredScope inside(scope_, &scope);
     FromItem item;
     item.table = deletion.table;
     std::string sql = "DELETE FROM " + fromItemText(item, scope);
