@@ -1,13 +1,8 @@
 #include "home/F_Start.h"
 #include "home/ModuleOpener.h"
 
-#include "embedded/Database.h"
-#include "home/database_file.h"
 #include "host/module_state.h"
-#include "start/TestFolder.h"
-#include "support/ScriptedDisplay.h"
-
-#include <gtest/gtest.h>
+#include "services/ServicesTest.h"
 
 namespace tellurix::tests {
 namespace {
@@ -19,16 +14,9 @@ using namespace workbench;
 /// Ends the start page as the end of a session does; nothing else can.
 struct SessionOver {};
 
-/// The start page on a sample database, with the workbench's own services and the real module.
-class StartPage : public testing::Test {
+/// The start page with the real module behind it.
+class StartPage : public ServicesTest {
 protected:
-    StartPage() {
-        createWhenMissing(folder_ / "test.db", DatabaseContents::sample, clock_);
-        database_.emplace(folder_ / "test.db", clock_);
-        connection = database_->connect();
-        session = {.connection = connection.get(), .homeCurrency = "CHF", .site = {}, .user = "test"};
-        services.emplace(display, session, catalogue_);
-    }
     ~StartPage() override { host::releaseModuleState(); }
 
     void work(const ScriptedDisplay::Script& script) {
@@ -36,14 +24,14 @@ protected:
             script(user);
             throw SessionOver{};
         });
-        ModuleOpener module{*services, session};
-        F_Start start{*services, session, module,
+        ModuleOpener module{services, session};
+        F_Start start{services, session, module,
                       [this](const std::string& language) { toldLanguage = language; }};
         EXPECT_THROW(start.Run(), SessionOver);
         EXPECT_EQ(display.errors(), std::vector<std::string>{});
     }
 
-    std::int64_t number(const std::string& query) { return connection->open(query)->integer("N"); }
+    std::int64_t number(const std::string& query) { return session.connection->open(query)->integer("N"); }
 
     /// The first letters of the listed contracts' names, which tell them apart.
     static std::string listed(User& user) {
@@ -58,16 +46,6 @@ protected:
     }
 
     std::string toldLanguage;
-    host::TlxVar session;
-    std::unique_ptr<common::Connection> connection;
-    ScriptedDisplay display;
-    std::optional<WorkbenchServices> services;
-
-private:
-    TestFolder folder_;
-    SystemClock clock_;
-    TextCatalogue catalogue_ = TextCatalogue::builtIn();
-    std::optional<embedded::Database> database_;
 };
 
 constexpr int all = 0;
@@ -182,7 +160,7 @@ TEST_F(StartPage, AContractThatIsGoneIsToldAndLeavesTheList) {
     display.onMessage("gibt es nicht mehr");
     work([&](User& user) {
         user.type("txtSearch", "mariahof");
-        connection->execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = 17");
+        session.connection->execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = 17");
         user.key(Key::enter);
         EXPECT_EQ(listed(user), "");
     });
@@ -273,9 +251,10 @@ TEST_F(StartPage, SwitchesTheLanguageAtOnceAndBack) {
 }
 
 TEST_F(StartPage, StaysOpenAndListsNoMoreThanCanBeSurveyed) {
-    connection->execute("Declare @n int\r\nSET @n = 0\r\nWHILE @n < 600\r\nbegin\r\n"
-                        "INSERT INTO VERTRAEGE (VERTRAG_NAME) VALUES ('Z' + CAST(@n AS nvarchar(5)))\r\n"
-                        "SET @n = @n + 1\r\nend");
+    session.connection->execute(
+        "Declare @n int\r\nSET @n = 0\r\nWHILE @n < 600\r\nbegin\r\n"
+        "INSERT INTO VERTRAEGE (VERTRAG_NAME) VALUES ('Z' + CAST(@n AS nvarchar(5)))\r\n"
+        "SET @n = @n + 1\r\nend");
     work([&](User& user) {
         EXPECT_EQ(user.grid("grdContracts").rows().size(), F_Start::listedAtMost);
         EXPECT_EQ(user.caption("lblCount"), "500 von mehr als 500 – bitte einschränken");
