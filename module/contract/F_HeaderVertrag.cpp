@@ -6,6 +6,7 @@
 #include "common/number_format.h"
 #include "common/text.h"
 #include "contract/header_captions.h"
+#include "host/text_numbers.h"
 #include "ui/caption.h"
 #include "ui/date_box.h"
 #include "ui/number_box.h"
@@ -21,9 +22,7 @@ using ui::row;
 
 namespace {
 
-constexpr int invalidEntryText = 223;
 constexpr const char* numberMask = "#########0.00";
-constexpr const char* euro = "EUR";
 
 std::string numbered(const std::string& base, std::size_t index) {
     return base + std::to_string(index + 1);
@@ -64,7 +63,8 @@ F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
 void F_HeaderVertrag::connectDates() {
     const auto connect = [this](ui::TextBox& box, std::function<std::string()> title) {
         ui::makeDateBox(box, [this] {
-            common::ShowMessage(services_.display, services_.localizer.text(invalidEntryText, session_),
+            common::ShowMessage(services_.display,
+                                services_.localizer.text(host::textNumber::invalidEntry, session_),
                                 ui::box::exclamation);
         });
         box.onPick = [this, &box, title = std::move(title)] {
@@ -189,7 +189,7 @@ void F_HeaderVertrag::LoadHeader() {
     rechnungsart_.show(row->text("RECHNUNGSART"), row->text("RART_ID"));
     buchungsart_.show(row->text("BUCHUNGSTEXT"), row->text("BUCHNR_ID"));
     const bool inEuro = row->flag("EURO");
-    txtWahrung.setText(inEuro ? euro : homeCurrency_);
+    txtWahrung.setText(inEuro ? host::euro : homeCurrency_);
     txtWahrung.setTag(inEuro ? "1" : "0");
     accessLevel_ = static_cast<int>(row->integer("ID_ACCESS_LEVELS", session_.accessLevel));
     mandant_.show(row->text("ID_MANDANTEN"), row->text("MANDANTENNUMMER"),
@@ -201,7 +201,7 @@ void F_HeaderVertrag::LoadHeader() {
 void F_HeaderVertrag::leaveCurrency() {
     const bool home =
         txtWahrung.text().empty() || common::toUpper(txtWahrung.text()) == common::toUpper(homeCurrency_);
-    txtWahrung.setText(home ? homeCurrency_ : euro);
+    txtWahrung.setText(home ? homeCurrency_ : host::euro);
     txtWahrung.setTag(home ? "0" : "1");
 }
 

@@ -8,6 +8,7 @@
 #include "contract/F_HeaderVertrag.h"
 #include "contract/header_captions.h"
 #include "host/contract_type.h"
+#include "host/text_numbers.h"
 #include "ui/caption.h"
 
 namespace tellurix::contract {
@@ -21,7 +22,6 @@ using ui::row;
 
 namespace {
 
-constexpr int discardQuestion = 1078;
 constexpr const char* priceScreen = "F_VertragPreise";
 constexpr const char* quantityScreen = "F_VertragMengen";
 
@@ -194,7 +194,7 @@ void F_Vertrag::ShowHeader() {
     add("Lieferadresse", header->text("PLAKURZBEZEICHNUNG"));
     add(caption(captions.rechnungsart), header->text("RECHNUNGSART"));
     add(caption(captions.buchungsart), header->text("BUCHUNGSTEXT"));
-    add(caption(captions.wahrung), header->flag("EURO") ? "EUR" : session_.homeCurrency);
+    add(caption(captions.wahrung), header->flag("EURO") ? host::euro : session_.homeCurrency);
     for (std::size_t i = 0; i < captions.kopf.size(); ++i) {
         add(caption(captions.kopf[i]), header->text("KOPF" + std::to_string(i + 1)));
     }
@@ -329,7 +329,7 @@ void F_Vertrag::save() {
 
 bool F_Vertrag::queryUnload() {
     if (newContract_ && notYetSaved_) {
-        const std::string question = services_.localizer.text(discardQuestion, session_);
+        const std::string question = services_.localizer.text(host::textNumber::discardContract, session_);
         if (common::ShowMessage(services_.display, question, ui::box::yesNo) != ui::Answer::yes) return false;
         discard();
         releaseLineScreens();

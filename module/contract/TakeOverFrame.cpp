@@ -4,6 +4,7 @@
 #include "common/StatementText.h"
 #include "common/text.h"
 #include "host/module_state.h"
+#include "host/text_numbers.h"
 #include "lines/TakeOver.h"
 #include "ui/caption.h"
 
@@ -14,8 +15,6 @@ namespace tellurix::contract {
 using common::StatementText;
 
 namespace {
-
-constexpr int missingEntryText = 223;
 
 /// Shows the progress bar as long as it lives.
 class ShownProgress {
@@ -98,7 +97,7 @@ bool TakeOverFrame::acceptsTypeOf(std::int32_t source) {
 
 void TakeOverFrame::takeOver() {
     const std::string& name = txtVertrag.text();
-    if (name.empty()) return refuse(services_.localizer.text(missingEntryText, session_));
+    if (name.empty()) return refuse(services_.localizer.text(host::textNumber::invalidEntry, session_));
     if (source_.key().empty()) return refuse("Den Vertrag „" + name + "“ gibt es nicht.");
     const auto source = static_cast<std::int32_t>(std::stol(source_.key()));
     if (source == contract_) return refuse("Ein Vertrag kann nicht aus sich selbst übernehmen.");

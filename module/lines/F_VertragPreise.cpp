@@ -16,7 +16,6 @@ namespace {
 
 constexpr const char* priceMask = "-#######0.00";
 constexpr const char* secondPriceMask = "#####0.00";
-constexpr const char* euro = "EUR";
 constexpr int euroEntry = 0;
 constexpr int homeCurrencyEntry = 1;
 
@@ -87,7 +86,7 @@ void F_VertragPreise::prepare(bool /*shown*/) {
     txtPreis_Abr2.setVisible(site_ != Site::standard);
 
     cboGeld.clear();
-    cboGeld.add(euro);
+    cboGeld.add(host::euro);
     cboGeld.add(session_.homeCurrency);
     chkEdit.setChecked(false);
     cellEditor_.close();
@@ -116,7 +115,7 @@ ui::Grid::Row F_VertragPreise::FillGridRow(common::Recordset& record) const {
     if (showsPercent_) row.push_back(number("MSZ_PERCENT", "0.0"));
     row.push_back(number("PREIS", site_ == Site::standard ? "##0.00" : "0.00"));
     row.push_back(record.text("EINHEIT"));
-    row.push_back(record.flag("EURO") ? euro : session_.homeCurrency);
+    row.push_back(record.flag("EURO") ? host::euro : session_.homeCurrency);
     if (hasSecondPriceColumn()) row.push_back(number("PREIS_ABR2", secondPriceMask));
     return row;
 }

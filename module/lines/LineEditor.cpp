@@ -3,6 +3,7 @@
 #include "common/M_Common.h"
 #include "common/StatementText.h"
 #include "common/text.h"
+#include "host/text_numbers.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -14,7 +15,6 @@ using common::StatementText;
 namespace {
 
 constexpr std::int64_t noRow = -1;
-constexpr int missingEntryText = 223;
 constexpr const char* lineIsGone =
     "Diese Zeile wurde inzwischen verschoben oder gelöscht. Bitte das Fenster schließen und neu öffnen.";
 constexpr const char* closeUnsaved = "Die Zeile ist noch nicht gespeichert. Ohne Speichern schließen?";
@@ -245,7 +245,8 @@ void LineEditor::save() {
     if (!confirmSave()) return;
     StoreSelection();
     if (!lineHasSelection()) {
-        common::ShowMessage(services_.display, services_.localizer.text(missingEntryText, session_),
+        common::ShowMessage(services_.display,
+                            services_.localizer.text(host::textNumber::invalidEntry, session_),
                             ui::box::exclamation);
         selectInDialog();
         return;

@@ -4,6 +4,7 @@
 #include "common/date_format.h"
 #include "common/field_text.h"
 #include "home/contract_types.h"
+#include "host/text_numbers.h"
 #include "services/search_keys.h"
 #include "ui/date_box.h"
 
@@ -19,7 +20,6 @@ using ui::row;
 
 namespace {
 
-constexpr int invalidEntry = 223;
 constexpr std::int64_t allTypes = -1;
 constexpr std::array<const char*, 2> languages{"de", "en"};
 
@@ -80,7 +80,8 @@ void F_Start::connect() {
 
 void F_Start::connectPeriod(ui::TextBox& box) {
     ui::makeDateBox(box, [this] {
-        common::ShowMessage(services_.host().display, services_.host().localizer.text(invalidEntry, session_),
+        common::ShowMessage(services_.host().display,
+                            services_.host().localizer.text(host::textNumber::invalidEntry, session_),
                             ui::box::exclamation);
     });
     box.onLeave = [this, leaveDate = std::move(box.onLeave)] {

@@ -2,6 +2,7 @@
 
 #include "common/M_Common.h"
 #include "common/text.h"
+#include "host/text_numbers.h"
 #include "ui/Form.h"
 #include "ui/Label.h"
 #include "ui/caption.h"
@@ -9,8 +10,6 @@
 namespace tellurix::workbench {
 
 namespace {
-
-constexpr int invalidEntryText = 223;
 
 /// What the user sees the box called, in brackets behind a blank; empty when nothing names it.
 std::string nameOf(const ui::TextBox& box) {
@@ -37,7 +36,7 @@ bool LookupValidationService::resolve(const host::TlxVar& session, const std::st
         return true;
     }
     answer("", "");
-    common::ShowMessage(display_, localizer_.text(invalidEntryText, session) + nameOf(box),
+    common::ShowMessage(display_, localizer_.text(host::textNumber::invalidEntry, session) + nameOf(box),
                         ui::box::exclamation);
     return false;
 }
