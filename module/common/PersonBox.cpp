@@ -46,7 +46,7 @@ void PersonBox::pick() {
         personKey(number_.tag()), context.blnOK);
     if (person <= 0) return;
     StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
-    const auto row = session_.connection->open(query.number(std::int64_t{person}).text());
+    const auto row = session_.connection->open(query.number(person).text());
     if (!row->atEnd()) number_.setText(row->text("NUMMER"));
 }
 

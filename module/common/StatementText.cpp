@@ -44,10 +44,6 @@ StatementText& StatementText::fixed(std::string_view text) {
     return *this;
 }
 
-StatementText& StatementText::number(std::int64_t value) {
-    return number(std::to_string(value));
-}
-
 StatementText& StatementText::number(std::string_view typed) {
     std::string plain(typed);
     std::replace(plain.begin(), plain.end(), ',', '.');

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <concepts>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -38,7 +38,10 @@ public:
 
     /// Text of the program itself.
     StatementText& fixed(std::string_view text);
-    StatementText& number(std::int64_t value);
+    template <std::integral Integer>
+    requires(!std::same_as<Integer, bool>) StatementText& number(Integer value) {
+        return number(std::string_view{std::to_string(value)});
+    }
     /// A number as the user typed it; every "," becomes ".". Refused unless the result is a plain
     /// number (`isPlainNumber`), without blanks.
     StatementText& number(std::string_view typed);
@@ -52,6 +55,11 @@ public:
     /// A table or column name: ASCII letters, digits and "_", no digit first. Anything else is refused.
     StatementText& identifier(std::string_view name);
     StatementText& null() { return fixed("NULL"); }
+    /// As `quoted` and `quotedAsItStands`, but an empty text is NULL.
+    StatementText& quotedOrNull(std::string_view value) { return value.empty() ? null() : quoted(value); }
+    StatementText& quotedAsItStandsOrNull(std::string_view value) {
+        return value.empty() ? null() : quotedAsItStands(value);
+    }
 
     /// The finished statement; a value of its own, because a statement is mostly composed in a temporary.
     /// @throws StatementError naming the statement and the first refused value, with a message for the

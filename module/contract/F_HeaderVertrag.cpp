@@ -174,7 +174,7 @@ void F_HeaderVertrag::LoadHeader() {
         " LEFT JOIN PERSONAL PLA ON PLA.ID_PERSONAL = VERTRAEGE.ID_PERSONAL_LIEFERADRESSE "
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
-    const auto row = session_.connection->open(query.number(std::int64_t{contract_}).text());
+    const auto row = session_.connection->open(query.number(contract_).text());
 
     txtDate1.setText(common::dateText(row->field("INVDATE")));
     txtDate2.setText(common::dateText(row->field("DATE1")));
@@ -209,19 +209,12 @@ std::string F_HeaderVertrag::updateStatement() const {
     StatementText statement{"UPDATE VERTRAEGE SET "};
     const auto date = [&](std::string_view assignment, const ui::TextBox& box) {
         statement.fixed(assignment);
-        if (box.text().empty()) {
-            statement.null();
-        } else {
-            statement.quotedAsItStands(services_.dateConverter.toSql(box.text(), session_));
-        }
+        box.text().empty() ? statement.null()
+                           : statement.quotedAsItStands(services_.dateConverter.toSql(box.text(), session_));
     };
     const auto numberOrNull = [&](std::string_view assignment, const std::string& text, bool isNumber) {
         statement.fixed(assignment);
-        if (isNumber) {
-            statement.number(text);
-        } else {
-            statement.null();
-        }
+        isNumber ? statement.number(text) : statement.null();
     };
     const auto isNumeric = [this](const std::string& text) {
         return common::isNumeric(text, services_.locale);
@@ -237,19 +230,14 @@ std::string F_HeaderVertrag::updateStatement() const {
         numberOrNull(numbered(",NUMM", i) + " = ", txtNumber[i].text(), isNumeric(txtNumber[i].text()));
     }
     for (std::size_t i = 0; i < txtKopf.size(); ++i) {
-        statement.fixed(numbered(",KOPF", i) + " = ");
-        if (txtKopf[i].text().empty()) {
-            statement.null();
-        } else {
-            statement.quotedAsItStands(txtKopf[i].text());
-        }
+        statement.fixed(numbered(",KOPF", i) + " = ").quotedAsItStandsOrNull(txtKopf[i].text());
     }
     numberOrNull(",RART_ID = ", rechnungsart_.key(), !rechnungsart_.key().empty());
     numberOrNull(",BUCHNR_ID = ", buchungsart_.key(), !buchungsart_.key().empty());
     numberOrNull(",ID_MANDANTEN = ", mandant_.key(), isNumeric(mandant_.key()));
     numberOrNull(",ID_PERSONAL_LIEFERADRESSE = ", lieferadresse_.key(), isNumeric(lieferadresse_.key()));
     statement.fixed(",EURO = ").fixed(txtWahrung.tag() == "1" ? "1" : "0");
-    statement.fixed(" WHERE ID_VERTRAG = ").number(std::int64_t{contract_});
+    statement.fixed(" WHERE ID_VERTRAG = ").number(contract_);
     return statement.text();
 }
 

@@ -128,19 +128,14 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
 
 void F_Vertrag::SetContractField(const std::string& column, const std::string& value, std::int32_t contract) {
     StatementText statement{"UPDATE VERTRAEGE SET "};
-    statement.identifier(column).fixed(" = ");
-    if (value.empty()) {
-        statement.null();
-    } else {
-        statement.quotedAsItStands(value);
-    }
-    statement.fixed(" WHERE ID_VERTRAG = ").number(std::int64_t{contract});
+    statement.identifier(column).fixed(" = ").quotedAsItStandsOrNull(value);
+    statement.fixed(" WHERE ID_VERTRAG = ").number(contract);
     session_.connection->execute(statement.text());
 }
 
 void F_Vertrag::loadContract() {
     StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    const auto contract = session_.connection->open(query.number(std::int64_t{id_}).text());
+    const auto contract = session_.connection->open(query.number(id_).text());
     customer_ = static_cast<std::int32_t>(contract->integer("ID_PERSONAL"));
     accessLevel_ = contract->integer("ID_ACCESS_LEVELS");
     showCustomer();
@@ -148,13 +143,13 @@ void F_Vertrag::loadContract() {
 
 void F_Vertrag::showCustomer() {
     StatementText query{"SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = "};
-    const auto person = session_.connection->open(query.number(std::int64_t{customer_}).text());
+    const auto person = session_.connection->open(query.number(customer_).text());
     txtKunde.setText(person->atEnd() ? std::string{} : person->text("KURZBEZEICHNUNG"));
 }
 
 void F_Vertrag::loadAdditionalTexts() {
     StatementText query{"SELECT ZUSATZTEXT, ZUSATZTEXT_1, ZUSATZTEXT_2 FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    const auto texts = session_.connection->open(query.number(std::int64_t{id_}).text());
+    const auto texts = session_.connection->open(query.number(id_).text());
     for (AdditionalText& text : additionalTexts_) {
         text.written = texts->text(text.column);
         text.box.setText(text.written);
@@ -176,7 +171,7 @@ void F_Vertrag::ShowHeader() {
         " LEFT JOIN PERSONAL PLA ON PLA.ID_PERSONAL = VERTRAEGE.ID_PERSONAL_LIEFERADRESSE AND PLA.ID_PERSONAL > 0"
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
-    const auto header = session_.connection->open(query.number(std::int64_t{id_}).text());
+    const auto header = session_.connection->open(query.number(id_).text());
     List1.clear();
     const auto add = [this](const std::string& caption, const std::string& value) {
         if (!value.empty()) List1.add(ui::plainCaption(caption) + ": " + value);
@@ -255,7 +250,7 @@ void F_Vertrag::loadFlags() {
     StatementText query{
         "SELECT ISNULL(ABGESCHLOSSEN,0) AS ABGESCHLOSSEN,ISNULL(ACL_EMPTY,0) AS ACL_EMPTY   FROM VERTRAEGE"
         " WHERE ID_VERTRAG = "};
-    const auto flags = session_.connection->open(query.number(std::int64_t{id_}).text());
+    const auto flags = session_.connection->open(query.number(id_).text());
     chkAbgeschlossen.setChecked(flags->integer("ABGESCHLOSSEN") != 0);
     chkAClEmpty.setChecked(flags->integer("ACL_EMPTY") != 0);
 }
@@ -281,7 +276,7 @@ void F_Vertrag::chooseCustomer() {
 
 void F_Vertrag::removeCustomer() {
     StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    const auto contract = session_.connection->openUpdatable(query.number(std::int64_t{id_}).text());
+    const auto contract = session_.connection->openUpdatable(query.number(id_).text());
     contract->setField("id_personal", common::Null{});
     contract->update();
     customer_ = 0;
@@ -294,8 +289,7 @@ void F_Vertrag::openHeader() {
     header.Run(session_, id_);
     ShowHeader();
     StatementText query{"SELECT ID_ACCESS_LEVELS FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    accessLevel_ =
-        session_.connection->open(query.number(std::int64_t{id_}).text())->integer("ID_ACCESS_LEVELS");
+    accessLevel_ = session_.connection->open(query.number(id_).text())->integer("ID_ACCESS_LEVELS");
 }
 
 void F_Vertrag::toggleAdditionalTexts() {
@@ -321,7 +315,7 @@ void F_Vertrag::save() {
             .number(accessLevel_)
             .fixed(" END");
     }
-    statement.fixed(" WHERE ID_VERTRAG = ").number(std::int64_t{id_});
+    statement.fixed(" WHERE ID_VERTRAG = ").number(id_);
     session_.connection->execute(statement.text());
     notYetSaved_ = false;
     unload();
@@ -346,7 +340,7 @@ void F_Vertrag::discard() {
     const ui::BusyPointer busy{services_.display};
     const auto run = [this](std::string_view before, std::string_view after = {}) {
         StatementText statement{before};
-        session_.connection->execute(statement.number(std::int64_t{id_}).fixed(after).text());
+        session_.connection->execute(statement.number(id_).fixed(after).text());
     };
     run("DELETE FROM VERTRAG_PREISE WHERE ID_VERTRAG = ");
     run("DELETE FROM VERTRAG_MENGEN WHERE ID_VERTRAG = ");

@@ -84,7 +84,7 @@ void TakeOverFrame::refuse(const std::string& why) {
 
 bool TakeOverFrame::acceptsTypeOf(std::int32_t source) {
     StatementText query{"SELECT VER_TYPE FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    const auto contract = session_.connection->open(query.number(std::int64_t{source}).text());
+    const auto contract = session_.connection->open(query.number(source).text());
     const std::string type = contract->atEnd() ? std::string{} : contract->text("VER_TYPE");
     const std::string& own = host::moduleState().context.StrVer_Type;
     if (common::toUpper(type) == common::toUpper(own)) return true;

@@ -85,9 +85,9 @@ std::vector<DeliveredQuantity::Line> DeliveredQuantity::linesUpTo(int place) con
         " LEFT JOIN WARENEINHEIT ON WARENEINHEIT.EINHEIT_ID = VERTRAG_MENGEN.ID_WARENEINHEIT"
         " WHERE VERTRAG_MENGEN.ORDNUNG <= "};
     // clang-format on
-    query.number(std::int64_t{place})
+    query.number(place)
         .fixed(" AND VERTRAG_MENGEN.ID_VERTRAG = ")
-        .number(std::int64_t{contract_})
+        .number(contract_)
         .fixed(" ")
         .fixed(" ORDER BY VERTRAG_MENGEN.ORDNUNG");
     const std::string type = common::toUpper(host::moduleState().context.StrVer_Type);

@@ -50,7 +50,7 @@ void F_VertragMengen::prepare(bool shown) {
     reference_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
                                                 " ID_VERTRAG = " + std::to_string(contract_));
     StatementText query{"SELECT UBERLIEFERUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = "};
-    const auto logistics = session_.connection->open(query.number(std::int64_t{contract_}).text());
+    const auto logistics = session_.connection->open(query.number(contract_).text());
     overDelivery_.reset();
     if (!logistics->atEnd()) overDelivery_ = common::numberIn(logistics->field("UBERLIEFERUNG"));
 }

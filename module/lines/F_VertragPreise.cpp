@@ -166,9 +166,9 @@ std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::stri
     statement.fixed(column == editedPriceColumn ? "PREIS = " : "PREIS_ABR2 = ")
         .number(txtEdit.text())
         .fixed(" WHERE ORDNUNG = ")
-        .number(std::int64_t{row + 1})
+        .number(row + 1)
         .fixed(" AND ID_VERTRAG = ")
-        .number(std::int64_t{contract_});
+        .number(contract_);
     session_.connection->execute(statement.text());
     // Where the layout has moved the columns, the price stands in another cell than the edited one.
     reloadLine(row);

@@ -87,7 +87,7 @@ void LineEditor::loadUnits() {
 
 std::string LineEditor::linesQuery() const {
     StatementText query{kind_.lineColumns};
-    query.fixed(" WHERE ").fixed(kind_.contractColumn).fixed(" = ").number(std::int64_t{contract_});
+    query.fixed(" WHERE ").fixed(kind_.contractColumn).fixed(" = ").number(contract_);
     return query.fixed(" ORDER BY ").fixed(kind_.placeColumn).text();
 }
 

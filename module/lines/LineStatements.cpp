@@ -9,17 +9,14 @@ using common::StatementText;
 namespace {
 
 StatementText& atPlace(StatementText& statement, int place, std::int32_t contract) {
-    return statement.fixed(" WHERE ORDNUNG = ")
-        .number(std::int64_t{place})
-        .fixed(" AND ID_VERTRAG = ")
-        .number(std::int64_t{contract});
+    return statement.fixed(" WHERE ORDNUNG = ").number(place).fixed(" AND ID_VERTRAG = ").number(contract);
 }
 
 } // namespace
 
 std::string LineStatements::insert() const {
     StatementText statement{"INSERT INTO "};
-    statement.identifier(table_).fixed(" (ID_VERTRAG) VALUES (").number(std::int64_t{contract_}).fixed(")");
+    statement.identifier(table_).fixed(" (ID_VERTRAG) VALUES (").number(contract_).fixed(")");
     return statement.text();
 }
 
@@ -72,12 +69,7 @@ std::string LineStatements::setSelectionOf(const std::string& literal, std::int6
 
 std::string LineStatements::setDialogSelectionOf(const std::string& text, std::int64_t id) const {
     StatementText statement{"UPDATE "};
-    statement.identifier(table_).fixed(" SET SELEKTION_VALUE = ");
-    if (text.empty()) {
-        statement.null();
-    } else {
-        statement.quoted(text);
-    }
+    statement.identifier(table_).fixed(" SET SELEKTION_VALUE = ").quotedOrNull(text);
     return statement.fixed(" WHERE ID = ").number(id).text();
 }
 
@@ -85,9 +77,9 @@ std::string LineStatements::closeGapBehind(int place) const {
     StatementText statement{"UPDATE "};
     return statement.identifier(table_)
         .fixed(" SET ORDNUNG = ORDNUNG - 1 WHERE ORDNUNG > ")
-        .number(std::int64_t{place})
+        .number(place)
         .fixed(" AND ID_VERTRAG = ")
-        .number(std::int64_t{contract_})
+        .number(contract_)
         .text();
 }
 

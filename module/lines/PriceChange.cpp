@@ -84,7 +84,7 @@ void PriceChange::press() {
 
 void PriceChange::show() {
     StatementText query{"SELECT BEZEICHNUNG,PREIS FROM VERTRAG_PREISE WHERE ID_VERTRAG = "};
-    query.number(std::int64_t{contract_}).fixed(" ORDER BY ORDNUNG");
+    query.number(contract_).fixed(" ORDER BY ORDNUNG");
     lines_.clear();
     for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext())
         lines_.push_back({line->text("BEZEICHNUNG"), common::numberIn(line->field("PREIS"))});
@@ -121,7 +121,7 @@ std::string PriceChange::statement() const {
     } else {
         text.fixed("PREIS = ROUND(PREIS  + ").number(txtWert.text()).fixed(",2)");
     }
-    return text.fixed(" WHERE ID_Vertrag = ").number(std::int64_t{contract_}).text();
+    return text.fixed(" WHERE ID_Vertrag = ").number(contract_).text();
 }
 
 void PriceChange::change() {

@@ -25,7 +25,7 @@ void append(StatementText& statement, const Value& field) {
 
 std::int64_t existingLines(common::Connection& connection, std::string_view query, std::int32_t contract) {
     StatementText text{query};
-    const auto count = connection.open(text.number(std::int64_t{contract}).text());
+    const auto count = connection.open(text.number(contract).text());
     return std::get<std::int64_t>(count->field(std::size_t{0}));
 }
 
@@ -42,10 +42,10 @@ std::vector<std::string> insertsFor(const Copy& copy, common::Connection& connec
     std::int64_t place = existingLines(connection, copy.count, target);
     std::vector<std::string> inserts;
     StatementText query{copy.select};
-    query.number(std::int64_t{source}).fixed(" ORDER BY ORDNUNG");
+    query.number(source).fixed(" ORDER BY ORDNUNG");
     for (auto line = connection.open(query.text()); !line->atEnd(); line->moveNext()) {
         StatementText insert{copy.insert};
-        insert.number(std::int64_t{target}).fixed(",").number(++place);
+        insert.number(target).fixed(",").number(++place);
         for (const char* column : copy.columns)
             append(insert.fixed(","), line->field(column));
         inserts.push_back(insert.fixed(")").text());

@@ -138,6 +138,8 @@ TEST(StatementText, NeverWritesACommentByTwoMinusSigns) {
 
 TEST(StatementText, WritesKeysAndNull) {
     EXPECT_EQ(StatementText("ID =").number(17).fixed(",X = ").null().text(), "ID =17,X = NULL");
+    EXPECT_EQ(StatementText().quotedOrNull("").quotedAsItStandsOrNull("").text(), "NULLNULL");
+    EXPECT_EQ(StatementText().quotedOrNull("a'b").quotedAsItStandsOrNull("a''b").text(), "'a''b''a''b'");
     EXPECT_EQ(StatementText().number(std::numeric_limits<std::int64_t>::min()).text(),
               "-9223372036854775808");
 }

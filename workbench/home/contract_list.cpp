@@ -82,7 +82,7 @@ ContractList readContracts(common::Connection& connection, const ContractFilter&
 
 bool contractExists(common::Connection& connection, std::int32_t id) {
     StatementText query{"SELECT ID_VERTRAG FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    return !connection.open(query.number(std::int64_t{id}).text())->atEnd();
+    return !connection.open(query.number(id).text())->atEnd();
 }
 
 bool contractExists(common::Connection& connection, const std::string& name) {
@@ -94,8 +94,7 @@ std::int32_t createContract(common::Connection& connection, const std::string& n
                             const std::string& type) {
     StatementText insert{"INSERT INTO VERTRAEGE (VERTRAG_NAME,VER_TYPE,ID_FAKTART) VALUES ("};
     // The contract kinds of the provision reports count the types from 1.
-    insert.quoted(name).fixed(",").quoted(type).fixed(",").number(
-        std::int64_t{host::contractTypeNumber(type)} + 1);
+    insert.quoted(name).fixed(",").quoted(type).fixed(",").number(host::contractTypeNumber(type) + 1);
     connection.execute(insert.fixed(")").text());
     // By name, because another session may have created its own contract in between.
     StatementText key{"SELECT MAX(ID_VERTRAG) AS ID_VERTRAG FROM VERTRAEGE WHERE VERTRAG_NAME = "};

@@ -8,12 +8,7 @@ void ColumnUpdateService::set(const host::TlxVar& session, const std::string& ta
                               const std::string& column, const std::string& value,
                               const std::string& condition) {
     common::StatementText statement{"UPDATE "};
-    statement.identifier(table).fixed(" SET ").identifier(column).fixed(" = ");
-    if (value.empty()) {
-        statement.null();
-    } else {
-        statement.quoted(value);
-    }
+    statement.identifier(table).fixed(" SET ").identifier(column).fixed(" = ").quotedOrNull(value);
     statement.fixed(" WHERE ").fixed(condition);
     session.connection->execute(statement.text());
 }

@@ -33,7 +33,7 @@ std::string fullName(common::Recordset& person) {
 
 std::string numberOf(const host::TlxVar& session, std::int32_t person) {
     StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
-    const auto row = session.connection->open(query.number(std::int64_t{person}).text());
+    const auto row = session.connection->open(query.number(person).text());
     return row->atEnd() ? std::string{} : row->text("NUMMER");
 }
 

@@ -24,7 +24,7 @@ std::string quoted(const std::string& pattern) {
 
 common::StatementText& allowedPersons(common::StatementText& query, int accessLevel) {
     return query.fixed(" ISNULL(DISABLE,0) = 0 AND ISNULL(ID_ACCESS_LEVELS,0) IN (0,")
-        .number(std::int64_t{accessLevel})
+        .number(accessLevel)
         .fixed(")");
 }
 
