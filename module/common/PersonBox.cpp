@@ -2,22 +2,11 @@
 
 #include "common/StatementText.h"
 #include "common/number_format.h"
+#include "common/whole_number.h"
 #include "host/module_state.h"
 #include "ui/number_box.h"
 
-#include <charconv>
-
 namespace tellurix::common {
-
-namespace {
-
-std::int32_t personKey(const std::string& tag) {
-    std::int32_t key = 0;
-    std::from_chars(tag.data(), tag.data() + tag.size(), key);
-    return key;
-}
-
-} // namespace
 
 PersonBox::PersonBox(ui::TextBox& number, ui::TextBox& shortName, host::HostServices& services,
                      const host::TlxVar& session, Choice choice)
@@ -43,7 +32,7 @@ void PersonBox::pick() {
     host::HostContext& context = host::moduleState().context;
     const std::int32_t person = services_.personalPicker.choose(
         session_, choice_.pickerMode, choice_.accessLevel(), context.g_intStandardMandanten,
-        personKey(number_.tag()), context.blnOK);
+        wholeNumber<std::int32_t>(number_.tag()).value_or(0), context.blnOK);
     if (person <= 0) return;
     StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
     const auto row = session_.connection->open(query.number(person).text());

@@ -3,6 +3,7 @@
 #include "common/M_Common.h"
 #include "common/StatementText.h"
 #include "common/text.h"
+#include "common/whole_number.h"
 #include "host/module_state.h"
 #include "host/text_numbers.h"
 #include "lines/TakeOver.h"
@@ -98,13 +99,13 @@ bool TakeOverFrame::acceptsTypeOf(std::int32_t source) {
 void TakeOverFrame::takeOver() {
     const std::string& name = txtVertrag.text();
     if (name.empty()) return refuse(services_.localizer.text(host::textNumber::invalidEntry, session_));
-    if (source_.key().empty()) return refuse("Den Vertrag „" + name + "“ gibt es nicht.");
-    const auto source = static_cast<std::int32_t>(std::stol(source_.key()));
+    const auto source = common::wholeNumber<std::int32_t>(source_.key());
+    if (!source) return refuse("Den Vertrag „" + name + "“ gibt es nicht.");
     if (source == contract_) return refuse("Ein Vertrag kann nicht aus sich selbst übernehmen.");
-    if (!acceptsTypeOf(source)) return;
+    if (!acceptsTypeOf(*source)) return;
 
     const ui::BusyPointer busy{services_.display};
-    lines::TakeOver lines{*session_.connection, source, contract_};
+    lines::TakeOver lines{*session_.connection, *source, contract_};
     if (lines.total() == 0) return refuse("Der Vertrag „" + name + "“ hat keine Preise und keine Mengen.");
     const ShownProgress shown{ProgressBar1, lines.total()};
     try {

@@ -75,6 +75,23 @@ TEST_F(TakingLinesOver, WhatCannotBeASourceIsRefusedWithTheReason) {
     EXPECT_EQ(lineCounts(1), "3+3");
 }
 
+TEST_F(TakingLinesOver, AKeyThatNoContractCanHaveIsRefused) {
+    // The first is contract 2 when only 32 bits of it are looked at; the second does not fit 64.
+    for (const char* key : {"4294967298", "99999999999999999999", "2;"}) {
+        SCOPED_TRACE(key);
+        host.display.onMessage("Den Vertrag „R-2025-003 Faserholz Judenburg“ gibt es nicht.");
+        edit(1, [&](User& user) {
+            user.type("txtVertrag", "R-2025-003 Faserholz Judenburg");
+            user.focus("btnUbernehmen");
+            user.control<ui::TextBox>("txtVertrag").setTag(key); // what the host's lookup answered
+            user.click("btnUbernehmen");
+            EXPECT_EQ(user.focused(), "txtVertrag");
+        });
+    }
+    EXPECT_TRUE(host.display.errors().empty());
+    EXPECT_EQ(lineCounts(1), "3+3");
+}
+
 TEST_F(TakingLinesOver, AnotherContractTypeIsAskedFor) {
     for (const Answer answer : {Answer::no, Answer::yes}) {
         host.display.onMessage("hat die Vertragsart A1, dieser Vertrag die Vertragsart R", answer);

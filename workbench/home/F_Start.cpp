@@ -3,6 +3,7 @@
 #include "common/M_Common.h"
 #include "common/date_format.h"
 #include "common/field_text.h"
+#include "common/whole_number.h"
 #include "home/contract_types.h"
 #include "host/text_numbers.h"
 #include "services/search_keys.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 namespace tellurix::workbench {
 
@@ -25,10 +25,7 @@ constexpr std::array<const char*, 2> languages{"de", "en"};
 
 /// The host's standard client, from the settings of the installation; 0 for none.
 std::int16_t standardClient(host::NamedSettings& settings, const host::TlxVar& session) {
-    const std::string text = settings.text(session, "STANDARDMANDANT");
-    std::int16_t client = 0;
-    std::from_chars(text.data(), text.data() + text.size(), client);
-    return client;
+    return common::wholeNumber<std::int16_t>(settings.text(session, "STANDARDMANDANT")).value_or(0);
 }
 
 } // namespace
