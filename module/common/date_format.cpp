@@ -131,6 +131,10 @@ std::string formatDate(DateTime moment, std::string_view mask, const Locale& loc
     return text;
 }
 
+std::string dateText(Date day) {
+    return formatDate(day, "dd.mm.yyyy", Locale::german());
+}
+
 std::optional<Date> parseDate(std::string_view text) {
     constexpr std::string_view blanks = " \t";
     const auto first = text.find_first_not_of(blanks);

@@ -19,6 +19,9 @@ inline std::string formatDate(Date day, std::string_view mask, const Locale& loc
     return formatDate(startOf(day), mask, locale);
 }
 
+/// A day as every screen shows it and every box takes it: "dd.mm.yyyy".
+std::string dateText(Date day);
+
 /// Reads a date as a user types it, the day first: "5.6.2025", "05.06.25" (years 00 to 29 are
 /// 2000 to 2029, 30 to 99 are 1930 to 1999), "05062025", "050625", also with "/" or "-" between
 /// the parts, and "2025-06-05". Blanks around it are ignored.

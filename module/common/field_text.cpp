@@ -7,7 +7,7 @@ namespace tellurix::common {
 
 std::string dateText(const Value& field) {
     const auto* moment = std::get_if<DateTime>(&field);
-    return moment == nullptr ? std::string{} : formatDate(*moment, "dd.mm.yyyy", Locale::german());
+    return moment == nullptr ? std::string{} : dateText(dayOf(*moment));
 }
 
 std::optional<Decimal> numberIn(const Value& field) {

@@ -110,9 +110,7 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
                                            " ID_VERTRAG = " + std::to_string(id_));
     if (newContract_) {
-        SetContractField("INVDATE",
-                         common::formatDate(services_.clock.today(), "dd.mm.yyyy", common::Locale::german()),
-                         id_);
+        SetContractField("INVDATE", common::dateText(services_.clock.today()), id_);
     }
     loadContract();
     loadAdditionalTexts();

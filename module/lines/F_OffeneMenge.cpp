@@ -33,10 +33,9 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
     std::vector<ui::Grid::Row> rows;
     for (const DeliveredQuantity::CountedLog& log : explanation.logs) {
         sum = sum + log.quantity;
-        rows.push_back(
-            {log.number,
-             log.date ? common::formatDate(*log.date, "dd.mm.yyyy", services_.locale) : std::string{},
-             log.species, log.sort, number(log.measured) + " " + log.measuredIn, number(log.quantity)});
+        rows.push_back({log.number, log.date ? common::dateText(common::dayOf(*log.date)) : std::string{},
+                        log.species, log.sort, number(log.measured) + " " + log.measuredIn,
+                        number(log.quantity)});
     }
     grdHolz.setRows(std::move(rows));
 

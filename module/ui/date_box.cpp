@@ -20,7 +20,7 @@ void makeDateBox(TextBox& box, std::function<void()> showInvalid) {
             showInvalid();
             return false;
         }
-        box.setText(common::formatDate(*date, "dd.mm.yyyy", common::Locale::german()));
+        box.setText(common::dateText(*date));
         return true;
     };
 }

@@ -21,7 +21,7 @@ std::string chosen(const char* start, const ScriptedDisplay::Script& script) {
     display.onWindow("F_Calendar", script);
     display.showModal(calendar);
     if (!calendar.chosen()) return "none";
-    return common::formatDate(*calendar.chosen(), "dd.mm.yyyy", Locale::german());
+    return common::dateText(*calendar.chosen());
 }
 
 TEST(Calendar, KeysGoOverTheEndsOfMonthsAndYears) {

@@ -148,8 +148,7 @@ void F_Calendar::show() {
     grdDays.setCurrent(static_cast<int>((local_days{day_} - first).count()) / daysOfWeek,
                        daysAfterMonday(day_) + 1);
     lblMonth.setCaption(common::formatDate(day_, "mmmm yyyy", locale_));
-    lblDay.setCaption(common::formatDate(day_, "dddd", locale_) + ", " +
-                      common::formatDate(day_, "dd.mm.yyyy", locale_));
+    lblDay.setCaption(common::formatDate(day_, "dddd", locale_) + ", " + common::dateText(day_));
 }
 
 } // namespace tellurix::workbench

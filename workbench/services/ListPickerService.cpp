@@ -59,7 +59,7 @@ std::string ListPickerService::chooseDay(const host::TlxVar& session, const std:
     F_Calendar form{title, common::parseDate(current).value_or(today), today, locale_};
     localizer_.localize(session, form);
     display_.showModal(form);
-    return form.chosen() ? common::formatDate(*form.chosen(), "dd.mm.yyyy", locale_) : current;
+    return form.chosen() ? common::dateText(*form.chosen()) : current;
 }
 
 std::string ListPickerService::headingOf(const host::TlxVar& session, const std::string& column) const {
