@@ -8,6 +8,12 @@
 
 namespace tellurix::common {
 
+std::optional<std::string> personNumber(Connection& connection, std::int32_t person) {
+    StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
+    const auto row = connection.open(query.number(person).text());
+    return row->atEnd() ? std::nullopt : std::optional{row->text("NUMMER")};
+}
+
 PersonBox::PersonBox(ui::TextBox& number, ui::TextBox& shortName, host::HostServices& services,
                      const host::TlxVar& session, Choice choice)
     : number_(number),
@@ -34,9 +40,7 @@ void PersonBox::pick() {
         session_, choice_.pickerMode, choice_.accessLevel(), context.g_intStandardMandanten,
         wholeNumber<std::int32_t>(number_.tag()).value_or(0), context.blnOK);
     if (person <= 0) return;
-    StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
-    const auto row = session_.connection->open(query.number(person).text());
-    if (!row->atEnd()) number_.setText(row->text("NUMMER"));
+    if (const auto number = personNumber(*session_.connection, person)) number_.setText(*number);
 }
 
 bool PersonBox::leave() {

@@ -3,10 +3,16 @@
 #include "host/services.h"
 #include "ui/TextBox.h"
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace tellurix::common {
+
+/// The number by which a person is known to the user; nothing when there is no such person.
+/// @param person `ID_PERSONAL`
+std::optional<std::string> personNumber(Connection& connection, std::int32_t person);
 
 /// Makes two boxes a person box: a person's number is typed or picked in the first, whose `tag`
 /// keeps `ID_PERSONAL`, and the second shows the short name. A person that nobody touched is not

@@ -52,8 +52,7 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
                                  {.caption = "Vertragsart", .width = 18}});
     cboLanguage.add("Deutsch");
     cboLanguage.add("English");
-    // A search text longer than any name only makes a long statement.
-    txtSearch.setMaxLength(80);
+    limitSearch(txtSearch);
     connect();
     arrange();
 }

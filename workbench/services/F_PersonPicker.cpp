@@ -15,8 +15,7 @@ F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::stri
                            {.caption = "Straße", .width = 22},
                            {.caption = "PLZ", .width = 7},
                            {.caption = "Ort", .width = 20}});
-    // A search text longer than any name only makes a long statement.
-    txtSearch.setMaxLength(80);
+    limitSearch(txtSearch);
     txtSearch.onChange = [this] { narrow(); };
     connectSearch(txtSearch, grdPersons, [this] { choose(); });
     btnOk.onClick = [this] { choose(); };

@@ -1,5 +1,6 @@
 #include "services/PersonPicker.h"
 
+#include "common/PersonBox.h"
 #include "services/person_conditions.h"
 #include "services/words.h"
 
@@ -31,12 +32,6 @@ std::string fullName(common::Recordset& person) {
     return firstName.empty() ? name : name + ", " + firstName;
 }
 
-std::string numberOf(const host::TlxVar& session, std::int32_t person) {
-    StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
-    const auto row = session.connection->open(query.number(person).text());
-    return row->atEnd() ? std::string{} : row->text("NUMMER");
-}
-
 } // namespace
 
 std::int32_t PersonPicker::choose(const host::TlxVar& session, const std::string& mode, int accessLevel,
@@ -52,7 +47,7 @@ std::int32_t PersonPicker::choose(const host::TlxVar& session, const std::string
     // A person beyond the first ones is reached by number.
     std::string typed;
     if (start > 0 && std::ranges::count(searched("").persons, start) == 0) {
-        const std::string number = numberOf(session, start);
+        const std::string number = common::personNumber(*session.connection, start).value_or("");
         if (std::ranges::count(searched(number).persons, start) != 0) typed = number;
     }
     const std::string title = localizer_.named("person.title", session);

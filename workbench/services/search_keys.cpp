@@ -38,4 +38,8 @@ void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> ch
     list.onDoubleClick = std::move(choose);
 }
 
+void limitSearch(ui::TextBox& search) {
+    search.setMaxLength(80);
+}
+
 } // namespace tellurix::workbench

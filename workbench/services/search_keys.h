@@ -11,4 +11,8 @@ namespace tellurix::workbench {
 /// the list's current row while the user goes on typing, and Enter chooses.
 void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> choose);
 
+/// Limits a box whose text becomes part of a statement: one that is longer than any name only makes
+/// the statement long.
+void limitSearch(ui::TextBox& search);
+
 } // namespace tellurix::workbench
