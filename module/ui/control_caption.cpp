@@ -52,8 +52,10 @@ void setPageCaptions(Tabs& tabs, std::vector<std::string> captions) {
 
 } // namespace
 
-bool hasSeveralCaptions(const Control& control) {
-    return control.kind() == ControlKind::tabs || control.kind() == ControlKind::grid;
+const char* captionKind(const Control& control) {
+    if (!captionText(control)) return "";
+    const bool several = control.kind() == ControlKind::tabs || control.kind() == ControlKind::grid;
+    return several ? "captions" : "caption";
 }
 
 std::optional<std::string> captionText(const Control& control) {

@@ -7,8 +7,9 @@
 
 namespace tellurix::ui {
 
-/// Whether the words on a control are several captions: the pages of tabs, the columns of a grid.
-bool hasSeveralCaptions(const Control& control);
+/// What a catalogue of texts calls the words on a control: "caption", "captions" for the pages of tabs
+/// and the columns of a grid, empty for a control without words of its own.
+const char* captionKind(const Control& control);
 
 /// The words on a control as one text, several captions with "|" between them; nothing for a control
 /// that has none of its own.

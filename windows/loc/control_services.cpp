@@ -2,6 +2,7 @@
 #include "loc/TypingHandler.h"
 #include "loc/mirrors.h"
 #include "loc/service_classes.h"
+#include "services/CaptionKeys.h"
 
 namespace tellurix::windows {
 
@@ -14,20 +15,20 @@ void localize(ServiceObject& service, Given given) {
     auto call = callOf(service, given);
     workbench::Localizer& localizer = call.workbench().localizer();
     Dispatch form(given[1]);
-    const std::string base = form.get(L"Name").text();
+    const workbench::CaptionKeys keys{form.get(L"Name").text()};
     const auto translate = [&](Dispatch& object, const wchar_t* property, const std::string& key) {
         const std::string shown = object.get(property).text();
-        const std::string text = localizer.translated(call.session(), base + "." + key, shown);
+        const std::string text = localizer.translated(call.session(), key, shown);
         if (text != shown) object.put(property, text);
     };
-    translate(form, L"Title", "title");
+    translate(form, L"Title", keys.title());
     Dispatch controls(form.get(L"Controls"));
     for (std::int32_t i = 0, count = controls.get(L"Count").integer(); i < count; ++i) {
         Dispatch control(controls.get(L"Item", {i}));
-        const std::string name = control.get(L"Name").text() + ".";
+        const std::string name = control.get(L"Name").text();
         const std::string kind = control.get(L"CaptionKind").text();
-        if (!kind.empty()) translate(control, L"Caption", name + kind);
-        translate(control, L"ToolTip", name + "toolTip");
+        if (!kind.empty()) translate(control, L"Caption", keys.caption(name, kind));
+        translate(control, L"ToolTip", keys.toolTip(name));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "services/Localizer.h"
 
+#include "services/CaptionKeys.h"
 #include "ui/Form.h"
 #include "ui/control_caption.h"
 
@@ -30,14 +31,14 @@ std::string Localizer::translated(const host::TlxVar& session, const std::string
 }
 
 void Localizer::localize(const host::TlxVar& session, ui::Form& form) {
-    form.setTitle(translated(session, form.name() + ".title", form.title()));
+    const CaptionKeys keys{form.name()};
+    form.setTitle(translated(session, keys.title(), form.title()));
     for (ui::Control* control : form.controls()) {
-        const std::string base = form.name() + "." + control->name();
         if (const auto shown = ui::captionText(*control)) {
-            const char* const what = ui::hasSeveralCaptions(*control) ? ".captions" : ".caption";
-            ui::setCaptionText(*control, translated(session, base + what, *shown));
+            const std::string key = keys.caption(control->name(), ui::captionKind(*control));
+            ui::setCaptionText(*control, translated(session, key, *shown));
         }
-        control->setToolTip(translated(session, base + ".toolTip", control->toolTip()));
+        control->setToolTip(translated(session, keys.toolTip(control->name()), control->toolTip()));
     }
 }
 

@@ -4,17 +4,7 @@
 
 namespace tellurix::windows {
 
-namespace {
-
 using Given = const CallArguments&;
-
-/// The end of the key that a catalogue of captions has for the control; empty for one without words.
-const char* captionKind(const ui::Control& control) {
-    if (!ui::captionText(control)) return "";
-    return ui::hasSeveralCaptions(control) ? "captions" : "caption";
-}
-
-} // namespace
 
 const DispatchTable& AnyControlObject::table() const {
     using Control = AnyControlObject;
@@ -25,8 +15,8 @@ const DispatchTable& AnyControlObject::table() const {
             .property<Control>(
                 L"ToolTip", [](Control& control, Given) { return Variant(control.target().toolTip()); },
                 [](Control& control, Given given) { control.target().setToolTip(given[0].text()); })
-            .method<Control>(L"CaptionKind",
-                             [](Control& control, Given) { return Variant(captionKind(control.target())); })
+            .method<Control>(L"CaptionKind", [](Control& control,
+                                                Given) { return Variant(ui::captionKind(control.target())); })
             .property<Control>(
                 L"Caption",
                 [](Control& control, Given) {
