@@ -1,7 +1,8 @@
 // The browser display in a real browser, over a form with every kind of control.
 import assert from 'node:assert/strict';
 import { after, before, beforeEach, afterEach, describe, test } from 'node:test';
-import { control, focused, open, serve, startBrowser, until } from './support.js';
+import * as support from './support.js';
+import { control, open, serve, startBrowser, until } from './support.js';
 
 const program = process.env.TELLURIX_WEB_DEMO;
 
@@ -35,11 +36,8 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     }
   };
   const value = (name) => control(page, name).inputValue();
-  const press = async (...keys) => {
-    for (const key of keys) await page.keyboard.press(key);
-  };
-  const hasFocus = (name) =>
-    until(async () => (await focused(page)) === name || focused(page), `focus on ${name}`);
+  const press = (...keys) => support.press(page, ...keys);
+  const hasFocus = (name) => support.hasFocus(page, name);
   /** What the screen itself knows, not what the page shows. */
   const state = (expected) =>
     until(async () => {

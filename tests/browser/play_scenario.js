@@ -1,7 +1,7 @@
 // Plays a scenario in a real browser: play_scenario.js SCENARIO DATABASE
 // The steps are described in tests/scenarios/README.md.
 import { readFileSync } from 'node:fs';
-import { control, focused, open, serve, settled, startBrowser, until } from './support.js';
+import { control, hasFocus, open, serve, settled, startBrowser, top, until } from './support.js';
 
 const [scenario, database] = process.argv.slice(2);
 
@@ -39,7 +39,7 @@ class Player {
   }
 
   window([form]) {
-    return this.page.locator(`.window:not(.behind)[data-form="${form.text}"]`).waitFor({ timeout: 5000 });
+    return top(this.page, form.text, { timeout: 5000 });
   }
 
   async type(words) {
@@ -94,7 +94,7 @@ class Player {
   async expect([name, ...rest]) {
     const wanted = rest.at(-1).text;
     if (name.text === 'focus') {
-      await until(async () => { const now = await focused(this.page); return now === wanted || now; }, 'focus');
+      await hasFocus(this.page, wanted);
       return;
     }
     const found = this.#control(name);
@@ -134,7 +134,7 @@ class Player {
   async #over(name) {
     await control(this.page, name).click();
     await settled(this.page);
-    await until(async () => { const now = await focused(this.page); return now === name || now; }, 'focus');
+    await hasFocus(this.page, name);
     await this.page.keyboard.press('Control+a');
   }
 

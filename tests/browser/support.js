@@ -84,6 +84,35 @@ export function focused(page) {
   return page.evaluate(() => document.activeElement?.dataset.control ?? '');
 }
 
+/** Waits until that control has the focus. */
+export function hasFocus(page, name) {
+  return until(async () => {
+    const now = await focused(page);
+    return now === name || now;
+  }, `focus on ${name}`);
+}
+
+/** Waits until that form is the topmost window. */
+export function top(page, form, options) {
+  return page.locator(`.window:not(.behind)[data-form="${form}"]`).waitFor(options);
+}
+
+/** Presses keys, one after the other. */
+export async function press(page, ...keys) {
+  for (const key of keys) await page.keyboard.press(key);
+}
+
+/** Goes on with Tab, or back, until a control has the focus. */
+export async function tabTo(page, name, tab = 'Tab') {
+  for (let i = 0; i < 60; ++i) {
+    const before = await focused(page);
+    if (before === name) return;
+    await press(page, tab);
+    await until(async () => (await focused(page)) !== before, 'the next control');
+  }
+  throw new Error(`${tab} never came to ${name}`);
+}
+
 /** Waits until the session has dealt with everything that the page has told it. */
 export async function settled(page) {
   await page.waitForFunction(() => window.lastAnswered >= window.lastSaid);
