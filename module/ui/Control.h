@@ -69,6 +69,8 @@ public:
     std::function<void(KeyDown&)> onKeyDown;
 
     bool dirty() const { return dirty_; }
+    /// It has to be drawn again, because a display may show something else.
+    void markDirty() { dirty_ = true; }
     /// For displays: the control has been drawn as it is now.
     virtual void drawn() { dirty_ = false; }
 
@@ -80,7 +82,6 @@ protected:
         dirty_ = true;
         return true;
     }
-    void markDirty() { dirty_ = true; }
 
 private:
     friend class Form;

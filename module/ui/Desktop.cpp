@@ -195,6 +195,11 @@ void Desktop::typeCharacter(TextBox& box, char32_t character) {
     call(box.onChange);
 }
 
+void Desktop::typeText(TextBox& box, const std::string& text) {
+    for (const char32_t character : common::decodeUtf8(box.onPaste ? box.onPaste(text) : text))
+        if (box.takes(character)) typeCharacter(box, character);
+}
+
 void Desktop::handle(Form& form, const KeyDownEvent& event) {
     KeyDown key = event.key;
     ctrlAlone_ = key.key == Key::ctrl && !key.alt && !key.shift;
@@ -303,9 +308,17 @@ void Desktop::handle(Form& form, const FocusEvent& event) {
 }
 
 void Desktop::handle(Form& form, const TextEditedEvent& event) {
-    if (!editable(event.box) || !moveFocus(form, *event.box)) return;
-    event.box->edited(event.text, event.selectionStart, event.selectionLength);
-    call(event.box->onChange);
+    if (event.box == nullptr) return;
+    TextBox& box = *event.box;
+    if (!editable(&box) || !moveFocus(form, box)) {
+        box.markDirty(); // the display shows what has not come about
+    } else if (box.edited(event.text, event.selectionStart, event.selectionLength)) {
+        call(box.onChange);
+    } else {
+        // Something that helps the user type has written it.
+        box.selectAll();
+        typeText(box, event.text);
+    }
 }
 
 void Desktop::handle(Form& form, const SelectionEvent& event) {
@@ -314,11 +327,7 @@ void Desktop::handle(Form& form, const SelectionEvent& event) {
 
 void Desktop::handle(Form& form, const PasteEvent& event) {
     if (!editable(event.box) || !moveFocus(form, *event.box)) return;
-    const std::string text = event.box->onPaste ? event.box->onPaste(event.text) : event.text;
-    for (const char32_t character : common::decodeUtf8(text)) {
-        const bool isText = character >= 32 || (character == U'\n' && event.box->lines() > 1);
-        if (isText) typeCharacter(*event.box, character);
-    }
+    typeText(*event.box, event.text);
 }
 
 void Desktop::handle(Form& form, const ClickEvent& event) {

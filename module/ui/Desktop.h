@@ -20,7 +20,8 @@ namespace tellurix::ui {
 /// - Alt with a letter presses the button, ticks the box or goes to the field with that access key;
 ///   where several have it, it goes from one to the next.
 /// - Esc presses the cancel button, or closes the window.
-/// - Characters go through the box's key filter, pasted ones too.
+/// - Characters go through the box's key filter, pasted ones too. A box that a display has edited by
+///   itself keeps the new text where that needs no filter; else it is typed in place of the old one.
 ///
 /// An error inside an event goes to the host's error handling, and the window stays as it is.
 class Desktop {
@@ -65,6 +66,8 @@ private:
     bool editKey(Control& control, const KeyDown& key);
     bool moveInList(Control& control, Key key);
     void typeCharacter(TextBox& box, char32_t character);
+    /// Types a text that does not come from keys, in place of the selection.
+    void typeText(TextBox& box, const std::string& text);
 
     ErrorHandling& errors_;
     std::vector<Form*> windows_;

@@ -15,6 +15,20 @@ int lengthOf(const std::string& text) {
     return static_cast<int>(decodeUtf8(text).size());
 }
 
+/// A text as displays show it: every line end is one character, or in a box of one line none.
+std::u32string shownText(const std::string& text, bool severalLines) {
+    std::u32string shown = decodeUtf8(text);
+    std::erase_if(shown, [severalLines](char32_t c) { return c == U'\r' || (c == U'\n' && !severalLines); });
+    return shown;
+}
+
+/// Whether a text is another one with one stretch taken out.
+bool onlyRemoves(std::u32string_view before, std::u32string_view after) {
+    if (after.size() > before.size()) return false;
+    const auto rest = std::ranges::mismatch(after, before).in1;
+    return before.ends_with(std::u32string_view{rest, after.end()});
+}
+
 } // namespace
 
 void TextBox::setText(std::string text) {
@@ -37,10 +51,18 @@ void TextBox::selectAll() {
     markDirty();
 }
 
-void TextBox::edited(std::string text, int selectionStart, int selectionLength) {
+bool TextBox::edited(std::string text, int selectionStart, int selectionLength) {
+    const std::u32string after = decodeUtf8(text);
+    if (!onlyRemoves(shownText(text_, lines_ > 1), after)) {
+        const bool fits = maxLength_ == 0 || after.size() <= static_cast<std::size_t>(maxLength_);
+        const auto isText = [this](char32_t character) { return takes(character); };
+        if (filtered() || !fits || !std::ranges::all_of(after, isText)) return false;
+    }
     text_ = std::move(text);
-    selectionStart_ = selectionStart;
-    selectionLength_ = selectionLength;
+    const int end = static_cast<int>(after.size());
+    selectionStart_ = std::clamp(selectionStart, 0, end);
+    selectionLength_ = std::clamp(selectionLength, 0, end - selectionStart_);
+    return true;
 }
 
 std::string TextBox::textAfterTyping(std::string_view typed) const {

@@ -45,8 +45,16 @@ public:
     void select(int start, int length);
     void selectAll();
 
-    /// What the user's editing made of the text. For displays that edit by themselves.
-    void edited(std::string text, int selectionStart, int selectionLength);
+    /// Whether the screen looks at each key or character. A display edits such a box by itself only
+    /// to take something out; what comes in it says character by character.
+    bool filtered() const { return onKeyPress || onKeyDown; }
+    /// Whether a character is text for this box: only one of several lines takes a line end.
+    bool takes(char32_t character) const { return character >= 32 || (character == U'\n' && lines_ > 1); }
+
+    /// Takes over what a display's own editing made of the text.
+    /// @return false when that cannot stand as it is, and nothing changed: something came in that the
+    ///         filter has not seen, that is no text for this box, or that is too much
+    bool edited(std::string text, int selectionStart, int selectionLength);
     /// Types text in place of the selection, as far as `maxLength` allows.
     void typeOver(std::string_view typed);
     /// What would stand in the box after typing `typed` in place of the selection.

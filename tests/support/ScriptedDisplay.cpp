@@ -74,9 +74,10 @@ void User::focus(std::string_view control) {
 }
 
 void User::replaceText(std::string_view control, std::string_view text) {
-    const std::string typed{text};
-    const int length = static_cast<int>(common::decodeUtf8(typed).size());
-    desktop_.dispatch(ui::TextEditedEvent{&this->control<ui::TextBox>(control), typed, length, 0});
+    focus(control);
+    auto& box = this->control<ui::TextBox>(control);
+    box.setText(std::string{text});
+    if (box.onChange) box.onChange();
 }
 
 void User::paste(std::string_view control, std::string_view text) {

@@ -28,7 +28,7 @@ public:
     void alt(char32_t letter);
     void click(std::string_view control);
     void focus(std::string_view control);
-    /// Puts a text into a box as a paste does that passes no key filter of the display.
+    /// Puts a text into a box that its key filter would not let through.
     void replaceText(std::string_view control, std::string_view text);
     void paste(std::string_view control, std::string_view text);
     void select(std::string_view control, int index, int column = 0);

@@ -1,3 +1,4 @@
+#include "common/text.h"
 #include "support/ScriptedDisplay.h"
 #include "ui/Button.h"
 #include "ui/CheckBox.h"
@@ -165,6 +166,49 @@ TEST_F(InputRules, ANumberBoxTakesWhatItsMaskCanShow) {
         user.paste("txtMenge", " 1.234,56 ");
         EXPECT_EQ(user.text("txtMenge"), "1234,56") << "the thousands of a copied number are no decimals";
         user.close();
+    });
+}
+
+TEST_F(InputRules, WhatADisplayEditedByItselfIsWhatCouldHaveBeenTyped) {
+    struct Case {
+        const char* rule;
+        ui::TextBox& box;
+        const char* before;
+        const char* edited;
+        const char* shown;
+    };
+    order.txtName.setMaxLength(5);
+    order.txtKunde.setLines(3);
+    const Case cases[] = {
+        {"without a filter it stands", order.txtName, "a", "bär", "bär"},
+        {"no more than fits", order.txtName, "abc", "xabcdef", "xabcd"},
+        {"a longer text of the program's can be shortened", order.txtName, "abcdefgh", "abcdegh", "abcdegh"},
+        {"no line end in a box of one line", order.txtName, "a", "a\nb", "ab"},
+        {"line ends in a box of several", order.txtKunde, "a", "a\nb", "a\nb"},
+        {"no control characters", order.txtKunde, "a", "a\ab", "ab"},
+        {"a stretch taken out of a filtered box", order.txtMenge, "x1234x", "x14x", "x14x"},
+        {"the same, beside line ends that are not shown", order.txtMenge, "x\r\n12", "x1", "x1"},
+        {"two stretches go through the filter with the rest", order.txtMenge, "x1234x", "x13x", "13"},
+        {"as does what comes in", order.txtMenge, "x12", "x1y2,5", "12,5"},
+        {"or is as long as before", order.txtMenge, "x12", "y12", "12"},
+        {"as a pasted text does", order.txtMenge, "", "1.234,56", "1234,56"},
+    };
+    ui::Desktop desktop{display};
+    desktop.runModal(order, [&]() -> ui::Event {
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.rule);
+            c.box.setText(c.before);
+            desktop.dispatch(ui::TextEditedEvent{&c.box, c.edited, 99, 9});
+            EXPECT_EQ(c.box.text(), c.shown);
+            const int length = static_cast<int>(common::decodeUtf8(c.shown).size());
+            EXPECT_EQ(c.box.selectionStart(), length) << "the caret stands within the text";
+            EXPECT_EQ(c.box.selectionLength(), 0);
+        }
+        order.txtGesperrt.drawn();
+        desktop.dispatch(ui::TextEditedEvent{&order.txtGesperrt, "x", 1, 0});
+        EXPECT_EQ(order.txtGesperrt.text(), "");
+        EXPECT_TRUE(order.txtGesperrt.dirty()) << "the display shows it as it is again";
+        return ui::CloseEvent{};
     });
 }
 

@@ -162,7 +162,7 @@ KeyUse TextBoxView::useOfCharacter(wchar_t unit) const {
     case 127:
         return KeyUse::nobody;
     default:
-        return unit >= 32 && filtered() && changeable() ? KeyUse::session : KeyUse::native;
+        return unit >= 32 && box_.filtered() && changeable() ? KeyUse::session : KeyUse::native;
     }
 }
 
@@ -190,18 +190,9 @@ void TextBoxView::partNotified(UINT code) {
 }
 
 void TextBoxView::edited() {
-    const std::wstring before = shownText(box_.text(), severalLines());
     const std::wstring now = windowText(handle());
-    if (now == before) return;
+    if (now == shownText(box_.text(), severalLines())) return;
     markStale();
-    if (filtered() && !onlyRemoves(before, now)) {
-        // Something that helps the user type: the filter has to see it, in place of everything.
-        tell(ui::FocusEvent{&box_});
-        tell(ui::SelectionEvent{
-            &box_, 0, charactersBefore(box_.text(), static_cast<int>(before.size()), severalLines())});
-        tell(ui::PasteEvent{&box_, editedText(now, severalLines())});
-        return;
-    }
     DWORD start = 0;
     DWORD end = 0;
     SendMessageW(handle(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
@@ -216,7 +207,7 @@ void TextBoxView::paste() {
     if (!changeable()) return;
     const std::string text = editedText(clipboardText(handle()), severalLines());
     if (text.empty()) return;
-    if (filtered() || box_.onPaste) {
+    if (box_.filtered()) {
         if (auto selected = newSelection()) tell(*selected);
         tell(ui::PasteEvent{&box_, text});
     } else {
@@ -239,14 +230,14 @@ LRESULT TextBoxView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_UNDO:
     case EM_UNDO:
         // It would bring back text past the filter.
-        if (filtered()) return FALSE;
+        if (box_.filtered()) return FALSE;
         break;
     case WM_CHAR:
         if (wParam == selectAllCharacter) {
             SendMessageW(handle(), EM_SETSEL, 0, -1);
             return 0;
         }
-        if (wParam == undoCharacter && filtered()) return 0;
+        if (wParam == undoCharacter && box_.filtered()) return 0;
         break;
     case WM_GETDLGCODE:
         return DLGC_WANTALLKEYS | DLGC_HASSETSEL;

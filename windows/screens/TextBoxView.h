@@ -41,8 +41,6 @@ private:
     void paste();
     Selection selection() const;
     bool severalLines() const { return box_.lines() > 1; }
-    /// The form has to see each character.
-    bool filtered() const { return box_.onKeyPress || box_.onKeyDown; }
     bool changeable() const { return box_.usable() && !box_.locked(); }
 
     ui::TextBox& box_;

@@ -3,8 +3,6 @@
 #include "automation/wide.h"
 #include "common/text.h"
 
-#include <algorithm>
-
 namespace tellurix::windows {
 
 namespace {
@@ -56,12 +54,6 @@ std::string editedText(std::wstring_view shown, bool severalLines) {
         text += unit == L'\n' || (unit >= 32 && unit != 127) ? unit : L' ';
     }
     return narrow(text);
-}
-
-bool onlyRemoves(std::wstring_view before, std::wstring_view after) {
-    if (after.size() > before.size()) return false;
-    const auto [unequal, rest] = std::ranges::mismatch(after, before);
-    return before.ends_with(std::wstring_view{unequal, after.end()});
 }
 
 } // namespace tellurix::windows

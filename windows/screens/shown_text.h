@@ -21,7 +21,4 @@ int charactersBefore(std::string_view text, int units, bool severalLines);
 /// along, become blanks.
 std::string editedText(std::wstring_view shown, bool severalLines);
 
-/// Whether a text is another one with one stretch taken out.
-bool onlyRemoves(std::wstring_view before, std::wstring_view after);
-
 } // namespace tellurix::windows

@@ -31,7 +31,7 @@ void draw(json& out, const ui::TextBox& box) {
     out["right"] = box.rightAligned();
     out["picks"] = static_cast<bool>(box.onPick);
     // What decides about single keys can only be asked here; everything else the browser edits.
-    out["filtered"] = box.onKeyPress || box.onKeyDown;
+    out["filtered"] = box.filtered();
     out["warning"] = box.warning();
 }
 

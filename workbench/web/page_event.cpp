@@ -1,12 +1,9 @@
 #include "web/page_event.h"
 
-#include "common/text.h"
 #include "ui/ComboBox.h"
 #include "ui/Grid.h"
 #include "ui/ListBox.h"
 #include "ui/TextBox.h"
-
-#include <algorithm>
 
 namespace tellurix::workbench {
 
@@ -19,32 +16,6 @@ ui::TextBox* editableBox(ui::Control& control) {
     if (control.kind() != ControlKind::textBox) return nullptr;
     auto& box = static_cast<ui::TextBox&>(control);
     return box.locked() ? nullptr : &box;
-}
-
-bool isTyped(char32_t character, const ui::TextBox& box) {
-    return character >= 32 || (character == U'\n' && box.lines() > 1);
-}
-
-/// Whether `after` is `before` with one stretch taken out.
-bool onlyRemoves(const std::u32string& before, const std::u32string& after) {
-    if (after.size() > before.size()) return false;
-    const auto front = std::ranges::mismatch(after, before).in1 - after.begin();
-    const auto back = std::mismatch(after.rbegin(), after.rend(), before.rbegin()).first - after.rbegin();
-    return front + back >= static_cast<std::ptrdiff_t>(after.size());
-}
-
-std::optional<ui::Event> textEdited(const PageMessage& message, ui::TextBox& box) {
-    const std::u32string before = common::decodeUtf8(box.text());
-    const std::u32string after = common::decodeUtf8(message.text);
-    // A longer text that the program put there may still be shortened step by step.
-    const auto limit = std::max(static_cast<std::size_t>(box.maxLength()), before.size());
-    if (box.maxLength() > 0 && after.size() > limit) return std::nullopt;
-    if (!std::ranges::all_of(after, [&box](char32_t c) { return isTyped(c, box); })) return std::nullopt;
-    // The page edits a box with a filter by itself only where nothing new comes in.
-    if (box.onKeyPress && !onlyRemoves(before, after)) return std::nullopt;
-    const int end = static_cast<int>(after.size());
-    const int start = std::min(message.start, end);
-    return ui::TextEditedEvent{&box, message.text, start, std::min(message.length, end - start)};
 }
 
 /// How many entries can be chosen from.
@@ -69,7 +40,8 @@ std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& c
         if (!control.takesFocus()) return std::nullopt;
         return ui::FocusEvent{&control};
     case Kind::text:
-        if (ui::TextBox* box = editableBox(control)) return textEdited(message, *box);
+        if (ui::TextBox* box = editableBox(control))
+            return ui::TextEditedEvent{box, message.text, message.start, message.length};
         return std::nullopt;
     case Kind::selection:
         if (kind != ControlKind::textBox) return std::nullopt;

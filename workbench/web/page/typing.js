@@ -30,14 +30,6 @@ export function typeable(text) {
   return text.replace(/[^\P{Cc}\n]/gu, ' ');
 }
 
-/** Whether a text is another one with one stretch taken out. */
-export function onlyRemoves(before, after) {
-  if (after.length > before.length) return false;
-  let front = 0;
-  while (front < after.length && after[front] === before[front]) ++front;
-  return before.endsWith(after.slice(front));
-}
-
 /** As much of a text as can be typed into a box in place of what is selected. */
 export function insertion(text, input, { maxLength, lines }) {
   const clean = typeable(lineEnds(text, lines > 1));

@@ -1,7 +1,7 @@
 // A box to type into. The browser edits it, unless a filter has to see every character; either way
 // the session knows each text before anything that depends on it.
 import { text as ownText } from '../texts.js';
-import { characterOffset, insertion, keyEffect, lineEnds, onlyRemoves, typeable, unitOffset } from '../typing.js';
+import { characterOffset, insertion, keyEffect, lineEnds, typeable, unitOffset } from '../typing.js';
 import { View } from './view.js';
 
 export class TextBox extends View {
@@ -125,16 +125,8 @@ export class TextBox extends View {
 
   #say(value, selectionStart, selectionEnd) {
     const input = this.focusElement;
-    const before = lineEnds(this.state.text, this.#severalLines);
     const text = typeable(value);
-    if (text === before) return;
-    if (this.state.filtered && !onlyRemoves(before, text)) {
-      // The filter has to see it: it is put in place of everything.
-      input.value = before;
-      this.desktop.sayTo(this.window, { type: 'selection', control: this.state.id, start: 0, length: before.length });
-      this.desktop.sayTo(this.window, { type: 'paste', control: this.state.id, text });
-      return;
-    }
+    if (text === lineEnds(this.state.text, this.#severalLines)) return;
     if (input.value !== text) input.value = text;
     if (this.hasFocus) input.setSelectionRange(selectionStart, selectionEnd);
     this.state.text = text;
