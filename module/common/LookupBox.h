@@ -26,6 +26,11 @@ public:
     LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
               std::function<std::string()> title, Lookup lookup);
 
+    /// One whose picker is the screen's own: the box's `onPick` stays as the screen sets it.
+    /// @param keyQuery as in `Lookup`
+    LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
+              std::string keyQuery);
+
     /// Shows a value as it was read: its text and its key.
     void show(const std::string& text, const std::string& key);
     /// The key, empty for no value.
@@ -37,7 +42,7 @@ private:
     ui::TextBox& box_;
     host::HostServices& services_;
     const host::TlxVar& session_;
-    Lookup lookup_;
+    std::string keyQuery_;
     std::string resolvedText_;
 };
 

@@ -17,7 +17,7 @@ public:
     explicit F_VertragPreise(host::HostServices& services);
 
 private:
-    /// Sites that have a second price.
+    /// What the second price is at the site; at a standard one there is none.
     enum class Site { standard, logistics, stockPrice };
 
     void prepare(bool shown) override;

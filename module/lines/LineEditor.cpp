@@ -209,9 +209,10 @@ void LineEditor::StoreSelection() {
         session_.connection->execute(statements_.setSelectionAt(literal, place()));
         return;
     }
-    // Refused before a row is made for it.
-    const std::string checked = statements_.setSelectionOf(literal, newId_);
-    if (newId_ == noRow) newId_ = createRow();
+    if (newId_ == noRow) {
+        statements_.requireSelection(literal); // before a row is made for it
+        newId_ = createRow();
+    }
     session_.connection->execute(statements_.setSelectionOf(literal, newId_));
 }
 
@@ -326,11 +327,10 @@ void LineEditor::moveLine(int step) {
         showCurrentLine();
         return;
     }
-    const auto cells = MSFlexGrid1.rows();
     for (int column = 0; column < static_cast<int>(MSFlexGrid1.columns().size()); ++column) {
-        const auto index = static_cast<std::size_t>(column);
-        MSFlexGrid1.setCell(from, column, cells[static_cast<std::size_t>(to)][index]);
-        MSFlexGrid1.setCell(to, column, cells[static_cast<std::size_t>(from)][index]);
+        std::string moved = MSFlexGrid1.cell(from, column);
+        MSFlexGrid1.setCell(from, column, MSFlexGrid1.cell(to, column));
+        MSFlexGrid1.setCell(to, column, std::move(moved));
     }
     std::swap(ids_[static_cast<std::size_t>(from)], ids_[static_cast<std::size_t>(to)]);
     MSFlexGrid1.setCurrent(to, MSFlexGrid1.currentColumn());

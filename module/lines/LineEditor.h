@@ -12,7 +12,6 @@
 #include "ui/UpDown.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -77,7 +76,6 @@ protected:
     bool hasLines() const { return !ids_.empty(); }
     /// Place of the current line in its contract, from 1; 0 when there is no line.
     int place() const { return MSFlexGrid1.currentRow() + 1; }
-    const LineStatements& statements() const { return statements_; }
 
     void LoadGrid();
     /// Shows what the database has for one line: its row in the grid and, for the current line, the fields.
