@@ -201,14 +201,6 @@ std::string Decimal::toString() const {
     return digits;
 }
 
-double Decimal::toDouble() const {
-    // Reading the text is rounded once; a division would be rounded twice where registers are wider.
-    const auto text = toString();
-    double value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
-}
-
 bool operator==(const Decimal& left, const Decimal& right) {
     return (left <=> right) == std::strong_ordering::equal;
 }

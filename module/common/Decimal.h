@@ -58,7 +58,6 @@ public:
 
     /// Plain text with "." as decimal point and exactly `scale()` decimals, e.g. "-0.50".
     std::string toString() const;
-    double toDouble() const;
 
     /// Compares by value: 1.5 equals 1.50.
     friend bool operator==(const Decimal& left, const Decimal& right);

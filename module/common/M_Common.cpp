@@ -3,6 +3,7 @@
 #include "common/StatementText.h"
 #include "common/number_format.h"
 #include "common/text.h"
+#include "host/contract_type.h"
 #include "ui/TextBox.h"
 
 #include <limits>
@@ -57,13 +58,6 @@ std::string focusedText(const ui::Form& form) {
     }
 }
 
-/// The digit of "A1" … "A8" as text, empty for "R", nothing for any other code.
-std::optional<std::string> typeDigit(const std::string& type) {
-    if (type == "R") return "";
-    if (type.size() == 2 && type[0] == 'A' && type[1] >= '1' && type[1] <= '8') return type.substr(1);
-    return std::nullopt;
-}
-
 } // namespace
 
 ui::Answer ShowMessage(ui::Display& display, const std::string& prompt, int flags, const std::string& title,
@@ -115,14 +109,15 @@ void SelectComboItem(ui::ComboBox& combo, const std::string& text) {
 
 std::string GetTypeColumn(const std::string& kind, const std::string& type,
                           host::HostMainWindow* mainWindow) {
-    const auto digit = typeDigit(type);
-    if (!digit) return {};
+    const int number = host::contractTypeNumber(type);
+    if (number < 0) return {};
+    const std::string digit = number == 0 ? "" : std::to_string(number);
     const std::string upperKind = toUpper(kind);
     if (upperKind == "ABSCHLAG") {
         const bool articles = mainWindow != nullptr && mainWindow->IsArtikel();
-        return "ABSCHLAG" + *digit + (articles ? "_A" : "");
+        return "ABSCHLAG" + digit + (articles ? "_A" : "");
     }
-    return upperKind == "RECHZUSATZ" ? "KONF_RECHZUSATZ" + *digit : std::string{};
+    return upperKind == "RECHZUSATZ" ? "KONF_RECHZUSATZ" + digit : std::string{};
 }
 
 } // namespace tellurix::common

@@ -11,7 +11,8 @@
 
 namespace tellurix::common {
 
-/// The routines that every screen uses. None keeps state of its own.
+/// The routines of the module's interface that belong to no one screen; their names are given, and
+/// some have no caller before the screens that are still to come. None keeps state of its own.
 
 /// Shows a message box; an empty title becomes "Tellurix".
 /// @param flags buttons, icon and default button (see `ui::box`)

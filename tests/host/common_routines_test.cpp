@@ -100,8 +100,16 @@ TEST_F(CommonRoutines, KeysAreCheckedAgainstTheColumnTheyGoInto) {
             const std::vector<std::string> query{std::string{"SELECT "} + c.column + " FROM T"};
             EXPECT_EQ(host.statements, c.asks ? query : std::vector<std::string>{});
         }
+        auto& box = user.control<ui::TextBox>("txtWert");
+        box.setText("12,5");
+        box.select(4, 0);
+        common::SelectActiveText(user.window());
+        EXPECT_EQ(box.selectionLength(), 4);
         common::SafeSetFocus(*user.window().find("cboUnit"));
         EXPECT_EQ(user.focused(), "cboUnit");
+        box.select(4, 0);
+        common::SelectActiveText(user.window());
+        EXPECT_EQ(box.selectionLength(), 0) << "it is not the active one";
         user.window().find("txtWert")->setEnabled(false);
         common::SafeSetFocus(*user.window().find("txtWert"));
         EXPECT_EQ(user.focused(), "cboUnit") << "what cannot take it is left alone";
