@@ -13,7 +13,8 @@ ContractSession::ContractSession(common::Connection& connection, ScriptedPage& p
                .site = {},
                .user = "bench",
                .language = "de"},
-      services_(display_, session_, catalogue_, common::Locale::german(), std::make_unique<StandingClock>()),
+      services_(display_, session_, catalogue_, common::Locale::german(),
+                std::make_unique<tests::StandingClock>(standingClock)),
       module_(services_.host()) {
     display_.setErrorHandling(&services_.host().errors);
 }

@@ -14,7 +14,7 @@ SampleFile::SampleFile() {
         throw std::system_error{errno, std::generic_category(), "making " + pattern};
     folder_ = pattern;
     file_ = folder_ / "sample.db";
-    workbench::createWhenMissing(file_, workbench::DatabaseContents::sample, clock_);
+    workbench::createWhenMissing(file_, workbench::DatabaseContents::sample, standingClock);
 }
 
 SampleFile::~SampleFile() {

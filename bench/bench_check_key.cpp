@@ -99,7 +99,7 @@ void measure(const embedded::Database& database, std::array<MeasuredTable, 2>& t
 int main() {
     try {
         const bench::SampleFile sample;
-        const embedded::Database database{sample.path(), sample.clock()};
+        const embedded::Database database{sample.path(), bench::standingClock};
         std::array<MeasuredTable, 2> tables{
             {{"BENCH_SMALL", 10, {}, {}}, {"BENCH_LARGE", 1'000'000, {}, {}}}};
         const auto connection = database.connect();

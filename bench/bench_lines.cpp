@@ -106,8 +106,7 @@ void measureOpening() {
         {"", "lines of each kind", "statements", "first of a session", "95 %", "again", "95 %"}};
     for (const int lines : {3, 50, manyLines}) {
         const GeneratedFile file{{.lines = lines}};
-        const bench::StandingClock clock;
-        const embedded::Database database{file.path(), clock};
+        const embedded::Database database{file.path(), bench::standingClock};
         std::vector<Screen> screens{
             {"the contract editor", {}, {}}, {"its price lines", {}, {}}, {"its quantity lines", {}, {}}};
         for (int i = 0; i < sessions; ++i) {
@@ -167,8 +166,7 @@ void measureSelecting() {
     bench::Report report{{"logs", "booked to the contract", "line", "median", "95 %", "longest"}};
     for (const Trade& trade : {Trade{1'000'000, 20'000}, Trade{100'000, 20'000}, Trade{1'000'000, 2'000}}) {
         const GeneratedFile file{{.lines = lines, .logs = trade.logs, .booked = trade.booked}};
-        const bench::StandingClock clock;
-        const embedded::Database database{file.path(), clock};
+        const embedded::Database database{file.path(), bench::standingClock};
         for (const int line : {1, 5, 50, 500, lines}) {
             report.add(
                 joined({std::to_string(trade.logs), std::to_string(trade.booked), std::to_string(line)},
@@ -203,8 +201,7 @@ net::awaitable<void> editPrices(bench::PageClient& client, const bench::Workbenc
 
 /// @throws std::runtime_error unless the last round's prices are in the database
 void requireWritten(const GeneratedFile& file) {
-    const bench::StandingClock clock;
-    const embedded::Database database{file.path(), clock};
+    const embedded::Database database{file.path(), bench::standingClock};
     const auto written = database.connect()->open(
         "SELECT COUNT(*) AS ANZAHL FROM VERTRAG_PREISE WHERE ORDNUNG > 400 AND PREIS = 45");
     if (written->integer("ANZAHL") != 100) throw std::runtime_error{"not every price was written"};

@@ -6,8 +6,8 @@
 #include "ContractSession.h"
 #include "SampleFile.h"
 #include "embedded/Database.h"
-#include "report.h"
 #include "home/contract_list.h"
+#include "report.h"
 #include "statement_name.h"
 #include "tracing/TracingConnection.h"
 
@@ -167,7 +167,7 @@ void countStatements(const embedded::Database& database) {
 int main() {
     try {
         const bench::SampleFile sample;
-        const embedded::Database database{sample.path(), sample.clock()};
+        const embedded::Database database{sample.path(), bench::standingClock};
         measureOpening(database);
         countStatements(database);
         return EXIT_SUCCESS;

@@ -113,7 +113,7 @@ std::string preparation(const Counterpart& counterpart, const std::vector<common
 /// what then stands there: only the same work may be compared in time.
 void requireSameWork(const std::vector<std::string>& statements) {
     const bench::SampleFile engineFile, straightFile;
-    const embedded::Database database{engineFile.path(), engineFile.clock()};
+    const embedded::Database database{engineFile.path(), bench::standingClock};
     const auto engine = database.connect();
     StraightConnection besideEngine{engineFile.path()};
     StraightConnection straight{straightFile.path()};
@@ -167,7 +167,8 @@ Comparison compare(const std::string& statement, const std::shared_ptr<embedded:
 
 void compareAll(const std::vector<std::string>& statements) {
     const bench::SampleFile file;
-    const auto engine = std::make_shared<embedded::Engine>(file.path(), false, patience, file.clock());
+    const auto engine =
+        std::make_shared<embedded::Engine>(file.path(), false, patience, bench::standingClock);
     StraightConnection straight{file.path()};
     bench::heading(std::cout,
                    "Through the embedded database and straight in SQLite, in microseconds (medians of " +

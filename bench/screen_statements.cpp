@@ -126,8 +126,7 @@ common::Value valueOf(const Literal& literal, char kind) {
 } // namespace
 
 std::vector<std::string> screenStatements(const std::filesystem::path& file) {
-    const StandingClock clock;
-    const embedded::Database database{file, clock};
+    const embedded::Database database{file, standingClock};
     const auto connection = database.connect();
     std::vector<std::string> texts;
     tracing::TracingConnection traced{*connection, [&texts](const tracing::Statement& statement) {

@@ -66,7 +66,7 @@ Parts measure(embedded::SqliteConnection& connection, embedded::Catalogue& catal
 
 void measureTranslation(const std::vector<std::string>& statements, std::ostream& out) {
     const SampleFile file;
-    embedded::SqliteConnection connection{file.path(), false, patience, file.clock()};
+    embedded::SqliteConnection connection{file.path(), false, patience, standingClock};
     embedded::Catalogue catalogue{connection};
     catalogue.refresh();
     heading(out, "A new text, in microseconds (medians of " + std::to_string(runs) +

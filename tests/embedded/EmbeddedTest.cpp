@@ -3,7 +3,6 @@
 #include <array>
 #include <charconv>
 #include <cstdio>
-#include <random>
 #include <type_traits>
 
 namespace tellurix::embedded {
@@ -36,19 +35,6 @@ std::string writtenNumber(double number) {
 }
 
 } // namespace
-
-EmbeddedTest::EmbeddedTest() {
-    // Tests that run at once must not meet.
-    folder_ = std::filesystem::temp_directory_path() / ("embedded_" + std::to_string(std::random_device{}()));
-    if (!std::filesystem::create_directory(folder_))
-        throw std::runtime_error("no folder for the test: " + folder_.string());
-    file_ = folder_ / "test.db";
-}
-
-EmbeddedTest::~EmbeddedTest() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-}
 
 std::string written(const common::Value& value) {
     return std::visit(

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "embedded/Database.h"
+#include "support/StandingClock.h"
+#include "support/TestFolder.h"
 
 #include <chrono>
 #include <filesystem>
@@ -11,21 +13,9 @@
 
 namespace tellurix::embedded {
 
-/// It is always 5 June 2025, half past two.
-class StandingClock final : public common::Clock {
-public:
-    common::DateTime now() const override {
-        return common::startOf(std::chrono::year{2025} / 6 / 5) + std::chrono::hours{14} +
-               std::chrono::minutes{30};
-    }
-};
-
-/// A test with a database file of its own.
+/// A test with a database file of its own, in which it is always 5 June 2025, half past two.
 class EmbeddedTest : public testing::Test {
 protected:
-    EmbeddedTest();
-    ~EmbeddedTest() override;
-
     /// As the program of tests reaches the database: this folder's own directly, that of the ADO
     /// adapter through it. Each says so in a file of its own.
     std::unique_ptr<common::Connection> connect() const;
@@ -38,9 +28,10 @@ protected:
     const common::Clock& clock() const { return clock_; }
 
 private:
-    StandingClock clock_;
-    std::filesystem::path folder_;
-    std::filesystem::path file_;
+    tests::StandingClock clock_{common::startOf(std::chrono::year{2025} / 6 / 5) + std::chrono::hours{14} +
+                                std::chrono::minutes{30}};
+    tests::TestFolder folder_;
+    std::filesystem::path file_ = folder_ / "test.db";
 };
 
 /// A field as the statement files write it (see README.md).

@@ -247,9 +247,8 @@ TEST_F(Connections, OptionsBelongToTheirConnection) {
 }
 
 TEST_F(EmbeddedTest, AFileThatIsMissingOrNoDatabaseIsReported) {
-    const StandingClock clock;
     const auto open = [&](const std::filesystem::path& file) {
-        return failureOf([&] { Database(file, clock); });
+        return failureOf([&] { Database(file, clock()); });
     };
     EXPECT_TRUE(open(file().parent_path() / "missing.db").starts_with("connection: ")) << open("missing.db");
     const auto letter = file().parent_path() / "letter.txt";

@@ -3,7 +3,7 @@
 #include "services/WorkbenchServices.h"
 #include "support/SampleDatabase.h"
 #include "support/ScriptedDisplay.h"
-#include "support/TestClock.h"
+#include "support/StandingClock.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +15,6 @@ namespace tellurix::tests {
 /// work, and all services of one session.
 class ServicesTest : public testing::Test {
 private:
-    struct TestTime final : common::Clock {
-        common::DateTime now() const override { return testClock().now(); }
-    };
-
     SampleDatabase database_;
     std::unique_ptr<common::Connection> connection_ = database_.connect();
 
@@ -33,7 +29,7 @@ protected:
     host::TlxVar session{.connection = connection_.get(), .homeCurrency = "CHF", .site = {}, .user = "anna"};
     workbench::TextCatalogue catalogue = workbench::TextCatalogue::builtIn();
     workbench::WorkbenchServices services{display, session, catalogue, common::Locale::german(),
-                                          std::make_unique<TestTime>()};
+                                          std::make_unique<StandingClock>(testClock().now())};
     host::HostServices& host = services.host();
 };
 

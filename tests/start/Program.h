@@ -1,6 +1,6 @@
 #pragma once
 
-#include "start/TestFolder.h"
+#include "support/TestFolder.h"
 
 #include <sys/types.h>
 

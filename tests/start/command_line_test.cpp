@@ -1,13 +1,11 @@
 #include "start/CommandLine.h"
 
-#include "home/database_file.h"
-
 #include <gtest/gtest.h>
 
 namespace tellurix::workbench {
 namespace {
 
-CommandLine parse(const std::vector<const char*>& arguments) {
+CommandLine parse(const std::vector<std::string>& arguments) {
     return CommandLine::parse(arguments);
 }
 
@@ -35,7 +33,7 @@ TEST(CommandLineParsing, TakesEveryOption) {
 TEST(CommandLineParsing, RefusesWhatMeansNothing) {
     struct Case {
         const char* rule;
-        std::vector<const char*> arguments;
+        std::vector<std::string> arguments;
         const char* message;
     };
     const Case cases[] = {

@@ -2,10 +2,9 @@
 
 #include "common/date_format.h"
 #include "embedded/script.h"
-#include "support/TestClock.h"
+#include "support/StandingClock.h"
 
 #include <fstream>
-#include <random>
 #include <sstream>
 
 namespace tellurix::tests {
@@ -20,44 +19,27 @@ std::string contentsOf(const fs::path& file) {
     return {std::istreambuf_iterator<char>{stream}, {}};
 }
 
-fs::path freshFile() {
-    std::random_device random;
-    return fs::temp_directory_path() /
-           ("tellurix-test-" + std::to_string(random()) + std::to_string(random()) + ".db");
-}
-
-void removeDatabase(const fs::path& file) {
-    for (const char* suffix : {"", "-wal", "-shm"})
-        fs::remove(file.string() + suffix);
-}
-
 /// The sample trade, loaded once a program: each test gets a copy of the file.
 class Template {
 public:
-    Template() : file(freshFile()) {
+    Template() {
         const auto connection = embedded::Database{file, testClock(), {.create = true}}.connect();
         for (const char* script :
              {"schema.sql", "sample_reference.sql", "sample_contracts.sql", "sample_logistics.sql"}) {
             embedded::runScript(*connection, contentsOf(fs::path{TELLURIX_DATA_FOLDER} / script));
         }
     }
-    ~Template() { removeDatabase(file); }
-    Template(const Template&) = delete;
-    Template& operator=(const Template&) = delete;
 
-    const fs::path file;
+    const TestFolder folder;
+    const fs::path file = folder / "sample.db";
 };
 
 } // namespace
 
-SampleDatabase::SampleDatabase() : file_(freshFile()) {
+SampleDatabase::SampleDatabase() {
     static const Template sample;
     fs::copy_file(sample.file, file_);
     database_ = std::make_unique<embedded::Database>(file_, testClock());
-}
-
-SampleDatabase::~SampleDatabase() {
-    removeDatabase(file_);
 }
 
 std::string written(const common::Value& field) {

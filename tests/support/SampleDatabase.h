@@ -1,6 +1,7 @@
 #pragma once
 
 #include "embedded/Database.h"
+#include "support/TestFolder.h"
 
 #include <filesystem>
 #include <memory>
@@ -13,15 +14,13 @@ namespace tellurix::tests {
 class SampleDatabase {
 public:
     SampleDatabase();
-    ~SampleDatabase();
-    SampleDatabase(const SampleDatabase&) = delete;
-    SampleDatabase& operator=(const SampleDatabase&) = delete;
 
     const std::filesystem::path& file() const { return file_; }
     std::unique_ptr<common::Connection> connect() const { return database_->connect(); }
 
 private:
-    std::filesystem::path file_;
+    TestFolder folder_;
+    std::filesystem::path file_ = folder_ / "sample.db";
     std::unique_ptr<embedded::Database> database_;
 };
 

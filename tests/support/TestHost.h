@@ -3,7 +3,7 @@
 #include "host/clsVertrag.h"
 #include "host/services.h"
 #include "support/ScriptedDisplay.h"
-#include "support/TestClock.h"
+#include "support/StandingClock.h"
 #include "tracing/TracingConnection.h"
 
 #include <functional>
