@@ -9,8 +9,7 @@ namespace tellurix::embedded {
 namespace {
 
 constexpr const char* schemaSetup =
-    "schema.sql, sample_data.sql, sample_reference.sql, sample_contracts.sql, "
-    "sample_logistics.sql";
+    "schema.sql, sample_reference.sql, sample_contracts.sql, sample_logistics.sql";
 
 std::string trimmed(const std::string& text) {
     const std::size_t start = text.find_first_not_of(" \t\r");

@@ -64,10 +64,8 @@ common::Value valueWritten(const std::string& text) {
 class StatementFiles : public EmbeddedTest, public testing::WithParamInterface<fs::path> {
 protected:
     void load(const std::vector<std::string>& files) {
-        for (const std::string& name : files) {
-            const fs::path file = fs::path(TELLURIX_TEST_FOLDER) / name;
-            if (fs::exists(file)) runScript(*connection_, readFile(file));
-        }
+        for (const std::string& name : files)
+            runScript(*connection_, readFile(fs::path(TELLURIX_TEST_FOLDER) / name));
     }
 
     void edit(const StatementBlock& block) {
