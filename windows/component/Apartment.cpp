@@ -1,7 +1,6 @@
 #include "component/Apartment.h"
 
 #include "automation/AutomationError.h"
-#include "common/text.h"
 #include "host/module_state.h"
 
 namespace tellurix::windows {
@@ -22,7 +21,7 @@ Apartment::Call::Call(Apartment& apartment, const ::TlxVar& record, HWND owner)
     apartment.called_ = true;
     apartment.services_.errors().setSession(&session_.values());
     apartment.display_.setOwner(owner);
-    apartment.display_.setLanguage(common::toUpper(session().language));
+    apartment.display_.setLanguage(session().language);
 }
 
 Apartment::Call::~Call() {

@@ -1,7 +1,6 @@
 #include "host/HostSession.h"
 
 #include "automation/wide.h"
-#include "common/text.h"
 #include "home/F_Start.h"
 #include "home/database_file.h"
 #include "host/HostObjects.h"
@@ -37,7 +36,7 @@ HostSession::HostSession(const HostOptions& options)
       services_(display_, session_, catalogue_),
       moduleService_(Dispatch::create("Tellurix_Loc.HostModuleService")) {
     display_.setErrorHandling(&services_.host().errors);
-    speak(options.language);
+    display_.setLanguage(options.language);
     const auto listener = ComPtr<IDispatch>::adopt(
         new NotificationListener{[this](const std::string& code, const std::string& type) {
             std::string unused;
@@ -55,14 +54,10 @@ HostSession::~HostSession() {
     display_.setErrorHandling(nullptr);
 }
 
-void HostSession::speak(const std::string& language) {
-    display_.setLanguage(common::toUpper(language));
-}
-
 void HostSession::run() {
     ComContractOpener opener{connection_, session_, services_.mainWindow(), services_.host().locale};
     workbench::F_Start start{services_, session_, opener,
-                             [this](const std::string& language) { speak(language); },
+                             [this](const std::string& language) { display_.setLanguage(language); },
                              workbench::F_Start::Closing::allowed};
     start.Run();
 }

@@ -23,8 +23,6 @@ public:
     void run();
 
 private:
-    void speak(const std::string& language);
-
     Dispatch connection_;
     ado::AdoConnection database_;
     Win32Display display_;

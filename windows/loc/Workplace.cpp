@@ -1,6 +1,5 @@
 #include "loc/Workplace.h"
 
-#include "common/text.h"
 #include "screens/active_window.h"
 
 namespace tellurix::windows {
@@ -22,7 +21,7 @@ Workplace::Call::Call(Workplace& workplace, const CallArguments& arguments, std:
       callers_(workplace.session_) {
     workplace_.session_ = session_.values();
     workplace_.display_.setOwner(activeWindow());
-    workplace_.display_.setLanguage(common::toUpper(session().language));
+    workplace_.display_.setLanguage(session().language);
 }
 
 Workplace::Call::~Call() {

@@ -7,7 +7,7 @@ namespace tellurix::windows {
 /// What holds for all windows of a display.
 struct DisplayState {
     int busy = 0;                ///< how many operations show the hourglass
-    std::string language = "DE"; ///< of the display's own texts: "DE" or "EN"
+    std::string language = "de"; ///< of the display's own texts: "de" or "en"
 };
 
 } // namespace tellurix::windows

@@ -119,7 +119,7 @@ void TextBoxView::enable(bool visible, bool enabled) {
     ControlView::enable(visible, enabled);
     if (pick_ == nullptr) return;
     ControlView::enable(pick_, visible && box_.onPick, enabled && !box_.locked());
-    host().setToolTip(pick_, host().display().language == "EN" ? "Choose (F4)" : "Auswählen (F4)");
+    host().setToolTip(pick_, host().display().language == "en" ? "Choose (F4)" : "Auswählen (F4)");
 }
 
 /// A warning is seen as a colour, and read where the pointer rests.

@@ -34,7 +34,7 @@ public:
     /// Where errors inside an event of an open screen go. Without it they are shown as a message.
     /// @param errors outlives the display's last use, or is replaced by null
     void setErrorHandling(ui::ErrorHandling* errors) { errors_.handling = errors; }
-    /// Language of the display's own texts: "DE" (the default) or "EN". The buttons of message boxes
+    /// Language of the display's own texts: "de" (the default) or "en". The buttons of message boxes
     /// and file dialogs are in the language of Windows.
     void setLanguage(std::string language) { state_.language = std::move(language); }
 

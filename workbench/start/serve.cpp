@@ -1,7 +1,6 @@
 #include "start/serve.h"
 
 #include "common/M_Common.h"
-#include "common/text.h"
 #include "home/F_Start.h"
 #include "home/ModuleOpener.h"
 #include "host/module_state.h"
@@ -86,15 +85,14 @@ void work(Workbench& workbench, BrowserDisplay& display) {
     const ErrorsOfSession errors{display, services.host().errors};
     const ModuleUnloading unloading;
     ModuleOpener module{services, session};
-    F_Start start{services, session, module, [&display](const std::string& language) {
-                      display.setLanguage(common::toUpper(language));
-                  }};
+    F_Start start{services, session, module,
+                  [&display](const std::string& language) { display.setLanguage(language); }};
     start.Run();
 }
 
 /// One browser session, from its first screen to its end.
 void runSession(Workbench& workbench, BrowserDisplay& display) {
-    display.setLanguage(common::toUpper(workbench.line.language));
+    display.setLanguage(workbench.line.language);
     try {
         work(workbench, display);
     } catch (const std::exception& error) {

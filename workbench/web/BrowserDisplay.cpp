@@ -77,7 +77,7 @@ ui::Answer BrowserDisplay::messageBox(const std::string& text, int flags, const 
 }
 
 std::optional<std::string> BrowserDisplay::openFile(const std::string& title, const std::string&) {
-    messageBox(language_ == "EN" ? "Files cannot be opened in the browser."
+    messageBox(language_ == "en" ? "Files cannot be opened in the browser."
                                  : "Im Browser können keine Dateien geöffnet werden.",
                ui::box::ok | ui::box::information, title);
     return std::nullopt;
@@ -142,7 +142,7 @@ void BrowserDisplay::draw(bool acknowledge) {
         busyDrawn_ = busy_;
     }
     if (complete || !languageDrawn_) {
-        message["language"] = language_ == "EN" ? "en" : "de";
+        message["language"] = language_;
         languageDrawn_ = true;
     }
     if (message.empty() && (!acknowledge || acknowledged_ == handled_)) return;

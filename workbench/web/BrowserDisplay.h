@@ -25,7 +25,7 @@ public:
     /// Where errors inside an event of an open screen go. Without it they are shown as a message.
     /// @param errors outlives the display's last use, or is replaced by null
     void setErrorHandling(ui::ErrorHandling* errors) { errors_.handling = errors; }
-    /// Language of message buttons and of the page's own texts: "DE" (the default) or "EN".
+    /// Language of message buttons and of the page's own texts: "de" (the default) or "en".
     void setLanguage(std::string language);
 
     void showModal(ui::Form& form) override;
@@ -70,7 +70,7 @@ private:
     std::optional<Question> question_;
     bool questionDrawn_ = true;
     int lastId_ = 0;
-    std::string language_ = "DE";
+    std::string language_ = "de";
     bool languageDrawn_ = true;
     bool busy_ = false;
     bool busyDrawn_ = false;

@@ -242,7 +242,7 @@ json drawMessageBox(int id, const std::string& text, int flags, const std::strin
     json buttons = json::array();
     for (const ui::Answer answer : answers) {
         buttons.push_back(
-            {{"answer", static_cast<int>(answer)}, {"caption", captionOf(answer, language != "EN")}});
+            {{"answer", static_cast<int>(answer)}, {"caption", captionOf(answer, language != "en")}});
     }
     // The last button is the one that refuses (or the only one), so Esc means it.
     return {{"id", id},

@@ -20,7 +20,7 @@ nlohmann::json drawWindow(int id, ui::Form& form);
 nlohmann::json drawChanges(ui::Form& form);
 
 /// A message box with its buttons in the user's language.
-/// @param language "DE" or "EN"
+/// @param language "de" or "en"
 nlohmann::json drawMessageBox(int id, const std::string& text, int flags, const std::string& title,
                               const std::string& language);
 
