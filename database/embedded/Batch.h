@@ -5,7 +5,6 @@
 #include "embedded/ast.h"
 #include "embedded/packed.h"
 
-#include <memory>
 #include <set>
 #include <string>
 #include <string_view>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 namespace tellurix::common {
 
 /// How numbers and names of days and months are written for the user.

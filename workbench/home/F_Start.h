@@ -13,7 +13,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace tellurix::workbench {
 

@@ -7,8 +7,6 @@
 
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>

@@ -6,8 +6,8 @@
 
 #include <cerrno>
 #include <fstream>
-#include <iostream>
 #include <iterator>
+#include <ostream>
 #include <system_error>
 
 namespace tellurix::workbench {
