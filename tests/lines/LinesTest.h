@@ -27,6 +27,9 @@ protected:
             all += "[" + row("SELECT " + columns + of + " AND ORDNUNG = " + std::to_string(place)) + "]";
         return all;
     }
+    std::string prices(const std::string& columns, std::int32_t contract) {
+        return rows("VERTRAG_PREISE", columns, contract);
+    }
     /// The cells of a grid row, separated by "|".
     static std::string cells(const ui::Grid& grid, int row) {
         std::string text;

@@ -17,7 +17,7 @@ protected:
             user.click("cmdOk");
         });
     }
-    std::string stored() { return rows("VERTRAG_PREISE", "PREIS", 1); }
+    std::string stored() { return prices("PREIS", 1); }
 };
 
 TEST_F(CellEditing, KeysInTheBox) {

@@ -71,7 +71,7 @@ TEST_F(PriceChangeOfAContract, AsksBeforeItTestsTheAmount) {
     editPrices(16, [](User& user) { user.close(); }); // puts the places in order
     for (const Case& c : cases) {
         SCOPED_TRACE(c.rule);
-        const std::string before = rows("VERTRAG_PREISE", "*", 16);
+        const std::string before = prices("*", 16);
         host.display.onMessage(c.question, c.answer);
         editPrices(16, [&](User& user) {
             user.click("btnPreiseAendern");
@@ -81,9 +81,9 @@ TEST_F(PriceChangeOfAContract, AsksBeforeItTestsTheAmount) {
             EXPECT_EQ(host.display.messages().back().title, "Vertrag Preisänderung");
             user.click("cmdOk");
         });
-        EXPECT_EQ(rows("VERTRAG_PREISE", "*", 16) != before, c.changed);
+        EXPECT_EQ(prices("*", 16) != before, c.changed);
     }
-    EXPECT_EQ(rows("VERTRAG_PREISE", "PREIS", 16), "[11.9200][11.9400][86.3500]");
+    EXPECT_EQ(prices("PREIS", 16), "[11.9200][11.9400][86.3500]");
 }
 
 TEST_F(PriceChangeOfAContract, WhatIsNoNumberIsRefused) {
@@ -98,7 +98,7 @@ TEST_F(PriceChangeOfAContract, WhatIsNoNumberIsRefused) {
             EXPECT_EQ(host.display.errors().size(), errors + 1);
             user.click("cmdOk");
         });
-        EXPECT_EQ(rows("VERTRAG_PREISE", "PREIS", 1), "[98.5000][76.2500][71.0000]");
+        EXPECT_EQ(prices("PREIS", 1), "[98.5000][76.2500][71.0000]");
     }
 }
 
