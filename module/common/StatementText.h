@@ -1,7 +1,8 @@
 #pragma once
 
+#include "common/Refused.h"
+
 #include <concepts>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,10 +11,10 @@ namespace tellurix::common {
 
 /// A statement that was refused before it was sent, because a value in it would have changed what
 /// the statement does: the place where the server would have reported a syntax error.
-class StatementError : public std::runtime_error {
+class StatementError : public Refused {
 public:
     StatementError(const std::string& message, std::string statement, std::string value)
-        : std::runtime_error(message), statement_(std::move(statement)), value_(std::move(value)) {}
+        : Refused(message), statement_(std::move(statement)), value_(std::move(value)) {}
 
     const std::string& statement() const { return statement_; }
     const std::string& value() const { return value_; }

@@ -101,11 +101,11 @@ void TakeOverFrame::takeOver() {
     const auto source = common::wholeNumber<std::int32_t>(source_.key());
     if (!source) return refuse("Den Vertrag „" + name + "“ gibt es nicht.");
     if (source == contract_) return refuse("Ein Vertrag kann nicht aus sich selbst übernehmen.");
+    lines::TakeOver lines{*session_.connection, *source, contract_};
+    if (lines.total() == 0) return refuse("Der Vertrag „" + name + "“ hat keine Preise und keine Mengen.");
     if (!acceptsTypeOf(*source)) return;
 
     const ui::BusyPointer busy{services_.display};
-    lines::TakeOver lines{*session_.connection, *source, contract_};
-    if (lines.total() == 0) return refuse("Der Vertrag „" + name + "“ hat keine Preise und keine Mengen.");
     const ShownProgress shown{ProgressBar1, lines.total()};
     try {
         lines.run([&] {

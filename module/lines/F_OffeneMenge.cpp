@@ -9,6 +9,12 @@ using common::Decimal;
 
 F_OffeneMenge::F_OffeneMenge(host::HostServices& services, const host::TlxVar& session)
     : Form("F_OffeneMenge", "Offene Menge"), services_(services), session_(session) {
+    grdHolz.setColumns({{.caption = "Nummer", .width = 12},
+                        {.caption = "Datum", .width = 11},
+                        {.caption = "Ha", .width = 8},
+                        {.caption = "Hs", .width = 8},
+                        {.caption = "Maß", .width = 14, .rightAligned = true},
+                        {.caption = "Menge", .width = 14, .rightAligned = true}});
     btnSchliessen.onClick = [this] { unload(); };
     setCancelButton(btnSchliessen);
     setLayout(ui::column({lblZeile, ui::Layout{grdHolz}.growing(), lblSumme,
@@ -23,12 +29,9 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
                         const std::string& unit, const Decimal& agreed) {
     services_.localizer.localize(session_, *this);
     lblZeile.setCaption(description);
-    grdHolz.setColumns({{.caption = "Nummer", .width = 12},
-                        {.caption = "Datum", .width = 11},
-                        {.caption = "Ha", .width = 8},
-                        {.caption = "Hs", .width = 8},
-                        {.caption = "Maß", .width = 14, .rightAligned = true},
-                        {.caption = unit.empty() ? "Menge" : unit, .width = 14, .rightAligned = true}});
+    auto columns = grdHolz.columns();
+    columns.back().caption = unit.empty() ? "Menge" : unit;
+    grdHolz.setColumns(std::move(columns));
     Decimal sum;
     std::vector<ui::Grid::Row> rows;
     for (const DeliveredQuantity::CountedLog& log : explanation.logs) {

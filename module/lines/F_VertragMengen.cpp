@@ -79,6 +79,7 @@ void F_VertragMengen::showNoLine() {
 
 void F_VertragMengen::emptyForNewLine() {
     quantity_.show(common::Null{});
+    showNoOpenQuantity();
 }
 
 void F_VertragMengen::writeFields(common::UpdatableRecordset& line) {
@@ -87,8 +88,7 @@ void F_VertragMengen::writeFields(common::UpdatableRecordset& line) {
 
 void F_VertragMengen::currentLineShown() {
     markCurrentRow();
-    txtOffen.setText("");
-    txtOffen.setWarning("");
+    showNoOpenQuantity();
     if (!hasLines()) return;
     try {
         showOpenQuantity();
@@ -109,6 +109,11 @@ void F_VertragMengen::markCurrentRow() {
 
 DeliveredQuantity F_VertragMengen::delivered() const {
     return {services_.selectionTranslator, session_, reference_, contract_};
+}
+
+void F_VertragMengen::showNoOpenQuantity() {
+    txtOffen.setText("");
+    txtOffen.setWarning("");
 }
 
 void F_VertragMengen::showOpenQuantity() {

@@ -28,6 +28,7 @@ private:
     void stateShown() override;
 
     void markCurrentRow();
+    void showNoOpenQuantity();
     void showOpenQuantity();
     void explainOpenQuantity();
     DeliveredQuantity delivered() const;

@@ -2,6 +2,7 @@
 
 #include "common/Decimal.h"
 #include "common/M_Common.h"
+#include "common/Refused.h"
 #include "common/StatementText.h"
 #include "common/field_text.h"
 #include "common/number_format.h"
@@ -136,6 +137,8 @@ void F_VertragPreise::showNoLine() {
 void F_VertragPreise::emptyForNewLine() {
     price_.show(common::Null{});
     cboGeld.select(ui::ItemList::none);
+    // A second price that nobody can see must not go over into the new line.
+    if (site_ == Site::standard) secondPrice_.show(common::Null{});
 }
 
 bool F_VertragPreise::confirmSave() {
@@ -158,10 +161,22 @@ void F_VertragPreise::stateShown() {
     priceChange_.setEnabled(viewing() && hasLines());
 }
 
+void F_VertragPreise::linesChanged() {
+    priceChange_.linesChanged();
+}
+
 std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::string& typed) {
     const bool fits = common::isNumeric(typed, services_.locale) &&
                       common::fitsNumberMask(typed, priceMask, services_.locale);
     if (!fits) txtEdit.setText(common::formatNumber(common::Decimal{}, "0.00", services_.locale));
+    try {
+        openInPlace(row);
+    } catch (const common::Refused& moved) {
+        // The cell belongs to another line now.
+        cellEditor_.close();
+        common::SafeSetFocus(MSFlexGrid1);
+        throw common::Refused{std::string{moved.what()} + " Eingegeben war „" + typed + "“."};
+    }
     StatementText statement{"UPDATE VERTRAG_PREISE SET "};
     statement.fixed(column == editedPriceColumn ? "PREIS = " : "PREIS_ABR2 = ")
         .number(txtEdit.text())

@@ -29,6 +29,7 @@ private:
     bool confirmSave() override;
     void writeFields(common::UpdatableRecordset& line) override;
     void stateShown() override;
+    void linesChanged() override;
 
     bool hasSecondPriceColumn() const { return !showsPercent_ && site_ != Site::standard; }
     std::string CommitCellEdit(int row, int column, const std::string& typed);

@@ -1,12 +1,12 @@
 #include "lines/LineEditor.h"
 
 #include "common/M_Common.h"
+#include "common/Refused.h"
 #include "common/StatementText.h"
 #include "common/text.h"
 #include "host/text_numbers.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace tellurix::lines {
 
@@ -16,7 +16,12 @@ namespace {
 
 constexpr std::int64_t noRow = -1;
 constexpr const char* lineIsGone =
-    "Diese Zeile wurde inzwischen verschoben oder gelöscht. Bitte das Fenster schließen und neu öffnen.";
+    "Diese Zeile wurde inzwischen von jemand anderem verschoben oder gelöscht. "
+    "Nach „Bearb. Abbr.“ zeigt die Liste den neuen Stand.";
+constexpr const char* listWasOld =
+    "Die Zeilen wurden inzwischen von jemand anderem verschoben oder gelöscht. "
+    "Die Liste zeigt jetzt den neuen Stand.";
+constexpr const char* nothingWritten = " Es wurde nichts geschrieben.";
 constexpr const char* closeUnsaved = "Die Zeile ist noch nicht gespeichert. Ohne Speichern schließen?";
 
 } // namespace
@@ -72,6 +77,7 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     loadUnits();
     MSFlexGrid1.setColumns(gridColumns());
     MSFlexGrid1.setRows({});
+    ids_.clear();
     LoadGrid();
     if (!shown) return;
     showCurrentLine();
@@ -92,56 +98,97 @@ std::string LineEditor::linesQuery() const {
 }
 
 void LineEditor::LoadGrid() {
-    struct Misplaced {
+    struct Line {
         std::int64_t id;
-        std::int64_t place;
+        std::optional<std::int64_t> place;
+        ui::Grid::Row cells;
     };
-    std::vector<Misplaced> misplaced;
-    std::vector<ui::Grid::Row> rows;
-    std::vector<std::int64_t> ids;
+    std::vector<Line> lines;
     for (auto line = session_.connection->open(linesQuery()); !line->atEnd(); line->moveNext()) {
-        rows.push_back(FillGridRow(*line));
-        ids.push_back(line->integer("ID"));
-        const auto place = static_cast<std::int64_t>(rows.size());
-        if (line->integer("ORDNUNG") != place) misplaced.push_back({ids.back(), place});
+        std::optional<std::int64_t> place;
+        if (!std::holds_alternative<common::Null>(line->field("ORDNUNG"))) place = line->integer("ORDNUNG");
+        lines.push_back({line->integer("ID"), place, FillGridRow(*line)});
+    }
+    // A line without a place is one that somebody else has just begun; it must not push the others aside.
+    std::ranges::stable_partition(lines, [](const Line& line) { return line.place.has_value(); });
+
+    const std::int64_t current = hasLines() ? idOf(MSFlexGrid1.currentRow()) : noRow;
+    std::vector<ui::Grid::Row> rows;
+    std::vector<Line> misplaced;
+    ids_.clear();
+    for (Line& line : lines) {
+        rows.push_back(std::move(line.cells));
+        ids_.push_back(line.id);
+        const auto place = static_cast<std::int64_t>(ids_.size());
+        if (line.place != place) misplaced.push_back({line.id, place, {}});
     }
     MSFlexGrid1.setRows(std::move(rows));
-    ids_ = std::move(ids);
-    if (MSFlexGrid1.currentRow() == ui::Grid::none && hasLines()) MSFlexGrid1.setCurrent(0);
-    for (const Misplaced& line : misplaced) {
+    if (const auto found = std::ranges::find(ids_, current); found != ids_.end()) {
+        MSFlexGrid1.setCurrent(static_cast<int>(found - ids_.begin()), MSFlexGrid1.currentColumn());
+    } else if (MSFlexGrid1.currentRow() == ui::Grid::none && hasLines()) {
+        MSFlexGrid1.setCurrent(0);
+    }
+    for (const Line& line : misplaced) {
         const auto record = session_.connection->openUpdatable(statements_.lineOf(line.id));
         if (record->atEnd()) continue; // deleted by somebody else a moment ago
-        record->setField("Ordnung", line.place);
+        record->setField("Ordnung", *line.place);
         record->update();
     }
+    linesChanged();
 }
 
 void LineEditor::reloadLine(int row) {
     StatementText query{kind_.lineColumns};
-    query.fixed(" WHERE ").fixed(kind_.keyColumn).fixed(" = ").number(ids_[static_cast<std::size_t>(row)]);
+    query.fixed(" WHERE ").fixed(kind_.keyColumn).fixed(" = ").number(idOf(row));
     const auto line = session_.connection->open(query.text());
     if (line->atEnd()) return;
     const ui::Grid::Row cells = FillGridRow(*line);
     for (std::size_t column = 0; column < cells.size(); ++column)
         MSFlexGrid1.setCell(row, static_cast<int>(column), cells[column]);
     if (row == MSFlexGrid1.currentRow()) showCurrentLine();
+    linesChanged();
+}
+
+std::unique_ptr<common::Recordset> LineEditor::openCurrent() {
+    const auto open = [this] { return session_.connection->open(statements_.lineAt(place())); };
+    if (!hasLines()) return nullptr;
+    if (auto line = open(); !line->atEnd() && line->integer("ID") == idOf(MSFlexGrid1.currentRow()))
+        return line;
+    LoadGrid();
+    enter(state_);
+    // The next key may be meant for the line that was here.
+    services_.errors.report(common::Refused{listWasOld});
+    if (!hasLines()) return nullptr;
+    auto line = open();
+    if (line->atEnd()) throw common::Refused{lineIsGone};
+    return line;
+}
+
+std::unique_ptr<common::Recordset> LineEditor::openInPlace(int row) {
+    auto line = session_.connection->open(statements_.keyAndSelectionAt(row + 1));
+    if (!line->atEnd() && line->integer("ID") == idOf(row)) return line;
+    if (!viewing()) throw common::Refused{lineIsGone};
+    LoadGrid();
+    showCurrentLine();
+    enter(State::view);
+    throw common::Refused{std::string{listWasOld} + nothingWritten};
 }
 
 std::unique_ptr<common::Recordset> LineEditor::openLine(const std::string& query) {
     auto line = session_.connection->open(query);
-    if (line->atEnd()) throw std::runtime_error{lineIsGone};
+    if (line->atEnd()) throw common::Refused{lineIsGone};
     return line;
 }
 
 std::unique_ptr<common::UpdatableRecordset> LineEditor::openToEdit(const std::string& query) {
     auto line = session_.connection->openUpdatable(query);
-    if (line->atEnd()) throw std::runtime_error{lineIsGone};
+    if (line->atEnd()) throw common::Refused{lineIsGone};
     return line;
 }
 
 void LineEditor::showCurrentLine() {
-    if (hasLines()) {
-        showFieldsOf(*openLine(statements_.lineAt(place())));
+    if (const auto line = openCurrent()) {
+        showFieldsOf(*line);
         ShowSelection(openLine(statements_.selectionAt(place()))->text("SELEKTION_VALUE"));
     } else {
         txtBEZEICHNUNG.setText("");
@@ -190,7 +237,7 @@ void LineEditor::startNew() {
 }
 
 void LineEditor::startEdit() {
-    const auto line = openLine(statements_.keyAndSelectionAt(place()));
+    const auto line = openInPlace(MSFlexGrid1.currentRow());
     ShowSelection(line->text("SELEKTION_VALUE"));
     enter(State::edit);
     common::SafeSetFocus(txtBEZEICHNUNG);
@@ -218,15 +265,15 @@ void LineEditor::StoreSelection() {
 
 bool LineEditor::lineHasSelection() {
     if (state_ == State::fresh && newId_ == noRow) return false;
-    const auto line = session_.connection->open(state_ == State::fresh ? statements_.selectionOf(newId_)
-                                                                       : statements_.selectionAt(place()));
-    return !line->atEnd() && !common::trim(line->text("SELEKTION_VALUE")).empty();
+    const auto line =
+        openLine(state_ == State::fresh ? statements_.selectionOf(newId_) : statements_.selectionAt(place()));
+    return !common::trim(line->text("SELEKTION_VALUE")).empty();
 }
 
 void LineEditor::selectInDialog() {
     std::int64_t id = newId_;
     if (state_ != State::fresh) {
-        id = openLine(statements_.keyAndSelectionAt(place()))->integer("ID");
+        id = openInPlace(MSFlexGrid1.currentRow())->integer("ID");
     } else if (newId_ == noRow) {
         id = newId_ = createRow();
     }
@@ -244,6 +291,7 @@ void LineEditor::selectInDialog() {
 
 void LineEditor::save() {
     if (!confirmSave()) return;
+    if (state_ == State::edit) openInPlace(MSFlexGrid1.currentRow());
     StoreSelection();
     if (!lineHasSelection()) {
         common::ShowMessage(services_.display,
@@ -294,7 +342,7 @@ void LineEditor::discardNewRow() {
 
 void LineEditor::removeLine() {
     const int removed = place();
-    const auto id = ids_[static_cast<std::size_t>(removed - 1)];
+    const auto id = idOf(removed - 1);
     // By its key: in the meantime another user may have moved another line to this place.
     if (const auto line = session_.connection->openUpdatable(statements_.lineOf(id)); !line->atEnd()) {
         line->remove();
@@ -310,8 +358,10 @@ void LineEditor::moveLine(int step) {
     const int from = MSFlexGrid1.currentRow();
     const int to = from + step;
     if (from == ui::Grid::none || to < 0 || to >= static_cast<int>(ids_.size())) return;
+    openInPlace(from);
+    openInPlace(to);
     const auto setPlace = [this](int row, int place) {
-        const auto line = openToEdit(statements_.lineOf(ids_[static_cast<std::size_t>(row)]));
+        const auto line = openToEdit(statements_.lineOf(idOf(row)));
         line->setField("Ordnung", std::int64_t{place});
         line->update();
     };
@@ -335,6 +385,7 @@ void LineEditor::moveLine(int step) {
     std::swap(ids_[static_cast<std::size_t>(from)], ids_[static_cast<std::size_t>(to)]);
     MSFlexGrid1.setCurrent(to, MSFlexGrid1.currentColumn());
     currentLineShown();
+    linesChanged();
 }
 
 bool LineEditor::queryUnload() {

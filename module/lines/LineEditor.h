@@ -67,6 +67,8 @@ protected:
     /// The current line, or the state, is another one.
     virtual void currentLineShown() {}
     virtual void stateShown() {}
+    /// Lines, their order or their contents are others than before.
+    virtual void linesChanged() {}
 
     /// The layout around the fields of the kind: `fields` below the description, and what goes below them.
     void arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
@@ -77,7 +79,13 @@ protected:
     /// Place of the current line in its contract, from 1; 0 when there is no line.
     int place() const { return MSFlexGrid1.currentRow() + 1; }
 
+    /// Loads the lines, without showing the current one. It stays current if it is still there.
     void LoadGrid();
+    /// `ID` and `SELEKTION_VALUE` of the line in a row, read by its place: what writes by the place comes
+    /// after it.
+    /// @throws common::Refused when somebody else has moved or deleted lines meanwhile; in the view state
+    ///         they have been loaded again
+    std::unique_ptr<common::Recordset> openInPlace(int row);
     /// Shows what the database has for one line: its row in the grid and, for the current line, the fields.
     void reloadLine(int row);
     void showCurrentLine();
@@ -99,6 +107,9 @@ private:
     void loadUnits();
     std::string linesQuery() const;
     std::int64_t createRow();
+    std::int64_t idOf(int row) const { return ids_[static_cast<std::size_t>(row)]; }
+    /// The current line, or null where the contract has none.
+    std::unique_ptr<common::Recordset> openCurrent();
     /// One line that has to be there.
     std::unique_ptr<common::Recordset> openLine(const std::string& query);
     std::unique_ptr<common::UpdatableRecordset> openToEdit(const std::string& query);

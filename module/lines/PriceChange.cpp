@@ -82,16 +82,24 @@ void PriceChange::press() {
     }
 }
 
+void PriceChange::linesChanged() {
+    if (frmPreiseAendern.visible()) readLines();
+}
+
 void PriceChange::show() {
+    readLines();
+    frmPreiseAendern.setVisible(true);
+    common::SafeSetFocus(txtWert);
+    txtWert.selectAll();
+}
+
+void PriceChange::readLines() {
     StatementText query{"SELECT BEZEICHNUNG,PREIS FROM VERTRAG_PREISE WHERE ID_VERTRAG = "};
     query.number(contract_).fixed(" ORDER BY ORDNUNG");
     lines_.clear();
     for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext())
         lines_.push_back({line->text("BEZEICHNUNG"), common::numberIn(line->field("PREIS"))});
     preview();
-    frmPreiseAendern.setVisible(true);
-    common::SafeSetFocus(txtWert);
-    txtWert.selectAll();
 }
 
 void PriceChange::preview() {
@@ -125,6 +133,7 @@ std::string PriceChange::statement() const {
 }
 
 void PriceChange::change() {
+    readLines();
     const std::string amount = txtWert.text();
     const std::string question = "Wollen Sie die Preise des Vertrages um " + amount +
                                  (kind() == ChangeKind::percent ? " Prozent" : "") + " verändern?";

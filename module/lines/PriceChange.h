@@ -38,6 +38,8 @@ public:
     ui::Layout layout();
     ui::Button& button() { return btnPreiseAendern; }
     void setEnabled(bool enabled);
+    /// The preview shows the lines as they are now.
+    void linesChanged();
     /// Hides the frame and forgets the amount.
     void hide();
 
@@ -49,6 +51,7 @@ private:
 
     void press();
     void show();
+    void readLines();
     void change();
     void preview();
     ChangeKind kind() const;

@@ -119,5 +119,28 @@ TEST_F(PriceChangeOfAContract, TheFrameIsHiddenWhenTheScreenOpens) {
                  std::out_of_range);
 }
 
+TEST_F(PriceChangeOfAContract, ThePreviewShowsTheLinesAsTheyAre) {
+    editPrices(1, [&](User& user) {
+        const ui::Grid& preview = user.grid("grdVorschau");
+        user.click("btnPreiseAendern");
+        user.type("txtWert", "10");
+        user.click("chkEdit");
+        user.select("MSFlexGrid1", 0, 2);
+        user.type("200");
+        user.key(ui::Key::enter);
+        EXPECT_EQ(cells(preview, 0), "Fichte Blochholz A/B|200,00|210,00") << "edited in its cell";
+        user.focus("UpDown1");
+        user.key(ui::Key::down);
+        EXPECT_EQ(preview.cell(1, 2), "210,00") << "moved";
+        user.click("cmdLoschen");
+        EXPECT_EQ(preview.rows().size(), 2u) << "deleted";
+        host.database.execute("UPDATE VERTRAG_PREISE SET PREIS = 1 WHERE ID = 3");
+        host.display.onMessage("um 10,00 verändern?", Answer::no);
+        user.click("btnPreiseAendern");
+        EXPECT_EQ(preview.cell(1, 2), "11,00") << "changed by somebody else before the question";
+        user.click("cmdOk");
+    });
+}
+
 } // namespace
 } // namespace tellurix::tests

@@ -1,6 +1,6 @@
 #include "session/error_kind.h"
 
-#include "common/StatementText.h"
+#include "common/Refused.h"
 #include "common/database.h"
 
 #include <array>
@@ -10,7 +10,7 @@ namespace tellurix::windows {
 
 namespace {
 
-constexpr const char* statementKind = "statement";
+constexpr const char* refusedKind = "refused";
 
 using enum common::DatabaseErrorCategory;
 constexpr std::array databaseKinds{std::pair{syntax, "syntax"},
@@ -24,7 +24,7 @@ constexpr std::array databaseKinds{std::pair{syntax, "syntax"},
 } // namespace
 
 std::string errorKind(const std::exception& error) {
-    if (dynamic_cast<const common::StatementError*>(&error) != nullptr) return statementKind;
+    if (dynamic_cast<const common::Refused*>(&error) != nullptr) return refusedKind;
     if (const auto* database = dynamic_cast<const common::DatabaseError*>(&error))
         for (const auto& [category, word] : databaseKinds)
             if (category == database->category()) return word;
@@ -32,7 +32,7 @@ std::string errorKind(const std::exception& error) {
 }
 
 std::exception_ptr errorOfKind(const std::string& kind, const std::string& message) {
-    if (kind == statementKind) return std::make_exception_ptr(common::StatementError(message, {}, {}));
+    if (kind == refusedKind) return std::make_exception_ptr(common::Refused(message));
     for (const auto& [category, word] : databaseKinds)
         if (kind == word) return std::make_exception_ptr(common::DatabaseError(category, message, {}));
     return std::make_exception_ptr(std::runtime_error(message));

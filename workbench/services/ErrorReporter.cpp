@@ -1,7 +1,7 @@
 #include "services/ErrorReporter.h"
 
 #include "common/M_Common.h"
-#include "common/StatementText.h"
+#include "common/Refused.h"
 
 namespace tellurix::workbench {
 
@@ -38,7 +38,7 @@ int iconOf(common::DatabaseErrorCategory category) {
 } // namespace
 
 void ErrorReporter::report(const std::exception& error) {
-    if (const auto* refused = dynamic_cast<const common::StatementError*>(&error)) {
+    if (const auto* refused = dynamic_cast<const common::Refused*>(&error)) {
         common::ShowMessage(display_, refused->what(), ui::box::exclamation);
     } else if (const auto* database = dynamic_cast<const common::DatabaseError*>(&error)) {
         common::ShowMessage(display_,

@@ -1,6 +1,7 @@
 #include "services/SelectionDialogService.h"
 
 #include "common/M_Common.h"
+#include "common/Refused.h"
 #include "common/StatementText.h"
 #include "services/F_Selection.h"
 
@@ -40,7 +41,7 @@ std::optional<std::string> SelectionDialogService::edit(const host::TlxVar& sess
     SelectionExpression present;
     try {
         present = SelectionExpression::parse(value);
-    } catch (const std::invalid_argument& unreadable) {
+    } catch (const common::Refused& unreadable) {
         common::ShowMessage(display_, filled(words.named("unreadable"), {unreadable.what()}),
                             ui::box::exclamation, words.named("title"));
     }

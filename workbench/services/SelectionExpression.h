@@ -46,7 +46,7 @@ struct SelectionExpression {
     std::vector<SelectionTerm> terms;
 
     /// Reads a text in either form, in any case of its words.
-    /// @throws std::invalid_argument with a German text that names the piece that cannot be read
+    /// @throws common::Refused with a German text that names the piece that cannot be read
     static SelectionExpression parse(std::string_view value);
 
     /// The text in the quick form where that is possible, else in the extended one.

@@ -1,11 +1,11 @@
 #include "services/SelectionExpression.h"
 
 #include "common/Decimal.h"
+#include "common/Refused.h"
 #include "common/text.h"
 #include "services/selection_lexer.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace tellurix::workbench {
 
@@ -124,8 +124,8 @@ private:
         const std::string_view rest = value_.substr(std::min(token().start, value_.size()));
         const std::string where =
             rest.empty() ? "am Ende" : "bei „" + std::string{rest.substr(0, rest.find(';'))} + "“";
-        throw std::invalid_argument{"Die Selektion kann nicht gelesen werden: „" + piece() + "“. " + reason +
-                                    " (" + where + ")."};
+        throw common::Refused{"Die Selektion kann nicht gelesen werden: „" + piece() + "“. " + reason + " (" +
+                              where + ")."};
     }
 
     std::string_view value_;
