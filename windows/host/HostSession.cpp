@@ -37,6 +37,7 @@ HostSession::HostSession(const HostOptions& options)
       moduleService_(Dispatch::create("Tellurix_Loc.HostModuleService")) {
     display_.setErrorHandling(&services_.host().errors);
     display_.setLanguage(options.language);
+    replaceSettings(options);
     const auto listener = ComPtr<IDispatch>::adopt(
         new NotificationListener{[this](const std::string& code, const std::string& type) {
             std::string unused;
@@ -52,6 +53,16 @@ HostSession::~HostSession() {
         // The companion library is going anyway, and the listener with it.
     }
     display_.setErrorHandling(nullptr);
+}
+
+void HostSession::replaceSettings(const HostOptions& options) {
+    if (options.settings.empty()) return;
+    // The companion library keeps them as long as this thread has an object of it, such as the one above.
+    Dispatch library = Dispatch::create("Tellurix_Loc.NamedSettings");
+    for (const auto& [name, value] : options.settings) {
+        services_.settings().replace(name, value);
+        library.call(L"Replace", {name, value});
+    }
 }
 
 void HostSession::run() {

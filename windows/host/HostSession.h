@@ -23,6 +23,9 @@ public:
     void run();
 
 private:
+    /// For the start page and, in the companion library, for the module.
+    void replaceSettings(const HostOptions& options);
+
     Dispatch connection_;
     ado::AdoConnection database_;
     Win32Display display_;

@@ -21,6 +21,11 @@ public:
     /// Told of every request of the module; Nothing for none.
     Dispatch listener;
 
+    /// Lets a value of a named setting count instead of the one in the database.
+    void replaceSetting(const std::string& name, const std::string& value) {
+        services_.settings().replace(name, value);
+    }
+
     /// One call of a service, with the session of its caller. What it shows stands above the window
     /// that the user works in.
     class Call {

@@ -69,10 +69,16 @@ const ServiceClass& dateConverter() {
 const ServiceClass& namedSettings() {
     static const ServiceClass served{
         "Tellurix_Loc.NamedSettings",
-        DispatchTable().method<ServiceObject>(L"Text", [](ServiceObject& service, Given given) {
-            auto call = callOf(service, given);
-            return Variant(call.services().settings.text(call.session(), given[1].text()));
-        })};
+        DispatchTable()
+            .method<ServiceObject>(L"Text",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       return Variant(
+                                           call.services().settings.text(call.session(), given[1].text()));
+                                   })
+            .method<ServiceObject>(L"Replace", [](ServiceObject& service, Given given) {
+                service.workplace().replaceSetting(given[0].text(), given[1].text());
+            })};
     return served;
 }
 

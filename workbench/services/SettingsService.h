@@ -10,8 +10,8 @@ namespace tellurix::workbench {
 /// Named settings in the table WORKBENCH_SETTING, the same for all users.
 class SettingsService final : public host::NamedSettings {
 public:
-    /// Settings that count instead of those in the table, as long as this program runs.
-    void replace(std::map<std::string, std::string> settings) { replaced_ = std::move(settings); }
+    /// Lets a value count instead of the one in the table, as long as this program runs.
+    void replace(const std::string& name, const std::string& value) { replaced_[name] = value; }
 
     std::string text(const host::TlxVar& session, const std::string& name) override;
 

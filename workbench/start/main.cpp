@@ -4,6 +4,8 @@
 
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -29,7 +31,7 @@ int run(const CommandLine& line) {
 
 int main(int count, char** arguments) {
     try {
-        return run(CommandLine::parse({arguments + 1, arguments + count}));
+        return run(CommandLine::parse(std::vector<std::string>{arguments + 1, arguments + count}));
     } catch (const tellurix::workbench::UsageError& error) {
         std::cerr << "tellurix-workbench: " << error.what() << "\nSee tellurix-workbench --help.\n";
         return 2;

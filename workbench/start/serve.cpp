@@ -81,7 +81,8 @@ void work(Workbench& workbench, BrowserDisplay& display) {
                          .user = workbench.line.user,
                          .language = workbench.line.language};
     WorkbenchServices services{display, session, workbench.catalogue};
-    services.settings().replace(workbench.line.settings);
+    for (const auto& [name, value] : workbench.line.settings)
+        services.settings().replace(name, value);
     const ErrorsOfSession errors{display, services.host().errors};
     const ModuleUnloading unloading;
     ModuleOpener module{services, session};
