@@ -81,18 +81,14 @@ void Desktop::runModal(Form& form, const std::function<Event()>& nextEvent) {
     } window{windows_, form};
 
     form.load();
-    ctrlAlone_ = false;
     if (const auto order = form.tabOrder(); !order.empty()) dispatch(FocusEvent{order.front()});
     while (form.loaded())
         dispatch(nextEvent());
-    ctrlAlone_ = false;
 }
 
 void Desktop::dispatch(const Event& event) {
     Form* form = top();
     if (form == nullptr || !form->loaded()) return;
-    if (!std::holds_alternative<KeyUpEvent>(event) && !std::holds_alternative<KeyDownEvent>(event))
-        ctrlAlone_ = false;
     try {
         std::visit([this, form](const auto& happened) { handle(*form, happened); }, event);
     } catch (const std::exception& error) {
@@ -202,7 +198,6 @@ void Desktop::typeText(TextBox& box, const std::string& text) {
 
 void Desktop::handle(Form& form, const KeyDownEvent& event) {
     KeyDown key = event.key;
-    ctrlAlone_ = key.key == Key::ctrl && !key.alt && !key.shift;
     Control* control = form.focused();
     if (control != nullptr && control->onKeyDown) {
         control->onKeyDown(key);
@@ -264,9 +259,7 @@ void Desktop::handle(Form& form, const KeyDownEvent& event) {
     if (!editKey(*control, key)) moveInList(*control, key.key);
 }
 
-void Desktop::handle(Form& form, const KeyUpEvent& event) {
-    if (event.key != Key::ctrl || !ctrlAlone_) return;
-    ctrlAlone_ = false;
+void Desktop::handle(Form& form, const PickKeyEvent&) {
     if (form.focused() != nullptr) pick(form, *form.focused());
 }
 

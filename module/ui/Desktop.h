@@ -15,7 +15,7 @@ namespace tellurix::ui {
 /// - Getting the focus selects the whole text of a box.
 /// - Leaving a control asks its `onLeave` first, and a refusal takes the focus back. A click on a
 ///   button leaves the box before it presses the button, unless the button throws input away.
-/// - Ctrl pressed and released with no other key between, F4, and the small button beside a box
+/// - Ctrl pressed and released alone, F4, and the small button beside a box
 ///   open its picker.
 /// - Alt with a letter presses the button, ticks the box or goes to the field with that access key;
 ///   where several have it, it goes from one to the next.
@@ -42,7 +42,7 @@ public:
 
 private:
     void handle(Form& form, const KeyDownEvent& event);
-    void handle(Form& form, const KeyUpEvent& event);
+    void handle(Form& form, const PickKeyEvent& event);
     void handle(Form& form, const KeyPressEvent& event);
     void handle(Form& form, const AccessKeyEvent& event);
     void handle(Form& form, const FocusEvent& event);
@@ -71,7 +71,6 @@ private:
 
     ErrorHandling& errors_;
     std::vector<Form*> windows_;
-    bool ctrlAlone_ = false;
 };
 
 } // namespace tellurix::ui

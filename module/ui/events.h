@@ -14,13 +14,12 @@ class TextBox;
 /// them to the Desktop, which applies the rules of input. Events without a control go to the one
 /// that has the focus.
 
-/// A key went down or came up.
+/// A key went down.
 struct KeyDownEvent {
     KeyDown key;
 };
-struct KeyUpEvent {
-    Key key = Key::none;
-};
+/// Ctrl was pressed and released, and nothing else was done between.
+struct PickKeyEvent {};
 /// A character was typed, after the key-down event of its key.
 struct KeyPressEvent {
     char32_t character = 0;
@@ -79,7 +78,7 @@ struct PickEvent {
 /// The window's close box.
 struct CloseEvent {};
 
-using Event = std::variant<KeyDownEvent, KeyUpEvent, KeyPressEvent, AccessKeyEvent, FocusEvent,
+using Event = std::variant<KeyDownEvent, PickKeyEvent, KeyPressEvent, AccessKeyEvent, FocusEvent,
                            TextEditedEvent, SelectionEvent, PasteEvent, ClickEvent, StepEvent, SelectEvent,
                            DoubleClickEvent, ScrollEvent, PickEvent, CloseEvent>;
 

@@ -89,10 +89,11 @@ void HeadlessDisplay::perform(const Step& step) {
                  const ui::KeyDown key = keyOf(s, word.text);
                  if (key.alt) {
                      display.desktop_.dispatch(ui::AccessKeyEvent{static_cast<char32_t>(key.key)});
-                     continue;
+                 } else if (key.key == ui::Key::ctrl) {
+                     display.user_.ctrl();
+                 } else {
+                     display.desktop_.dispatch(ui::KeyDownEvent{key});
                  }
-                 display.desktop_.dispatch(ui::KeyDownEvent{key});
-                 display.desktop_.dispatch(ui::KeyUpEvent{key.key});
              }
          }},
         {"click", [](HeadlessDisplay& display, const Step& s) { display.click(s); }},

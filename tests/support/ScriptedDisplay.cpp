@@ -54,11 +54,10 @@ void User::type(std::string_view text) {
 
 void User::key(ui::Key key, bool shift) {
     desktop_.dispatch(ui::KeyDownEvent{{.key = key, .shift = shift}});
-    desktop_.dispatch(ui::KeyUpEvent{key});
 }
 
 void User::ctrl() {
-    key(ui::Key::ctrl);
+    desktop_.dispatch(ui::PickKeyEvent{});
 }
 
 void User::alt(char32_t letter) {

@@ -92,8 +92,7 @@ bool Keyboard::down(ControlView* view, WPARAM code, LPARAM details) {
 bool Keyboard::up(ControlView* view, WPARAM code) {
     if (code != VK_CONTROL || !ctrlAlone_) return false;
     ctrlAlone_ = false;
-    tell_(view, ui::KeyDownEvent{KeyDown{.key = Key::ctrl, .ctrl = true}});
-    tell_(view, ui::KeyUpEvent{Key::ctrl});
+    tell_(view, ui::PickKeyEvent{});
     return false;
 }
 

@@ -75,8 +75,8 @@ std::optional<ui::Event> toEvent(const PageMessage& message, const ui::Form& for
     switch (message.kind) {
     case Kind::key:
         return ui::KeyDownEvent{message.key};
-    case Kind::keyUp:
-        return ui::KeyUpEvent{message.key.key};
+    case Kind::pickKey:
+        return ui::PickKeyEvent{};
     case Kind::character:
         return ui::KeyPressEvent{message.character};
     case Kind::accessKey:

@@ -60,7 +60,7 @@ char32_t character(const json& object) {
 Kind kindOf(const json& object) {
     static const std::map<std::string, Kind> kinds{
         {"key", Kind::key},
-        {"keyUp", Kind::keyUp},
+        {"pickKey", Kind::pickKey},
         {"character", Kind::character},
         {"accessKey", Kind::accessKey},
         {"focus", Kind::focus},
@@ -107,7 +107,6 @@ PageMessage parsePageMessage(std::string_view message) {
     }
     switch (parsed.kind) {
     case Kind::key:
-    case Kind::keyUp:
         parsed.key = {static_cast<ui::Key>(integer(object, "key", 1, 255)), flag(object, "shift"),
                       flag(object, "ctrl"), flag(object, "alt")};
         break;

@@ -22,7 +22,7 @@ public:
 struct PageMessage {
     enum class Kind {
         key,
-        keyUp,
+        pickKey,
         character,
         accessKey,
         focus,

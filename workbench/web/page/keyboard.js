@@ -72,11 +72,7 @@ export class Keyboard {
     if (event.key !== 'Control' || !this.#ctrlAlone) return;
     this.#ctrlAlone = false;
     if (this.#notices.blocking || this.#box.asks) return;
-    const code = codeOf('Control');
-    this.#input.perform(() => {
-      this.#desktop.sayKey({ code, ctrl: true });
-      this.#desktop.say({ type: 'keyUp', key: code });
-    });
+    this.#input.perform(() => this.#desktop.say({ type: 'pickKey' }));
   }
 
   #replay(key) {
