@@ -96,33 +96,28 @@ void Desktop::dispatch(const Event& event) {
     }
 }
 
-bool Desktop::moveFocus(Form& form, Control& to) {
+bool Desktop::leave(Form& form) {
     Control* from = form.focused();
-    if (from == &to) return true;
-    if (!to.takesFocus() || !to.usable()) return false;
     if (from != nullptr && from->onLeave && from->usable() && !from->onLeave()) {
         form.setFocus(*from);
         return false;
     }
-    // The handler may have closed the window, sent the focus elsewhere, or disabled the target.
-    if (!form.loaded() || form.focused() != from) return false;
-    return form.setFocus(to);
+    return form.loaded() && form.focused() == from;
+}
+
+bool Desktop::moveFocus(Form& form, Control& to) {
+    if (form.focused() == &to) return true;
+    // Leaving may disable where the focus would go to; then setting it is refused.
+    return to.takesFocus() && to.usable() && leave(form) && form.setFocus(to);
 }
 
 void Desktop::moveByTab(Form& form, bool backwards) {
-    const std::vector<Control*> before = form.tabOrder();
-    if (before.empty()) return;
-    Control* from = form.focused();
-    if (from != nullptr && from->onLeave && from->usable() && !from->onLeave()) {
-        form.setFocus(*from);
-        return;
-    }
-    if (!form.loaded() || form.focused() != from) return;
+    if (form.tabOrder().empty() || !leave(form)) return;
 
     // What leaving changed (a frame that became usable) counts for where Tab goes.
     const std::vector<Control*> order = form.tabOrder();
     if (order.empty()) return;
-    const auto at = std::ranges::find(order, from);
+    const auto at = std::ranges::find(order, form.focused());
     std::size_t next = 0;
     if (at != order.end()) {
         const auto index = static_cast<std::size_t>(at - order.begin());

@@ -57,6 +57,9 @@ private:
     void handle(Form& form, const PickEvent& event);
     void handle(Form& form, const CloseEvent& event);
 
+    /// Asks the control that has the focus; a refusal takes the focus back.
+    /// @return false also when its handler closed the window or sent the focus elsewhere
+    static bool leave(Form& form);
     /// Goes from the focused control to another one, by the rules of leaving.
     bool moveFocus(Form& form, Control& to);
     void moveByTab(Form& form, bool backwards);
