@@ -12,14 +12,6 @@ Win32Display::Win32Display(HWND owner) : owner_(owner) {}
 
 Win32Display::~Win32Display() = default;
 
-void Win32Display::Errors::report(const std::exception& error) {
-    if (handling != nullptr) {
-        handling->report(error);
-    } else {
-        display.messageBox(error.what(), ui::box::ok | ui::box::critical, "Tellurix");
-    }
-}
-
 HWND Win32Display::topWindow() const {
     if (!windows_.empty()) return windows_.back()->window();
     return owner_ == nullptr ? nullptr : GetAncestor(owner_, GA_ROOT);

@@ -2,7 +2,7 @@
 
 #include "screens/DisplayState.h"
 #include "ui/Desktop.h"
-#include "ui/Display.h"
+#include "ui/DisplayErrors.h"
 
 #include <windows.h>
 
@@ -33,7 +33,7 @@ public:
     void setOwner(HWND owner) { owner_ = owner; }
     /// Where errors inside an event of an open screen go. Without it they are shown as a message.
     /// @param errors outlives the display's last use, or is replaced by null
-    void setErrorHandling(ui::ErrorHandling* errors) { errors_.handling = errors; }
+    void setErrorHandling(ui::ErrorHandling* errors) { errors_.setHost(errors); }
     /// Language of the display's own texts: "de" (the default) or "en". The buttons of message boxes
     /// and file dialogs are in the language of Windows.
     void setLanguage(std::string language) { state_.language = std::move(language); }
@@ -45,20 +45,13 @@ public:
     void refresh() override;
 
 private:
-    struct Errors final : ui::ErrorHandling {
-        explicit Errors(Win32Display& shownOn) : display(shownOn) {}
-        void report(const std::exception& error) override;
-        Win32Display& display;
-        ui::ErrorHandling* handling = nullptr;
-    };
-
     ui::Event nextEvent();
     void draw();
     /// The window that a dialog of Windows belongs to.
     HWND topWindow() const;
 
     HWND owner_;
-    Errors errors_{*this};
+    ui::DisplayErrors errors_{*this};
     ui::Desktop desktop_{errors_};
     std::vector<std::unique_ptr<WindowFrame>> windows_; ///< the topmost last
     DisplayState state_;

@@ -13,14 +13,6 @@ using nlohmann::json;
 
 BrowserDisplay::BrowserDisplay(PageChannel& page) : page_(page) {}
 
-void BrowserDisplay::Errors::report(const std::exception& error) {
-    if (handling != nullptr) {
-        handling->report(error);
-    } else {
-        display.messageBox(error.what(), ui::box::ok | ui::box::critical, "Tellurix");
-    }
-}
-
 void BrowserDisplay::setLanguage(std::string language) {
     if (language == language_) return;
     language_ = std::move(language);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/Desktop.h"
-#include "ui/Display.h"
+#include "ui/DisplayErrors.h"
 #include "web/PageChannel.h"
 
 #include <nlohmann/json_fwd.hpp>
@@ -24,7 +24,7 @@ public:
 
     /// Where errors inside an event of an open screen go. Without it they are shown as a message.
     /// @param errors outlives the display's last use, or is replaced by null
-    void setErrorHandling(ui::ErrorHandling* errors) { errors_.handling = errors; }
+    void setErrorHandling(ui::ErrorHandling* errors) { errors_.setHost(errors); }
     /// Language of message buttons and of the page's own texts: "de" (the default) or "en".
     void setLanguage(std::string language);
 
@@ -42,12 +42,6 @@ private:
         ui::Form* form;
         bool drawn = false;
     };
-    struct Errors final : ui::ErrorHandling {
-        explicit Errors(BrowserDisplay& display) : display(display) {}
-        void report(const std::exception& error) override;
-        BrowserDisplay& display;
-        ui::ErrorHandling* handling = nullptr;
-    };
     struct Question {
         int id;
         std::string text;
@@ -63,7 +57,7 @@ private:
     void drawWindows(nlohmann::json& message, bool complete);
 
     PageChannel& page_;
-    Errors errors_{*this};
+    ui::DisplayErrors errors_{*this};
     ui::Desktop desktop_{errors_};
     std::vector<Window> windows_; ///< the topmost last
     std::vector<int> closed_;     ///< windows that the page does not know to be closed
