@@ -47,15 +47,9 @@ bool convertsTo(FieldType type, const std::string& text, const Locale& locale) {
 
 std::string focusedText(const ui::Form& form) {
     const ui::Control* focused = form.focused();
-    if (focused == nullptr) return {};
-    switch (focused->kind()) {
-    case ui::ControlKind::textBox:
-        return static_cast<const ui::TextBox*>(focused)->text();
-    case ui::ControlKind::comboBox:
-        return static_cast<const ui::ComboBox*>(focused)->selectedText();
-    default:
-        return {};
-    }
+    if (const auto* box = ui::as<ui::TextBox>(focused)) return box->text();
+    if (const auto* combo = ui::as<ui::ComboBox>(focused)) return combo->selectedText();
+    return {};
 }
 
 } // namespace
@@ -66,10 +60,7 @@ ui::Answer ShowMessage(ui::Display& display, const std::string& prompt, int flag
 }
 
 void SelectActiveText(ui::Form& form) {
-    ui::Control* focused = form.focused();
-    if (focused != nullptr && focused->kind() == ui::ControlKind::textBox) {
-        static_cast<ui::TextBox*>(focused)->selectAll();
-    }
+    if (auto* box = ui::as<ui::TextBox>(form.focused())) box->selectAll();
 }
 
 std::int16_t CheckKeyForColumn(const host::TlxVar& session, const ui::Form& form, std::int16_t keyCode,

@@ -8,10 +8,12 @@ namespace tellurix::ui {
 /// picture; its caption is then what screen readers say.
 class Button final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::button;
+
     Button(Form& form, std::string name, std::string caption = {}, std::string picture = {})
         : Control(form, std::move(name)), caption_(std::move(caption)), picture_(std::move(picture)) {}
 
-    ControlKind kind() const override { return ControlKind::button; }
+    ControlKind kind() const override { return ownKind; }
 
     const std::string& caption() const { return caption_; }
     void setCaption(std::string caption) { change(caption_, std::move(caption)); }

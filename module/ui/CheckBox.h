@@ -7,10 +7,12 @@ namespace tellurix::ui {
 /// A box that is ticked or not, with its caption. "&" marks the access key.
 class CheckBox final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::checkBox;
+
     CheckBox(Form& form, std::string name, std::string caption = {})
         : Control(form, std::move(name)), caption_(std::move(caption)) {}
 
-    ControlKind kind() const override { return ControlKind::checkBox; }
+    ControlKind kind() const override { return ownKind; }
 
     const std::string& caption() const { return caption_; }
     void setCaption(std::string caption) { change(caption_, std::move(caption)); }

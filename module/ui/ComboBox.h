@@ -7,9 +7,11 @@ namespace tellurix::ui {
 /// A drop-down list of which one item is chosen.
 class ComboBox final : public ItemList {
 public:
+    static constexpr ControlKind ownKind = ControlKind::comboBox;
+
     ComboBox(Form& form, std::string name, int width = 20) : ItemList(form, std::move(name), width) {}
 
-    ControlKind kind() const override { return ControlKind::comboBox; }
+    ControlKind kind() const override { return ownKind; }
 };
 
 } // namespace tellurix::ui

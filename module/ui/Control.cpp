@@ -9,8 +9,7 @@ Control::Control(Form& form, std::string name) : form_(form), name_(std::move(na
 bool Control::showing() const {
     if (!visible_) return false;
     if (container_ == nullptr) return true;
-    if (container_->kind() == ControlKind::tabs && static_cast<const Tabs*>(container_)->selected() != page_)
-        return false;
+    if (const Tabs* tabs = as<Tabs>(container_); tabs != nullptr && tabs->selected() != page_) return false;
     return container_->showing();
 }
 

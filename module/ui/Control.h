@@ -98,6 +98,16 @@ private:
     bool dirty_ = true;
 };
 
+/// A control as what it is, or null where it is of another kind.
+template <typename C>
+C* as(Control* control) {
+    return control != nullptr && control->kind() == C::ownKind ? static_cast<C*>(control) : nullptr;
+}
+template <typename C>
+const C* as(const Control* control) {
+    return control != nullptr && control->kind() == C::ownKind ? static_cast<const C*>(control) : nullptr;
+}
+
 /// An array of `N` controls of one kind, named "base(0)" to "base(N-1)".
 template <typename C, std::size_t N, typename... Arguments>
 std::array<C, N> controlArray(Form& form, const std::string& base, const Arguments&... arguments) {

@@ -9,6 +9,7 @@
 #include "ui/TextBox.h"
 #include "ui/UpDown.h"
 #include "ui/caption.h"
+#include "ui/control_caption.h"
 
 #include <algorithm>
 
@@ -16,31 +17,15 @@ namespace tellurix::ui {
 
 namespace {
 
-template <typename C>
-C* as(Control* control, ControlKind kind) {
-    return control != nullptr && control->kind() == kind ? static_cast<C*>(control) : nullptr;
-}
-
-TextBox* asTextBox(Control* control) {
-    return as<TextBox>(control, ControlKind::textBox);
-}
-
 ItemList* asItemList(Control* control) {
-    if (ItemList* list = as<ComboBox>(control, ControlKind::comboBox)) return list;
-    return as<ListBox>(control, ControlKind::listBox);
+    if (ItemList* list = as<ComboBox>(control)) return list;
+    return as<ListBox>(control);
 }
 
-std::string captionOf(const Control& control) {
-    switch (control.kind()) {
-    case ControlKind::button:
-        return static_cast<const Button&>(control).caption();
-    case ControlKind::checkBox:
-        return static_cast<const CheckBox&>(control).caption();
-    case ControlKind::label:
-        return static_cast<const Label&>(control).caption();
-    default:
-        return {};
-    }
+/// The access key of a control, 0 for none. The captions of pages and columns mark none.
+char32_t accessKeyOf(const Control& control) {
+    if (as<Tabs>(&control) != nullptr || as<Grid>(&control) != nullptr) return 0;
+    return ui::accessKeyOf(captionText(control).value_or(""));
 }
 
 bool editable(const TextBox* box) {
@@ -128,26 +113,26 @@ void Desktop::moveByTab(Form& form, bool backwards) {
 
 void Desktop::press(Form& form, Control& control) {
     if (!control.usable()) return;
-    Button* button = as<Button>(&control, ControlKind::button);
+    Button* button = as<Button>(&control);
     const bool checks = button == nullptr || button->causesValidation();
     if (checks ? !moveFocus(form, control) : !form.setFocus(control)) return;
     if (button != nullptr) {
         call(button->onClick);
-    } else if (CheckBox* check = as<CheckBox>(&control, ControlKind::checkBox)) {
+    } else if (CheckBox* check = as<CheckBox>(&control)) {
         check->setChecked(!check->checked());
         call(check->onClick);
     }
 }
 
 void Desktop::pick(Form& form, Control& control) {
-    TextBox* box = asTextBox(&control);
+    TextBox* box = as<TextBox>(&control);
     if (!editable(box) || !box->onPick || !moveFocus(form, control)) return;
     box->onPick();
     box->selectAll();
 }
 
 bool Desktop::editKey(Control& control, const KeyDown& key) {
-    TextBox* box = asTextBox(&control);
+    TextBox* box = as<TextBox>(&control);
     if (!editable(box) || (key.key != Key::backspace && key.key != Key::del)) return false;
     box->erase(key.key == Key::backspace ? -1 : +1);
     call(box->onChange);
@@ -155,7 +140,7 @@ bool Desktop::editKey(Control& control, const KeyDown& key) {
 }
 
 bool Desktop::moveInList(Control& control, Key key) {
-    if (Grid* grid = as<Grid>(&control, ControlKind::grid)) {
+    if (Grid* grid = as<Grid>(&control)) {
         const int count = static_cast<int>(grid->rows().size());
         const int row =
             count == 0 ? Grid::none : movedIndex(key, grid->currentRow(), count, grid->visibleRows());
@@ -218,13 +203,11 @@ void Desktop::handle(Form& form, const KeyDownEvent& event) {
     if (key.key == Key::enter) {
         if (control->kind() == ControlKind::button) {
             press(form, *control);
-        } else if (Grid* grid = as<Grid>(control, ControlKind::grid);
-                   grid != nullptr && grid->onDoubleClick) {
+        } else if (Grid* grid = as<Grid>(control); grid != nullptr && grid->onDoubleClick) {
             grid->onDoubleClick();
-        } else if (ListBox* list = as<ListBox>(control, ControlKind::listBox);
-                   list != nullptr && list->onDoubleClick) {
+        } else if (ListBox* list = as<ListBox>(control); list != nullptr && list->onDoubleClick) {
             list->onDoubleClick();
-        } else if (TextBox* box = asTextBox(control); key.ctrl && editable(box) && box->lines() > 1) {
+        } else if (TextBox* box = as<TextBox>(control); key.ctrl && editable(box) && box->lines() > 1) {
             typeCharacter(*box, U'\n');
         } else {
             moveByTab(form, key.shift);
@@ -240,12 +223,12 @@ void Desktop::handle(Form& form, const KeyDownEvent& event) {
         press(form, *control);
         return;
     }
-    if (UpDown* upDown = as<UpDown>(control, ControlKind::upDown)) {
+    if (UpDown* upDown = as<UpDown>(control)) {
         if (key.key == Key::up) call(upDown->onUp);
         if (key.key == Key::down) call(upDown->onDown);
         return;
     }
-    if (Tabs* tabs = as<Tabs>(control, ControlKind::tabs)) {
+    if (Tabs* tabs = as<Tabs>(control)) {
         const int last = static_cast<int>(tabs->captions().size()) - 1;
         const int step = key.key == Key::right ? 1 : key.key == Key::left ? -1 : 0;
         handle(form, SelectEvent{tabs, std::clamp(tabs->selected() + step, 0, last), 0});
@@ -261,10 +244,9 @@ void Desktop::handle(Form& form, const PickKeyEvent&) {
 void Desktop::handle(Form& form, const KeyPressEvent& event) {
     // Control characters are keys, not text: their key-down event has dealt with them.
     if (event.character < 32 || event.character == 127) return;
-    if (TextBox* box = asTextBox(form.focused()); editable(box)) {
+    if (TextBox* box = as<TextBox>(form.focused()); editable(box)) {
         typeCharacter(*box, event.character);
-    } else if (Grid* grid = as<Grid>(form.focused(), ControlKind::grid);
-               grid != nullptr && grid->usable() && grid->onKeyPress) {
+    } else if (Grid* grid = as<Grid>(form.focused()); grid != nullptr && grid->usable() && grid->onKeyPress) {
         grid->onKeyPress(event.character);
     }
 }
@@ -273,8 +255,8 @@ void Desktop::handle(Form& form, const AccessKeyEvent& event) {
     const char32_t wanted = common::toUpper(event.character);
     std::vector<Control*> targets;
     for (Control* control : form.controls()) {
-        if (accessKeyOf(captionOf(*control)) != wanted) continue;
-        const Label* label = as<Label>(control, ControlKind::label);
+        if (accessKeyOf(*control) != wanted) continue;
+        const Label* label = as<Label>(control);
         Control* target = label == nullptr ? control : form.labelled(*label);
         if (target != nullptr && target->takesFocus() && target->usable()) targets.push_back(target);
     }
@@ -323,14 +305,14 @@ void Desktop::handle(Form& form, const ClickEvent& event) {
 }
 
 void Desktop::handle(Form& form, const StepEvent& event) {
-    UpDown* upDown = as<UpDown>(event.control, ControlKind::upDown);
+    UpDown* upDown = as<UpDown>(event.control);
     if (upDown == nullptr || !upDown->usable() || !moveFocus(form, *upDown)) return;
     call(event.up ? upDown->onUp : upDown->onDown);
 }
 
 void Desktop::handle(Form& form, const SelectEvent& event) {
     if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
-    if (Grid* grid = as<Grid>(event.control, ControlKind::grid)) {
+    if (Grid* grid = as<Grid>(event.control)) {
         if (event.index == grid->currentRow() && event.column == grid->currentColumn()) return;
         grid->setCurrent(event.index, event.column);
         call(grid->onCurrentChange);
@@ -338,7 +320,7 @@ void Desktop::handle(Form& form, const SelectEvent& event) {
         if (event.index == list->selected()) return;
         list->select(event.index);
         call(list->onChange);
-    } else if (Tabs* tabs = as<Tabs>(event.control, ControlKind::tabs)) {
+    } else if (Tabs* tabs = as<Tabs>(event.control)) {
         if (event.index == tabs->selected()) return;
         tabs->select(event.index);
         call(tabs->onChange);
@@ -347,12 +329,12 @@ void Desktop::handle(Form& form, const SelectEvent& event) {
 
 void Desktop::handle(Form& form, const DoubleClickEvent& event) {
     if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
-    if (Grid* grid = as<Grid>(event.control, ControlKind::grid)) call(grid->onDoubleClick);
-    if (ListBox* list = as<ListBox>(event.control, ControlKind::listBox)) call(list->onDoubleClick);
+    if (Grid* grid = as<Grid>(event.control)) call(grid->onDoubleClick);
+    if (ListBox* list = as<ListBox>(event.control)) call(list->onDoubleClick);
 }
 
 void Desktop::handle(Form&, const ScrollEvent& event) {
-    if (Grid* grid = as<Grid>(event.control, ControlKind::grid)) call(grid->onScroll);
+    if (Grid* grid = as<Grid>(event.control)) call(grid->onScroll);
 }
 
 void Desktop::handle(Form& form, const PickEvent& event) {

@@ -84,13 +84,13 @@ Label* Form::labelOf(const Control& control) const {
         return std::ranges::any_of(node.children,
                                    [&control](const Layout& c) { return c.control == &control; });
     });
-    return field == nullptr ? nullptr : static_cast<Label*>(field->control);
+    return field == nullptr ? nullptr : as<Label>(field->control);
 }
 
 bool Form::setFocus(Control& control) {
     if (!control.takesFocus() || !control.usable()) return false;
     focused_ = &control;
-    if (control.kind() == ControlKind::textBox) static_cast<TextBox&>(control).selectAll();
+    if (TextBox* box = as<TextBox>(&control)) box->selectAll();
     if (control.onFocus) control.onFocus();
     return true;
 }

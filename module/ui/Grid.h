@@ -12,6 +12,8 @@ namespace tellurix::ui {
 /// header not included.
 class Grid final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::grid;
+
     struct Column {
         std::string caption;
         int width = 10; ///< room for how many average characters
@@ -25,7 +27,7 @@ public:
     /// @param rows how many rows are seen without scrolling
     Grid(Form& form, std::string name, int rows = 8) : Control(form, std::move(name)), visibleRows_(rows) {}
 
-    ControlKind kind() const override { return ControlKind::grid; }
+    ControlKind kind() const override { return ownKind; }
 
     int visibleRows() const { return visibleRows_; }
     const std::vector<Column>& columns() const { return columns_; }

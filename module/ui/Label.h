@@ -8,10 +8,12 @@ namespace tellurix::ui {
 /// the layout puts it with.
 class Label final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::label;
+
     Label(Form& form, std::string name, std::string caption = {})
         : Control(form, std::move(name)), caption_(std::move(caption)) {}
 
-    ControlKind kind() const override { return ControlKind::label; }
+    ControlKind kind() const override { return ownKind; }
     bool takesFocus() const override { return false; }
 
     const std::string& caption() const { return caption_; }

@@ -7,10 +7,12 @@ namespace tellurix::ui {
 /// A list that shows several items at once.
 class ListBox final : public ItemList {
 public:
+    static constexpr ControlKind ownKind = ControlKind::listBox;
+
     ListBox(Form& form, std::string name, int width = 40, int rows = 8)
         : ItemList(form, std::move(name), width), rows_(rows) {}
 
-    ControlKind kind() const override { return ControlKind::listBox; }
+    ControlKind kind() const override { return ownKind; }
 
     /// How many items are seen without scrolling.
     int rows() const { return rows_; }

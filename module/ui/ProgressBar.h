@@ -7,9 +7,11 @@ namespace tellurix::ui {
 /// How far a long operation has come: `value` of `maximum` steps.
 class ProgressBar final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::progressBar;
+
     ProgressBar(Form& form, std::string name) : Control(form, std::move(name)) {}
 
-    ControlKind kind() const override { return ControlKind::progressBar; }
+    ControlKind kind() const override { return ownKind; }
     bool takesFocus() const override { return false; }
 
     int value() const { return value_; }

@@ -9,10 +9,12 @@ namespace tellurix::ui {
 /// Pages of controls of which one is shown; the layout says what stands on each.
 class Tabs final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::tabs;
+
     Tabs(Form& form, std::string name, std::vector<std::string> captions)
         : Control(form, std::move(name)), captions_(std::move(captions)) {}
 
-    ControlKind kind() const override { return ControlKind::tabs; }
+    ControlKind kind() const override { return ownKind; }
 
     const std::vector<std::string>& captions() const { return captions_; }
     void setCaptions(std::vector<std::string> captions) { change(captions_, std::move(captions)); }

@@ -12,10 +12,12 @@ namespace tellurix::ui {
 /// database key of their value in it, empty for none.
 class TextBox final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::textBox;
+
     /// @param width the room for how many average characters
     TextBox(Form& form, std::string name, int width = 20) : Control(form, std::move(name)), width_(width) {}
 
-    ControlKind kind() const override { return ControlKind::textBox; }
+    ControlKind kind() const override { return ownKind; }
 
     const std::string& text() const { return text_; }
     /// Shows a text; the caret goes behind it. Does not call `onChange`: that tells what the user did.

@@ -7,9 +7,11 @@ namespace tellurix::ui {
 /// A pair of small buttons, up and down.
 class UpDown final : public Control {
 public:
+    static constexpr ControlKind ownKind = ControlKind::upDown;
+
     UpDown(Form& form, std::string name) : Control(form, std::move(name)) {}
 
-    ControlKind kind() const override { return ControlKind::upDown; }
+    ControlKind kind() const override { return ownKind; }
 
     std::function<void()> onUp;
     std::function<void()> onDown;

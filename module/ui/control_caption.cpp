@@ -1,11 +1,6 @@
 #include "ui/control_caption.h"
 
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/Frame.h"
-#include "ui/Grid.h"
-#include "ui/Label.h"
-#include "ui/Tabs.h"
+#include "ui/visit.h"
 
 #include <vector>
 
@@ -59,42 +54,30 @@ const char* captionKind(const Control& control) {
 }
 
 std::optional<std::string> captionText(const Control& control) {
-    switch (control.kind()) {
-    case ControlKind::label:
-        return static_cast<const Label&>(control).caption();
-    case ControlKind::button:
-        return static_cast<const Button&>(control).caption();
-    case ControlKind::checkBox:
-        return static_cast<const CheckBox&>(control).caption();
-    case ControlKind::frame:
-        return static_cast<const Frame&>(control).caption();
-    case ControlKind::tabs:
-        return joined(static_cast<const Tabs&>(control).captions());
-    case ControlKind::grid:
-        return joined(columnCaptions(static_cast<const Grid&>(control)));
-    default:
-        return std::nullopt;
-    }
+    return visit(control, [](const auto& visited) -> std::optional<std::string> {
+        if constexpr (requires { visited.caption(); }) {
+            return visited.caption();
+        } else if constexpr (requires { visited.captions(); }) {
+            return joined(visited.captions());
+        } else if constexpr (requires { visited.columns(); }) {
+            return joined(columnCaptions(visited));
+        } else {
+            return std::nullopt;
+        }
+    });
 }
 
 void setCaptionText(Control& control, const std::string& text) {
     if (captionText(control) == text) return;
-    switch (control.kind()) {
-    case ControlKind::label:
-        return static_cast<Label&>(control).setCaption(text);
-    case ControlKind::button:
-        return static_cast<Button&>(control).setCaption(text);
-    case ControlKind::checkBox:
-        return static_cast<CheckBox&>(control).setCaption(text);
-    case ControlKind::frame:
-        return static_cast<Frame&>(control).setCaption(text);
-    case ControlKind::tabs:
-        return setPageCaptions(static_cast<Tabs&>(control), parts(text));
-    case ControlKind::grid:
-        return setColumnCaptions(static_cast<Grid&>(control), parts(text));
-    default:
-        return;
-    }
+    visit(control, [&text](auto& visited) {
+        if constexpr (requires { visited.caption(); }) {
+            visited.setCaption(text);
+        } else if constexpr (requires { visited.captions(); }) {
+            setPageCaptions(visited, parts(text));
+        } else if constexpr (requires { visited.columns(); }) {
+            setColumnCaptions(visited, parts(text));
+        }
+    });
 }
 
 } // namespace tellurix::ui

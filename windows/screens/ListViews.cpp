@@ -1,7 +1,6 @@
 #include "screens/ListViews.h"
 
 #include "automation/wide.h"
-#include "ui/ListBox.h"
 
 #include <algorithm>
 
@@ -113,8 +112,8 @@ void ComboBoxView::notified(UINT code, NMHDR*) {
     }
 }
 
-ListBoxView::ListBoxView(ViewHost& host, ui::ItemList& list)
-    : ItemView(host, list, {LB_ADDSTRING, LB_RESETCONTENT, LB_SETCURSEL, LB_GETCURSEL}) {
+ListBoxView::ListBoxView(ViewHost& host, ui::ListBox& list)
+    : ItemView(host, list, {LB_ADDSTRING, LB_RESETCONTENT, LB_SETCURSEL, LB_GETCURSEL}), listBox_(list) {
     create(L"LISTBOX", WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT,
            WS_EX_CLIENTEDGE);
     SendMessageW(handle(), LB_SETITEMHEIGHT, 0, theme().textHeight() + theme().scaled(2));
@@ -123,7 +122,7 @@ ListBoxView::ListBoxView(ViewHost& host, ui::ItemList& list)
 Room ListBoxView::measure() const {
     const int width = list().width() * theme().characterWidth() + theme().scaled(30);
     const int row = theme().textHeight() + theme().scaled(2);
-    const int rows = static_cast<const ui::ListBox&>(list()).rows();
+    const int rows = listBox_.rows();
     const int border = theme().scaled(6);
     return {{std::min(width, 16 * theme().characterWidth()), width},
             {std::min(rows, 3) * row + border, rows * row + border}};

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "screens/ControlView.h"
-#include "ui/ItemList.h"
+#include "ui/ListBox.h"
 
 namespace tellurix::windows {
 
@@ -47,10 +47,13 @@ private:
 /// A list that shows several items at once.
 class ListBoxView final : public ItemView {
 public:
-    ListBoxView(ViewHost& host, ui::ItemList& list);
+    ListBoxView(ViewHost& host, ui::ListBox& list);
 
     Room measure() const override;
     void notified(UINT code, NMHDR* details) override;
+
+private:
+    ui::ListBox& listBox_;
 };
 
 } // namespace tellurix::windows

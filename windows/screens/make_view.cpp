@@ -10,36 +10,52 @@
 #include "screens/TabsView.h"
 #include "screens/TextBoxView.h"
 #include "screens/UpDownView.h"
+#include "ui/visit.h"
 
 namespace tellurix::windows {
 
+namespace {
+
+using View = std::unique_ptr<ControlView>;
+
+View viewFor(ViewHost& host, ui::Label& label) {
+    return std::make_unique<LabelView>(host, label);
+}
+View viewFor(ViewHost& host, ui::TextBox& box) {
+    return std::make_unique<TextBoxView>(host, box);
+}
+View viewFor(ViewHost& host, ui::Button& button) {
+    return std::make_unique<ButtonView>(host, button);
+}
+View viewFor(ViewHost& host, ui::CheckBox& check) {
+    return std::make_unique<CheckBoxView>(host, check);
+}
+View viewFor(ViewHost& host, ui::ComboBox& list) {
+    return std::make_unique<ComboBoxView>(host, list);
+}
+View viewFor(ViewHost& host, ui::ListBox& list) {
+    return std::make_unique<ListBoxView>(host, list);
+}
+View viewFor(ViewHost& host, ui::Grid& grid) {
+    return std::make_unique<GridView>(host, grid);
+}
+View viewFor(ViewHost& host, ui::Frame& frame) {
+    return std::make_unique<FrameView>(host, frame);
+}
+View viewFor(ViewHost& host, ui::Tabs& tabs) {
+    return std::make_unique<TabsView>(host, tabs);
+}
+View viewFor(ViewHost& host, ui::UpDown& upDown) {
+    return std::make_unique<UpDownView>(host, upDown);
+}
+View viewFor(ViewHost& host, ui::ProgressBar& bar) {
+    return std::make_unique<ProgressBarView>(host, bar);
+}
+
+} // namespace
+
 std::unique_ptr<ControlView> makeView(ViewHost& host, ui::Control& control) {
-    using ui::ControlKind;
-    switch (control.kind()) {
-    case ControlKind::label:
-        return std::make_unique<LabelView>(host, static_cast<ui::Label&>(control));
-    case ControlKind::textBox:
-        return std::make_unique<TextBoxView>(host, static_cast<ui::TextBox&>(control));
-    case ControlKind::button:
-        return std::make_unique<ButtonView>(host, static_cast<ui::Button&>(control));
-    case ControlKind::checkBox:
-        return std::make_unique<CheckBoxView>(host, static_cast<ui::CheckBox&>(control));
-    case ControlKind::comboBox:
-        return std::make_unique<ComboBoxView>(host, static_cast<ui::ItemList&>(control));
-    case ControlKind::listBox:
-        return std::make_unique<ListBoxView>(host, static_cast<ui::ItemList&>(control));
-    case ControlKind::grid:
-        return std::make_unique<GridView>(host, static_cast<ui::Grid&>(control));
-    case ControlKind::frame:
-        return std::make_unique<FrameView>(host, static_cast<ui::Frame&>(control));
-    case ControlKind::tabs:
-        return std::make_unique<TabsView>(host, static_cast<ui::Tabs&>(control));
-    case ControlKind::upDown:
-        return std::make_unique<UpDownView>(host, static_cast<ui::UpDown&>(control));
-    case ControlKind::progressBar:
-        break;
-    }
-    return std::make_unique<ProgressBarView>(host, static_cast<ui::ProgressBar&>(control));
+    return ui::visit(control, [&host](auto& visited) { return viewFor(host, visited); });
 }
 
 } // namespace tellurix::windows

@@ -1,13 +1,6 @@
 #include "web/drawing.h"
 
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/ComboBox.h"
-#include "ui/Grid.h"
-#include "ui/ListBox.h"
-#include "ui/ProgressBar.h"
-#include "ui/TextBox.h"
-#include "ui/UpDown.h"
+#include "ui/visit.h"
 
 #include <nlohmann/json.hpp>
 
@@ -17,10 +10,15 @@ namespace {
 
 using nlohmann::json;
 using ui::Control;
-using ui::ControlKind;
 using ui::Layout;
 
-void draw(json& out, const ui::TextBox& box) {
+/// Each of these adds what is particular to a kind of control. @param whole also what has not changed
+void draw(json& out, const ui::Label& label, bool /*whole*/) {
+    out["kind"] = "label";
+    out["caption"] = label.caption();
+}
+
+void draw(json& out, const ui::TextBox& box, bool /*whole*/) {
     out["kind"] = "text";
     out["text"] = box.text();
     out["selection"] = {box.selectionStart(), box.selectionLength()};
@@ -35,15 +33,37 @@ void draw(json& out, const ui::TextBox& box) {
     out["warning"] = box.warning();
 }
 
-void draw(json& out, const ui::ItemList& list, bool whole) {
+void draw(json& out, const ui::Button& button, bool /*whole*/) {
+    out["kind"] = "button";
+    out["caption"] = button.caption();
+    out["picture"] = button.picture();
+}
+
+void draw(json& out, const ui::CheckBox& check, bool /*whole*/) {
+    out["kind"] = "check";
+    out["caption"] = check.caption();
+    out["checked"] = check.checked();
+}
+
+void drawItems(json& out, const ui::ItemList& list, bool whole) {
     out["selected"] = list.selected();
     out["width"] = list.width();
-    if (list.kind() == ControlKind::listBox) out["rows"] = static_cast<const ui::ListBox&>(list).rows();
     if (!whole && !list.itemsDirty()) return;
     json items = json::array();
     for (const auto& item : list.items())
         items.push_back(item.text);
     out["items"] = std::move(items);
+}
+
+void draw(json& out, const ui::ComboBox& list, bool whole) {
+    out["kind"] = "combo";
+    drawItems(out, list, whole);
+}
+
+void draw(json& out, const ui::ListBox& list, bool whole) {
+    out["kind"] = "list";
+    out["rows"] = list.rows();
+    drawItems(out, list, whole);
 }
 
 json drawColumns(const ui::Grid& grid) {
@@ -79,57 +99,32 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     }
 }
 
+void draw(json& out, const ui::Frame& frame, bool /*whole*/) {
+    out["kind"] = "frame";
+    out["caption"] = frame.caption();
+}
+
+void draw(json& out, const ui::Tabs& tabs, bool /*whole*/) {
+    out["kind"] = "tabs";
+    out["captions"] = tabs.captions();
+    out["selected"] = tabs.selected();
+}
+
+void draw(json& out, const ui::UpDown& /*upDown*/, bool /*whole*/) {
+    out["kind"] = "upDown";
+}
+
+void draw(json& out, const ui::ProgressBar& bar, bool /*whole*/) {
+    out["kind"] = "progress";
+    out["value"] = bar.value();
+    out["maximum"] = bar.maximum();
+}
+
 json drawControl(const Control& control, bool whole) {
     json out{{"id", control.id()},           {"name", control.name()},
              {"enabled", control.enabled()}, {"visible", control.visible()},
              {"tip", control.toolTip()},     {"keys", static_cast<bool>(control.onKeyDown)}};
-    switch (control.kind()) {
-    case ControlKind::label:
-        out["kind"] = "label";
-        out["caption"] = static_cast<const ui::Label&>(control).caption();
-        break;
-    case ControlKind::textBox:
-        draw(out, static_cast<const ui::TextBox&>(control));
-        break;
-    case ControlKind::button:
-        out["kind"] = "button";
-        out["caption"] = static_cast<const ui::Button&>(control).caption();
-        out["picture"] = static_cast<const ui::Button&>(control).picture();
-        break;
-    case ControlKind::checkBox:
-        out["kind"] = "check";
-        out["caption"] = static_cast<const ui::CheckBox&>(control).caption();
-        out["checked"] = static_cast<const ui::CheckBox&>(control).checked();
-        break;
-    case ControlKind::comboBox:
-        out["kind"] = "combo";
-        draw(out, static_cast<const ui::ItemList&>(control), whole);
-        break;
-    case ControlKind::listBox:
-        out["kind"] = "list";
-        draw(out, static_cast<const ui::ItemList&>(control), whole);
-        break;
-    case ControlKind::grid:
-        draw(out, static_cast<const ui::Grid&>(control), whole);
-        break;
-    case ControlKind::frame:
-        out["kind"] = "frame";
-        out["caption"] = static_cast<const ui::Frame&>(control).caption();
-        break;
-    case ControlKind::tabs:
-        out["kind"] = "tabs";
-        out["captions"] = static_cast<const ui::Tabs&>(control).captions();
-        out["selected"] = static_cast<const ui::Tabs&>(control).selected();
-        break;
-    case ControlKind::upDown:
-        out["kind"] = "upDown";
-        break;
-    case ControlKind::progressBar:
-        out["kind"] = "progress";
-        out["value"] = static_cast<const ui::ProgressBar&>(control).value();
-        out["maximum"] = static_cast<const ui::ProgressBar&>(control).maximum();
-        break;
-    }
+    ui::visit(control, [&](const auto& visited) { draw(out, visited, whole); });
     return out;
 }
 

@@ -1,40 +1,34 @@
 #include "web/page_event.h"
 
-#include "ui/ComboBox.h"
-#include "ui/Grid.h"
-#include "ui/ListBox.h"
-#include "ui/TextBox.h"
+#include "ui/visit.h"
 
 namespace tellurix::workbench {
 
 namespace {
 
 using Kind = PageMessage::Kind;
-using ui::ControlKind;
 
+/// A box that the user can change, or null.
 ui::TextBox* editableBox(ui::Control& control) {
-    if (control.kind() != ControlKind::textBox) return nullptr;
-    auto& box = static_cast<ui::TextBox&>(control);
-    return box.locked() ? nullptr : &box;
+    auto* box = ui::as<ui::TextBox>(&control);
+    return box == nullptr || box->locked() ? nullptr : box;
 }
 
 /// How many entries can be chosen from.
 int countOf(const ui::Control& control) {
-    switch (control.kind()) {
-    case ControlKind::grid:
-        return static_cast<int>(static_cast<const ui::Grid&>(control).rows().size());
-    case ControlKind::comboBox:
-    case ControlKind::listBox:
-        return static_cast<int>(static_cast<const ui::ItemList&>(control).items().size());
-    case ControlKind::tabs:
-        return static_cast<int>(static_cast<const ui::Tabs&>(control).captions().size());
-    default:
-        return 0;
-    }
+    return ui::visit(control, [](const auto& visited) {
+        if constexpr (requires { visited.rows().size(); })
+            return static_cast<int>(visited.rows().size());
+        else if constexpr (requires { visited.items(); })
+            return static_cast<int>(visited.items().size());
+        else if constexpr (requires { visited.captions(); })
+            return static_cast<int>(visited.captions().size());
+        else
+            return 0;
+    });
 }
 
 std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& control) {
-    const ControlKind kind = control.kind();
     switch (message.kind) {
     case Kind::focus:
         if (!control.takesFocus()) return std::nullopt;
@@ -44,16 +38,18 @@ std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& c
             return ui::TextEditedEvent{box, message.text, message.start, message.length};
         return std::nullopt;
     case Kind::selection:
-        if (kind != ControlKind::textBox) return std::nullopt;
-        return ui::SelectionEvent{static_cast<ui::TextBox*>(&control), message.start, message.length};
+        if (auto* box = ui::as<ui::TextBox>(&control))
+            return ui::SelectionEvent{box, message.start, message.length};
+        return std::nullopt;
     case Kind::paste:
         if (ui::TextBox* box = editableBox(control)) return ui::PasteEvent{box, message.text};
         return std::nullopt;
     case Kind::click:
-        if (kind != ControlKind::button && kind != ControlKind::checkBox) return std::nullopt;
+        if (ui::as<ui::Button>(&control) == nullptr && ui::as<ui::CheckBox>(&control) == nullptr)
+            return std::nullopt;
         return ui::ClickEvent{&control};
     case Kind::step:
-        if (kind != ControlKind::upDown) return std::nullopt;
+        if (ui::as<ui::UpDown>(&control) == nullptr) return std::nullopt;
         return ui::StepEvent{&control, message.up};
     case Kind::select:
         if (message.index >= countOf(control)) return std::nullopt;

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ui/Button.h"
+#include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
+#include "ui/Frame.h"
+#include "ui/Grid.h"
+#include "ui/Label.h"
+#include "ui/ListBox.h"
+#include "ui/ProgressBar.h"
+#include "ui/Tabs.h"
+#include "ui/TextBox.h"
+#include "ui/UpDown.h"
+
+#include <type_traits>
+
+namespace tellurix::ui {
+
+/// Calls an action with a control as what it is: a Label&, a TextBox&, and so on.
+/// @param control a Control or const Control
+template <typename AnyControl, typename Action>
+decltype(auto) visit(AnyControl& control, const Action& action) {
+    const auto call = [&]<typename C>(std::type_identity<C>) -> decltype(auto) {
+        using Kept = std::conditional_t<std::is_const_v<AnyControl>, const C, C>;
+        return action(static_cast<Kept&>(control));
+    };
+    switch (control.kind()) {
+    case ControlKind::label:
+        return call(std::type_identity<Label>{});
+    case ControlKind::textBox:
+        return call(std::type_identity<TextBox>{});
+    case ControlKind::button:
+        return call(std::type_identity<Button>{});
+    case ControlKind::checkBox:
+        return call(std::type_identity<CheckBox>{});
+    case ControlKind::comboBox:
+        return call(std::type_identity<ComboBox>{});
+    case ControlKind::listBox:
+        return call(std::type_identity<ListBox>{});
+    case ControlKind::grid:
+        return call(std::type_identity<Grid>{});
+    case ControlKind::frame:
+        return call(std::type_identity<Frame>{});
+    case ControlKind::tabs:
+        return call(std::type_identity<Tabs>{});
+    case ControlKind::upDown:
+        return call(std::type_identity<UpDown>{});
+    case ControlKind::progressBar:
+        break;
+    }
+    return call(std::type_identity<ProgressBar>{});
+}
+
+} // namespace tellurix::ui
