@@ -12,6 +12,7 @@ public:
     ComboBox(Form& form, std::string name, int width = 20) : ItemList(form, std::move(name), width) {}
 
     ControlKind kind() const override { return ownKind; }
+    int pageSize() const override { return 8; }
 };
 
 } // namespace tellurix::ui

@@ -3,24 +3,19 @@
 #include "common/text.h"
 #include "ui/Button.h"
 #include "ui/CheckBox.h"
-#include "ui/ComboBox.h"
 #include "ui/Grid.h"
 #include "ui/ListBox.h"
 #include "ui/TextBox.h"
 #include "ui/UpDown.h"
 #include "ui/caption.h"
 #include "ui/control_caption.h"
+#include "ui/control_keys.h"
 
 #include <algorithm>
 
 namespace tellurix::ui {
 
 namespace {
-
-ItemList* asItemList(Control* control) {
-    if (ItemList* list = as<ComboBox>(control)) return list;
-    return as<ListBox>(control);
-}
 
 /// The access key of a control, 0 for none. The captions of pages and columns mark none.
 char32_t accessKeyOf(const Control& control) {
@@ -29,31 +24,16 @@ char32_t accessKeyOf(const Control& control) {
 }
 
 bool editable(const TextBox* box) {
-    return box != nullptr && box->usable() && !box->locked();
+    return box != nullptr && box->changeable();
 }
 
 void call(const std::function<void()>& handler) {
     if (handler) handler();
 }
 
-/// The index that a navigation key leads to in a list of `count` entries, `page` of them visible.
-int movedIndex(Key key, int current, int count, int page) {
-    switch (key) {
-    case Key::up:
-        return std::max(current - 1, 0);
-    case Key::down:
-        return std::min(current + 1, count - 1);
-    case Key::pageUp:
-        return std::max(current - page, 0);
-    case Key::pageDown:
-        return std::min(current + page, count - 1);
-    case Key::home:
-        return 0;
-    case Key::end:
-        return count - 1;
-    default:
-        return current;
-    }
+/// Whether a click, Space and its access key press it.
+bool isPressed(const Control& control) {
+    return as<Button>(&control) != nullptr || as<CheckBox>(&control) != nullptr;
 }
 
 } // namespace
@@ -131,39 +111,6 @@ void Desktop::pick(Form& form, Control& control) {
     box->selectAll();
 }
 
-bool Desktop::editKey(Control& control, const KeyDown& key) {
-    TextBox* box = as<TextBox>(&control);
-    if (!editable(box) || (key.key != Key::backspace && key.key != Key::del)) return false;
-    box->erase(key.key == Key::backspace ? -1 : +1);
-    call(box->onChange);
-    return true;
-}
-
-bool Desktop::moveInList(Control& control, Key key) {
-    if (Grid* grid = as<Grid>(&control)) {
-        const int count = static_cast<int>(grid->rows().size());
-        const int row =
-            count == 0 ? Grid::none : movedIndex(key, grid->currentRow(), count, grid->visibleRows());
-        const int lastColumn = static_cast<int>(grid->columns().size()) - 1;
-        int column = grid->currentColumn();
-        if (key == Key::left) column = std::max(column - 1, 0);
-        if (key == Key::right) column = std::min(column + 1, lastColumn);
-        if (row == grid->currentRow() && column == grid->currentColumn()) return false;
-        grid->setCurrent(row, column);
-        call(grid->onCurrentChange);
-        return true;
-    }
-    if (ItemList* list = asItemList(&control)) {
-        const int count = static_cast<int>(list->items().size());
-        const int index = count == 0 ? ItemList::none : movedIndex(key, list->selected(), count, 8);
-        if (index == list->selected()) return false;
-        list->select(index);
-        call(list->onChange);
-        return true;
-    }
-    return false;
-}
-
 void Desktop::typeCharacter(TextBox& box, char32_t character) {
     if (box.onKeyPress) box.onKeyPress(character);
     if (character == 0) return;
@@ -183,58 +130,43 @@ void Desktop::handle(Form& form, const KeyDownEvent& event) {
         control->onKeyDown(key);
         if (key.key == Key::none || !form.loaded()) return;
     }
-    if (key.key == Key::escape) {
-        if (form.cancelButton() != nullptr) {
-            press(form, *form.cancelButton());
-        } else {
-            form.unload();
-        }
-        return;
-    }
-    if (key.key == Key::f4 && key.alt) {
-        form.unload();
-        return;
-    }
-    if (key.key == Key::tab && !key.ctrl && !key.alt) {
-        moveByTab(form, key.shift);
-        return;
-    }
-    if (control == nullptr) return;
+    if (windowKey(form, key) || control == nullptr) return;
     if (key.key == Key::enter) {
-        if (control->kind() == ControlKind::button) {
-            press(form, *control);
-        } else if (Grid* grid = as<Grid>(control); grid != nullptr && grid->onDoubleClick) {
-            grid->onDoubleClick();
-        } else if (ListBox* list = as<ListBox>(control); list != nullptr && list->onDoubleClick) {
-            list->onDoubleClick();
-        } else if (TextBox* box = as<TextBox>(control); key.ctrl && editable(box) && box->lines() > 1) {
-            typeCharacter(*box, U'\n');
-        } else {
-            moveByTab(form, key.shift);
-        }
-        return;
-    }
-    if (key.key == Key::f4) {
+        enter(form, *control, key);
+    } else if (key.key == Key::f4) {
         pick(form, *control);
-        return;
-    }
-    if (key.key == Key::space &&
-        (control->kind() == ControlKind::button || control->kind() == ControlKind::checkBox)) {
+    } else if (key.key == Key::space && isPressed(*control)) {
         press(form, *control);
-        return;
+    } else {
+        applyKey(*control, key.key);
     }
-    if (UpDown* upDown = as<UpDown>(control)) {
-        if (key.key == Key::up) call(upDown->onUp);
-        if (key.key == Key::down) call(upDown->onDown);
-        return;
+}
+
+bool Desktop::windowKey(Form& form, const KeyDown& key) {
+    if (key.key == Key::escape && form.cancelButton() != nullptr) {
+        press(form, *form.cancelButton());
+    } else if (key.key == Key::escape || (key.key == Key::f4 && key.alt)) {
+        form.unload();
+    } else if (key.key == Key::tab && !key.ctrl && !key.alt) {
+        moveByTab(form, key.shift);
+    } else {
+        return false;
     }
-    if (Tabs* tabs = as<Tabs>(control)) {
-        const int last = static_cast<int>(tabs->captions().size()) - 1;
-        const int step = key.key == Key::right ? 1 : key.key == Key::left ? -1 : 0;
-        handle(form, SelectEvent{tabs, std::clamp(tabs->selected() + step, 0, last), 0});
-        return;
+    return true;
+}
+
+void Desktop::enter(Form& form, Control& control, const KeyDown& key) {
+    if (as<Button>(&control) != nullptr) {
+        press(form, control);
+    } else if (Grid* grid = as<Grid>(&control); grid != nullptr && grid->onDoubleClick) {
+        grid->onDoubleClick();
+    } else if (ListBox* list = as<ListBox>(&control); list != nullptr && list->onDoubleClick) {
+        list->onDoubleClick();
+    } else if (TextBox* box = as<TextBox>(&control); key.ctrl && editable(box) && box->lines() > 1) {
+        typeCharacter(*box, U'\n');
+    } else {
+        moveByTab(form, key.shift);
     }
-    if (!editKey(*control, key)) moveInList(*control, key.key);
 }
 
 void Desktop::handle(Form& form, const PickKeyEvent&) {
@@ -265,8 +197,7 @@ void Desktop::handle(Form& form, const AccessKeyEvent& event) {
         // A key that several controls share goes from one to the next and presses none of them.
         const auto at = std::ranges::find(targets, form.focused());
         moveFocus(form, at == targets.end() || at + 1 == targets.end() ? *targets.front() : **(at + 1));
-    } else if (targets.front()->kind() == ControlKind::button ||
-               targets.front()->kind() == ControlKind::checkBox) {
+    } else if (isPressed(*targets.front())) {
         press(form, *targets.front());
     } else {
         moveFocus(form, *targets.front());
@@ -312,19 +243,7 @@ void Desktop::handle(Form& form, const StepEvent& event) {
 
 void Desktop::handle(Form& form, const SelectEvent& event) {
     if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
-    if (Grid* grid = as<Grid>(event.control)) {
-        if (event.index == grid->currentRow() && event.column == grid->currentColumn()) return;
-        grid->setCurrent(event.index, event.column);
-        call(grid->onCurrentChange);
-    } else if (ItemList* list = asItemList(event.control)) {
-        if (event.index == list->selected()) return;
-        list->select(event.index);
-        call(list->onChange);
-    } else if (Tabs* tabs = as<Tabs>(event.control)) {
-        if (event.index == tabs->selected()) return;
-        tabs->select(event.index);
-        call(tabs->onChange);
-    }
+    choose(*event.control, event.index, event.column);
 }
 
 void Desktop::handle(Form& form, const DoubleClickEvent& event) {

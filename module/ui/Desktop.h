@@ -66,8 +66,9 @@ private:
     /// Does what a click, Space or Enter on a button or check box does.
     void press(Form& form, Control& control);
     void pick(Form& form, Control& control);
-    bool editKey(Control& control, const KeyDown& key);
-    bool moveInList(Control& control, Key key);
+    /// Does what a key does whichever control has the focus. @return false for all other keys
+    bool windowKey(Form& form, const KeyDown& key);
+    void enter(Form& form, Control& control, const KeyDown& key);
     void typeCharacter(TextBox& box, char32_t character);
     /// Types a text that does not come from keys, in place of the selection.
     void typeText(TextBox& box, const std::string& text);

@@ -21,6 +21,8 @@ public:
     ItemList(Form& form, std::string name, int width) : Control(form, std::move(name)), width_(width) {}
 
     int width() const { return width_; }
+    /// How many items PageUp and PageDown go.
+    virtual int pageSize() const = 0;
     const std::vector<Item>& items() const { return items_; }
     void add(std::string text, std::int64_t itemData = 0);
     /// Removes all items; nothing is selected then.

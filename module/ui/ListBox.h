@@ -16,6 +16,7 @@ public:
 
     /// How many items are seen without scrolling.
     int rows() const { return rows_; }
+    int pageSize() const override { return rows_; }
     /// The user chose the selected item: a double click, or Enter.
     std::function<void()> onDoubleClick;
 

@@ -28,6 +28,8 @@ public:
     /// A locked box shows its text and can be read and copied, not changed.
     bool locked() const { return locked_; }
     void setLocked(bool locked) { change(locked_, locked); }
+    /// Whether the user can change the text at the moment.
+    bool changeable() const { return usable() && !locked_; }
     int width() const { return width_; }
     /// How many lines are shown; more than one makes it a box for longer texts with line breaks.
     int lines() const { return lines_; }

@@ -3,6 +3,7 @@
 #include "ui/Button.h"
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
+#include "ui/ListBox.h"
 #include "ui/TextBox.h"
 #include "ui/date_box.h"
 #include "ui/number_box.h"
@@ -281,11 +282,14 @@ TEST_F(InputRules, GridsAndListsAreWorkedByKeys) {
             grid.onDoubleClick = [this] { chosen = grid.currentRow(); };
             for (const char* unit : {"Fm", "Rm", "Stück"})
                 combo.add(unit);
+            for (int i = 0; i < 20; ++i)
+                list.add(std::to_string(i));
             combo.onChange = [this] { chosenUnit = combo.selectedText(); };
-            setLayout(ui::column({grid, combo}));
+            setLayout(ui::column({grid, combo, list}));
         }
         ui::Grid grid{*this, "grid", 5};
         ui::ComboBox combo{*this, "combo"};
+        ui::ListBox list{*this, "list", 40, 5};
         std::string moved;
         std::string chosenUnit;
         int chosen = -1;
@@ -300,6 +304,10 @@ TEST_F(InputRules, GridsAndListsAreWorkedByKeys) {
         user.key(Key::down);
         user.key(Key::down);
         EXPECT_EQ(lists.chosenUnit, "Rm");
+        user.key(Key::tab);
+        user.key(Key::down);
+        user.key(Key::pageDown);
+        EXPECT_EQ(lists.list.selectedText(), "5") << "a page is what is seen at once";
         user.close();
     });
     display.showModal(lists);

@@ -162,7 +162,7 @@ KeyUse TextBoxView::useOfCharacter(wchar_t unit) const {
     case 127:
         return KeyUse::nobody;
     default:
-        return unit >= 32 && box_.filtered() && changeable() ? KeyUse::session : KeyUse::native;
+        return unit >= 32 && box_.filtered() && box_.changeable() ? KeyUse::session : KeyUse::native;
     }
 }
 
@@ -204,7 +204,7 @@ void TextBoxView::edited() {
 }
 
 void TextBoxView::paste() {
-    if (!changeable()) return;
+    if (!box_.changeable()) return;
     const std::string text = editedText(clipboardText(handle()), severalLines());
     if (text.empty()) return;
     if (box_.filtered()) {
@@ -248,7 +248,7 @@ LRESULT TextBoxView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 HBRUSH TextBoxView::colour(HDC dc) const {
-    const bool open = box_.usable() && !box_.locked();
+    const bool open = box_.changeable();
     SetTextColor(dc, !box_.warning().empty() ? theme().warningColour()
                      : box_.usable()         ? GetSysColor(COLOR_WINDOWTEXT)
                                              : GetSysColor(COLOR_GRAYTEXT));

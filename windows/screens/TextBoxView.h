@@ -41,7 +41,6 @@ private:
     void paste();
     Selection selection() const;
     bool severalLines() const { return box_.lines() > 1; }
-    bool changeable() const { return box_.usable() && !box_.locked(); }
 
     ui::TextBox& box_;
     HWND pick_ = nullptr;
