@@ -45,8 +45,7 @@ void FrameView::paint(HDC dc) const {
     const std::wstring caption = L' ' + widen(frame_.caption()) + L' ';
     const Selected withFont{dc, theme().font()};
     RECT place = all;
-    place.left += theme().scaled(6);
-    place.right -= theme().scaled(6);
+    InflateRect(&place, -theme().gap(), 0);
     colour(dc);
     SetTextColor(dc, GetSysColor(frame_.usable() ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
     SetBkMode(dc, OPAQUE);

@@ -8,7 +8,7 @@ namespace tellurix::windows {
 int GridGeometry::roomOf(const ui::Grid::Column& column) const {
     // A caption that is longer than what stands below it has to be read as well.
     const int caption = theme_.textSize(column.caption, false).cx;
-    return std::max(column.width * theme_.characterWidth(), caption) + theme_.scaled(10);
+    return std::max(column.width * theme_.characterWidth(), caption) + theme_.textEdges();
 }
 
 int GridGeometry::preferredWidth() const {

@@ -64,8 +64,8 @@ ComboBoxView::ComboBoxView(ViewHost& host, ui::ItemList& list)
 }
 
 Room ComboBoxView::measure() const {
-    const int width = list().width() * theme().characterWidth() + theme().scaled(30);
-    const int small = std::min(width, 8 * theme().characterWidth() + theme().scaled(30));
+    const int width = list().width() * theme().characterWidth() + theme().listEdges();
+    const int small = std::min(width, 8 * theme().characterWidth() + theme().listEdges());
     return {{small, width}, Extent::fixed(theme().lineHeight())};
 }
 
@@ -73,7 +73,7 @@ void ComboBoxView::place(const RECT& rect) {
     if (isAt(rect)) return;
     // The height that a combo box is given is that with its list open.
     RECT open = rect;
-    open.bottom += openRows * (theme().textHeight() + theme().scaled(2));
+    open.bottom += openRows * theme().itemHeight();
     ControlView::place(open);
     rememberPlace(rect);
 }
@@ -116,12 +116,12 @@ ListBoxView::ListBoxView(ViewHost& host, ui::ListBox& list)
     : ItemView(host, list, {LB_ADDSTRING, LB_RESETCONTENT, LB_SETCURSEL, LB_GETCURSEL}), listBox_(list) {
     create(L"LISTBOX", WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT,
            WS_EX_CLIENTEDGE);
-    SendMessageW(handle(), LB_SETITEMHEIGHT, 0, theme().textHeight() + theme().scaled(2));
+    SendMessageW(handle(), LB_SETITEMHEIGHT, 0, theme().itemHeight());
 }
 
 Room ListBoxView::measure() const {
-    const int width = list().width() * theme().characterWidth() + theme().scaled(30);
-    const int row = theme().textHeight() + theme().scaled(2);
+    const int width = list().width() * theme().characterWidth() + theme().listEdges();
+    const int row = theme().itemHeight();
     const int rows = listBox_.rows();
     const int border = theme().scaled(6);
     return {{std::min(width, 16 * theme().characterWidth()), width},

@@ -55,10 +55,11 @@ bool TextBoxView::has(HWND window) const {
 }
 
 Room TextBoxView::measure() const {
-    const int width = box_.width() * theme().characterWidth() + theme().scaled(severalLines() ? 28 : 10);
+    const int width =
+        box_.width() * theme().characterWidth() + (severalLines() ? theme().scaled(28) : theme().textEdges());
     const int pick = box_.onPick ? theme().lineHeight() : 0;
     const int extraLines = (box_.lines() - 1) * theme().textHeight();
-    const int small = std::min(width, 6 * theme().characterWidth() + theme().scaled(10));
+    const int small = std::min(width, 6 * theme().characterWidth() + theme().textEdges());
     return {{small + pick, width + pick},
             {theme().lineHeight() + (extraLines > 0 ? theme().textHeight() : 0),
              theme().lineHeight() + extraLines}};

@@ -28,6 +28,12 @@ public:
     int textHeight() const { return textHeight_; }
     /// Height of everything that is one line high: boxes, buttons, labels.
     int lineHeight() const { return textHeight_ + scaled(8); }
+    /// Height of an item in a list.
+    int itemHeight() const { return textHeight_ + scaled(2); }
+    /// What a list is wider than its items: its border and its button or scroll bar.
+    int listEdges() const { return scaled(30); }
+    /// What a box or a cell is wider than its text.
+    int textEdges() const { return scaled(10); }
     int gap() const { return scaled(6); }
     int margin() const { return scaled(10); }
     /// Room that a caption needs; it is broken into lines of `wrapAt` pixels at most, 0 for never.

@@ -191,18 +191,31 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS:
         placeFocus();
         return 0;
-    case WM_SIZE:
-        if (content_ != nullptr) content_->arrange();
-        return 0;
-    case WM_SIZING:
-        content_->sizedByUser();
+    case WM_PARENTNOTIFY:
+        keyboard_.forgetCtrl();
         break;
-    case WM_GETMINMAXINFO:
-        if (content_ != nullptr) {
-            const SIZE least = content_->leastSize();
-            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {least.cx, least.cy};
-        }
-        return 0;
+    case WM_SETCURSOR:
+        if (display_.busy == 0) break;
+        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+        return TRUE;
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+    case WM_CHAR:
+    case WM_SYSCHAR:
+        if (keyboard_.handle(nullptr, message, wParam, lParam)) return 0;
+        break;
+    default:
+        break;
+    }
+    if (const auto answer = handleForControl(message, wParam, lParam)) return *answer;
+    if (const auto answer = handleForContent(message, wParam, lParam)) return *answer;
+    return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+std::optional<LRESULT> WindowFrame::handleForControl(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
     case WM_COMMAND: {
         HWND sender = reinterpret_cast<HWND>(lParam);
         if (ControlView* view = viewWith(sender)) {
@@ -219,20 +232,32 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         if (ControlView* view = viewWith(details->hwndFrom)) view->notified(details->code, details);
         return 0;
     }
-    case WM_PARENTNOTIFY:
-        keyboard_.forgetCtrl();
-        break;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORBTN:
         if (const ControlView* view = viewWith(reinterpret_cast<HWND>(lParam))) {
             return reinterpret_cast<LRESULT>(view->colour(reinterpret_cast<HDC>(wParam)));
         }
-        break;
-    case WM_SETCURSOR:
-        if (display_.busy == 0) break;
-        SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-        return TRUE;
+        return std::nullopt;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<LRESULT> WindowFrame::handleForContent(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (content_ == nullptr) return std::nullopt;
+    switch (message) {
+    case WM_SIZE:
+        content_->arrange();
+        return 0;
+    case WM_SIZING:
+        content_->sizedByUser();
+        return std::nullopt;
+    case WM_GETMINMAXINFO: {
+        const SIZE least = content_->leastSize();
+        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {least.cx, least.cy};
+        return 0;
+    }
     case WM_VSCROLL:
     case WM_HSCROLL:
         if (lParam == 0) content_->scroll(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
@@ -240,18 +265,9 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSEWHEEL:
         content_->scroll(SB_VERT, static_cast<short>(HIWORD(wParam)) > 0 ? SB_LINEUP : SB_LINEDOWN);
         return 0;
-    case WM_KEYDOWN:
-    case WM_KEYUP:
-    case WM_SYSKEYDOWN:
-    case WM_SYSKEYUP:
-    case WM_CHAR:
-    case WM_SYSCHAR:
-        if (keyboard_.handle(nullptr, message, wParam, lParam)) return 0;
-        break;
     default:
-        break;
+        return std::nullopt;
     }
-    return DefWindowProcW(window_, message, wParam, lParam);
 }
 
 } // namespace tellurix::windows

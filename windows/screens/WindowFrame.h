@@ -10,6 +10,7 @@
 #include <deque>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tellurix::windows {
@@ -43,6 +44,10 @@ public:
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Messages that a control's native window sends or has sent. @return nothing for all others
+    std::optional<LRESULT> handleForControl(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Messages about the size of the window and what is seen of its content.
+    std::optional<LRESULT> handleForContent(UINT message, WPARAM wParam, LPARAM lParam);
     /// The view that a native window belongs to, or null: anybody can send a message that names one.
     ControlView* viewWith(HWND window) const;
 
