@@ -39,10 +39,6 @@ std::string ButtonView::tip() const {
     return explains ? ui::plainCaption(button_.caption()) : button_.toolTip();
 }
 
-KeyUse ButtonView::useOf(const ui::KeyDown& key) const {
-    return key.key == ui::Key::space ? KeyUse::session : KeyUse::native;
-}
-
 void ButtonView::notified(UINT code, NMHDR*) {
     if (code == BN_CLICKED) tell(ui::ClickEvent{&button_});
 }

@@ -14,7 +14,6 @@ public:
     ~ButtonView() override;
 
     Room measure() const override;
-    KeyUse useOf(const ui::KeyDown& key) const override;
     void notified(UINT code, NMHDR* details) override;
 
 private:

@@ -19,10 +19,6 @@ void CheckBoxView::draw() {
     SendMessageW(handle(), BM_SETCHECK, check_.checked() ? BST_CHECKED : BST_UNCHECKED, 0);
 }
 
-KeyUse CheckBoxView::useOf(const ui::KeyDown& key) const {
-    return key.key == ui::Key::space ? KeyUse::session : KeyUse::native;
-}
-
 void CheckBoxView::notified(UINT code, NMHDR*) {
     if (code == BN_CLICKED) tell(ui::ClickEvent{&check_});
 }

@@ -11,7 +11,6 @@ public:
     CheckBoxView(ViewHost& host, ui::CheckBox& check);
 
     Room measure() const override;
-    KeyUse useOf(const ui::KeyDown& key) const override;
     void notified(UINT code, NMHDR* details) override;
 
 private:

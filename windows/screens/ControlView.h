@@ -59,14 +59,6 @@ struct Room {
     bool operator==(const Room&) const = default;
 };
 
-/// Who gets a key or a character that was typed while a control has the focus.
-enum class KeyUse {
-    session,   ///< the rules of input
-    native,    ///< the native control
-    overheard, ///< the native control, and the rules are told
-    nobody
-};
-
 /// One control on the screen: a native window, whose messages it translates into events.
 class ControlView {
 public:
@@ -94,9 +86,6 @@ public:
     /// The native control shows something that the form may not agree to.
     void markStale() { stale_ = true; }
 
-    /// For keys that are not the same everywhere (as Tab, Enter, Esc and F4 are).
-    virtual KeyUse useOf(const ui::KeyDown&) const { return KeyUse::native; }
-    virtual KeyUse useOfCharacter(wchar_t) const { return KeyUse::nobody; }
     /// A list hangs open over the window and gets all keys.
     virtual bool hasOpenList() const { return false; }
     /// Takes the item that an open list stands on, and closes it.

@@ -257,28 +257,4 @@ LRESULT GridView::answerCellPlace(int row, int column, RECT* place) {
     return 1;
 }
 
-KeyUse GridView::useOf(const ui::KeyDown& key) const {
-    using ui::Key;
-    switch (key.key) {
-    case Key::up:
-    case Key::down:
-    case Key::pageUp:
-    case Key::pageDown:
-    case Key::home:
-    case Key::end:
-    case Key::left:
-    case Key::right:
-    case Key::del:
-    case Key::insert:
-    case Key::backspace:
-        return KeyUse::session;
-    default:
-        return grid_.onKeyDown && !key.ctrl ? KeyUse::overheard : KeyUse::native;
-    }
-}
-
-KeyUse GridView::useOfCharacter(wchar_t unit) const {
-    return unit >= 32 && grid_.onKeyPress ? KeyUse::session : KeyUse::nobody;
-}
-
 } // namespace tellurix::windows

@@ -25,8 +25,6 @@ public:
 
     Room measure() const override;
     void place(const RECT& rect) override;
-    KeyUse useOf(const ui::KeyDown& key) const override;
-    KeyUse useOfCharacter(wchar_t unit) const override;
     /// Puts the box that edits a cell over that cell.
     void placeEditor();
 

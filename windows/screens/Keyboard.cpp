@@ -37,21 +37,9 @@ bool actsOnce(const ControlView* view, Key key) {
 } // namespace
 
 KeyUse Keyboard::useOf(const ControlView* view, const KeyDown& key) {
-    if (key.key == Key::none || key.alt) return KeyUse::native;
+    // An open list gets all keys but the one that goes on.
     if (view != nullptr && view->hasOpenList() && key.key != Key::tab) return KeyUse::native;
-    switch (key.key) {
-    case Key::f4:
-        // Opens a list, as everywhere; in a box it is the picker.
-        return view != nullptr && view->control().kind() == ui::ControlKind::comboBox ? KeyUse::native
-                                                                                      : KeyUse::session;
-    case Key::enter:
-    case Key::escape:
-        return KeyUse::session;
-    case Key::tab:
-        return key.ctrl ? KeyUse::nobody : KeyUse::session;
-    default:
-        return view == nullptr ? KeyUse::native : view->useOf(key);
-    }
+    return keyUseOf(view == nullptr ? nullptr : &view->control(), key);
 }
 
 bool Keyboard::handle(ControlView* view, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -97,7 +85,7 @@ bool Keyboard::up(ControlView* view, WPARAM code) {
 }
 
 bool Keyboard::character(ControlView* view, wchar_t unit) {
-    const KeyUse use = view == nullptr ? KeyUse::nobody : view->useOfCharacter(unit);
+    const KeyUse use = view == nullptr ? KeyUse::nobody : characterUseOf(view->control(), unit);
     if (use != KeyUse::session) return use == KeyUse::nobody;
     if (IS_HIGH_SURROGATE(unit)) {
         highSurrogate_ = unit;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/ControlView.h"
+#include "screens/key_use.h"
 
 #include <functional>
 

@@ -34,26 +34,6 @@ void ItemView::tellSelection() {
     tell(ui::SelectEvent{&list_, index, 0});
 }
 
-KeyUse ItemView::useOf(const ui::KeyDown& key) const {
-    using ui::Key;
-    switch (key.key) {
-    case Key::up:
-    case Key::down:
-    case Key::pageUp:
-    case Key::pageDown:
-    case Key::home:
-    case Key::end:
-        return KeyUse::session;
-    default:
-        return KeyUse::native;
-    }
-}
-
-KeyUse ItemView::useOfCharacter(wchar_t unit) const {
-    // Letters look for the item that begins with them.
-    return unit >= 32 ? KeyUse::native : KeyUse::nobody;
-}
-
 ComboBoxView::ComboBoxView(ViewHost& host, ui::ItemList& list)
     : ItemView(host, list, {CB_ADDSTRING, CB_RESETCONTENT, CB_SETCURSEL, CB_GETCURSEL}) {
     create(L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS);

@@ -7,10 +7,6 @@ namespace tellurix::windows {
 
 /// What closed and open lists share: the items, and the messages that set them.
 class ItemView : public ControlView {
-public:
-    KeyUse useOf(const ui::KeyDown& key) const override;
-    KeyUse useOfCharacter(wchar_t unit) const override;
-
 protected:
     struct Messages {
         UINT add, clear, select, selected;

@@ -41,10 +41,6 @@ void TabsView::draw() {
     SendMessageW(handle(), TCM_SETCURSEL, static_cast<WPARAM>(tabs_.selected()), 0);
 }
 
-KeyUse TabsView::useOf(const ui::KeyDown& key) const {
-    return key.key == ui::Key::left || key.key == ui::Key::right ? KeyUse::session : KeyUse::native;
-}
-
 void TabsView::notified(UINT code, NMHDR*) {
     if (code != static_cast<UINT>(TCN_SELCHANGE)) return;
     markStale();

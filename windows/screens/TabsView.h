@@ -18,7 +18,6 @@ public:
     /// The space between the border and the page.
     RECT padding() const;
 
-    KeyUse useOf(const ui::KeyDown& key) const override;
     void notified(UINT code, NMHDR* details) override;
 
 private:

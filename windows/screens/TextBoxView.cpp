@@ -128,45 +128,6 @@ std::string TextBoxView::tip() const {
     return box_.warning().empty() ? box_.toolTip() : box_.warning();
 }
 
-KeyUse TextBoxView::useOf(const ui::KeyDown& key) const {
-    using ui::Key;
-    if (!box_.onKeyDown) return KeyUse::native;
-    switch (key.key) {
-    case Key::backspace:
-    case Key::del:
-        return key.ctrl ? KeyUse::native : KeyUse::session;
-    case Key::up:
-    case Key::down:
-    case Key::pageUp:
-    case Key::pageDown:
-        return severalLines() ? KeyUse::native : KeyUse::session;
-    case Key::left:
-    case Key::right:
-    case Key::home:
-    case Key::end:
-        return KeyUse::overheard;
-    default:
-        // The character comes after it, and has a use of its own.
-        return key.ctrl || box_.locked() ? KeyUse::native : KeyUse::overheard;
-    }
-}
-
-KeyUse TextBoxView::useOfCharacter(wchar_t unit) const {
-    switch (unit) {
-    case L'\b':
-        return useOf(ui::KeyDown{.key = ui::Key::backspace}) == KeyUse::session ? KeyUse::nobody
-                                                                                : KeyUse::native;
-    case L'\t':
-    case L'\r':
-    case L'\n':
-    case 27:
-    case 127:
-        return KeyUse::nobody;
-    default:
-        return unit >= 32 && box_.filtered() && box_.changeable() ? KeyUse::session : KeyUse::native;
-    }
-}
-
 TextBoxView::Selection TextBoxView::selection() const {
     DWORD start = 0;
     DWORD end = 0;

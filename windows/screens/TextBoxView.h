@@ -15,8 +15,6 @@ public:
     bool has(HWND window) const override;
     Room measure() const override;
     void place(const RECT& rect) override;
-    KeyUse useOf(const ui::KeyDown& key) const override;
-    KeyUse useOfCharacter(wchar_t unit) const override;
     std::optional<ui::Event> newSelection() override;
     void notified(UINT code, NMHDR* details) override;
     void partNotified(UINT code) override;

@@ -13,10 +13,6 @@ Room UpDownView::measure() const {
     return {Extent::fixed(theme().scaled(18)), Extent::fixed(theme().lineHeight())};
 }
 
-KeyUse UpDownView::useOf(const ui::KeyDown& key) const {
-    return key.key == ui::Key::up || key.key == ui::Key::down ? KeyUse::session : KeyUse::native;
-}
-
 void UpDownView::notified(UINT code, NMHDR* details) {
     if (code != static_cast<UINT>(UDN_DELTAPOS)) return;
     auto* step = reinterpret_cast<NMUPDOWN*>(details);

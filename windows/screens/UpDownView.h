@@ -11,7 +11,6 @@ public:
     UpDownView(ViewHost& host, ui::UpDown& upDown);
 
     Room measure() const override;
-    KeyUse useOf(const ui::KeyDown& key) const override;
     void notified(UINT code, NMHDR* details) override;
 
 private:
