@@ -54,6 +54,9 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     const output = execFileSync(program, ['sql', '--database', join(folder, 'trade.db'), statement]);
     return JSON.parse(output.toString().trim().split('\n').at(-1)).rows;
   };
+  /** Of the first two price lines. */
+  const prices = () => sql('SELECT PREIS FROM VERTRAG_PREISE WHERE ORDNUNG <= 2 AND ID_VERTRAG = '
+    + `(SELECT ID_VERTRAG FROM VERTRAEGE WHERE ${contract}) ORDER BY ORDNUNG`).map(([price]) => Number(price));
 
   const openContract = async () => {
     await page.keyboard.type('Wolfsberg');
@@ -66,6 +69,35 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     // Two buttons share the letter: it goes to each in turn and presses none.
     await press('Alt+k', 'Alt+k', 'Enter');
     await top('F_HeaderVertrag');
+  };
+  const openPrices = async () => {
+    sql(manyPriceLines);
+    await openContract();
+    await press('Alt+p');
+    await top('F_VertragPreise');
+  };
+  /** Lets prices be edited in the table, and goes to the price in the current row. */
+  const goToPrice = async () => {
+    await tabTo('chkEdit');
+    await press('Space');
+    await tabTo('MSFlexGrid1', 'Shift+Tab');
+    await press('ArrowRight', 'ArrowRight');
+  };
+  /** Waits until a cell is edited, in sight, and its box has the focus and that text. */
+  const editsCell = (text) => until(async () => {
+    const now = await page.evaluate(() => {
+      const box = document.activeElement;
+      const { top, bottom } = box.getBoundingClientRect();
+      const table = box.closest('.grid')?.getBoundingClientRect();
+      return { text: box.value, seen: table?.top < top && bottom < table?.bottom };
+    });
+    return (now.text === text && now.seen) || now;
+  }, `a cell with ${text}`);
+  const interrupt = async () => {
+    await page.evaluate(() => window.cutLine());
+    await page.locator('#banner', { hasText: 'unterbrochen' }).waitFor();
+    await page.evaluate(() => window.mendLine());
+    await until(async () => (await page.locator('#banner').textContent()) === '', 'found again');
   };
 
   test('a text that would end its literal is refused, and stays as it was typed', async () => {
@@ -87,10 +119,7 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await openHeader();
     await tabTo('txtKopf(1)');
     await page.keyboard.type('vor der Unterbrechung');
-    await page.evaluate(() => window.cutLine());
-    await page.locator('#banner', { hasText: 'unterbrochen' }).waitFor();
-    await page.evaluate(() => window.mendLine());
-    await until(async () => (await page.locator('#banner').textContent()) === '', 'found again');
+    await interrupt();
     assert.equal(await page.locator('.window').count(), 3);
     await until(async () => (await value('txtKopf(1)')) === 'vor der Unterbrechung' || value('txtKopf(1)'), 'text');
     await page.reload();
@@ -125,10 +154,7 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
   });
 
   test('of hundreds of price lines, the one that is edited, new, moved or next is in sight', async () => {
-    sql(manyPriceLines);
-    await openContract();
-    await press('Alt+p');
-    await top('F_VertragPreise');
+    await openPrices();
     const current = () => control(page, 'MSFlexGrid1').locator('[role=row].current');
     const showsRow = (place, text) => until(async () => {
       const index = Number(await current().getAttribute('aria-rowindex')) - 1;
@@ -141,10 +167,7 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await showsRow(500, 'Preis 500');
     await press('7');
     assert.equal(await focused(page), 'MSFlexGrid1', 'without the tick the cell stays closed');
-    await tabTo('chkEdit');
-    await press('Space');
-    await tabTo('MSFlexGrid1', 'Shift+Tab');
-    await press('ArrowRight', 'ArrowRight');
+    await goToPrice();
     await page.keyboard.type('80');
     await press('ArrowUp');
     await showsRow(499, '50,00');
@@ -170,5 +193,37 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await tabTo('cmdLoschen');
     await press('Enter');
     await showsRow(500, 'Preis 500');
+  });
+
+  test('an interruption and a reload leave a cell open with what was typed', async () => {
+    await openPrices();
+    await goToPrice();
+    await control(page, 'MSFlexGrid1').locator('.current [data-column="2"]').dblclick();
+    await support.hasFocus(page, 'txtEdit');
+    await page.keyboard.type('7');
+    await interrupt();
+    await editsCell('7');
+    await page.keyboard.type('1,');
+    await page.reload();
+    await top('F_VertragPreise');
+    await editsCell('71,');
+    await page.keyboard.type('5');
+    await press('Enter');
+    await support.hasFocus(page, 'MSFlexGrid1');
+    assert.deepEqual(prices(), [71.5, 50]);
+  });
+
+  test('a control that cannot be drawn is told, and all the others can be used', async () => {
+    await page.route('**/controls/up_down.js', async (route) => {
+      const response = await route.fetch();
+      await route.fulfill({ response, body: (await response.text()).replace('draw() {', '$& throw new Error("up");') });
+    });
+    await page.reload();
+    await openPrices();
+    await page.locator('#banner', { hasText: 'nicht dargestellt' }).waitFor();
+    await tabTo('cmdOk');
+    await press('Enter');
+    await top('F_Vertrag');
+    assert.match(problems.splice(0).join(), /^Error: up$/);
   });
 });

@@ -138,6 +138,8 @@ export class Desktop {
       element.classList.add('root');
     }
     for (const state of controls) window.views.set(state.id, createView(window, state));
+    // One may show another: a table that is being edited has a box in it.
+    this.#draw(window, controls);
     const content = document.createElement('div');
     content.className = 'content scrolls';
     content.append(buildLayout(layout, window.views));
@@ -174,7 +176,18 @@ export class Desktop {
     const window = this.#windows.find((candidate) => candidate.id === id);
     if (!window) return;
     if (title !== undefined) this.#title(window, title);
-    for (const state of controls ?? []) window.views.get(state.id)?.update(state);
+    this.#draw(window, controls ?? []);
+  }
+
+  /** A control that cannot be drawn must not take the others along, and with them the whole session. */
+  #draw(window, controls) {
+    for (const state of controls) {
+      try {
+        window.views.get(state.id)?.update(state);
+      } catch (error) {
+        reportError(error);
+      }
+    }
   }
 
   #close(matches) {

@@ -18,6 +18,11 @@ const desktop = new Desktop(document.getElementById('desktop'), input);
 const box = new MessageBox(document.getElementById('message-box'), connection);
 new Keyboard(desktop, box, input, notices);
 
+// A failure of the page itself is told, not only noted where no user looks. One without an error is a
+// remark of the browser's about its own layout.
+addEventListener('error', ({ error }) => {
+  if (error) notices.tell('failure');
+});
 input.holds = () => box.shown;
 connection.onDrawing = (drawing) => {
   if (drawing.language) setLanguage(drawing.language);

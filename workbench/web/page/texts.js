@@ -4,6 +4,7 @@ const texts = {
   de: {
     interrupted: 'Verbindung unterbrochen – es wird neu verbunden …',
     expired: 'Die frühere Sitzung ist abgelaufen. Nicht gespeicherte Eingaben sind nicht mehr da.',
+    failure: 'Ein Teil dieser Seite konnte nicht dargestellt werden. Bitte laden Sie die Seite neu (F5); Ihre Eingaben bleiben erhalten.',
     dismiss: 'Hinweis schließen',
     close: 'Schließen (Esc)',
     pick: 'Auswählen (F4)',
@@ -26,6 +27,7 @@ const texts = {
   en: {
     interrupted: 'Connection interrupted – reconnecting …',
     expired: 'The earlier session has expired. Entries that were not saved are gone.',
+    failure: 'A part of this page could not be shown. Please load the page again (F5); what you have entered is kept.',
     dismiss: 'Dismiss',
     close: 'Close (Esc)',
     pick: 'Choose (F4)',

@@ -22,9 +22,7 @@ const views = {
   progress: ProgressBar,
 };
 
-/** Draws a control, without a place yet. */
+/** Makes what draws a control; it has no place yet, and nothing is drawn. */
 export function createView(window, state) {
-  const view = new views[state.kind](window, state);
-  view.update(state);
-  return view;
+  return new views[state.kind](window, state);
 }
