@@ -9,6 +9,15 @@ void Grid::markRowsDirty() {
     markDirty();
 }
 
+void Grid::moveCurrentRow(int row) {
+    if (change(currentRow_, row)) reveals_ = true;
+}
+
+void Grid::reveal() {
+    reveals_ = true;
+    markDirty();
+}
+
 void Grid::setColumns(std::vector<Column> columns) {
     columns_ = std::move(columns);
     columnsDirty_ = true;
@@ -17,7 +26,7 @@ void Grid::setColumns(std::vector<Column> columns) {
 
 void Grid::setRows(std::vector<Row> rows) {
     rows_ = std::move(rows);
-    currentRow_ = std::clamp(currentRow_, rows_.empty() ? none : 0, static_cast<int>(rows_.size()) - 1);
+    moveCurrentRow(std::clamp(currentRow_, rows_.empty() ? none : 0, static_cast<int>(rows_.size()) - 1));
     markRowsDirty();
 }
 
@@ -28,7 +37,7 @@ void Grid::addRow(Row row) {
 
 void Grid::removeRow(int row) {
     rows_.erase(rows_.begin() + row);
-    currentRow_ = std::min(currentRow_, static_cast<int>(rows_.size()) - 1);
+    moveCurrentRow(std::min(currentRow_, static_cast<int>(rows_.size()) - 1));
     markRowsDirty();
 }
 
@@ -48,13 +57,14 @@ void Grid::setCurrent(int row, int column) {
     const bool inside = row >= 0 && row < static_cast<int>(rows_.size());
     change(currentRow_, inside ? row : none);
     change(currentColumn_, std::clamp(column, 0, std::max(0, static_cast<int>(columns_.size()) - 1)));
+    reveal();
 }
 
 void Grid::showCellEditor(TextBox& box, int row, int column) {
     cellEditor_ = &box;
     editedRow_ = row;
     editedColumn_ = column;
-    markDirty();
+    reveal();
 }
 
 void Grid::hideCellEditor() {
@@ -68,6 +78,7 @@ void Grid::drawn() {
     columnsDirty_ = false;
     rowsDirty_ = false;
     changedRows_.clear();
+    reveals_ = false;
 }
 
 } // namespace tellurix::ui

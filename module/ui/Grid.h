@@ -42,11 +42,13 @@ public:
 
     int currentRow() const { return currentRow_; }
     int currentColumn() const { return currentColumn_; }
-    /// Moves the current cell without calling `onCurrentChange`. A row outside selects none.
+    /// Moves the current cell without calling `onCurrentChange`, and brings it into sight wherever the
+    /// user has scrolled to. A row outside selects none.
     void setCurrent(int row, int column = 0);
 
     /// The box that floats over a cell while the cell is edited in place (see GridEditor), or null.
-    /// A display draws it at the cell's place and size; it stands nowhere in the layout.
+    /// A display draws it at the cell's place and size; it stands nowhere in the layout. The cell comes
+    /// into sight before the box has the focus.
     TextBox* cellEditor() const { return cellEditor_; }
     int editedRow() const { return editedRow_; }
     int editedColumn() const { return editedColumn_; }
@@ -58,6 +60,8 @@ public:
     bool columnsDirty() const { return columnsDirty_; }
     bool rowsDirty() const { return rowsDirty_; }
     const std::set<int>& changedRows() const { return changedRows_; }
+    /// A display scrolls to the current cell when it draws this, and at no other change of the grid.
+    bool reveals() const { return reveals_; }
     void drawn() override;
 
     /// The user moved the current cell.
@@ -66,11 +70,14 @@ public:
     std::function<void()> onDoubleClick;
     /// A character was typed while the grid had the focus.
     std::function<void(char32_t)> onKeyPress;
-    /// The user scrolled.
+    /// The user scrolled while a cell was being edited, which ends with it; told at other times it means
+    /// nothing.
     std::function<void()> onScroll;
 
 private:
     void markRowsDirty();
+    void moveCurrentRow(int row);
+    void reveal();
 
     std::vector<Column> columns_;
     std::vector<Row> rows_;
@@ -82,6 +89,7 @@ private:
     int editedColumn_ = 0;
     bool columnsDirty_ = true;
     bool rowsDirty_ = true;
+    bool reveals_ = false;
     std::set<int> changedRows_;
 };
 

@@ -43,6 +43,11 @@ int movedIndex(Key key, int current, int count, int page) {
     }
 }
 
+/// Whether a key leads through a list or a table.
+bool navigates(Key key) {
+    return key >= Key::pageUp && key <= Key::down;
+}
+
 void erase(TextBox& box, Key key) {
     if (!box.changeable() || (key != Key::backspace && key != Key::del)) return;
     box.erase(key == Key::backspace ? -1 : +1);
@@ -55,7 +60,11 @@ void moveInGrid(Grid& grid, Key key) {
     int column = grid.currentColumn();
     if (key == Key::left) column = std::max(column - 1, 0);
     if (key == Key::right) column = std::min(column + 1, lastColumn);
-    choose(grid, movedIndex(key, grid.currentRow(), rows, grid.visibleRows()), column);
+    const int row = movedIndex(key, grid.currentRow(), rows, grid.visibleRows());
+    const bool stays = row == grid.currentRow() && column == grid.currentColumn();
+    // A key that leads nowhere still brings the current cell back that was scrolled away.
+    if (stays && navigates(key)) grid.setCurrent(row, column);
+    choose(grid, row, column);
 }
 
 void moveInTabs(Tabs& tabs, Key key) {

@@ -226,4 +226,26 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await top('F_Vertrag');
     assert.match(problems.splice(0).join(), /^Error: up$/);
   });
+
+  test('what is typed after scrolling goes into the current cell, and Home leads back to it', async () => {
+    await openPrices();
+    await goToPrice();
+    const table = control(page, 'MSFlexGrid1');
+    const offset = () => table.evaluate((element) => element.scrollTop);
+    const scrollAway = async () => {
+      await table.hover();
+      await page.mouse.wheel(0, 400);
+      await until(async () => (await offset()) === 400 || offset(), 'scrolled');
+    };
+    await scrollAway();
+    await page.keyboard.type('8,5');
+    await editsCell('8,5');
+    assert.deepEqual(prices(), [50, 50], 'nothing has been written yet');
+    await press('Enter');
+    await support.hasFocus(page, 'MSFlexGrid1');
+    assert.deepEqual(prices(), [8.5, 50]);
+    await scrollAway();
+    await press('Home');
+    await until(async () => (await offset()) === 0 || offset(), 'the first row is in sight');
+  });
 });

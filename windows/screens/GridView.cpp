@@ -83,7 +83,8 @@ void GridView::showScrollBars() {
 
 void GridView::draw() {
     if (grid_.columnsDirty() || grid_.rowsDirty() || isNew()) fit();
-    if (geometry_.reveal(grid_.currentRow(), grid_.currentColumn())) showScrollBars();
+    const bool reveals = grid_.reveals() || isNew();
+    if (reveals && geometry_.reveal(grid_.currentRow(), grid_.currentColumn())) showScrollBars();
     showCurrentCell();
     placeEditor();
     InvalidateRect(handle(), nullptr, FALSE);

@@ -81,8 +81,8 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     out["kind"] = "grid";
     out["current"] = {grid.currentRow(), grid.currentColumn()};
     out["visibleRows"] = grid.visibleRows();
-    out["scrolls"] = static_cast<bool>(grid.onScroll);
     out["characters"] = static_cast<bool>(grid.onKeyPress);
+    out["reveal"] = grid.reveals();
     out["editor"] = nullptr;
     if (const ui::TextBox* box = grid.cellEditor()) {
         out["editor"] = {{"control", box->id()}, {"row", grid.editedRow()}, {"column", grid.editedColumn()}};

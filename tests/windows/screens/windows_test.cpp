@@ -197,4 +197,37 @@ TEST(EditingInPlace, TheBoxFloatsOverItsCell) {
     EXPECT_FALSE(host.join().ended);
 }
 
+TEST(EditingInPlace, ScrolledAwayTheCellComesBackForAKeyButNotForWhatLeavingItWrites) {
+    HostThread host{[](windows::Win32Display& display) {
+        EditedTable form;
+        display.showModal(form);
+    }};
+    {
+        WindowsUser user{host.id()};
+        ASSERT_TRUE(isOpen(user, "EditedTable"));
+        HWND table = user.control("grdTable");
+        const auto firstRow = [&] { return GetScrollPos(table, SB_VERT); };
+        const auto scrollAway = [&] {
+            constexpr auto down = static_cast<WORD>(-10 * WHEEL_DELTA);
+            PostMessageW(table, WM_MOUSEWHEEL, MAKEWPARAM(0, down), 0);
+            user.settle();
+            EXPECT_GT(firstRow(), 10);
+        };
+        scrollAway();
+        user.type("45");
+        EXPECT_EQ(WindowsUser::textOf(user.control("txtCell")), "45");
+        EXPECT_EQ(firstRow(), 0);
+        scrollAway();
+        EXPECT_EQ(user.focused(), "grdTable");
+        EXPECT_EQ(WindowsUser::rowOf(table, 0).at(1), "45!");
+        for (const Key key : {Key::home, Key::up}) {
+            scrollAway();
+            user.key({.key = key});
+            EXPECT_EQ(firstRow(), 0);
+        }
+        user.close();
+    }
+    EXPECT_FALSE(host.join().ended);
+}
+
 } // namespace tellurix::tests

@@ -43,7 +43,7 @@ export class Grid extends View {
     if (changes.visibleRows !== before.visibleRows) this.element.style.setProperty('--rows', changes.visibleRows);
     // The browser is asked for places before anything changes, or it would have to lay out twice. To take
     // a box with the focus away is to ask as well.
-    if (String(this.state.current) !== String(before.current)) this.#reveal();
+    if (changes.reveal) this.#reveal();
     const wanted = this.#wanted();
     if (!this.state.editor) this.#removeEditor();
     this.#drawRows(wanted);
@@ -233,8 +233,9 @@ export class Grid extends View {
 
   #scrolled() {
     this.#drawRows();
-    if (!this.state.scrolls || this.element.scrollTop === this.#scrolledTo) return;
+    const byUser = this.element.scrollTop !== this.#scrolledTo;
     this.#scrolledTo = this.element.scrollTop;
-    this.perform({ type: 'scroll' });
+    // What was scrolled before the box opens must not reach the session behind the key that opens it.
+    if (byUser && this.state.editor) this.perform({ type: 'scroll' });
   }
 }
