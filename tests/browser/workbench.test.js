@@ -248,4 +248,22 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await press('Home');
     await until(async () => (await offset()) === 0 || offset(), 'the first row is in sight');
   });
+
+  test('on a low page the table of prices gives way to the change of all prices', async () => {
+    await openPrices();
+    await control(page, 'btnPreiseAendern').click();
+    await support.hasFocus(page, 'txtWert');
+    for (const [width, height] of [[1024, 700], [1366, 640], [1024, 560]]) {
+      await page.setViewportSize({ width, height });
+      await until(() => page.evaluate(() => {
+        const window = document.querySelector('.window:not(.behind)');
+        const bottom = (name) => window.querySelector(`[data-control="${name}"]`).getBoundingClientRect().bottom;
+        const content = window.querySelector('.content');
+        const rows = window.querySelector('.grid').clientHeight / window.querySelector('.grid-row').offsetHeight;
+        const places = ['btnPreiseAendern', 'cmdOk'].map(bottom);
+        const seen = places.every((place) => place < content.getBoundingClientRect().bottom);
+        return (seen && rows >= 4 && content.scrollHeight === content.clientHeight) || { places, rows };
+      }), `${width} by ${height}`);
+    }
+  });
 });
