@@ -58,7 +58,7 @@ public:
     /// Takes over what a display's own editing made of the text.
     /// @return false when that cannot stand as it is, and nothing changed: something came in that the
     ///         filter has not seen, that is no text for this box, or that is too much
-    bool edited(std::string text, int selectionStart, int selectionLength);
+    [[nodiscard]] bool edited(std::string text, int selectionStart, int selectionLength);
     /// Types text in place of the selection, as far as `maxLength` allows.
     void typeOver(std::string_view typed);
     /// What would stand in the box after typing `typed` in place of the selection.

@@ -14,7 +14,8 @@ void BoxMirror::read(Dispatch& original) {
     tag_ = original.get(L"Tag").text();
     selectionStart_ = original.get(L"SelStart").integer();
     selectionLength_ = original.get(L"SelLength").integer();
-    box.edited(text_, selectionStart_, selectionLength_);
+    box.setText(text_);
+    box.select(selectionStart_, selectionLength_);
     box.setTag(tag_);
 }
 
