@@ -46,6 +46,9 @@ Failure currentFailure(const std::string& source) noexcept {
             failure.code = error.code();
             failure.description = error.what();
             if (!error.source().empty()) failure.source = error.source();
+        } catch (const CallEnded& ended) {
+            failure.code = ended.code;
+            failure.description = ended.description;
         } catch (const std::bad_alloc&) {
             failure.code = E_OUTOFMEMORY;
         } catch (const std::exception& error) {

@@ -29,6 +29,13 @@ std::string describeCode(HRESULT code);
 /// @throws AutomationError when `result` is a failure, in Windows' words
 void check(HRESULT result, const std::string& action);
 
+/// Ends a call past all handlers of errors, on the way to its caller: no std::exception, so that nothing
+/// is asked and nothing is written.
+struct CallEnded {
+    HRESULT code;
+    const char* description; ///< UTF-8
+};
+
 /// The exception that is being handled, as a COM caller is told about it.
 struct Failure {
     HRESULT code = E_UNEXPECTED;

@@ -1,7 +1,5 @@
 #include "component/Apartment.h"
 
-#include "automation/AutomationError.h"
-#include "host/module_state.h"
 
 namespace tellurix::windows {
 
@@ -21,7 +19,7 @@ Apartment::Call::Call(Apartment& apartment, const ::TlxVar& record, HWND owner)
     apartment.called_ = true;
     apartment.services_.errors().setSession(&session_.values());
     apartment.display_.setOwner(owner);
-    apartment.display_.setLanguage(session().language);
+    apartment.display_.setLanguage(session_.values().language);
 }
 
 Apartment::Call::~Call() {

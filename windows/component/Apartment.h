@@ -1,7 +1,9 @@
 #pragma once
 
+#include "automation/AutomationError.h"
 #include "component/services/LateServices.h"
 #include "host/clsVertrag.h"
+#include "host/module_state.h"
 #include "screens/Win32Display.h"
 #include "session/Session.h"
 
@@ -30,7 +32,18 @@ public:
         Call(const Call&) = delete;
         Call& operator=(const Call&) = delete;
 
-        host::TlxVar& session() { return session_.values(); }
+        /// Does the operation. What ends it from outside ends the kept screens, too: they stand in the
+        /// middle of whatever their user did, and the next call begins anew.
+        /// @param work takes the session
+        template <typename Work>
+        void perform(const Work& work) {
+            try {
+                work(session_.values());
+            } catch (const CallEnded&) {
+                host::releaseModuleState();
+                throw;
+            }
+        }
 
     private:
         Apartment& apartment_;

@@ -39,16 +39,18 @@ struct VertragObject::RunParameters {
 void VertragObject::run(::TlxVar* record, RunParameters& parameters) {
     const auto mainWindow = std::make_shared<HostWindow>(parameters.F_Main);
     Apartment::Call call(*apartment_, given(record), mainWindow->handle());
-    apartment_->module().Vertrag_Run(
-        call.session(), parameters.id, parameters.name, parameters.StrVer_Type, parameters.strThousantSep,
-        parameters.strDecimalSep, parameters.rechName, parameters.blnOK, parameters.bolEuroChange,
-        parameters.F_Main ? mainWindow : nullptr, parameters.g_intStandardMandanten, parameters.newVertrag,
-        parameters.strCaption, parameters.enableKLR);
+    call.perform([&](host::TlxVar& session) {
+        apartment_->module().Vertrag_Run(
+            session, parameters.id, parameters.name, parameters.StrVer_Type, parameters.strThousantSep,
+            parameters.strDecimalSep, parameters.rechName, parameters.blnOK, parameters.bolEuroChange,
+            parameters.F_Main ? mainWindow : nullptr, parameters.g_intStandardMandanten,
+            parameters.newVertrag, parameters.strCaption, parameters.enableKLR);
+    });
 }
 
 void VertragObject::runReport(Report report, ::TlxVar* record, std::int16_t modul) {
     Apartment::Call call(*apartment_, given(record), HostWindow(nullptr).handle());
-    (apartment_->module().*report)(call.session(), modul);
+    call.perform([&](host::TlxVar& session) { (apartment_->module().*report)(session, modul); });
 }
 
 HRESULT VertragObject::F_Bereitstellung_WVO_Run(::TlxVar* record, short modul) {

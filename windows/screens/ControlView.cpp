@@ -38,10 +38,7 @@ void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD extended
 void ControlView::destroy() {
     if (handle_ == nullptr) return;
     host_.setToolTip(handle_, {});
-    forgetName(handle_);
-    SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(nativeProcedure_));
     DestroyWindow(handle_);
-    handle_ = nullptr;
 }
 
 void ControlView::place(const RECT& rect) {
@@ -117,6 +114,12 @@ LRESULT ControlView::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SYSCHAR:
         if (host_.keyboard(*this, message, wParam, lParam)) return 0;
         break;
+    case WM_NCDESTROY: {
+        forgetName(handle_);
+        const LRESULT result = native(message, wParam, lParam);
+        handle_ = nullptr;
+        return result;
+    }
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
         return pressed(message, wParam, lParam);

@@ -103,7 +103,7 @@ public:
     virtual HBRUSH colour(HDC dc) const;
 
 protected:
-    /// Makes the native window.
+    /// Makes the native window. It goes by `destroy`, or along with the window that it stands in.
     void create(const wchar_t* windowClass, DWORD style, DWORD extendedStyle = 0);
     void destroy();
     /// Makes a native window that belongs to this view beside the main one.

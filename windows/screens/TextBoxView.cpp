@@ -32,12 +32,6 @@ TextBoxView::TextBoxView(ViewHost& host, ui::TextBox& box) : ControlView(host, b
     make();
 }
 
-TextBoxView::~TextBoxView() {
-    if (pick_ == nullptr) return;
-    host().setToolTip(pick_, {});
-    DestroyWindow(pick_);
-}
-
 DWORD TextBoxView::wantedStyle() const {
     DWORD style = WS_TABSTOP | ES_LEFT;
     if (box_.rightAligned()) style |= ES_RIGHT;

@@ -10,7 +10,6 @@ namespace tellurix::windows {
 class TextBoxView final : public ControlView {
 public:
     TextBoxView(ViewHost& host, ui::TextBox& box);
-    ~TextBoxView() override;
 
     bool has(HWND window) const override;
     Room measure() const override;

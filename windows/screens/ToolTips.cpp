@@ -7,10 +7,6 @@
 
 namespace tellurix::windows {
 
-ToolTips::~ToolTips() {
-    if (tips_ != nullptr) DestroyWindow(tips_);
-}
-
 void ToolTips::set(HWND over, const std::string& text) {
     const auto shown = texts_.find(over);
     if (shown == texts_.end() ? text.empty() : shown->second == text) return;

@@ -7,12 +7,12 @@
 
 namespace tellurix::windows {
 
-/// The texts that are shown while the pointer rests over a control of a window.
+/// The texts that are shown while the pointer rests over a control of a window. What shows them belongs to
+/// that window and goes with it.
 class ToolTips {
 public:
     /// @param window the window that the controls stand in
     explicit ToolTips(HWND window) : window_(window) {}
-    ~ToolTips();
     ToolTips(const ToolTips&) = delete;
     ToolTips& operator=(const ToolTips&) = delete;
 

@@ -2,6 +2,7 @@
 
 #include "automation/wide.h"
 #include "screens/WindowFrame.h"
+#include "screens/endings.h"
 #include "screens/file_dialog.h"
 
 #include <stdexcept>
@@ -12,7 +13,14 @@ Win32Display::Win32Display(HWND owner) : owner_(owner) {}
 
 Win32Display::~Win32Display() = default;
 
+void Win32Display::Errors::report(const std::exception& error) {
+    throwIfEnded(display.topWindow());
+    display.told_.report(error);
+}
+
 HWND Win32Display::topWindow() const {
+    const bool lost = windows_.empty() ? owner_ != nullptr && !IsWindow(owner_) : windows_.back()->lost();
+    if (lost) throw OwnerClosed{};
     if (!windows_.empty()) return windows_.back()->window();
     return owner_ == nullptr ? nullptr : GetAncestor(owner_, GA_ROOT);
 }
@@ -35,6 +43,7 @@ void Win32Display::showModal(ui::Form& form) {
 ui::Event Win32Display::nextEvent() {
     draw();
     WindowFrame& top = *windows_.back();
+    if (top.lost()) throw OwnerClosed{};
     struct Listening {
         explicit Listening(WindowFrame& listener) : frame(listener) { frame.listen(true); }
         ~Listening() { frame.listen(false); }
@@ -55,6 +64,7 @@ ui::Event Win32Display::nextEvent() {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
+        if (top.lost()) throw OwnerClosed{};
         top.throwFailure();
     }
     return top.takeEvent();
@@ -72,13 +82,18 @@ ui::Answer Win32Display::messageBox(const std::string& text, int flags, const st
     HWND owner = topWindow();
     const UINT style = static_cast<UINT>(flags) | (owner == nullptr ? MB_TASKMODAL : 0U);
     const int pressed = MessageBoxW(owner, widen(text).c_str(), widen(title).c_str(), style);
+    // WM_QUIT passes for an answer, and the end of the owner for one or for a failure.
+    throwIfEnded(owner);
     if (pressed == 0) throw std::runtime_error{"Windows could not show the message: " + text};
     return static_cast<ui::Answer>(pressed);
 }
 
 std::optional<std::string> Win32Display::openFile(const std::string& title, const std::string& filter) {
     draw();
-    return chooseFile(topWindow(), title, filter);
+    HWND owner = topWindow();
+    auto chosen = chooseFile(owner, title, filter);
+    throwIfEnded(owner);
+    return chosen;
 }
 
 void Win32Display::setBusy(bool busy) {
@@ -90,7 +105,8 @@ void Win32Display::setBusy(bool busy) {
 void Win32Display::refresh() {
     draw();
     for (const auto& window : windows_)
-        RedrawWindow(window->window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        if (!window->lost())
+            RedrawWindow(window->window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 } // namespace tellurix::windows

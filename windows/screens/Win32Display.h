@@ -14,13 +14,9 @@ namespace tellurix::windows {
 
 class WindowFrame;
 
-/// Thrown out of `showModal` when the host's thread is told to end (WM_QUIT) while a screen is open.
-/// No std::exception, so that it passes all handlers of the screens: nothing is asked and nothing is
-/// written. The WM_QUIT has been posted again for the host's own loop.
-struct MessageLoopEnded {};
-
 /// The display for Windows: each form is a top-level window with native controls. It belongs to the
-/// thread that made it; several threads may have one each.
+/// thread that made it; several threads may have one each. Where the thread or the host's window ends
+/// while something is open, it throws what `endings.h` says.
 class Win32Display final : public ui::Display {
 public:
     /// @param owner window of the host that waits while a screen is open; null for none
@@ -33,7 +29,7 @@ public:
     void setOwner(HWND owner) { owner_ = owner; }
     /// Where errors inside an event of an open screen go. Without it they are shown as a message.
     /// @param errors outlives the display's last use, or is replaced by null
-    void setErrorHandling(ui::ErrorHandling* errors) { errors_.setHost(errors); }
+    void setErrorHandling(ui::ErrorHandling* errors) { told_.setHost(errors); }
     /// Language of the display's own texts: "de" (the default) or "en". The buttons of message boxes
     /// and file dialogs are in the language of Windows.
     void setLanguage(std::string language) { state_.language = std::move(language); }
@@ -45,13 +41,21 @@ public:
     void refresh() override;
 
 private:
+    /// An error that comes of the end of the thread or the owner is told to nobody: it ends the screens.
+    struct Errors final : ui::ErrorHandling {
+        explicit Errors(Win32Display& shownOn) : display(shownOn) {}
+        void report(const std::exception& error) override;
+        Win32Display& display;
+    };
+
     ui::Event nextEvent();
     void draw();
-    /// The window that a dialog of Windows belongs to.
+    /// The window that a dialog of Windows belongs to. @throws OwnerClosed when it has gone
     HWND topWindow() const;
 
     HWND owner_;
-    ui::DisplayErrors errors_{*this};
+    ui::DisplayErrors told_{*this};
+    Errors errors_{*this};
     ui::Desktop desktop_{errors_};
     std::vector<std::unique_ptr<WindowFrame>> windows_; ///< the topmost last
     DisplayState state_;

@@ -43,11 +43,8 @@ WindowFrame::~WindowFrame() {
 void WindowFrame::close() {
     // Windows activates another one when a window goes; the owner has to be able to be that.
     waiting_.release();
+    if (window_ == nullptr) return;
     if (owner_ != nullptr && GetActiveWindow() == window_) SetActiveWindow(owner_);
-    views_.clear();
-    toolTips_.reset();
-    forgetName(window_);
-    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
     DestroyWindow(window_);
 }
 
@@ -102,6 +99,7 @@ void WindowFrame::makeViews(const ui::Layout& layout, bool onPage) {
 }
 
 void WindowFrame::draw() {
+    if (lost()) return;
     if (form_.titleDirty()) {
         SetWindowTextW(window_, widen(form_.title()).c_str());
         form_.titleDrawn();
@@ -116,7 +114,7 @@ void WindowFrame::draw() {
 }
 
 void WindowFrame::placeFocus() {
-    if (GetActiveWindow() != window_) return;
+    if (ending_ || GetActiveWindow() != window_) return;
     const ui::Control* focused = form_.focused();
     if (focused == nullptr || !focused->usable()) {
         if (GetFocus() != window_) SetFocus(window_);
@@ -129,7 +127,7 @@ void WindowFrame::placeFocus() {
 }
 
 void WindowFrame::happened(ui::Event event) {
-    if (!listening_) return;
+    if (!listening_ || ending_) return;
     events_.push_back(std::move(event));
     wake();
 }
@@ -139,9 +137,10 @@ void WindowFrame::failed(std::exception_ptr error) {
     wake();
 }
 
-/// A message that another thread sent is dealt with inside the waiting for the next posted one.
+/// A message that was sent is dealt with inside the waiting for the next posted one. It goes to the
+/// thread: the window may have gone.
 void WindowFrame::wake() {
-    PostMessageW(window_, WM_NULL, 0, 0);
+    PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 ui::Event WindowFrame::takeEvent() {
@@ -175,7 +174,7 @@ LRESULT CALLBACK WindowFrame::procedure(HWND window, UINT message, WPARAM wParam
 
 ControlView* WindowFrame::viewWith(HWND window) const {
     for (const auto& view : views_)
-        if (view != nullptr && view->has(window)) return view.get();
+        if (view != nullptr && window != nullptr && view->has(window)) return view.get();
     return nullptr;
 }
 
@@ -184,6 +183,15 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
         happened(ui::CloseEvent{});
         return 0;
+    case WM_DESTROY:
+        ending_ = true;
+        break;
+    case WM_NCDESTROY:
+        // Its controls and tool tips have gone before it.
+        forgetName(window_);
+        SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+        if (listening_) wake();
+        return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
     case WM_ACTIVATE:
         keyboard_.forgetCtrl();
         if (LOWORD(wParam) != WA_INACTIVE) placeFocus();

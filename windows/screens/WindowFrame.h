@@ -28,7 +28,9 @@ public:
     WindowFrame& operator=(const WindowFrame&) = delete;
 
     HWND window() const override { return window_; }
-    /// Shows what changed.
+    /// The window has gone without having been closed here: along with the one it belongs to.
+    bool lost() const { return window_ == nullptr; }
+    /// Shows what changed, unless it is lost.
     void draw();
     /// Gives the native focus to the control that has the form's.
     void placeFocus();
@@ -68,7 +70,7 @@ private:
     void makeViews(const ui::Layout& layout, bool onPage);
     void show();
     void close();
-    void wake();
+    static void wake();
 
     ui::Form& form_;
     HWND owner_;
@@ -83,6 +85,7 @@ private:
     std::deque<ui::Event> events_;
     std::exception_ptr failure_;
     bool listening_ = false;
+    bool ending_ = false; ///< the windows are going
 };
 
 } // namespace tellurix::windows

@@ -1,6 +1,7 @@
 #include "automation/AutomationError.h"
 #include "automation/wide.h"
 #include "host/libraries.h"
+#include "screens/endings.h"
 #include "windows/component/ComponentClient.h"
 #include "windows/support/WindowsUser.h"
 
@@ -180,21 +181,39 @@ TEST_F(Component, TakesNoSecondContractOnAThreadThatShowsOne) {
     EXPECT_EQ(outcomeOfTimer.code, HRESULT_FROM_WIN32(ERROR_BUSY)) << outcomeOfTimer.description;
 }
 
-TEST_F(Component, EndsWithTheHostsThreadWhateverIsOpen) {
+TEST_F(Component, EndsWithTheHostsThreadOrWindowWhateverIsOpen) {
     ComponentClient host;
-    RunCall call{.record = &host.record()};
     const DWORD thread = GetCurrentThreadId();
-    auto script = std::async(std::launch::async, [&] {
-        editorOf(thread, [] { return true; });
-        WindowsUser user(thread);
-        user.click(user.control("KundeButton"));
-        EXPECT_EQ(WindowsUser::nameOf(user.top()), "F_PersonPicker");
-        PostThreadMessageW(thread, WM_QUIT, 0, 0);
-    });
-    EXPECT_EQ(callDirectly(*host.createModule(), call).code, E_UNEXPECTED);
-    script.get();
-    MSG message{};
-    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "for the host's own loop";
+    const auto module = host.createModule();
+    // A dialog of the library is open above the editor, or what is edited has not been saved.
+    for (const char* clicked : {"KundeButton", "chkAbgeschlossen"})
+        for (const bool byThread : {true, false}) {
+            SCOPED_TRACE(std::string(clicked) + (byThread ? ", thread" : ", window"));
+            HWND window = CreateWindowW(L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300,
+                                        nullptr, nullptr, nullptr, nullptr);
+            SetActiveWindow(window);
+            auto script = std::async(std::launch::async, [&] {
+                editorOf(thread, [] { return true; });
+                WindowsUser user(thread);
+                user.click(user.control(clicked));
+                byThread ? PostThreadMessageW(thread, WM_QUIT, 0, 0) : PostMessageW(window, WM_CLOSE, 0, 0);
+            });
+            RunCall call{.record = &host.record()};
+            const Outcome outcome = callDirectly(*module, call);
+            script.get();
+            EXPECT_EQ(outcome.code, byThread ? E_UNEXPECTED : windows::OwnerClosed::result);
+            EXPECT_NE(outcome.description.find("Aufrufer"), std::string::npos) << outcome.description;
+            MSG quit{};
+            EXPECT_EQ(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != 0, byThread)
+                << "for the host's own loop";
+            DestroyWindow(window);
+        }
+    windows::Dispatch saved(host.connection().call(
+        L"Execute", {"SELECT COUNT(*) AS N FROM VERTRAEGE WHERE ID_VERTRAG = 1 AND ABGESCHLOSSEN = 1"}));
+    EXPECT_EQ(windows::Dispatch(saved.get(L"Fields", {0})).get(L"Value").integer(), 0);
+    RunCall again{.record = &host.record()};
+    const Closer closer;
+    EXPECT_EQ(callDirectly(*module, again).code, S_OK);
 }
 
 TEST_F(Component, IsUnloadedWhenNobodyUsesItOnWhateverThread) {

@@ -1,5 +1,7 @@
 #include "windows/screens/ScreenTest.h"
 
+#include "screens/endings.h"
+
 #include <chrono>
 
 namespace tellurix::tests {
@@ -41,6 +43,8 @@ HostThread::Outcome HostThread::run(const Show& show, std::promise<void>& starte
         show(display);
     } catch (const windows::MessageLoopEnded&) {
         outcome.ended = true;
+    } catch (const windows::OwnerClosed&) {
+        outcome.ownerClosed = true;
     }
     closed_.set_value();
     outcome.ownerEnabled = IsWindowEnabled(owner_) != FALSE;

@@ -19,7 +19,8 @@ public:
     struct Outcome {
         bool ownerEnabled = false;
         bool ownerActive = false;
-        bool ended = false; ///< by the end of the message loop
+        bool ended = false;       ///< by the end of the message loop
+        bool ownerClosed = false; ///< along with the owner
     };
     using Show = std::function<void(windows::Win32Display&)>;
 
@@ -32,6 +33,8 @@ public:
     HWND owner() const { return owner_; }
     /// Ends the host's message loop, and with it the screens that are still open.
     void end() const;
+    /// Closes the host's window, while its message loop goes on.
+    void closeOwner() const { PostMessageW(owner_, WM_CLOSE, 0, 0); }
     /// Waits until no screen is open any more.
     void waitUntilClosed() { closed_.get_future().wait(); }
     /// Ends the host and waits for it.

@@ -139,21 +139,46 @@ TEST(WindowsOfScreens, FreeTheOwnerHoweverTheyEnd) {
     }
 }
 
-TEST(WindowsOfScreens, EndWithTheHostsMessageLoop) {
-    HostThread host{[](windows::Win32Display& display) {
-        workbench::DemoForm form{display};
-        display.showModal(form);
-    }};
-    {
-        WindowsUser user{host.id()};
-        ASSERT_TRUE(isOpen(user, "DemoForm"));
-        user.type("offen"); // closing would ask
-        user.click(user.control("btnOpen"));
-        ASSERT_TRUE(isOpen(user, "DemoForm"));
-    }
-    const HostThread::Outcome outcome = host.join();
-    EXPECT_TRUE(outcome.ended);
-    EXPECT_TRUE(outcome.ownerEnabled);
+TEST(WindowsOfScreens, EndWithTheirOwnerOrTheThreadWhateverIsOpen) {
+    // What is typed is something that closing would ask about.
+    const struct {
+        const char* open;
+        const char* clicked;
+        bool message;
+    } cases[] = {
+        {"a box that is being edited", "txtName", false},
+        {"another screen", "btnOpen", false},
+        {"an open list", "cboType", false},
+        {"a message", "btnQuestion", true},
+    };
+    for (const auto& row : cases)
+        for (const bool byOwner : {true, false}) {
+            SCOPED_TRACE(std::string{row.open} + (byOwner ? ", owner" : ", thread"));
+            std::string state;
+            HostThread host{[&](windows::Win32Display& display) {
+                workbench::DemoForm form{display};
+                try {
+                    display.showModal(form);
+                } catch (...) {
+                    state = form.txtState.text();
+                    throw;
+                }
+            }};
+            WindowsUser user{host.id()};
+            ASSERT_TRUE(isOpen(user, "DemoForm"));
+            user.type("offen");
+            user.click(user.control(row.clicked));
+            EXPECT_TRUE(eventually([&] { return (user.message() != nullptr) == row.message; }));
+            byOwner ? host.closeOwner() : host.end();
+            host.waitUntilClosed();
+            EXPECT_EQ(user.top(), nullptr);
+            EXPECT_EQ(user.message(), nullptr);
+            const HostThread::Outcome outcome = host.join();
+            EXPECT_EQ(outcome.ownerClosed, byOwner);
+            EXPECT_EQ(outcome.ended, !byOwner);
+            EXPECT_EQ(outcome.ownerEnabled, !byOwner);
+            EXPECT_EQ(state, "offen|||") << "nothing was answered";
+        }
 }
 
 TEST(EditingInPlace, TheBoxFloatsOverItsCell) {
