@@ -43,7 +43,8 @@ Failure currentFailure(const std::string& source) noexcept {
         try {
             throw;
         } catch (const AutomationError& error) {
-            failure.code = error.code();
+            // A caller would take any other one for success.
+            failure.code = FAILED(error.code()) ? error.code() : E_FAIL;
             failure.description = error.what();
             if (!error.source().empty()) failure.source = error.source();
         } catch (const CallEnded& ended) {

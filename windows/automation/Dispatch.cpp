@@ -28,10 +28,12 @@ public:
     [[noreturn]] void raise(HRESULT result, const std::string& member) {
         if (result == DISP_E_EXCEPTION) {
             if (information_.pfnDeferredFillIn != nullptr) information_.pfnDeferredFillIn(&information_);
-            // Old objects give a small number of their own in place of a code.
-            const HRESULT code = information_.scode != 0
+            // Old objects give a small number of their own, in its place or in that of a code.
+            const int number =
+                information_.wCode != 0 ? information_.wCode : HRESULT_CODE(information_.scode);
+            const HRESULT code = FAILED(information_.scode)
                                      ? information_.scode
-                                     : MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, information_.wCode);
+                                     : MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number);
             const std::string words = textOf(information_.bstrDescription);
             throw AutomationError(code, words.empty() ? member + ": " + describeCode(code) : words,
                                   textOf(information_.bstrSource));

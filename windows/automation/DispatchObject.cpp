@@ -46,7 +46,7 @@ HRESULT DispatchObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
 }
 
 HRESULT DispatchObject::Invoke(DISPID number, REFIID, LCID, WORD kind, DISPPARAMS* parameters,
-                               VARIANT* answer, EXCEPINFO* error, UINT*) {
+                               VARIANT* answer, EXCEPINFO* error, UINT* wrongArgument) {
     if (parameters == nullptr) return E_POINTER;
     // The caller may drop its last reference while the member is still running.
     const ComPtr<IDispatch> alive(this);
@@ -61,7 +61,7 @@ HRESULT DispatchObject::Invoke(DISPID number, REFIID, LCID, WORD kind, DISPPARAM
         if (answer != nullptr) result.detachTo(*answer);
         return S_OK;
     } catch (...) {
-        return tellInvoker(error, source());
+        return tellInvoker(error, source(), *parameters, wrongArgument);
     }
 }
 

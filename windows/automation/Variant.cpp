@@ -2,6 +2,7 @@
 
 #include "automation/AutomationError.h"
 #include "automation/Bstr.h"
+#include "automation/variables.h"
 
 #include <utility>
 
@@ -77,7 +78,7 @@ Variant::~Variant() {
 
 Variant Variant::copyOf(const VARIANT& value) {
     Variant copy;
-    check(VariantCopyInd(&copy, changeable(value)), "Copying a value");
+    check(VariantCopyInd(&copy, changeable(followed(value))), "Copying a value");
     return copy;
 }
 

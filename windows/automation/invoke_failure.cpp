@@ -2,12 +2,35 @@
 
 #include "automation/AutomationError.h"
 #include "automation/Bstr.h"
+#include "automation/CallArguments.h"
 
 #include <new>
 
 namespace tellurix::windows {
 
-HRESULT tellInvoker(EXCEPINFO* error, const char* source) noexcept {
+namespace {
+
+/// Where an argument came: those by name first, each with the number of its parameter, then the others,
+/// backwards.
+UINT placeOf(std::size_t argument, const DISPPARAMS& given) {
+    for (UINT i = 0; i < given.cNamedArgs; ++i)
+        if (given.rgdispidNamedArgs[i] == static_cast<DISPID>(argument)) return i;
+    return given.cArgs - 1 - static_cast<UINT>(argument);
+}
+
+} // namespace
+
+HRESULT tellInvoker(EXCEPINFO* error, const char* source, const DISPPARAMS& given,
+                    UINT* wrongArgument) noexcept {
+    try {
+        throw;
+    } catch (const ArgumentError& wrong) {
+        if (wrongArgument != nullptr && wrong.code() != DISP_E_PARAMNOTOPTIONAL)
+            *wrongArgument = placeOf(wrong.index(), given);
+        return wrong.code();
+    } catch (...) {
+        // All others are told below.
+    }
     const Failure failure = currentFailure(source);
     switch (failure.code) {
     case DISP_E_MEMBERNOTFOUND:

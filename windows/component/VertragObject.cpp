@@ -1,6 +1,7 @@
 #include "component/VertragObject.h"
 
 #include "automation/Bstr.h"
+#include "automation/variables.h"
 #include "component/HostWindow.h"
 #include "component/dual_call.h"
 #include "component/host_variant.h"
@@ -73,6 +74,8 @@ HRESULT VertragObject::Vertrag_Run(::TlxVar* record, LONG id, BSTR name, BSTR St
     return guarded(source(), [&] {
         if (blnOK_dll == nullptr || bolEuroChange_dll == nullptr)
             throw AutomationError(E_POINTER, "blnOK_dll and bolEuroChange_dll have to be given by reference");
+        if (!isAssignable(*blnOK_dll))
+            throw AutomationError(DISP_E_TYPEMISMATCH, "The variable of blnOK_dll cannot be written to");
         RunParameters parameters{.id = id,
                                  .name = textOf(name),
                                  .StrVer_Type = textOf(StrVer_Type_dll),
@@ -87,20 +90,22 @@ HRESULT VertragObject::Vertrag_Run(::TlxVar* record, LONG id, BSTR name, BSTR St
                                  .strCaption = textOf(strCaption),
                                  .enableKLR = enableKLR != VARIANT_FALSE};
         run(record, parameters);
-        writeTo(*blnOK_dll, parameters.blnOK);
+        assign(*blnOK_dll, comVariant(parameters.blnOK));
         *bolEuroChange_dll = static_cast<VARIANT_BOOL>(parameters.bolEuroChange);
     });
 }
 
 void VertragObject::runByName(const CallArguments& arguments) {
     expectCount(arguments, 14);
+    arguments.expectWritable(7);
+    arguments.expectWritable(8);
     RunParameters parameters{.id = arguments[1].integer(),
                              .name = arguments[2].text(),
                              .StrVer_Type = arguments[3].text(),
                              .strThousantSep = arguments[4].text(),
                              .strDecimalSep = arguments[5].text(),
                              .rechName = arguments[6].text(),
-                             .blnOK = hostVariant(arguments[7]),
+                             .blnOK = arguments[7].converted(hostVariant),
                              .bolEuroChange = static_cast<host::Boolean16>(arguments[8].as(VT_BOOL).boolVal),
                              .F_Main = arguments[9].object(),
                              .g_intStandardMandanten = arguments[10].as(VT_I2).iVal,

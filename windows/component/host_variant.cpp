@@ -1,7 +1,5 @@
 #include "component/host_variant.h"
 
-#include "automation/CallArguments.h"
-
 namespace tellurix::windows {
 
 host::Variant hostVariant(const VARIANT& value) {
@@ -38,12 +36,6 @@ Variant comVariant(const host::Variant& value) {
                 return Variant(held);
         },
         value);
-}
-
-void writeTo(VARIANT& target, const host::Variant& value) {
-    Variant reference = Variant::reference(target);
-    const DISPPARAMS one{&reference, nullptr, 1, 0};
-    CallArguments(one).write(0, comVariant(value));
 }
 
 } // namespace tellurix::windows

@@ -12,8 +12,4 @@ host::Variant hostVariant(const VARIANT& value);
 
 Variant comVariant(const host::Variant& value);
 
-/// Puts the value into a variant of the caller; where that refers to a variable, into the variable, in
-/// its type.
-void writeTo(VARIANT& target, const host::Variant& value);
-
 } // namespace tellurix::windows

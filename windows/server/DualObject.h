@@ -62,7 +62,7 @@ public:
         return FAILED(asked) ? asked : result;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS* parameters,
-                                     VARIANT* answer, EXCEPINFO* error, UINT*) final {
+                                     VARIANT* answer, EXCEPINFO* error, UINT* wrongArgument) final {
         if (parameters == nullptr) return E_POINTER;
         const ComPtr<IDispatch> alive(this);
         try {
@@ -71,7 +71,7 @@ public:
             if (answer != nullptr) result.detachTo(*answer);
             return S_OK;
         } catch (...) {
-            return tellInvoker(error, source());
+            return tellInvoker(error, source(), *parameters, wrongArgument);
         }
     }
 

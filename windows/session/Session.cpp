@@ -2,6 +2,7 @@
 
 #include "automation/AutomationError.h"
 #include "automation/Bstr.h"
+#include "automation/variables.h"
 #include "session/record_type.h"
 
 #include <string>
@@ -28,7 +29,7 @@ Session::Session(const ::TlxVar& record)
               .language = textOf(record.Language)} {}
 
 ::TlxVar& recordIn(VARIANT& argument, const char* name) {
-    const VARIANT& value = argument.vt == (VT_BYREF | VT_VARIANT) ? *argument.pvarVal : argument;
+    const VARIANT& value = followed(argument);
     const bool isRecord = (value.vt & ~VT_BYREF) == VT_RECORD && value.pvRecord != nullptr;
     if (!isRecord || (value.pRecInfo != nullptr && !isSessionRecord(*value.pRecInfo)))
         throw AutomationError(DISP_E_TYPEMISMATCH,

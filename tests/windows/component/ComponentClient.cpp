@@ -102,7 +102,7 @@ Outcome callByName(_clsVertrag& module, RunCall& call) {
     EXCEPINFO error{};
     Outcome outcome;
     outcome.code = module.Invoke(numbers[0], IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters, nullptr,
-                                 &error, nullptr);
+                                 &error, &outcome.wrongArgument);
     outcome.source = textOf(error.bstrSource);
     outcome.description = textOf(error.bstrDescription);
     if (outcome.code == DISP_E_EXCEPTION) outcome.code = error.scode;

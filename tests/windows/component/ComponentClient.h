@@ -16,6 +16,7 @@ struct Outcome {
     HRESULT code = S_OK;
     std::string source;
     std::string description;
+    UINT wrongArgument = 0; ///< place of the argument that is to blame, the last one first
 };
 
 /// What a host hands over to Vertrag_Run and gets back.

@@ -32,7 +32,7 @@ contracts.F_Bereitstellung_WVO_Run "record", 1
 Check "a text for a record", Err.Source & ": " & Err.Description, source & ": " & noRecord
 Err.Clear
 contracts.Vertrag_Run Nothing, "many", "", "R", ".", ",", "", True, False, Nothing, 1, False, "", False
-Check "a word for a number", Err.Source & (Err.Description <> ""), source & True
+Check "a word for a number", Err.Number, 13
 Err.Clear
 contracts.Vertrag_Run 1
 Check "too few arguments", Err.Number, 450

@@ -66,32 +66,51 @@ private:
     std::thread thread_;
 };
 
+/// @param variable is made one of that type
+Variant referenceTo(Variant& variable, VARTYPE type) {
+    if (type == VT_VARIANT) return Variant::reference(variable);
+    variable = variable.as(type);
+    Variant reference;
+    reference.vt = static_cast<VARTYPE>(VT_BYREF | type);
+    reference.byref = &variable.byref;
+    return reference;
+}
+
 TEST_F(Component, GivesBackWhatTheHostHandedOverAndTellsItWhatWasEdited) {
     struct Case {
         const char* rule;
         const char* type;
         Variant ok;
         VARIANT_BOOL euroChange;
-        bool okAfter;
+        const char* okAfter;
         std::vector<std::string> notifications;
+        VARTYPE variable = VT_EMPTY; ///< of the variable that the VARIANT refers to
     };
     const Case cases[] = {
-        {"a supply contract", "R", Variant(true), VARIANT_FALSE, true, {"1VVM R"}},
-        {"a purchase contract", "A3", Variant(), VARIANT_TRUE, false, {"2VABR3 A3"}},
-        {"a code in small letters", "r", Variant("False"), 7, false, {}},
-        {"a number for a Boolean", "A1", Variant(5), VARIANT_FALSE, true, {"2VABR1 A1"}},
+        {"a supply contract", "R", Variant(true), VARIANT_FALSE, "True", {"1VVM R"}},
+        {"a purchase contract", "A3", Variant(), VARIANT_TRUE, "False", {"2VABR3 A3"}},
+        {"a code in small letters", "r", Variant("False"), 7, "False", {}},
+        {"a number for a Boolean", "A1", Variant(5), VARIANT_FALSE, "True", {"2VABR1 A1"}},
+        {"a variable of any type", "r", Variant("1"), VARIANT_FALSE, "True", {}, VT_VARIANT},
+        {"a variable for a byte", "r", Variant(5), VARIANT_FALSE, "255", {}, VT_UI1},
+        {"a variable for 16 bits", "r", Variant(5), VARIANT_FALSE, "65535", {}, VT_UI2},
+        {"a variable for 64 bits", "r", Variant(5), VARIANT_FALSE, "-1", {}, VT_I8},
+        {"a variable for a single", "r", Variant(5), VARIANT_FALSE, "-1", {}, VT_R4},
+        {"a variable for money", "r", Variant(5), VARIANT_FALSE, "-1", {}, VT_CY},
+        {"a variable for a text", "r", Variant("1"), VARIANT_FALSE, "True", {}, VT_BSTR},
     };
     ComponentClient host;
     for (const Way& way : ways)
         for (const Case& c : cases) {
             SCOPED_TRACE(std::string(c.rule) + " " + way.name);
             host.notifications.clear();
+            Variant variable = c.ok;
             RunCall call{.type = c.type, .ok = c.ok, .euroChange = c.euroChange, .record = &host.record()};
+            if (c.variable != VT_EMPTY) call.ok = referenceTo(variable, c.variable);
             const Closer closer;
             const Outcome outcome = way.call(*host.createModule(), call);
             EXPECT_EQ(outcome.code, S_OK) << outcome.description;
-            EXPECT_EQ(call.ok.vt, VT_BOOL);
-            EXPECT_EQ(call.ok.flag(), c.okAfter);
+            EXPECT_EQ(Variant::copyOf(call.ok).text(), c.okAfter);
             EXPECT_EQ(call.euroChange, c.euroChange);
             EXPECT_EQ(host.notifications, c.notifications);
         }
@@ -126,6 +145,40 @@ TEST_F(Component, TellsTheHostWhatWentWrong) {
     EXPECT_TRUE(FAILED(callDirectly(*host.createModule(), call).code)) << "a closed connection";
     EXPECT_TRUE(FAILED(host.createModule()->F_Bereitstellung_WVO_Run(&host.record(), 1)));
     EXPECT_TRUE(host.createModule().as<ISupportErrorInfo>());
+}
+
+TEST_F(Component, NamesTheArgumentThatDoesNotFitBeforeAnythingIsOpened) {
+    ComponentClient host;
+    const auto module = host.createModule();
+    Variant number(5);
+    RunCall run{.ok = referenceTo(number, VT_DECIMAL), .record = &host.record()};
+    EXPECT_EQ(callDirectly(*module, run).code, DISP_E_TYPEMISMATCH);
+    const Outcome outcome = callByName(*module, run);
+    EXPECT_EQ(outcome.code, DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(outcome.wrongArgument, 6U);
+
+    const struct {
+        const char* rule;
+        Variant argument;
+        HRESULT code;
+    } cases[] = {
+        {"an object for a text", windows::ComPtr<IDispatch>(module.get()), DISP_E_TYPEMISMATCH},
+        {"left out", Variant::missing(), DISP_E_PARAMNOTOPTIONAL},
+        {"right", "R", S_OK},
+    };
+    DISPID operation = 0;
+    auto name = const_cast<wchar_t*>(L"GetVertragType");
+    module->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_NEUTRAL, &operation);
+    for (const auto& c : cases) {
+        Variant argument = c.argument;
+        DISPPARAMS parameters{&argument, nullptr, 1, 0};
+        UINT wrong = 4711;
+        EXPECT_EQ(module->Invoke(operation, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters, nullptr,
+                                 nullptr, &wrong),
+                  c.code)
+            << c.rule;
+        EXPECT_EQ(wrong, c.code == DISP_E_TYPEMISMATCH ? 0U : 4711U) << c.rule;
+    }
 }
 
 TEST_F(Component, GivesEachThreadValuesAndWindowsOfItsOwn) {
