@@ -18,7 +18,8 @@ std::wstring clipboardText(HWND window) {
     if (!OpenClipboard(window)) return text;
     if (HANDLE held = GetClipboardData(CF_UNICODETEXT)) {
         if (const auto* start = static_cast<const wchar_t*>(GlobalLock(held))) {
-            text = start;
+            // Whoever copied it need not have ended it.
+            text.assign(start, wcsnlen(start, GlobalSize(held) / sizeof(wchar_t)));
             GlobalUnlock(held);
         }
     }

@@ -50,7 +50,7 @@ private:
         const bool current = row == grid_.currentRow();
         const RECT first = geometry_.cell(row, 0);
         const RECT whole{0, first.top, std::max<LONG>(geometry_.width() - geometry_.left(), 0), first.bottom};
-        if (current) FillRect(dc_, &whole, GetSysColorBrush(focused_ ? COLOR_HIGHLIGHT : COLOR_3DLIGHT));
+        if (current) FillRect(dc_, &whole, GetSysColorBrush(focused_ ? COLOR_HIGHLIGHT : COLOR_3DFACE));
         const bool inverse = current && focused_;
         SetTextColor(dc_, GetSysColor(!grid_.usable() ? COLOR_GRAYTEXT
                                       : inverse       ? COLOR_HIGHLIGHTTEXT
