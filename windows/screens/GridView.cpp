@@ -181,22 +181,23 @@ void GridView::scrollBar(int bar, WORD request) {
     }
 }
 
-void GridView::wheel(int delta) {
-    UINT lines = 3;
-    SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    if (lines == WHEEL_PAGESCROLL) lines = static_cast<UINT>(geometry_.rowsSeen());
-    wheelRest_ += delta * static_cast<int>(lines);
-    const int rows = wheelRest_ / WHEEL_DELTA;
-    wheelRest_ %= WHEEL_DELTA;
-    scrollByUser(geometry_.firstRow() - rows, geometry_.left());
+bool GridView::wheel(UINT message, WPARAM wParam) {
+    RECT client{};
+    GetClientRect(handle(), &client);
+    const Wheel::Turn turn = wheel_.turned(message, wParam, {1, geometry_.rowsSeen()},
+                                           {theme().characterWidth(), static_cast<int>(client.right)});
+    if (turn.units == 0) return true;
+    return scrollByUser(geometry_.firstRow() + (turn.across ? 0 : turn.units),
+                        geometry_.left() + (turn.across ? turn.units : 0));
 }
 
-void GridView::scrollByUser(int firstRow, int left) {
-    if (!geometry_.scrollTo(firstRow, left)) return;
+bool GridView::scrollByUser(int firstRow, int left) {
+    if (!geometry_.scrollTo(firstRow, left)) return false;
     showScrollBars();
     placeEditor();
     InvalidateRect(handle(), nullptr, FALSE);
     if (grid_.onScroll) tell(ui::ScrollEvent{&grid_});
+    return true;
 }
 
 LRESULT GridView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -217,8 +218,9 @@ LRESULT GridView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         scrollBar(SB_HORZ, LOWORD(wParam));
         return 0;
     case WM_MOUSEWHEEL:
-        wheel(static_cast<short>(HIWORD(wParam)));
-        return 0;
+    case WM_MOUSEHWHEEL:
+        // At its end the window around it goes on.
+        return wheel(message, wParam) ? 0 : SendMessageW(host().window(), message, wParam, lParam);
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
     case WM_ENABLE:
@@ -229,13 +231,12 @@ LRESULT GridView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         break;
     }
-    if (message == gridMessages().cellText) {
+    const bool asked = message == gridMessages().cellText || message == gridMessages().cellPlace;
+    if (!asked) return native(message, wParam, lParam);
+    if (FindAtomW(L"Tellurix.TestDriver") == 0) return 0;
+    if (message == gridMessages().cellText)
         return answerCellText(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<wchar_t*>(lParam));
-    }
-    if (message == gridMessages().cellPlace) {
-        return answerCellPlace(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<RECT*>(lParam));
-    }
-    return native(message, wParam, lParam);
+    return answerCellPlace(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<RECT*>(lParam));
 }
 
 LRESULT GridView::answerCellText(int row, int column, wchar_t* text) const {

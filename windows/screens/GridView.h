@@ -2,10 +2,13 @@
 
 #include "screens/ControlView.h"
 #include "screens/GridGeometry.h"
+#include "screens/Wheel.h"
 
 namespace tellurix::windows {
 
-/// What test drivers of the same process can ask a grid's window, by registered messages:
+/// What test drivers can ask a grid's window, by registered messages. They write to memory of the process,
+/// and anybody can send a message; so they are answered only while the process itself has the local atom
+/// "Tellurix.TestDriver", which no other one can give it.
 /// "Tellurix.CellText": MAKEWPARAM(row, column), pointer to a buffer of 256 characters that gets the
 /// cell's text (row 0xFFFF is the header); answers 1, or 0 for a cell that does not exist.
 /// "Tellurix.CellPlace": MAKEWPARAM(row, column), pointer to a RECT that gets the cell's place in the
@@ -37,14 +40,15 @@ private:
     void showCurrentCell();
     void pressed(POINT point, bool twice);
     void scrollBar(int bar, WORD request);
-    void wheel(int delta);
-    void scrollByUser(int firstRow, int left);
+    /// @return false when there is nothing left to scroll to
+    bool wheel(UINT message, WPARAM wParam);
+    bool scrollByUser(int firstRow, int left);
     LRESULT answerCellText(int row, int column, wchar_t* text) const;
     LRESULT answerCellPlace(int row, int column, RECT* place);
 
     ui::Grid& grid_;
     GridGeometry geometry_;
-    int wheelRest_ = 0;
+    Wheel wheel_;
 };
 
 } // namespace tellurix::windows

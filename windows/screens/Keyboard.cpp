@@ -62,6 +62,12 @@ bool Keyboard::handle(ControlView* view, UINT message, WPARAM wParam, LPARAM lPa
     }
 }
 
+void Keyboard::fetched(UINT message) {
+    const bool buttonOrWheel = (message > WM_MOUSEMOVE && message <= WM_MOUSEHWHEEL) ||
+                               (message > WM_NCMOUSEMOVE && message <= WM_NCXBUTTONDBLCLK);
+    if (buttonOrWheel) forgetCtrl();
+}
+
 bool Keyboard::down(ControlView* view, WPARAM code, LPARAM details) {
     const bool repeated = (HIWORD(details) & KF_REPEAT) != 0;
     const KeyDown key = pressed(code);

@@ -19,6 +19,8 @@ public:
     bool handle(ControlView* view, UINT message, WPARAM wParam, LPARAM lParam);
     /// What Ctrl was pressed for was not the picker.
     void forgetCtrl() { ctrlAlone_ = false; }
+    /// A message for whatever window: Ctrl held while the mouse is used does not pick.
+    void fetched(UINT message);
 
 private:
     bool down(ControlView* view, WPARAM code, LPARAM details);

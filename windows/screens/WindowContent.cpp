@@ -127,6 +127,17 @@ void WindowContent::scroll(int bar, WORD request) {
     }
 }
 
+void WindowContent::wheel(UINT message, WPARAM wParam) {
+    RECT client{};
+    GetClientRect(window_, &client);
+    const Wheel::Turn turn =
+        wheel_.turned(message, wParam, {theme_.lineHeight(), static_cast<int>(client.bottom)},
+                      {theme_.characterWidth(), static_cast<int>(client.right)});
+    const int x = turn.across ? turn.units : 0;
+    const int y = turn.across ? 0 : turn.units;
+    scrollTo(static_cast<int>(scrolled_.x) + x, static_cast<int>(scrolled_.y) + y);
+}
+
 /// On a screen that is too small for the window, the control that has the focus is never out of sight.
 void WindowContent::reveal(const RECT& rect) {
     RECT client{};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/Part.h"
+#include "screens/Wheel.h"
 
 #include <memory>
 
@@ -30,6 +31,8 @@ public:
     /// @param bar SB_VERT or SB_HORZ
     /// @param request SB_LINEUP and so on
     void scroll(int bar, WORD request);
+    /// @param message WM_MOUSEWHEEL or WM_MOUSEHWHEEL
+    void wheel(UINT message, WPARAM wParam);
     /// On a screen that is too small for the window, the control that has the focus is never out of sight.
     void reveal(const RECT& rect);
 
@@ -44,6 +47,7 @@ private:
     const Theme& theme_;
     std::unique_ptr<Part> content_;
     POINT scrolled_{};
+    Wheel wheel_;
     RECT arranged_{}; ///< where the content stands
     bool roomChanged_ = true;
     bool sizedByUser_ = false;

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <atomic>
-#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -23,6 +22,8 @@ constexpr int marks = 1000;
 /// Tells the marks apart; a keyboard's scan code has seven bits for it.
 constexpr WORD markNumbers = 0x7F;
 std::atomic<WORD> fetchedMark{0};
+/// Lets the grids of this process answer.
+constexpr wchar_t driverAtom[] = L"Tellurix.TestDriver";
 constexpr wchar_t nameProperty[] = L"Tellurix.Name";
 
 /// Set when a mark has been fetched; it may be one of those that were sent again for the mark before.
@@ -100,9 +101,12 @@ std::string plain(const std::string& caption) {
 } // namespace
 
 WindowsUser::WindowsUser(DWORD thread)
-    : thread_(thread), hook_(SetWindowsHookExW(WH_GETMESSAGE, watch, nullptr, thread)) {}
+    : thread_(thread), hook_(SetWindowsHookExW(WH_GETMESSAGE, watch, nullptr, thread)) {
+    AddAtomW(driverAtom);
+}
 
 WindowsUser::~WindowsUser() {
+    DeleteAtom(FindAtomW(driverAtom));
     UnhookWindowsHookEx(hook_);
 }
 
@@ -181,6 +185,19 @@ void WindowsUser::type(const std::string& text) {
         send({keyInput(0, unit, KEYEVENTF_UNICODE), keyInput(0, unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP)});
         settle();
     }
+}
+
+void WindowsUser::withCtrl(const std::function<void()>& act) {
+    send({keyInput(VK_CONTROL, 0, 0)});
+    settle(); // what is posted would come before a key
+    act();
+    send({keyInput(VK_CONTROL, 0, KEYEVENTF_KEYUP)});
+    settle();
+}
+
+void WindowsUser::wheel(HWND window, int delta, WORD keys, UINT message) {
+    post(window, message, MAKEWPARAM(keys, static_cast<WORD>(delta)), 0);
+    settle();
 }
 
 void WindowsUser::post(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

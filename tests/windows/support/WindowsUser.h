@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,10 @@ public:
 
     void key(const ui::KeyDown& key);
     void type(const std::string& text);
+    /// Does something while Ctrl is held.
+    void withCtrl(const std::function<void()>& act);
+    /// Turns the wheel over a window. @param keys MK_SHIFT and the like
+    void wheel(HWND window, int delta, WORD keys = 0, UINT message = WM_MOUSEWHEEL);
     /// Presses and releases the left button in the middle of a window, or at a fraction of its height.
     void click(HWND window, int part = 1, int parts = 2);
     /// A click on the first column of a grid's row, or two quick ones.
