@@ -23,14 +23,23 @@ Room ButtonView::measure() const {
 void ButtonView::draw() {
     if (button_.picture() != shownPicture_) {
         shownPicture_ = button_.picture();
-        HICON before = icon_;
-        icon_ = makePicture(shownPicture_, theme().scaled(16), GetSysColor(COLOR_BTNTEXT));
-        const LONG_PTR style = GetWindowLongPtrW(handle(), GWL_STYLE) & ~LONG_PTR{BS_ICON};
-        SetWindowLongPtrW(handle(), GWL_STYLE, icon_ == nullptr ? style : style | BS_ICON);
-        SendMessageW(handle(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon_));
-        if (before != nullptr) DestroyIcon(before);
+        drawPicture();
     }
     showText(widen(button_.caption()));
+}
+
+void ButtonView::drawPicture() {
+    HICON before = icon_;
+    icon_ = makePicture(shownPicture_, theme().scaled(16), GetSysColor(COLOR_BTNTEXT));
+    const LONG_PTR style = GetWindowLongPtrW(handle(), GWL_STYLE) & ~LONG_PTR{BS_ICON};
+    SetWindowLongPtrW(handle(), GWL_STYLE, icon_ == nullptr ? style : style | BS_ICON);
+    SendMessageW(handle(), BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon_));
+    if (before != nullptr) DestroyIcon(before);
+}
+
+LRESULT ButtonView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SYSCOLORCHANGE && icon_ != nullptr) drawPicture();
+    return native(message, wParam, lParam);
 }
 
 /// A picture is explained by its caption.

@@ -18,6 +18,8 @@ public:
 
 private:
     void draw() override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void drawPicture();
     std::string tip() const override;
 
     ui::Button& button_;

@@ -75,6 +75,11 @@ Theme::Theme()
     characterWidth_ = static_cast<int>(std::max(metrics.tmAveCharWidth, digit.cx));
 }
 
+void Theme::readColours() {
+    pageColour_ = colourOfPages();
+    pageBrush_.replace(CreateSolidBrush(pageColour_));
+}
+
 COLORREF Theme::warningColour() const {
     return isHighContrast() ? GetSysColor(COLOR_HOTLIGHT) : RGB(163, 34, 27);
 }

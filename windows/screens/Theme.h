@@ -6,11 +6,14 @@
 
 namespace tellurix::windows {
 
-/// How things look and how large they are: the font, colours and resolution of the system at the
-/// moment a window opens. All sizes are pixels of that resolution.
+/// How things look and how large they are: the font and resolution of the system at the moment a window
+/// opens, and its colours. All sizes are pixels of that resolution.
 class Theme {
 public:
     Theme();
+
+    /// Takes over the system's colours, when they have changed.
+    void readColours();
 
     HFONT font() const { return font_; }
     HFONT boldFont() const { return boldFont_; }

@@ -28,6 +28,7 @@ HWND Win32Display::topWindow() const {
 void Win32Display::showModal(ui::Form& form) {
     struct Shown {
         explicit Shown(Win32Display& on, ui::Form& form) : display(on) {
+            const SystemLook look;
             display.windows_.push_back(
                 std::make_unique<WindowFrame>(form, display.topWindow(), display.state_));
         }
@@ -61,6 +62,7 @@ ui::Event Win32Display::nextEvent() {
                 PostQuitMessage(static_cast<int>(message.wParam));
                 throw MessageLoopEnded{};
             }
+            top.fetched(message.message);
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }
@@ -78,7 +80,7 @@ void Win32Display::draw() {
 
 ui::Answer Win32Display::messageBox(const std::string& text, int flags, const std::string& title) {
     draw();
-    const VisualStyles styles;
+    const SystemLook look;
     HWND owner = topWindow();
     const UINT style = static_cast<UINT>(flags) | (owner == nullptr ? MB_TASKMODAL : 0U);
     const int pressed = MessageBoxW(owner, widen(text).c_str(), widen(title).c_str(), style);

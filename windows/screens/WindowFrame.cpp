@@ -26,7 +26,6 @@ WindowFrame::WindowFrame(ui::Form& form, HWND owner, const DisplayState& display
           }
           happened(std::move(event));
       }) {
-    const VisualStyles styles;
     makeWindow();
     try {
         makeViews();
@@ -100,6 +99,7 @@ void WindowFrame::makeViews(const ui::Layout& layout, bool onPage) {
 
 void WindowFrame::draw() {
     if (lost()) return;
+    const SystemLook look;
     if (form_.titleDirty()) {
         SetWindowTextW(window_, widen(form_.title()).c_str());
         form_.titleDrawn();
@@ -123,6 +123,7 @@ void WindowFrame::placeFocus() {
     ControlView& view = *views_[focused->id()];
     if (GetFocus() == view.handle()) return;
     SetFocus(view.handle());
+    const SystemLook look;
     content_->reveal(view.rect());
 }
 
@@ -172,6 +173,14 @@ LRESULT CALLBACK WindowFrame::procedure(HWND window, UINT message, WPARAM wParam
     }
 }
 
+/// Only windows without a parent are told by the system. Sizes stay those of the moment it was opened.
+void WindowFrame::lookChanged(UINT message, WPARAM wParam, LPARAM lParam) {
+    theme_.readColours();
+    for (const auto& view : views_)
+        if (view != nullptr) SendMessageW(view->handle(), message, wParam, lParam);
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
 ControlView* WindowFrame::viewWith(HWND window) const {
     for (const auto& view : views_)
         if (view != nullptr && window != nullptr && view->has(window)) return view.get();
@@ -199,8 +208,10 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS:
         placeFocus();
         return 0;
-    case WM_PARENTNOTIFY:
-        keyboard_.forgetCtrl();
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
+        lookChanged(message, wParam, lParam);
         break;
     case WM_SETCURSOR:
         if (display_.busy == 0) break;
@@ -271,7 +282,8 @@ std::optional<LRESULT> WindowFrame::handleForContent(UINT message, WPARAM wParam
         if (lParam == 0) content_->scroll(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
         return 0;
     case WM_MOUSEWHEEL:
-        content_->scroll(SB_VERT, static_cast<short>(HIWORD(wParam)) > 0 ? SB_LINEUP : SB_LINEDOWN);
+    case WM_MOUSEHWHEEL:
+        content_->wheel(message, wParam);
         return 0;
     default:
         return std::nullopt;

@@ -19,7 +19,7 @@ namespace tellurix::windows {
 /// gathers what the user does as events. All other windows of the thread wait while it is open.
 class WindowFrame final : private ViewHost {
 public:
-    /// Makes the window; the first drawing shows it.
+    /// Makes the window, while a `SystemLook` lives; the first drawing shows it.
     /// @param owner the window it belongs to, null for none
     /// @param display lives longer than the window, and may change meanwhile
     WindowFrame(ui::Form& form, HWND owner, const DisplayState& display);
@@ -34,6 +34,8 @@ public:
     void draw();
     /// Gives the native focus to the control that has the form's.
     void placeFocus();
+    /// A message that the thread has fetched for any of its windows.
+    void fetched(UINT message) { keyboard_.fetched(message); }
 
     /// While it listens, what its windows report is what the user did. What they report at other times
     /// was caused by the program.
@@ -69,6 +71,7 @@ private:
     void makeViews();
     void makeViews(const ui::Layout& layout, bool onPage);
     void show();
+    void lookChanged(UINT message, WPARAM wParam, LPARAM lParam);
     void close();
     static void wake();
 

@@ -12,7 +12,7 @@
 namespace tellurix::windows {
 
 std::optional<std::string> chooseFile(HWND owner, const std::string& title, const std::string& filter) {
-    const VisualStyles styles;
+    const SystemLook look;
     const std::wstring caption = widen(title);
     // Windows separates its filters by zeros, with another one at the end.
     std::wstring filters = widen(filter) + L'\0';

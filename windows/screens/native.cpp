@@ -39,6 +39,17 @@ private:
     HANDLE handle_;
 };
 
+/// DPI_AWARENESS_CONTEXT_SYSTEM_AWARE
+const HANDLE resolutionOfMainScreen = reinterpret_cast<HANDLE>(LONG_PTR{-2});
+
+/// @return what was in force before; null where Windows has one resolution for a whole process
+HANDLE setResolution(HANDLE context) {
+    using Set = HANDLE(WINAPI*)(HANDLE);
+    static const auto set = reinterpret_cast<Set>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetThreadDpiAwarenessContext")));
+    return set == nullptr ? nullptr : set(context);
+}
+
 } // namespace
 
 HINSTANCE moduleInstance() {
@@ -94,6 +105,12 @@ VisualStyles::VisualStyles() {
 
 VisualStyles::~VisualStyles() {
     if (cookie_ != 0) DeactivateActCtx(0, cookie_);
+}
+
+SystemResolution::SystemResolution() : before_(setResolution(resolutionOfMainScreen)) {}
+
+SystemResolution::~SystemResolution() {
+    if (before_ != nullptr) setResolution(before_);
 }
 
 } // namespace tellurix::windows

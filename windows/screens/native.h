@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <utility>
 
 namespace tellurix::windows {
 
@@ -33,7 +34,7 @@ void forgetName(HWND window);
 
 std::wstring windowText(HWND window);
 
-/// While it lives, windows and dialogs are made with visual styles, whatever the host's own are.
+/// While it lives, windows and dialogs are made with visual styles.
 class VisualStyles {
 public:
     VisualStyles();
@@ -45,6 +46,25 @@ private:
     ULONG_PTR cookie_ = 0;
 };
 
+/// While it lives, windows are measured in the resolution of the main screen, which is what all sizes of
+/// ours are in; the host's thread may have asked for that of each screen.
+class SystemResolution {
+public:
+    SystemResolution();
+    ~SystemResolution();
+    SystemResolution(const SystemResolution&) = delete;
+    SystemResolution& operator=(const SystemResolution&) = delete;
+
+private:
+    HANDLE before_;
+};
+
+/// While it lives, windows and dialogs are made as ours are, whatever the host's own look like.
+struct SystemLook {
+    VisualStyles styles;
+    SystemResolution resolution;
+};
+
 /// A pen, brush, font or bitmap that goes with its owner.
 template <typename Handle>
 class GdiObject {
@@ -54,6 +74,7 @@ public:
     GdiObject(const GdiObject&) = delete;
     GdiObject& operator=(const GdiObject&) = delete;
     operator Handle() const { return handle_; }
+    void replace(Handle handle) { DeleteObject(std::exchange(handle_, handle)); }
 
 private:
     Handle handle_;

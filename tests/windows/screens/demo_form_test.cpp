@@ -210,6 +210,8 @@ TEST_F(DemoFormOnWindows, CtrlAloneF4AndTheSmallButtonPick) {
     };
     goTo("txtKunde");
     ctrl('C');
+    user.withCtrl([&] { user.wheel(user.control("txtKunde"), -WHEEL_DELTA); });
+    user.withCtrl([&] { user.click(user.top(), 1, 1); }); // on free ground
     EXPECT_EQ(WindowsUser::nameOf(user.top()), "DemoForm");
     press(Key::ctrl);
     pickThird();
@@ -317,6 +319,31 @@ TEST_F(DemoFormOnWindows, TheGridHasACurrentCell) {
     EXPECT_EQ(text("txtState"), "Zeile 43");
     press(Key::tab);
     EXPECT_EQ(user.focused(), "lstSorts");
+}
+
+TEST_F(DemoFormOnWindows, PicturesFollowTheSystemsColours) {
+    const auto pictureHas = [&](COLORREF colour) {
+        ICONINFO icon{};
+        GetIconInfo(
+            reinterpret_cast<HICON>(SendMessageW(user.control("btnDelete"), BM_GETIMAGE, IMAGE_ICON, 0)),
+            &icon);
+        HDC dc = CreateCompatibleDC(nullptr);
+        SelectObject(dc, icon.hbmColor);
+        bool found = false;
+        for (int pixel = 0; pixel < 16 * 16; ++pixel)
+            found = found || GetPixel(dc, pixel % 16, pixel / 16) == colour;
+        DeleteDC(dc);
+        DeleteObject(icon.hbmColor);
+        DeleteObject(icon.hbmMask);
+        return found;
+    };
+    const int element = COLOR_BTNTEXT;
+    const COLORREF before = GetSysColor(element);
+    const COLORREF yellow = RGB(255, 255, 0);
+    EXPECT_FALSE(pictureHas(yellow));
+    SetSysColors(1, &element, &yellow);
+    EXPECT_TRUE(eventually([&] { return pictureHas(yellow); }));
+    SetSysColors(1, &element, &before);
 }
 
 TEST_F(DemoFormOnWindows, PagesOfTabs) {

@@ -40,14 +40,16 @@ struct Held {
     bool operator==(const Held&) const = default;
 };
 
-/// A table that is edited in place: its numbers take digits only, and "7" is not written.
+/// A table that is edited in place, wider than its window has to be: its numbers take digits only, and "7" is
+/// not written.
 class EditedTable final : public ui::Form {
 public:
     EditedTable() : Form("EditedTable", "Tabelle") {
-        grdTable.setColumns({{"Text", 12, false}, {"Zahl", 8, true}});
+        grdTable.setColumns(
+            {{"Text", 12, false}, {"Zahl", 8, true}, {"Preis", 12, true}, {"Summe", 12, true}});
         std::vector<ui::Grid::Row> rows;
         for (int i = 0; i < 40; ++i)
-            rows.push_back({"Zeile", std::to_string(i)});
+            rows.push_back({"Zeile", std::to_string(i), "98,40", "9.840,00"});
         grdTable.setRows(std::move(rows));
         grdTable.setCurrent(0, 1);
         txtCell.onKeyPress = [](char32_t& character) {
@@ -179,6 +181,76 @@ TEST(WindowsOfScreens, EndWithTheirOwnerOrTheThreadWhateverIsOpen) {
             EXPECT_EQ(outcome.ownerEnabled, !byOwner);
             EXPECT_EQ(state, "offen|||") << "nothing was answered";
         }
+}
+
+/// A function of newer systems than those that these programs are built for.
+template <typename Function>
+Function* newer(const char* name) {
+    return reinterpret_cast<Function*>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), name)));
+}
+
+TEST(WindowsOfScreens, HaveTheResolutionOfTheMainScreenWhateverTheHostsThreadHas) {
+    const HANDLE ofEachScreen = reinterpret_cast<HANDLE>(LONG_PTR{-3});
+    auto* const setOfThread = newer<HANDLE WINAPI(HANDLE)>("SetThreadDpiAwarenessContext");
+    auto* const contextOf = newer<HANDLE WINAPI(HWND)>("GetWindowDpiAwarenessContext");
+    auto* const kindOf = newer<int WINAPI(HANDLE)>("GetAwarenessFromDpiAwarenessContext");
+    HANDLE after = nullptr;
+    HostThread host{[&](windows::Win32Display& display) {
+        setOfThread(ofEachScreen);
+        workbench::DemoForm form{display};
+        display.showModal(form);
+        after = setOfThread(ofEachScreen);
+    }};
+    HWND grid = nullptr;
+    {
+        WindowsUser user{host.id()};
+        ASSERT_TRUE(isOpen(user, "DemoForm"));
+        EXPECT_EQ(kindOf(contextOf(user.top())), 1) << "that of the system";
+        grid = user.control("grdLines");
+        EXPECT_FALSE(WindowsUser::rowOf(grid, 0).empty());
+    }
+    EXPECT_TRUE(WindowsUser::rowOf(grid, 0).empty()) << "no test driver, no answer";
+    PostMessageW(GetParent(grid), WM_CLOSE, 0, 0);
+    host.waitUntilClosed();
+    host.join();
+    EXPECT_EQ(kindOf(after), 2) << "as the host had it";
+}
+
+TEST(WindowsOfScreens, TheGridFollowsTheWheel) {
+    HostThread host{[](windows::Win32Display& display) {
+        EditedTable form;
+        display.showModal(form);
+    }};
+    WindowsUser user{host.id()};
+    ASSERT_TRUE(isOpen(user, "EditedTable"));
+    SetWindowPos(user.top(), nullptr, 0, 0, 1, 1, SWP_NOMOVE | SWP_NOZORDER); // as small as it gets
+    const struct {
+        const char* rule;
+        int delta;
+        WORD keys;
+        UINT message;
+        int rows;
+        int across; ///< direction
+    } cases[] = {
+        {"three rows a notch", -WHEEL_DELTA, 0, WM_MOUSEWHEEL, 3, 0},
+        {"half a notch", -WHEEL_DELTA / 2, 0, WM_MOUSEWHEEL, 1, 0},
+        {"and another half", -WHEEL_DELTA / 2, 0, WM_MOUSEWHEEL, 2, 0},
+        {"Shift goes across", -WHEEL_DELTA, MK_SHIFT, WM_MOUSEWHEEL, 0, 1},
+        {"a tilted wheel, back", -WHEEL_DELTA, 0, WM_MOUSEHWHEEL, 0, -1},
+        {"and forth", WHEEL_DELTA, 0, WM_MOUSEHWHEEL, 0, 1},
+    };
+    HWND grid = user.control("grdTable");
+    for (const auto& row : cases) {
+        const int rows = GetScrollPos(grid, SB_VERT);
+        const int across = GetScrollPos(grid, SB_HORZ);
+        user.wheel(grid, row.delta, row.keys, row.message);
+        EXPECT_EQ(GetScrollPos(grid, SB_VERT) - rows, row.rows) << row.rule;
+        const int moved = GetScrollPos(grid, SB_HORZ) - across;
+        EXPECT_EQ((moved > 0) - (moved < 0), row.across) << row.rule;
+    }
+    user.close();
+    EXPECT_FALSE(host.join().ended);
 }
 
 TEST(EditingInPlace, TheBoxFloatsOverItsCell) {
