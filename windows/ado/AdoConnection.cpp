@@ -8,7 +8,24 @@
 
 namespace tellurix::windows::ado {
 
+namespace {
+
+/// What the next statement of a batch answered; Nothing when there is none.
+Variant next(Dispatch& recordset, Variant& affected) {
+    constexpr HRESULT notSupported = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 3251);
+    try {
+        return recordset.call(L"NextRecordset", {Variant::reference(affected)});
+    } catch (const AutomationError& error) {
+        // A provider that knows one answer a statement.
+        if (error.code() != notSupported) throw;
+        return ComPtr<IDispatch>();
+    }
+}
+
+} // namespace
+
 common::ExecuteResult AdoConnection::execute(std::string_view statement) {
+    forgetErrors(connection_);
     return reported(connection_, statement, [&] {
         common::ExecuteResult result;
         Variant affected = -1;
@@ -26,12 +43,13 @@ common::ExecuteResult AdoConnection::execute(std::string_view statement) {
                 return result;
             }
             affected = -1;
-            answer = recordset.call(L"NextRecordset", {Variant::reference(affected)});
+            answer = next(recordset, affected);
         }
     });
 }
 
 std::unique_ptr<common::UpdatableRecordset> AdoConnection::openUpdatable(std::string_view query) {
+    forgetErrors(connection_);
     return reported(connection_, query, [&] {
         Dispatch recordset = newRecordset();
         recordset.call(L"Open", {Variant(query), Variant(connection_.object()), Variant(adOpenKeyset),

@@ -85,6 +85,7 @@ Variant AdoRecordset::written(Field& field, const common::Value& value) const {
 void AdoRecordset::update() {
     requireRow();
     if (changes_.empty()) return;
+    forgetErrors(connection_);
     try {
         reported([&] {
             for (const auto& [index, value] : changes_)
@@ -109,6 +110,7 @@ void AdoRecordset::leaveEditing() {
 
 void AdoRecordset::remove() {
     requireRow();
+    forgetErrors(connection_);
     reported([&] { recordset_.call(L"Delete", {adAffectCurrent}); });
     removed_ = true;
     changes_.clear();

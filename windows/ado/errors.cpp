@@ -89,7 +89,7 @@ Category categoryOfCode(HRESULT code) {
     }
 }
 
-/// What a server said, gathered from the connection's Errors.
+/// What a server said, taken out of the connection's Errors.
 struct Report {
     std::string text;
     std::int32_t number = 0;
@@ -112,10 +112,19 @@ Report reportOf(Dispatch& connection) {
         }
         report.text += error.get(L"Description").text();
     }
+    errors.call(L"Clear");
     return report;
 }
 
 } // namespace
+
+void forgetErrors(Dispatch& connection) {
+    try {
+        Dispatch(connection.get(L"Errors")).call(L"Clear");
+    } catch (const AutomationError&) {
+        // The statement itself will say what is wrong with the connection.
+    }
+}
 
 common::DatabaseError databaseError(const AutomationError& error, Dispatch& connection,
                                     std::string_view statement) {

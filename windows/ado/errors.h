@@ -14,6 +14,10 @@ namespace tellurix::windows::ado {
 common::DatabaseError databaseError(const AutomationError& error, Dispatch& connection,
                                     std::string_view statement);
 
+/// Forgets what an earlier statement, the host's own perhaps, left in the connection's Errors: a failure
+/// that ADO itself raises would be told by it.
+void forgetErrors(Dispatch& connection);
+
 /// Runs `work` and turns a failed call of ADO into the error that the database port promises.
 template <typename Work>
 auto reported(Dispatch& connection, std::string_view statement, const Work& work) -> decltype(work()) {

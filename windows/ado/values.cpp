@@ -3,6 +3,8 @@
 #include "ado/constants.h"
 #include "automation/AutomationError.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 
@@ -46,6 +48,15 @@ DECIMAL decimalOf(CY amount) {
     DECIMAL number{};
     check(VarDecFromCy(amount, &number), "Reading an amount of money");
     return number;
+}
+
+/// The number that the single stands for: 0.1 is 0.1 and not 0.100000001.
+double doubleFrom(float number) {
+    std::array<char, 32> text{};
+    const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    double value = number;
+    std::from_chars(text.data(), end, value);
+    return value;
 }
 
 bool isIntegral(FieldType type) {
@@ -161,8 +172,10 @@ common::Value valueOf(const VARIANT& value, FieldType type) {
         return std::int64_t{value.ulVal};
     case VT_I8:
         return std::int64_t{value.llVal};
+    case VT_UI8:
+        return std::int64_t{Variant::copyOf(value).as(VT_I8).llVal};
     case VT_R4:
-        return double{value.fltVal};
+        return doubleFrom(value.fltVal);
     case VT_R8:
         return value.dblVal;
     case VT_CY:

@@ -47,13 +47,17 @@ struct Reported {
     const char* text;
 };
 
-/// A connection on which every statement fails.
+/// A connection on which every statement fails. Its Errors have one of another statement before.
 Dispatch failing(HRESULT code, const std::vector<Reported>& reported) {
-    const auto count = static_cast<std::int32_t>(reported.size());
+    const auto all = std::make_shared<std::vector<Reported>>();
+    all->push_back({E_FAIL, 102, "42000", "von vorhin"});
     DispatchTable errors;
-    errors.method<Fixed>(L"Count", answering(count));
-    errors.method<Fixed>(L"Item", [reported](Fixed&, const CallArguments& arguments) {
-        const Reported& error = reported.at(static_cast<std::size_t>(arguments[0].integer()));
+    errors.method<Fixed>(L"Clear", [all](Fixed&, const CallArguments&) { all->clear(); });
+    errors.method<Fixed>(L"Count", [all](Fixed&, const CallArguments&) -> Variant {
+        return static_cast<std::int32_t>(all->size());
+    });
+    errors.method<Fixed>(L"Item", [all](Fixed&, const CallArguments& arguments) {
+        const Reported& error = all->at(static_cast<std::size_t>(arguments[0].integer()));
         DispatchTable table;
         table.method<Fixed>(L"Number", answering(std::int32_t{error.number}));
         table.method<Fixed>(L"NativeError", answering(error.native));
@@ -63,7 +67,8 @@ Dispatch failing(HRESULT code, const std::vector<Reported>& reported) {
     });
     DispatchTable connection;
     connection.method<Fixed>(L"Errors", answering(fixed(errors)));
-    connection.method<Fixed>(L"Execute", [code](Fixed&, const CallArguments&) -> Variant {
+    connection.method<Fixed>(L"Execute", [code, all, reported](Fixed&, const CallArguments&) -> Variant {
+        if (!reported.empty()) *all = reported;
         throw AutomationError(code, "What the call says", "Provider");
     });
     return Dispatch(fixed(connection));
@@ -90,16 +95,28 @@ TEST(AdoErrors, AreWhatTheServerReported) {
          {{S_OK, 5701, "01000", "Datenbank gewechselt"}, {inCommand, 99999, "22003", "Überlauf"}},
          "conversion: Überlauf (Provider, 99999)"},
         {E_FAIL, {{E_FAIL, 0, "08S01", "Leitung weg"}}, "connection: Leitung weg"},
-        // ADO's own errors leave those of the statement before where they are.
-        {ofAdo(3704),
-         {{inCommand, 102, "42000", "von vorhin"}},
-         "connection: What the call says (Provider, 3704)"},
+        // ADO's own failures leave the Errors as they are.
+        {ofAdo(3704), {}, "connection: What the call says (Provider, 3704)"},
         {E_FAIL, {}, "other: What the call says"},
     };
     for (const Case& one : cases) {
         AdoConnection connection(failing(one.code, one.errors));
         EXPECT_EQ(embedded::failureOf([&] { connection.execute("SELECT 1"); }), one.expected);
     }
+}
+
+TEST(AdoWrites, OfAProviderThatKnowsOneAnswerAStatementAreDone) {
+    DispatchTable closed;
+    closed.method<Fixed>(L"State", answering(adStateClosed));
+    closed.method<Fixed>(L"NextRecordset", [](Fixed&, const CallArguments&) -> Variant {
+        throw AutomationError(MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 3251), "Not supported");
+    });
+    DispatchTable connection;
+    connection.method<Fixed>(L"Execute", [closed](Fixed&, const CallArguments& arguments) -> Variant {
+        arguments.write(1, 3);
+        return fixed(closed);
+    });
+    EXPECT_EQ(AdoConnection(Dispatch(fixed(connection))).execute("DELETE FROM T").rowsAffected, 3);
 }
 
 DECIMAL decimal(ULONG high, ULONGLONG low, BYTE scale, bool negative = false) {
@@ -129,7 +146,8 @@ TEST(AdoValues, OfEveryKindAreRead) {
         // 2^64 / 10^12: more than 18 digits, of which the last are decimals that can be spared.
         {Variant(decimal(1, 0, 12)), FieldType::decimal, "18446744.0737095516"},
         {Variant(decimal(0, 9'999'999'999'999'999'995ULL, 3)), FieldType::decimal, "10000000000000000.0"},
-        {Variant(0.5).as(VT_R4), FieldType::floating, "0.5"},
+        {Variant(std::int64_t{9'000'000'000}).as(VT_UI8), FieldType::bigInteger, "9000000000"},
+        {Variant(0.1).as(VT_R4), FieldType::floating, "0.1"},
         {Variant("Fichte ä€"), FieldType::text, "Fichte ä€"},
         {Variant::oleDate(45813.604166666664), FieldType::dateTime, "2025-06-05 14:30:00"},
         {Variant::oleDate(-1.25), FieldType::dateTime, "1899-12-29 06:00:00"},
