@@ -1,6 +1,5 @@
 #include "component/Apartment.h"
 
-
 namespace tellurix::windows {
 
 Apartment::Apartment() {
