@@ -1,5 +1,7 @@
 #include "screens/Wheel.h"
 
+#include <climits> // WHEEL_PAGESCROLL is made of its UINT_MAX
+
 namespace tellurix::windows {
 
 namespace {
