@@ -114,13 +114,10 @@ void LineEditor::LoadGrid() {
 
     const std::int64_t current = hasLines() ? idOf(MSFlexGrid1.currentRow()) : noRow;
     std::vector<ui::Grid::Row> rows;
-    std::vector<Line> misplaced;
     ids_.clear();
     for (Line& line : lines) {
         rows.push_back(std::move(line.cells));
         ids_.push_back(line.id);
-        const auto place = static_cast<std::int64_t>(ids_.size());
-        if (line.place != place) misplaced.push_back({line.id, place, {}});
     }
     MSFlexGrid1.setRows(std::move(rows));
     if (const auto found = std::ranges::find(ids_, current); found != ids_.end()) {
@@ -128,10 +125,12 @@ void LineEditor::LoadGrid() {
     } else if (MSFlexGrid1.currentRow() == ui::Grid::none && hasLines()) {
         MSFlexGrid1.setCurrent(0);
     }
-    for (const Line& line : misplaced) {
+    std::int64_t place = 0;
+    for (const Line& line : lines) {
+        if (line.place == ++place) continue;
         const auto record = session_.connection->openUpdatable(statements_.lineOf(line.id));
         if (record->atEnd()) continue; // deleted by somebody else a moment ago
-        record->setField("Ordnung", *line.place);
+        record->setField("Ordnung", place);
         record->update();
     }
     linesChanged();

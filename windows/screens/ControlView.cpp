@@ -105,15 +105,8 @@ LRESULT CALLBACK ControlView::procedure(HWND window, UINT message, WPARAM wParam
 }
 
 LRESULT ControlView::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (host_.keyboard(*this, message, wParam, lParam)) return 0;
     switch (message) {
-    case WM_KEYDOWN:
-    case WM_KEYUP:
-    case WM_SYSKEYDOWN:
-    case WM_SYSKEYUP:
-    case WM_CHAR:
-    case WM_SYSCHAR:
-        if (host_.keyboard(*this, message, wParam, lParam)) return 0;
-        break;
     case WM_NCDESTROY: {
         forgetName(handle_);
         const LRESULT result = native(message, wParam, lParam);

@@ -28,7 +28,7 @@ public:
     virtual ControlView& viewOf(const ui::Control& control) = 0;
     /// Whether the control that the form gives the focus is this one.
     virtual bool isFocused(const ControlView& view) const = 0;
-    /// Deals with a keyboard message for a view. @return false when the native control gets it
+    /// Deals with a message for a view if it is the keyboard's. @return false when the native control gets it
     virtual bool keyboard(ControlView& view, UINT message, WPARAM wParam, LPARAM lParam) = 0;
     /// What the view needs of room changed, or whether it is seen.
     virtual void roomChanged() = 0;

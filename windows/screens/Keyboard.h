@@ -14,6 +14,7 @@ public:
     /// @param tell takes an event, preceded by the selection of the box that has the focus
     explicit Keyboard(std::function<void(ControlView*, ui::Event)> tell) : tell_(std::move(tell)) {}
 
+    /// Deals with a message if it is the keyboard's.
     /// @param view the view that got the message, null for the window itself
     /// @return false when the native control gets it
     bool handle(ControlView* view, UINT message, WPARAM wParam, LPARAM lParam);

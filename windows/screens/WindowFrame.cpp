@@ -188,6 +188,7 @@ ControlView* WindowFrame::viewWith(HWND window) const {
 }
 
 LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (keyboard_.handle(nullptr, message, wParam, lParam)) return 0;
     switch (message) {
     case WM_CLOSE:
         happened(ui::CloseEvent{});
@@ -217,14 +218,6 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         if (display_.busy == 0) break;
         SetCursor(LoadCursorW(nullptr, IDC_WAIT));
         return TRUE;
-    case WM_KEYDOWN:
-    case WM_KEYUP:
-    case WM_SYSKEYDOWN:
-    case WM_SYSKEYUP:
-    case WM_CHAR:
-    case WM_SYSCHAR:
-        if (keyboard_.handle(nullptr, message, wParam, lParam)) return 0;
-        break;
     default:
         break;
     }
