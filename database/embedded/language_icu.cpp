@@ -10,9 +10,6 @@ namespace tellurix::embedded {
 
 namespace {
 
-struct CloseCollator {
-    void operator()(UCollator* collator) const { ucol_close(collator); }
-};
 /// Letter by letter, as the server does it: ß has no upper case.
 std::string mapCase(std::string_view text, UChar32 (*mapping)(UChar32)) {
     std::string mapped;
@@ -26,7 +23,10 @@ std::string mapCase(std::string_view text, UChar32 (*mapping)(UChar32)) {
 } // namespace
 
 struct SortOrder::Rules {
-    std::unique_ptr<UCollator, CloseCollator> collator;
+    struct Close {
+        void operator()(UCollator* collator) const { ucol_close(collator); }
+    };
+    std::unique_ptr<UCollator, Close> collator;
 };
 
 SortOrder::SortOrder() : rules_(std::make_unique<Rules>()) {

@@ -15,7 +15,7 @@ common::Date day(const char* text) {
 }
 
 /// Opens a calendar on a day, lets the user work in it, and gives the answer; "none" when cancelled.
-std::string chosen(const char* start, const ScriptedDisplay::Script& script) {
+std::string chosenDay(const char* start, const ScriptedDisplay::Script& script) {
     ScriptedDisplay display;
     workbench::F_Calendar calendar{"Datum", day(start), day("09.03.2026"), Locale::german()};
     display.onWindow("F_Calendar", script);
@@ -49,7 +49,7 @@ TEST(Calendar, KeysGoOverTheEndsOfMonthsAndYears) {
         {"never after what the database holds", "31.12.9999", Key::pageDown, false, "31.12.9999"},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(chosen(c.start,
+        EXPECT_EQ(chosenDay(c.start,
                          [&](User& user) {
                              user.key(c.key, c.shift);
                              user.key(Key::enter);
@@ -80,7 +80,7 @@ TEST(Calendar, WeeksStartOnMondayAndCarryTheirIsoNumber) {
         {"a month of four weeks has no number beyond it", "05.02.2027", 4, {"", "", "", "", "", "", "", ""}},
     };
     for (const Case& c : cases) {
-        chosen(c.month, [&](User& user) {
+        chosenDay(c.month, [&](User& user) {
             EXPECT_EQ(user.grid("grdDays").rows()[static_cast<std::size_t>(c.row)], c.cells) << c.rule;
             user.key(Key::escape);
         });
@@ -124,11 +124,11 @@ TEST(Calendar, ThePointerAndTheButtonsChoose) {
         {"Esc cancels", [](User& user) { user.key(Key::escape); }, "none"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(chosen("15.02.2026", c.script), c.answer) << c.rule;
+        EXPECT_EQ(chosenDay("15.02.2026", c.script), c.answer) << c.rule;
 }
 
 TEST(Calendar, TellsTheMonthAndTheDay) {
-    chosen("31.01.2026", [](User& user) {
+    chosenDay("31.01.2026", [](User& user) {
         user.key(Key::right);
         EXPECT_EQ(user.caption("lblMonth"), "Februar 2026");
         EXPECT_EQ(user.caption("lblDay"), "Sonntag, 01.02.2026");

@@ -15,7 +15,7 @@ const F_ListPicker::List units{
 const F_ListPicker::CountTexts countTexts{.all = "Einträge: {}", .some = "{} von {}"};
 
 /// The answer of a list that was opened with `current`; "none" when it was cancelled.
-std::string chosen(const std::string& current, const ScriptedDisplay::Script& script) {
+std::string chosenText(const std::string& current, const ScriptedDisplay::Script& script) {
     ScriptedDisplay display;
     F_ListPicker picker{"Einheit", units, countTexts, current};
     display.onWindow("F_ListPicker", script);
@@ -45,7 +45,7 @@ TEST(ListPicker, NarrowsToTheEntriesThatHaveAllWords) {
         {"a word that no entry has", "raum x", ""},
         {"a wildcard stands for itself", "%", ""},
     };
-    chosen("", [&](User& user) {
+    chosenText("", [&](User& user) {
         for (const Case& c : cases) {
             user.type("txtFilter", c.typed);
             EXPECT_EQ(firstColumn(user.grid("grdList")), c.entries) << c.rule;
@@ -91,7 +91,7 @@ TEST(ListPicker, AnswersWhatIsChosen) {
         {"Esc cancels", "FM", [](User& user) { user.key(Key::escape); }, "none"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(chosen(c.current, c.script), c.answer) << c.rule;
+        EXPECT_EQ(chosenText(c.current, c.script), c.answer) << c.rule;
 }
 
 TEST(ListPicker, ALongListShowsItsStartAndReachesTheRestByNarrowing) {
