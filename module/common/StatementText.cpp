@@ -47,12 +47,7 @@ StatementText& StatementText::fixed(std::string_view text) {
 StatementText& StatementText::number(std::string_view typed) {
     std::string plain(typed);
     std::replace(plain.begin(), plain.end(), ',', '.');
-    if (!isPlainNumber(plain)) {
-        refuse(typed, typed.empty()
-                          ? "Hier fehlt eine Zahl. Bitte eine Zahl eingeben, zum Beispiel 12,5."
-                          : "Das ist keine Zahl, die gespeichert werden kann. Bitte nur Ziffern und ein "
-                            "Komma eingeben, ohne Punkte zwischen den Tausendern, zum Beispiel 1250,5.");
-    }
+    if (!isPlainNumber(plain)) refuse(typed, typed.empty() ? OwnText::numberMissing : OwnText::noPlainNumber);
     // Two minus signs in a row would turn the rest of the line into a comment.
     if (text_.ends_with('-') && plain.starts_with('-')) text_ += ' ';
     text_ += plain;
@@ -72,37 +67,30 @@ StatementText& StatementText::quotedAsItStands(std::string_view value) {
 }
 
 StatementText& StatementText::insideLiteral(std::string_view value) {
-    if (!staysInLiteral(value)) {
-        refuse(value, "Der Text enthält einen Apostroph ('), den dieses Feld nicht speichern kann. Bitte den "
-                      "Apostroph weglassen oder durch ´ ersetzen.");
-    }
+    if (!staysInLiteral(value)) refuse(value, OwnText::textWithApostrophe);
     return fixed(value);
 }
 
 StatementText& StatementText::identifier(std::string_view name) {
-    if (!isName(name)) {
-        refuse(
-            name,
-            "Das ist kein Name einer Tabelle oder Spalte. Bitte die Betreuung der Anwendung verständigen.");
-    }
+    if (!isName(name)) refuse(name, OwnText::noName);
     return fixed(name);
 }
 
 std::string StatementText::text() const {
-    if (refused_) {
-        const auto message =
-            refusedValue_.empty() ? refusal_ : "„" + shortened(refusedValue_) + "“: " + refusal_;
-        throw StatementError(message + " Die Anweisung wurde nicht an die Datenbank gesendet.", text_,
-                             refusedValue_);
+    if (refusal_) {
+        std::vector<Refused::Sentence> message;
+        if (!refusedValue_.empty()) message.push_back({OwnText::refusedValue, {shortened(refusedValue_)}});
+        message.push_back({*refusal_});
+        message.push_back({OwnText::nothingSent});
+        throw StatementError(std::move(message), text_, refusedValue_);
     }
     return text_;
 }
 
-void StatementText::refuse(std::string_view value, std::string_view reason) {
-    if (refused_) return;
-    refused_ = true;
-    refusedValue_ = value;
+void StatementText::refuse(std::string_view value, OwnText reason) {
+    if (refusal_) return;
     refusal_ = reason;
+    refusedValue_ = value;
 }
 
 } // namespace tellurix::common

@@ -3,6 +3,7 @@
 #include "common/Refused.h"
 
 #include <concepts>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,8 +14,8 @@ namespace tellurix::common {
 /// the statement does: the place where the server would have reported a syntax error.
 class StatementError : public Refused {
 public:
-    StatementError(const std::string& message, std::string statement, std::string value)
-        : Refused(message), statement_(std::move(statement)), value_(std::move(value)) {}
+    StatementError(std::vector<Sentence> message, std::string statement, std::string value)
+        : Refused(std::move(message)), statement_(std::move(statement)), value_(std::move(value)) {}
 
     const std::string& statement() const { return statement_; }
     const std::string& value() const { return value_; }
@@ -64,17 +65,16 @@ public:
 
     /// The finished statement; a value of its own, because a statement is mostly composed in a temporary.
     /// @throws StatementError naming the statement and the first refused value, with a message for the
-    /// user (German) that says which value was refused, why, and what to do
+    /// user that says which value was refused, why, and what to do
     std::string text() const;
 
 private:
     /// Keeps the first refusal; the text is composed on, so that the error can name the whole statement.
-    void refuse(std::string_view value, std::string_view reason);
+    void refuse(std::string_view value, OwnText reason);
 
     std::string text_;
-    bool refused_ = false;
+    std::optional<OwnText> refusal_;
     std::string refusedValue_;
-    std::string refusal_;
 };
 
 } // namespace tellurix::common

@@ -96,4 +96,15 @@ std::string replaceAll(std::string text, std::string_view from, std::string_view
     return text;
 }
 
+std::string filled(std::string text, const std::vector<std::string>& values) {
+    std::size_t from = 0;
+    for (const std::string& value : values) {
+        const auto at = text.find("{}", from);
+        if (at == std::string::npos) break;
+        text.replace(at, 2, value);
+        from = at + value.size();
+    }
+    return text;
+}
+
 } // namespace tellurix::common

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tellurix::common {
 
@@ -21,5 +22,8 @@ std::string_view trim(std::string_view text);
 
 /// Every `from` replaced by `to`.
 std::string replaceAll(std::string text, std::string_view from, std::string_view to);
+
+/// Puts the values in the places of the "{}" in a text, from left to right.
+std::string filled(std::string text, const std::vector<std::string>& values);
 
 } // namespace tellurix::common

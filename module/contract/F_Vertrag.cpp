@@ -4,6 +4,7 @@
 #include "common/StatementText.h"
 #include "common/date_format.h"
 #include "common/field_text.h"
+#include "common/own_text.h"
 #include "common/text.h"
 #include "contract/F_HeaderVertrag.h"
 #include "contract/header_captions.h"
@@ -13,6 +14,7 @@
 
 namespace tellurix::contract {
 
+using common::OwnText;
 using common::StatementText;
 using ui::column;
 using ui::field;
@@ -175,16 +177,17 @@ void F_Vertrag::ShowHeader() {
         if (!value.empty()) List1.add(ui::plainCaption(caption) + ": " + value);
     };
     const auto caption = [this](int number) { return services_.localizer.text(number, session_); };
+    const auto ownText = [this](OwnText text) { return common::ownText(text, session_.language); };
     const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
 
-    add("Vertragsdatum", common::dateText(header->field("INVDATE")));
+    add(ownText(OwnText::contractDate), common::dateText(header->field("INVDATE")));
     const std::string from = common::dateText(header->field("LIEFERVON"));
     const std::string to = common::dateText(header->field("LIEFERBIS"));
-    if (!from.empty() || !to.empty()) add("Lieferzeitraum", from + " – " + to);
+    if (!from.empty() || !to.empty()) add(ownText(OwnText::deliveryPeriod), from + " – " + to);
     for (std::size_t i = 0; i < captions.dates.size(); ++i) {
         add(caption(captions.dates[i]), common::dateText(header->field("DATE" + std::to_string(i + 1))));
     }
-    add("Lieferadresse", header->text("PLAKURZBEZEICHNUNG"));
+    add(ownText(OwnText::deliveryAddress), header->text("PLAKURZBEZEICHNUNG"));
     add(caption(captions.rechnungsart), header->text("RECHNUNGSART"));
     add(caption(captions.buchungsart), header->text("BUCHUNGSTEXT"));
     add(caption(captions.wahrung), header->flag("EURO") ? host::euro : session_.homeCurrency);

@@ -6,19 +6,18 @@
 namespace tellurix::lines {
 
 using common::Decimal;
+using common::OwnText;
 
 F_OffeneMenge::F_OffeneMenge(host::HostServices& services, const host::TlxVar& session)
-    : Form("F_OffeneMenge", "Offene Menge"), services_(services), session_(session) {
-    grdHolz.setColumns({{.caption = "Nummer", .width = 12},
-                        {.caption = "Datum", .width = 11},
-                        {.caption = "Ha", .width = 8},
-                        {.caption = "Hs", .width = 8},
-                        {.caption = "Maß", .width = 14, .rightAligned = true},
-                        {.caption = "Menge", .width = 14, .rightAligned = true}});
+    : Form("F_OffeneMenge"), services_(services), session_(session) {
     btnSchliessen.onClick = [this] { unload(); };
     setCancelButton(btnSchliessen);
     setLayout(ui::column({lblZeile, ui::Layout{grdHolz}.growing(), lblSumme,
                           ui::field(lblFrueher, lstFrueher), ui::row({btnSchliessen})}));
+}
+
+std::string F_OffeneMenge::text(OwnText text, const std::vector<std::string>& values) const {
+    return common::ownText(text, session_.language, values);
 }
 
 std::string F_OffeneMenge::number(const Decimal& value) const {
@@ -27,11 +26,17 @@ std::string F_OffeneMenge::number(const Decimal& value) const {
 
 void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const std::string& description,
                         const std::string& unit, const Decimal& agreed) {
-    services_.localizer.localize(session_, *this);
+    setTitle(text(OwnText::openQuantity));
+    lblFrueher.setCaption(text(OwnText::claimedEarlier));
+    btnSchliessen.setCaption(text(OwnText::close));
     lblZeile.setCaption(description);
-    auto columns = grdHolz.columns();
-    columns.back().caption = unit.empty() ? "Menge" : unit;
-    grdHolz.setColumns(std::move(columns));
+    grdHolz.setColumns(
+        {{.caption = text(OwnText::logNumber), .width = 12},
+         {.caption = text(OwnText::logDate), .width = 11},
+         {.caption = text(OwnText::logSpecies), .width = 8},
+         {.caption = text(OwnText::logSort), .width = 8},
+         {.caption = text(OwnText::logMeasure), .width = 14, .rightAligned = true},
+         {.caption = unit.empty() ? text(OwnText::logQuantity) : unit, .width = 14, .rightAligned = true}});
     Decimal sum;
     std::vector<ui::Grid::Row> rows;
     for (const DeliveredQuantity::CountedLog& log : explanation.logs) {
@@ -42,16 +47,17 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
     }
     grdHolz.setRows(std::move(rows));
 
-    std::string summary = "Geliefert " + number(sum) + " " + unit + " von " + number(agreed) + " " + unit +
-                          ", offen " + number(agreed - sum) + " " + unit;
-    if (!explanation.unitHasMeasure)
-        summary += ". In dieser Einheit haben Stämme kein Maß, deshalb zählt keiner.";
+    const auto inUnit = [&](const Decimal& value) {
+        return unit.empty() ? number(value) : number(value) + " " + unit;
+    };
+    std::string summary = text(OwnText::deliveredOf, {inUnit(sum), inUnit(agreed), inUnit(agreed - sum)});
+    if (!explanation.unitHasMeasure) summary += ". " + text(OwnText::noMeasureInUnit);
     lblSumme.setCaption(std::move(summary));
 
     lstFrueher.clear();
     for (const DeliveredQuantity::Claim& claim : explanation.earlier) {
-        lstFrueher.add("Zeile " + std::to_string(claim.place) + ": " + std::to_string(claim.logs) +
-                       (claim.logs == 1 ? " Stamm" : " Stämme"));
+        lstFrueher.add(text(claim.logs == 1 ? OwnText::oneLogClaimed : OwnText::logsClaimed,
+                            {std::to_string(claim.place), std::to_string(claim.logs)}));
     }
     services_.display.showModal(*this);
 }

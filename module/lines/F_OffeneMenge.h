@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/own_text.h"
 #include "host/services.h"
 #include "lines/DeliveredQuantity.h"
 #include "ui/Button.h"
@@ -26,6 +27,7 @@ public:
 
 private:
     std::string number(const common::Decimal& value) const;
+    std::string text(common::OwnText text, const std::vector<std::string>& values = {}) const;
 
     host::HostServices& services_;
     const host::TlxVar& session_;
@@ -33,9 +35,9 @@ private:
     ui::Label lblZeile{*this, "lblZeile"};
     ui::Grid grdHolz{*this, "grdHolz", 14};
     ui::Label lblSumme{*this, "lblSumme"};
-    ui::Label lblFrueher{*this, "lblFrueher", "Von früheren Zeilen beansprucht"};
+    ui::Label lblFrueher{*this, "lblFrueher"};
     ui::ListBox lstFrueher{*this, "lstFrueher", 60, 4};
-    ui::Button btnSchliessen{*this, "btnSchliessen", "Schließen"};
+    ui::Button btnSchliessen{*this, "btnSchliessen"};
 };
 
 } // namespace tellurix::lines

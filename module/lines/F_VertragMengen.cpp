@@ -3,6 +3,7 @@
 #include "common/StatementText.h"
 #include "common/field_text.h"
 #include "common/number_format.h"
+#include "common/own_text.h"
 
 namespace tellurix::lines {
 
@@ -121,10 +122,11 @@ void F_VertragMengen::showOpenQuantity() {
     txtOffen.setText(common::formatNumber(agreed_ - quantity, "0.00", services_.locale));
     const Decimal permitted = agreed_ + (agreed_ * overDelivery_.value_or(Decimal{})).dividedByTenTo(2);
     if (quantity > permitted) {
-        txtOffen.setWarning("Überlieferung: geliefert wurden " +
-                            common::formatNumber(quantity, "##,##0.00", services_.locale) +
-                            ", zulässig sind " +
-                            common::formatNumber(permitted, "##,##0.00", services_.locale));
+        const auto number = [this](const Decimal& value) {
+            return common::formatNumber(value, "##,##0.00", services_.locale);
+        };
+        txtOffen.setWarning(common::ownText(common::OwnText::overDelivery, session_.language,
+                                            {number(quantity), number(permitted)}));
     }
 }
 

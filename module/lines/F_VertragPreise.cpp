@@ -175,7 +175,9 @@ std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::stri
         // The cell belongs to another line now.
         cellEditor_.close();
         common::SafeSetFocus(MSFlexGrid1);
-        throw common::Refused{std::string{moved.what()} + " Eingegeben war „" + typed + "“."};
+        std::vector<common::Refused::Sentence> message = moved.sentences();
+        message.push_back({common::OwnText::typedWas, {typed}});
+        throw common::Refused{std::move(message)};
     }
     StatementText statement{"UPDATE VERTRAG_PREISE SET "};
     statement.fixed(column == editedPriceColumn ? "PREIS = " : "PREIS_ABR2 = ")

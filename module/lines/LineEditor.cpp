@@ -10,19 +10,12 @@
 
 namespace tellurix::lines {
 
+using common::OwnText;
 using common::StatementText;
 
 namespace {
 
 constexpr std::int64_t noRow = -1;
-constexpr const char* lineIsGone =
-    "Diese Zeile wurde inzwischen von jemand anderem verschoben oder gelöscht. "
-    "Nach „Bearb. Abbr.“ zeigt die Liste den neuen Stand.";
-constexpr const char* listWasOld =
-    "Die Zeilen wurden inzwischen von jemand anderem verschoben oder gelöscht. "
-    "Die Liste zeigt jetzt den neuen Stand.";
-constexpr const char* nothingWritten = " Es wurde nichts geschrieben.";
-constexpr const char* closeUnsaved = "Die Zeile ist noch nicht gespeichert. Ohne Speichern schließen?";
 
 } // namespace
 
@@ -156,32 +149,32 @@ std::unique_ptr<common::Recordset> LineEditor::openCurrent() {
     LoadGrid();
     enter(state_);
     // The next key may be meant for the line that was here.
-    services_.errors.report(common::Refused{listWasOld});
+    services_.errors.report(common::Refused{OwnText::listWasOld});
     if (!hasLines()) return nullptr;
     auto line = open();
-    if (line->atEnd()) throw common::Refused{lineIsGone};
+    if (line->atEnd()) throw common::Refused{OwnText::lineIsGone};
     return line;
 }
 
 std::unique_ptr<common::Recordset> LineEditor::openInPlace(int row) {
     auto line = session_.connection->open(statements_.keyAndSelectionAt(row + 1));
     if (!line->atEnd() && line->integer("ID") == idOf(row)) return line;
-    if (!viewing()) throw common::Refused{lineIsGone};
+    if (!viewing()) throw common::Refused{OwnText::lineIsGone};
     LoadGrid();
     showCurrentLine();
     enter(State::view);
-    throw common::Refused{std::string{listWasOld} + nothingWritten};
+    throw common::Refused{{{OwnText::listWasOld}, {OwnText::nothingWritten}}};
 }
 
 std::unique_ptr<common::Recordset> LineEditor::openLine(const std::string& query) {
     auto line = session_.connection->open(query);
-    if (line->atEnd()) throw common::Refused{lineIsGone};
+    if (line->atEnd()) throw common::Refused{OwnText::lineIsGone};
     return line;
 }
 
 std::unique_ptr<common::UpdatableRecordset> LineEditor::openToEdit(const std::string& query) {
     auto line = session_.connection->openUpdatable(query);
-    if (line->atEnd()) throw common::Refused{lineIsGone};
+    if (line->atEnd()) throw common::Refused{OwnText::lineIsGone};
     return line;
 }
 
@@ -389,9 +382,9 @@ void LineEditor::moveLine(int step) {
 
 bool LineEditor::queryUnload() {
     // The close box during an edit would throw away what was typed, and the row of a line never saved.
-    if (!viewing() && common::ShowMessage(services_.display, closeUnsaved,
-                                          ui::box::yesNo + ui::box::question + ui::box::defaultButton2) !=
-                          ui::Answer::yes) {
+    if (!viewing() && common::ShowMessage(
+                          services_.display, common::ownText(OwnText::closeUnsaved, session_.language),
+                          ui::box::yesNo + ui::box::question + ui::box::defaultButton2) != ui::Answer::yes) {
         return false;
     }
     discardNewRow();

@@ -4,6 +4,7 @@
 #include "common/StatementText.h"
 #include "common/field_text.h"
 #include "common/number_format.h"
+#include "common/own_text.h"
 #include "ui/number_box.h"
 
 #include <stdexcept>
@@ -114,7 +115,7 @@ void PriceChange::preview() {
                 after =
                     common::formatNumber(changedPrice(*line.price, *by, kind()), "0.00", services_.locale);
             } catch (const std::out_of_range&) {
-                after = "zu groß";
+                after = common::ownText(common::OwnText::priceTooLarge, session_.language);
             }
         }
         rows.push_back({line.description, std::move(before), std::move(after)});

@@ -14,7 +14,10 @@ TEST(ErrorReporter, SaysWhatTheUserCanDo) {
     const auto database = [](DatabaseErrorCategory category) {
         return common::DatabaseError{category, "technical text", "SELECT 1"};
     };
-    const auto statement = common::StatementError{"„O'Neill“: mit Apostroph.", "UPDATE …", "O'Neill"};
+    const auto statement = common::StatementError{
+        {{common::OwnText::refusedValue, {"O'Neill"}}, {common::OwnText::textWithApostrophe}},
+        "UPDATE …",
+        "O'Neill"};
     const auto unexpected = std::runtime_error{"out of paper"};
     const auto syntax = database(DatabaseErrorCategory::syntax);
     const auto unknownName = database(DatabaseErrorCategory::unknownName);
@@ -32,7 +35,8 @@ TEST(ErrorReporter, SaysWhatTheUserCanDo) {
     const int warning = ui::box::exclamation;
     const int critical = ui::box::critical;
     const Case cases[] = {
-        {statement, "de", {"„O'Neill“: mit Apostroph."}, warning},
+        {statement, "de", {"„O'Neill“: Der Text enthält einen Apostroph"}, warning},
+        {statement, "en", {"\"O'Neill\": The text holds an apostrophe"}, warning},
         {locked, "de", {"von jemand anderem", "noch einmal versuchen", "technical text"}, warning},
         {conversion, "de", {"passt nicht in sein Feld", "technical text"}, warning},
         {constraint, "de", {"verletzen eine Regel", "technical text"}, warning},

@@ -1,6 +1,5 @@
 #include "contract/F_HeaderVertrag.h"
 #include "contract/F_Vertrag.h"
-#include "lines/F_OffeneMenge.h"
 #include "lines/F_VertragMengen.h"
 #include "lines/F_VertragPreise.h"
 #include "services/F_Calendar.h"
@@ -64,12 +63,11 @@ protected:
     F_PersonPicker persons{"", [](const std::string&) { return F_PersonPicker::Found{}; }, "", 0};
     lines::F_VertragPreise prices{host};
     lines::F_VertragMengen quantities{host};
-    lines::F_OffeneMenge open{host, session};
     const workbench::SelectionWords words{services.localizer(), session, common::Locale::german()};
     workbench::F_Selection selection{display, words, {}, {}};
     workbench::F_LookupGrid codes{"", words.choiceCaptions(), {}, {}, true};
-    const std::vector<ui::Form*> forms{&editor, &header,     &list, &calendar,  &persons,
-                                       &prices, &quantities, &open, &selection, &codes};
+    const std::vector<ui::Form*> forms{&editor, &header,     &list,      &calendar, &persons,
+                                       &prices, &quantities, &selection, &codes};
 };
 
 TEST_F(Localizing, EveryCaptionHasAnEnglishText) {

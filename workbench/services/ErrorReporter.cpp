@@ -39,7 +39,7 @@ int iconOf(common::DatabaseErrorCategory category) {
 
 void ErrorReporter::report(const std::exception& error) {
     if (const auto* refused = dynamic_cast<const common::Refused*>(&error)) {
-        common::ShowMessage(display_, refused->what(), ui::box::exclamation);
+        common::ShowMessage(display_, refused->message(session_.language), ui::box::exclamation);
     } else if (const auto* database = dynamic_cast<const common::DatabaseError*>(&error)) {
         common::ShowMessage(display_,
                             text(keyOf(database->category())) + "\n\n" +

@@ -42,7 +42,8 @@ std::optional<std::string> SelectionDialogService::edit(const host::TlxVar& sess
     try {
         present = SelectionExpression::parse(value);
     } catch (const common::Refused& unreadable) {
-        common::ShowMessage(display_, filled(words.named("unreadable"), {unreadable.what()}),
+        common::ShowMessage(display_,
+                            filled(words.named("unreadable"), {unreadable.message(session.language)}),
                             ui::box::exclamation, words.named("title"));
     }
     F_Selection::Choices choices;

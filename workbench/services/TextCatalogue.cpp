@@ -58,15 +58,4 @@ std::string TextCatalogue::text(const std::string& language, std::string_view ke
     return text == nullptr ? "[" + std::string{key} + "]" : *text;
 }
 
-std::string filled(std::string text, std::initializer_list<std::string_view> values) {
-    std::size_t from = 0;
-    for (const std::string_view value : values) {
-        const auto at = text.find("{}", from);
-        if (at == std::string::npos) break;
-        text.replace(at, 2, value);
-        from = at + value.size();
-    }
-    return text;
-}
-
 } // namespace tellurix::workbench

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <initializer_list>
+#include "common/text.h"
+
 #include <map>
 #include <string>
 #include <string_view>
@@ -29,7 +30,6 @@ private:
     std::map<std::string, Texts> languages_;
 };
 
-/// Puts the values in the place of the "{}" in a text, from left to right.
-std::string filled(std::string text, std::initializer_list<std::string_view> values);
+using common::filled;
 
 } // namespace tellurix::workbench

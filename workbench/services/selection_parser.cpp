@@ -11,6 +11,7 @@ namespace tellurix::workbench {
 
 namespace {
 
+using common::OwnText;
 using Token = SelectionToken;
 using Kind = SelectionToken::Kind;
 
@@ -27,11 +28,11 @@ public:
             if (token().kind == Kind::end) return expression;
             pieceStart_ = at_;
             const bool afterOr = skip(Kind::word, "OR");
-            if (afterOr && expression.terms.empty()) refuse("Vor OR fehlt eine Bedingung");
+            if (afterOr && expression.terms.empty()) refuse(OwnText::orWithoutCondition);
             if (!afterOr) skip(Kind::word, "AND");
             expression.terms.push_back({condition(), afterOr});
             if (token().kind != Kind::end && !token().is(Kind::symbol, ";"))
-                refuse("Hinter der Bedingung fehlt der Strichpunkt");
+                refuse(OwnText::semicolonMissing);
         }
     }
 
@@ -45,7 +46,7 @@ private:
     }
 
     void expect(Kind kind, std::string_view value) {
-        if (!skip(kind, value)) refuse("Hier fehlt " + std::string{value});
+        if (!skip(kind, value)) refuse(OwnText::pieceMissing, value);
     }
 
     SelectionCondition condition() {
@@ -67,7 +68,7 @@ private:
         const auto number =
             token().kind == Kind::number ? common::Decimal::parse(token().value) : std::nullopt;
         const AttributeKind* kind = number && number->scale() == 0 ? findAttribute(number->units()) : nullptr;
-        if (kind == nullptr) refuse("Er beginnt nicht mit der Nummer eines Merkmals (83, 87, 90, 93, 94)");
+        if (kind == nullptr) refuse(OwnText::attributeMissing);
         ++at_;
         return *kind;
     }
@@ -80,9 +81,9 @@ private:
         } else if (skip(Kind::symbol, "<=")) {
             condition.comparison = SelectionOperator::atMost;
         } else {
-            refuse("Hinter dem Merkmal fehlt IN, NOT IN, BETWEEN, >= oder <=");
+            refuse(OwnText::comparisonMissing);
         }
-        if (!kind.ordered) refuse("Nach der Größe können nur Stärkeklassen und Längen verglichen werden");
+        if (!kind.ordered) refuse(OwnText::comparedInOrder);
         condition.values.push_back(singleValue(kind));
         if (condition.comparison != SelectionOperator::between) return;
         expect(Kind::word, "AND");
@@ -103,11 +104,11 @@ private:
         if (kind.isNumber()) {
             const auto number =
                 token().kind == Kind::number ? common::Decimal::parse(token().value) : std::nullopt;
-            if (!number) refuse("Hier fehlt eine Zahl (höchstens 18 Stellen, mit Dezimalpunkt)");
+            if (!number) refuse(OwnText::selectionNumberMissing);
             ++at_;
             return number->toString();
         }
-        if (token().kind != Kind::text) refuse("Hier fehlt ein Wert zwischen einfachen Hochkommas");
+        if (token().kind != Kind::text) refuse(OwnText::selectionTextMissing);
         return tokens_[at_++].value;
     }
 
@@ -120,12 +121,16 @@ private:
         return std::string{common::trim(value_.substr(start, tokens_[end].start - start))};
     }
 
-    [[noreturn]] void refuse(const std::string& reason) const {
+    [[noreturn]] void refuse(OwnText reason, std::string_view missing = {}) const {
         const std::string_view rest = value_.substr(std::min(token().start, value_.size()));
-        const std::string where =
-            rest.empty() ? "am Ende" : "bei „" + std::string{rest.substr(0, rest.find(';'))} + "“";
-        throw common::Refused{"Die Selektion kann nicht gelesen werden: „" + piece() + "“. " + reason + " (" +
-                              where + ")."};
+        std::vector<common::Refused::Sentence> message{{OwnText::selectionUnreadable, {piece()}},
+                                                       {reason, {std::string{missing}}}};
+        if (rest.empty()) {
+            message.push_back({OwnText::atTheEnd});
+        } else {
+            message.push_back({OwnText::atText, {std::string{rest.substr(0, rest.find(';'))}}});
+        }
+        throw common::Refused{std::move(message)};
     }
 
     std::string_view value_;
