@@ -5,6 +5,7 @@
 #include "common/field_text.h"
 #include "common/number_format.h"
 #include "common/text.h"
+#include "contract/contract_row.h"
 #include "contract/header_captions.h"
 #include "host/text_numbers.h"
 #include "ui/caption.h"
@@ -175,6 +176,7 @@ void F_HeaderVertrag::LoadHeader() {
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
     const auto row = session_.connection->open(query.number(contract_).text());
+    requireContract(*row);
 
     txtDate1.setText(common::dateText(row->field("INVDATE")));
     txtDate2.setText(common::dateText(row->field("DATE1")));
@@ -242,7 +244,7 @@ std::string F_HeaderVertrag::updateStatement() const {
 }
 
 void F_HeaderVertrag::save() {
-    session_.connection->execute(updateStatement());
+    updateContract(*session_.connection, updateStatement());
     unload();
 }
 
