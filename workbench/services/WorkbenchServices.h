@@ -5,6 +5,7 @@
 #include "services/DateConverterService.h"
 #include "services/ErrorReporter.h"
 #include "services/GridLayoutStoreService.h"
+#include "services/KeyedListsService.h"
 #include "services/ListPickerService.h"
 #include "services/Localizer.h"
 #include "services/LookupGridDialogService.h"
@@ -51,6 +52,7 @@ private:
     PersonPicker personalPicker_;
     ListPickerService listPicker_;
     LookupValidationService lookupValidation_;
+    KeyedListsService keyedLists_;
     PersonQueryService personQuery_;
     DateConverterService dateConverter_;
     SettingsService settings_;
