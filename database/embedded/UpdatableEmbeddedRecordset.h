@@ -21,6 +21,7 @@ public:
     common::FieldType fieldType(std::size_t index) const override {
         return fieldTypeOf(columns_->at(index).type);
     }
+    int textWidth(std::size_t index) const override { return textWidthOf(columns_->at(index).type); }
 
     bool atEnd() override { return current_ >= rows_.size(); }
     void moveNext() override;

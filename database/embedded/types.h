@@ -79,6 +79,10 @@ std::string declarationOf(std::string_view name, const Type& type);
 std::string describe(const Type& type);
 
 common::FieldType fieldTypeOf(const Type& type);
+/// As `common::Recordset::textWidth` tells it.
+inline int textWidthOf(const Type& type) {
+    return type.isText() && type.length != Type::unlimited ? type.length : 0;
+}
 
 /// The decimal type that holds every value of an exact type.
 Type asDecimal(const Type& exact);

@@ -39,6 +39,7 @@ public:
     std::size_t fieldCount() const override { return inner_->fieldCount(); }
     std::string fieldName(std::size_t index) const override { return inner_->fieldName(index); }
     common::FieldType fieldType(std::size_t index) const override { return inner_->fieldType(index); }
+    int textWidth(std::size_t index) const override { return inner_->textWidth(index); }
     bool atEnd() override { return inner_->atEnd(); }
     void moveNext() override {
         inner_->moveNext();

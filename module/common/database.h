@@ -25,16 +25,26 @@ using Null = std::monostate;
 using Value = std::variant<Null, bool, std::int64_t, Decimal, double, std::string, DateTime>;
 
 /// The type of a column, known before a row has been read.
-enum class FieldType { flag, tinyInteger, smallInteger, integer, bigInteger, decimal, floating, text, dateTime };
+enum class FieldType {
+    flag,
+    tinyInteger,
+    smallInteger,
+    integer,
+    bigInteger,
+    decimal,
+    floating,
+    text,
+    dateTime
+};
 
 /// What kind of trouble a database error is, for those who can do something about it.
 enum class DatabaseErrorCategory {
-    syntax,       ///< the text is no statement that the server knows
-    unknownName,  ///< a table or column that does not exist
-    conversion,   ///< a value that does not fit the type it meets
-    constraint,   ///< a key, uniqueness or NOT NULL rule of the table
-    locked,       ///< another session holds the database for too long
-    connection,   ///< the database cannot be reached
+    syntax,      ///< the text is no statement that the server knows
+    unknownName, ///< a table or column that does not exist
+    conversion,  ///< a value that does not fit the type it meets
+    constraint,  ///< a key, uniqueness or NOT NULL rule of the table
+    locked,      ///< another session holds the database for too long
+    connection,  ///< the database cannot be reached
     other
 };
 
@@ -45,8 +55,12 @@ public:
 
     DatabaseError(DatabaseErrorCategory category, const std::string& message, std::string statement,
                   std::size_t position = noPosition, int nativeCode = 0, std::string sqlState = {})
-        : std::runtime_error(message), category_(category), statement_(std::move(statement)), position_(position),
-          nativeCode_(nativeCode), sqlState_(std::move(sqlState)) {}
+        : std::runtime_error(message),
+          category_(category),
+          statement_(std::move(statement)),
+          position_(position),
+          nativeCode_(nativeCode),
+          sqlState_(std::move(sqlState)) {}
 
     DatabaseErrorCategory category() const { return category_; }
     /// The statement text as it was sent.
@@ -75,6 +89,8 @@ public:
     virtual std::size_t fieldCount() const = 0;
     virtual std::string fieldName(std::size_t index) const = 0;
     virtual FieldType fieldType(std::size_t index) const = 0;
+    /// Most characters that a text column takes; 0 where there is no limit, and for other types.
+    virtual int textWidth(std::size_t index) const = 0;
 
     /// True when there is no (further) row.
     virtual bool atEnd() = 0;

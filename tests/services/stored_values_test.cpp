@@ -56,6 +56,9 @@ TEST_F(StoredValues, GridLayoutsAreKeptByUserAndKey) {
 TEST_F(StoredValues, SettingsAndSingleValuesAreRead) {
     EXPECT_EQ(host.settings.text(session, "PATHOFWVOWEBVERTRAEGE"), "vertragsdokumente");
     EXPECT_EQ(host.settings.text(session, "d'oh"), "") << "a setting that does not exist";
+    EXPECT_EQ(host.columnWidth.of(session, "VERTRAEGE", "KOPF1"), 255);
+    EXPECT_EQ(host.columnWidth.of(session, "VERTRAEGE", "ZUSATZTEXT"), 0) << "no limit";
+    EXPECT_EQ(host.columnWidth.of(session, "VERTRAEGE", "NUMM1"), 0) << "no text";
     EXPECT_FALSE(services.mainWindow()->IsArtikel());
     session.connection->execute("UPDATE WORKBENCH_SETTING SET VALUE = '1' WHERE NAME = 'ARTIKEL'");
     EXPECT_TRUE(services.mainWindow()->IsArtikel());

@@ -41,11 +41,11 @@ class TestHost final : host::HostDataAccess,
                        host::HostPersonalPicker,
                        host::ListPicker,
                        host::LookupValidation,
-                       host::KeyedLists,
                        host::PersonQueryBuilder,
                        host::DateConverter,
                        host::NamedSettings,
                        host::GridLayoutStore,
+                       host::ColumnWidth,
                        host::ColumnUpdate,
                        host::SelectionDialog,
                        host::LookupGridDialog,
@@ -76,17 +76,13 @@ public:
     std::int32_t pickedPerson = 0;       ///< what the person picker answers next
     bool articles = false;
 
-    std::vector<std::string> lists;     ///< keyed lists asked: "list/text or title/type/contract"
-    std::string pickedKey;              ///< what a keyed list answers when the user is to choose
-    std::vector<std::string> foundKeys; ///< what it finds instead of the contracts of that name
-    bool listsKnowLimits = true;        ///< whether they obey the limits that they are given
-
     std::map<std::string, std::string> settings; ///< the named settings that are not empty
     /// What the selection dialog does with the key that it is given; nothing is a cancelled dialog.
     std::function<std::optional<std::string>(const std::string& key)> onSelectionDialog;
-    std::vector<std::string> selections;   ///< selection dialogs opened: "key/type"
-    std::vector<std::string> translations; ///< selection values translated
-    std::vector<std::string> typeAheads;   ///< boxes bound: "box/column"
+    std::map<std::string, int> columnWidths; ///< of the text columns that have a limit: "TABLE.COLUMN"
+    std::vector<std::string> selections;     ///< selection dialogs opened: "key/type"
+    std::vector<std::string> translations;   ///< selection values translated
+    std::vector<std::string> typeAheads;     ///< boxes bound: "box/column"
 
 private:
     std::string readValue(const host::TlxVar&, const std::string& column, const std::string& table,
@@ -99,27 +95,22 @@ private:
                         std::int16_t standardClient, std::int32_t currentPerson,
                         host::Boolean16& confirmed) override;
     std::string choose(const host::TlxVar&, const std::string& query, const std::string& title,
-                       const std::string& current, const std::string& text) override;
-    bool resolve(const host::TlxVar&, std::int32_t option, const std::string& query, ui::TextBox& box,
-                 ui::TextBox* shown, const std::string& displayColumn, ui::TextBox* third,
-                 const std::string& text) override;
-    std::string choose(const host::TlxVar&, const std::string& list, const std::string& title,
-                       const Limits& limits, const std::string& current) override;
-    std::vector<std::string> find(const host::TlxVar&, const std::string& list, const std::string& text,
-                                  const Limits& limits) override;
-    std::string typeOf(const host::TlxVar&, std::int32_t contract) override;
+                       const std::string& current) override;
+    bool resolve(const host::TlxVar&, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
+                 const std::string& displayColumn) override;
     std::string build(const host::TlxVar&, const std::string& table, const std::string& number,
                       int accessLevel, const std::string& filter) override;
     std::string toSql(const std::string& text, const host::TlxVar&) override;
     std::string text(const host::TlxVar&, const std::string& name) override;
     void save(const host::TlxVar&, const ui::Grid&, const std::string&) override {}
     void restore(const host::TlxVar&, ui::Grid&, const std::string&) override {}
+    int of(const host::TlxVar&, const std::string& table, const std::string& column) override;
     void set(const host::TlxVar&, const std::string&, const std::string&, const std::string&,
              const std::string&) override {}
     std::optional<std::string> select(const host::TlxVar&, const std::string& key,
                                       const std::string& upperType, const std::string& out1,
                                       const std::string& out2) override;
-    std::string choose(const host::TlxVar&, const std::string& layout, const std::string& title,
+    std::string choose(const host::TlxVar&, const std::string& settingKey, const std::string& title,
                        const std::string& text, const std::string& mode, const std::string& current) override;
     void bind(const host::TlxVar&, ui::TextBox& box, const std::string& query,
               const std::string& displayColumn) override;

@@ -29,6 +29,15 @@ AdoRecordset::~AdoRecordset() {
     }
 }
 
+int AdoRecordset::textWidth(std::size_t index) const {
+    if (fieldType(index) != common::FieldType::text) return 0;
+    // Texts without a limit have the largest size that a text can have.
+    constexpr std::int32_t longestLimited = 8000;
+    Dispatch field = fields_.at(index).object;
+    const std::int32_t size = field.get(L"DefinedSize").integer();
+    return size > longestLimited ? 0 : size;
+}
+
 template <typename Work>
 auto AdoRecordset::reported(const Work& work) {
     return ado::reported(connection_, statement_, work);

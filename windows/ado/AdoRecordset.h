@@ -22,6 +22,7 @@ public:
     std::size_t fieldCount() const override { return fields_.size(); }
     std::string fieldName(std::size_t index) const override { return fields_.at(index).name; }
     common::FieldType fieldType(std::size_t index) const override { return fields_.at(index).type; }
+    int textWidth(std::size_t index) const override;
 
     bool atEnd() override;
     void moveNext() override;

@@ -82,6 +82,17 @@ const ServiceClass& namedSettings() {
     return served;
 }
 
+const ServiceClass& columnWidth() {
+    static const ServiceClass served{
+        "Tellurix_Loc.ColumnWidth",
+        DispatchTable().method<ServiceObject>(L"Of", [](ServiceObject& service, Given given) {
+            auto call = callOf(service, given);
+            return Variant(std::int32_t{
+                call.services().columnWidth.of(call.session(), given[1].text(), given[2].text())});
+        })};
+    return served;
+}
+
 const ServiceClass& columnUpdate() {
     static const ServiceClass served{
         "Tellurix_Loc.ColumnUpdate",

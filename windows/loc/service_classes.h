@@ -17,13 +17,13 @@ const ServiceClass& hostModuleService();
 const ServiceClass& personQueryBuilder();
 const ServiceClass& dateConverter();
 const ServiceClass& namedSettings();
+const ServiceClass& columnWidth();
 const ServiceClass& columnUpdate();
 const ServiceClass& selectionTranslator();
 
 // Questions to the user: dialog_services.cpp
 const ServiceClass& hostPersonalPicker();
 const ServiceClass& listPicker();
-const ServiceClass& keyedLists();
 const ServiceClass& selectionDialog();
 const ServiceClass& lookupGridDialog();
 const ServiceClass& hostErrorReport();

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "services/ColumnUpdateService.h"
+#include "services/ColumnWidthService.h"
 #include "services/DataAccessService.h"
 #include "services/DateConverterService.h"
 #include "services/ErrorReporter.h"
 #include "services/GridLayoutStoreService.h"
-#include "services/KeyedListsService.h"
 #include "services/ListPickerService.h"
 #include "services/Localizer.h"
 #include "services/LookupGridDialogService.h"
@@ -52,11 +52,11 @@ private:
     PersonPicker personalPicker_;
     ListPickerService listPicker_;
     LookupValidationService lookupValidation_;
-    KeyedListsService keyedLists_;
     PersonQueryService personQuery_;
     DateConverterService dateConverter_;
     SettingsService settings_;
     GridLayoutStoreService gridLayouts_;
+    ColumnWidthService columnWidth_;
     ColumnUpdateService columnUpdate_;
     SelectionDialogService selectionDialog_;
     LookupGridDialogService lookupGridDialog_;

@@ -27,6 +27,7 @@ protected:
                 .method<Self>(
                     L"Type",
                     [](Self& self, const CallArguments&) -> Variant { return dataTypeOf(self.type()); })
+                .method<Self>(L"DefinedSize", &Self::definedSize)
                 .method<Self>(L"NumericScale", &Self::numericScale)
                 .defaultMember(L"Value");
         return table;
@@ -39,6 +40,13 @@ private:
     Variant value(const CallArguments&) { return variantOf(recordset_->value(index_), type()); }
     void setValue(const CallArguments& arguments) {
         recordset_->assign(index_, valueOf(arguments[0], type()));
+    }
+
+    /// Of a text; nobody asks for that of other values.
+    Variant definedSize(const CallArguments&) {
+        constexpr std::int32_t unlimited = 0x3fffffff;
+        const int width = recordset_->rows().textWidth(index_);
+        return width == 0 ? unlimited : std::int32_t{width};
     }
 
     /// The port tells a column's scale by its values alone.

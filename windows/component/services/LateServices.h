@@ -28,11 +28,11 @@ private:
     LatePersonalPicker personalPicker_;
     LateListPicker listPicker_;
     LateLookupValidation lookupValidation_;
-    LateKeyedLists keyedLists_;
     LatePersonQuery personQuery_;
     LateDateConverter dateConverter_;
     LateSettings settings_;
     LateGridLayoutStore gridLayouts_;
+    LateColumnWidth columnWidth_;
     LateColumnUpdate columnUpdate_;
     LateSelectionDialog selectionDialog_;
     LateLookupGridDialog lookupGridDialog_;

@@ -36,6 +36,11 @@ std::string LateSettings::text(const host::TlxVar& session, const std::string& n
     return object_.call(L"Text", {record.argument(), name}).text();
 }
 
+int LateColumnWidth::of(const host::TlxVar& session, const std::string& table, const std::string& column) {
+    SessionRecord record(session);
+    return object_.call(L"Of", {record.argument(), table, column}).integer();
+}
+
 void LateColumnUpdate::set(const host::TlxVar& session, const std::string& table, const std::string& column,
                            const std::string& value, const std::string& condition) {
     SessionRecord record(session);

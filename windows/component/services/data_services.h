@@ -50,6 +50,14 @@ private:
     HostClass object_{"NamedSettings"};
 };
 
+class LateColumnWidth final : public host::ColumnWidth {
+public:
+    int of(const host::TlxVar& session, const std::string& table, const std::string& column) override;
+
+private:
+    HostClass object_{"ColumnWidth"};
+};
+
 class LateColumnUpdate final : public host::ColumnUpdate {
 public:
     void set(const host::TlxVar& session, const std::string& table, const std::string& column,
