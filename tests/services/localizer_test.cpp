@@ -60,7 +60,7 @@ protected:
     contract::F_HeaderVertrag header{host};
     F_ListPicker list{"", {.headings = {"Kurz"}, .entries = {}}, {}, ""};
     F_Calendar calendar{"", someDay, someDay, common::Locale::german()};
-    F_PersonPicker persons{"", [](const std::string&) { return F_PersonPicker::Found{}; }, "", 0};
+    F_PersonPicker persons{"", [](const std::string&) { return F_PersonPicker::Found{}; }, "", {}, 0};
     lines::F_VertragPreise prices{host};
     lines::F_VertragMengen quantities{host};
     const workbench::SelectionWords words{services.localizer(), session, common::Locale::german()};

@@ -1,4 +1,5 @@
 #include "services/ServicesTest.h"
+#include "tracing/TracingConnection.h"
 
 #include <set>
 
@@ -139,6 +140,15 @@ TEST_F(PersonPicker, AnswersWhoIsChosen) {
         EXPECT_EQ(choose(c.mode, c.script, 0, c.current), c.answer) << c.rule;
         EXPECT_EQ(confirmed, c.confirmed) << c.rule;
     }
+}
+
+TEST_F(PersonPicker, OpeningAsksOnce) {
+    int statements = 0;
+    tracing::TracingConnection traced{*session.connection, [&](const tracing::Statement&) { ++statements; }};
+    session.connection = &traced;
+    choose(
+        "2PVA2", [](User& user) { user.key(Key::escape); }, 0, 22);
+    EXPECT_EQ(statements, 1);
 }
 
 TEST_F(PersonPicker, ALongListShowsItsStartAndReachesTheCurrentPerson) {

@@ -6,7 +6,7 @@
 
 namespace tellurix::workbench {
 
-F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::string& start,
+F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::string& start, Found found,
                                std::int32_t current)
     : Form("F_PersonPicker", std::move(title)), search_(std::move(search)) {
     grdPersons.setColumns({{.caption = "Nummer", .width = 8, .rightAligned = true},
@@ -25,9 +25,9 @@ F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::stri
     arrange();
 
     txtSearch.setText(start);
-    narrow();
-    const auto found = std::ranges::find(persons_, current);
-    if (found != persons_.end()) grdPersons.setCurrent(static_cast<int>(found - persons_.begin()));
+    show(std::move(found));
+    const auto row = std::ranges::find(persons_, current);
+    if (row != persons_.end()) grdPersons.setCurrent(static_cast<int>(row - persons_.begin()));
 }
 
 void F_PersonPicker::arrange() {
@@ -36,7 +36,10 @@ void F_PersonPicker::arrange() {
 }
 
 void F_PersonPicker::narrow() {
-    Found found = search_(txtSearch.text());
+    show(search_(txtSearch.text()));
+}
+
+void F_PersonPicker::show(Found found) {
     persons_ = std::move(found.persons);
     grdPersons.setRows(std::move(found.rows));
     grdPersons.setCurrent(0);

@@ -27,9 +27,10 @@ public:
     static constexpr std::int32_t nobody = 0;
 
     /// @param search answers for what stands in the search box; empty text for all persons
-    /// @param start what stands in the search box at first
+    /// @param start what stands in the search box at first; @param found what `search` answered for it
     /// @param current the person that the list starts on
-    F_PersonPicker(std::string title, Search search, const std::string& start, std::int32_t current);
+    F_PersonPicker(std::string title, Search search, const std::string& start, Found found,
+                   std::int32_t current);
 
     /// The chosen person, `nobody` for "Keine Auswahl", nothing when the user cancelled.
     const std::optional<std::int32_t>& chosen() const { return chosen_; }
@@ -37,6 +38,7 @@ public:
 private:
     void arrange();
     void narrow();
+    void show(Found found);
     void choose();
     void answer(std::int32_t person);
 

@@ -33,8 +33,7 @@ F_ListPicker::List listOf(common::Recordset& rows) {
 } // namespace
 
 std::string ListPickerService::choose(const host::TlxVar& session, const std::string& query,
-                                      const std::string& title, const std::string& current,
-                                      const std::string& /*text*/) {
+                                      const std::string& title, const std::string& current) {
     return query == calendar ? chooseDay(session, title, current)
                              : chooseEntry(session, query, title, current);
 }
@@ -51,7 +50,7 @@ std::string ListPickerService::chooseEntry(const host::TlxVar& session, const st
         current};
     localizer_.localize(session, form);
     display_.showModal(form);
-    return form.chosen() ? form.chosen()->front() : current;
+    return form.chosen().value_or(current);
 }
 
 std::string ListPickerService::chooseDay(const host::TlxVar& session, const std::string& title,

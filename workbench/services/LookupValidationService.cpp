@@ -19,10 +19,8 @@ std::string nameOf(const ui::TextBox& box) {
 
 } // namespace
 
-bool LookupValidationService::resolve(const host::TlxVar& session, std::int32_t /*option*/,
-                                      const std::string& query, ui::TextBox& box, ui::TextBox* shown,
-                                      const std::string& displayColumn, ui::TextBox* /*third*/,
-                                      const std::string& /*text*/) {
+bool LookupValidationService::resolve(const host::TlxVar& session, const std::string& query, ui::TextBox& box,
+                                      ui::TextBox* shown, const std::string& displayColumn) {
     const auto answer = [&](const std::string& key, const std::string& display) {
         box.setTag(key);
         if (shown != nullptr) shown->setText(display);

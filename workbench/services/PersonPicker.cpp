@@ -46,12 +46,18 @@ std::int32_t PersonPicker::choose(const host::TlxVar& session, const std::string
 
     // A person beyond the first ones is reached by number.
     std::string typed;
-    if (start > 0 && std::ranges::count(searched("").persons, start) == 0) {
+    F_PersonPicker::Found found = searched("");
+    if (start > 0 && std::ranges::count(found.persons, start) == 0) {
         const std::string number = common::personNumber(*session.connection, start).value_or("");
-        if (std::ranges::count(searched(number).persons, start) != 0) typed = number;
+        F_PersonPicker::Found byNumber = searched(number);
+        if (std::ranges::count(byNumber.persons, start) != 0) {
+            typed = number;
+            found = std::move(byNumber);
+        }
     }
     const std::string title = localizer_.named("person.title", session);
-    F_PersonPicker form{localizer_.namedOr("person.title." + mode, session, title), searched, typed, start};
+    F_PersonPicker form{localizer_.namedOr("person.title." + mode, session, title), searched, typed,
+                        std::move(found), start};
     localizer_.localize(session, form);
     display_.showModal(form);
     const std::int32_t chosen = form.chosen().value_or(cancelled);
