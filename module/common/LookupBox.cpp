@@ -1,13 +1,18 @@
 #include "common/LookupBox.h"
 
-#include "common/StatementText.h"
+#include "common/typed_text.h"
 
 namespace tellurix::common {
 
 LookupBox::LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
-                     std::function<std::string()> title, Lookup lookup)
-    : box_(box), services_(services), session_(session), keyQuery_(std::move(lookup.keyQuery)) {
+                     std::string keyQuery)
+    : box_(box), services_(services), session_(session), keyQuery_(std::move(keyQuery)) {
     box_.onLeave = [this] { return leave(); };
+}
+
+LookupBox::LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
+                     std::function<std::string()> title, Lookup lookup)
+    : LookupBox(box, services, session, std::move(lookup.keyQuery)) {
     box_.onPick = [this, title = std::move(title), listQuery = std::move(lookup.listQuery)] {
         box_.setText(services_.listPicker.choose(session_, listQuery, title(), box_.text()));
     };
@@ -21,9 +26,10 @@ void LookupBox::show(const std::string& text, const std::string& key) {
 
 bool LookupBox::leave() {
     if (box_.text() == resolvedText_) return true;
-    StatementText query{keyQuery_};
-    query.insideLiteral(box_.text()).fixed("'");
-    if (!services_.lookupValidation.resolve(session_, query.text(), box_, nullptr, "")) return false;
+    resolvedText_.reset();
+    box_.setTag("");
+    const std::string query = keyQuery_ + typedText(box_) + "'";
+    if (!services_.lookupValidation.resolve(session_, query, box_, nullptr, "")) return false;
     resolvedText_ = box_.text();
     return true;
 }

@@ -4,6 +4,7 @@
 #include "ui/TextBox.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace tellurix::common {
@@ -12,7 +13,8 @@ namespace tellurix::common {
 /// text to a database key, and the key is kept in the box's `tag` (empty for no value).
 ///
 /// A text that nobody touched is not looked up again: a value that is no longer offered must stay
-/// in the contracts that already have it.
+/// in the contracts that already have it. A text that was not found leaves no key behind, and nothing is
+/// known then but that: the former text typed again is looked up like any other.
 class LookupBox {
 public:
     /// What one lookup box asks the database.
@@ -26,6 +28,11 @@ public:
     LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
               std::function<std::string()> title, Lookup lookup);
 
+    /// One whose picker is the screen's own: the box's `onPick` stays as the screen sets it.
+    /// @param keyQuery as in `Lookup`
+    LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
+              std::string keyQuery);
+
     /// Shows a value as it was read: its text and its key.
     void show(const std::string& text, const std::string& key);
     /// The key, empty for no value.
@@ -38,7 +45,7 @@ private:
     host::HostServices& services_;
     const host::TlxVar& session_;
     std::string keyQuery_;
-    std::string resolvedText_;
+    std::optional<std::string> resolvedText_; ///< what the key belongs to
 };
 
 } // namespace tellurix::common

@@ -45,6 +45,9 @@ void PersonBox::pick() {
 
 bool PersonBox::leave() {
     if (number_.text() == resolvedNumber_) return true;
+    resolvedNumber_.reset();
+    number_.setTag("");
+    shortName_.setText("");
     if (!isNumeric(number_.text(), services_.locale)) number_.setText("");
     const std::string query = number_.text().empty()
                                   ? std::string{}

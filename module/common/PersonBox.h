@@ -43,7 +43,7 @@ private:
     host::HostServices& services_;
     const host::TlxVar& session_;
     Choice choice_;
-    std::string resolvedNumber_;
+    std::optional<std::string> resolvedNumber_; ///< what the key belongs to
 };
 
 } // namespace tellurix::common

@@ -37,7 +37,27 @@ std::string shortened(std::string_view value) {
     return std::string(value.substr(0, end)) + "…";
 }
 
+std::vector<Refused::Sentence> statementMessage(OwnText reason, std::string_view value) {
+    std::vector<Refused::Sentence> message = refusedValue(value);
+    message.push_back({reason});
+    message.push_back({OwnText::nothingSent});
+    return message;
+}
+
 } // namespace
+
+std::vector<Refused::Sentence> refusedValue(std::string_view value, const std::string& label) {
+    if (label.empty() && value.empty()) return {};
+    if (label.empty()) return {{OwnText::refusedValue, {shortened(value)}}};
+    if (value.empty()) return {{OwnText::emptyField, {label}}};
+    return {{OwnText::refusedInField, {label, shortened(value)}}};
+}
+
+StatementError::StatementError(OwnText reason, std::string statement, std::string value)
+    : Refused(statementMessage(reason, value)),
+      reason_(reason),
+      statement_(std::move(statement)),
+      value_(std::move(value)) {}
 
 StatementText& StatementText::fixed(std::string_view text) {
     text_ += text;
@@ -71,6 +91,11 @@ StatementText& StatementText::insideLiteral(std::string_view value) {
     return fixed(value);
 }
 
+StatementText& StatementText::insideInnerLiteral(std::string_view value) {
+    if (value.find('\'') != std::string_view::npos) refuse(value, OwnText::textWithApostrophe);
+    return fixed(value);
+}
+
 StatementText& StatementText::identifier(std::string_view name) {
     if (!isName(name)) refuse(name, OwnText::noName);
     return fixed(name);
@@ -78,11 +103,7 @@ StatementText& StatementText::identifier(std::string_view name) {
 
 std::string StatementText::text() const {
     if (refusal_) {
-        std::vector<Refused::Sentence> message;
-        if (!refusedValue_.empty()) message.push_back({OwnText::refusedValue, {shortened(refusedValue_)}});
-        message.push_back({*refusal_});
-        message.push_back({OwnText::nothingSent});
-        throw StatementError(std::move(message), text_, refusedValue_);
+        throw StatementError(*refusal_, text_, refusedValue_);
     }
     return text_;
 }

@@ -14,16 +14,22 @@ namespace tellurix::common {
 /// the statement does: the place where the server would have reported a syntax error.
 class StatementError : public Refused {
 public:
-    StatementError(std::vector<Sentence> message, std::string statement, std::string value)
-        : Refused(std::move(message)), statement_(std::move(statement)), value_(std::move(value)) {}
+    StatementError(OwnText reason, std::string statement, std::string value);
 
+    /// Why the value is refused.
+    OwnText reason() const { return reason_; }
     const std::string& statement() const { return statement_; }
     const std::string& value() const { return value_; }
 
 private:
+    OwnText reason_;
     std::string statement_;
     std::string value_;
 };
+
+/// How the message about a refused value begins: with the value, a long one cut, and with the label of
+/// the field that it stands in, where that is known. Empty for no value and no label.
+std::vector<Refused::Sentence> refusedValue(std::string_view value, const std::string& label = {});
 
 /// Composes one statement text piece by piece. The fixed text is the program's own; every value
 /// enters through a function that says how it is written, and these ways are never unified: which
@@ -54,6 +60,8 @@ public:
     StatementText& quotedAsItStands(std::string_view value);
     /// As `quotedAsItStands`, for a value inside a literal that the fixed text opens and closes.
     StatementText& insideLiteral(std::string_view value);
+    /// As `insideLiteral`, for a text that is quoted once more inside the literal: no single quote at all.
+    StatementText& insideInnerLiteral(std::string_view value);
     /// A table or column name: ASCII letters, digits and "_", no digit first. Anything else is refused.
     StatementText& identifier(std::string_view name);
     StatementText& null() { return fixed("NULL"); }

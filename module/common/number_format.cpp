@@ -171,4 +171,13 @@ bool fitsNumberMask(std::string_view text, std::string_view mask, const Locale& 
     return whole.canGoOn() && whole.count() <= format.wholePlaces && decimals <= format.decimalPlaces;
 }
 
+int longestInMask(std::string_view mask) {
+    const auto format = readMask(mask);
+    std::size_t characters = format.wholePlaces + format.decimalPlaces;
+    if (format.negative) ++characters;
+    if (format.grouped && format.wholePlaces > 0) characters += (format.wholePlaces - 1) / 3;
+    if (format.decimalPlaces > 0) ++characters;
+    return static_cast<int>(characters);
+}
+
 } // namespace tellurix::common

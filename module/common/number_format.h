@@ -39,4 +39,7 @@ std::string reformatNumber(std::string_view text, std::string_view mask, const L
 /// filter of every number box.
 bool fitsNumberMask(std::string_view text, std::string_view mask, const Locale& locale);
 
+/// How many characters the longest text has that fits the mask: every place, and what stands between them.
+int longestInMask(std::string_view mask);
+
 } // namespace tellurix::common

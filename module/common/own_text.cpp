@@ -110,6 +110,10 @@ constexpr Words wordsOf(OwnText text) {
 
     case OwnText::refusedValue:
         return {"„{}“:", "\"{}\":"};
+    case OwnText::refusedInField:
+        return {"{} „{}“:", "{} \"{}\":"};
+    case OwnText::emptyField:
+        return {"{}:", "{}:"};
     case OwnText::numberMissing:
         return {"Hier fehlt eine Zahl. Bitte eine Zahl eingeben, zum Beispiel 12,5.",
                 "A number is missing here. Please type a number, such as 12.5."};
@@ -131,6 +135,10 @@ constexpr Words wordsOf(OwnText text) {
         return {"Die Anweisung wurde nicht an die Datenbank gesendet.",
                 "The statement was not sent to the database."};
 
+    case OwnText::inLine:
+        return {"Zeile {} „{}“:", "Line {} \"{}\":"};
+    case OwnText::ofTheHost:
+        return {"{}", "{}"};
     case OwnText::selectionUnreadable:
         return {"Die Selektion kann nicht gelesen werden: „{}“.", "The selection cannot be read: \"{}\"."};
     case OwnText::orWithoutCondition:

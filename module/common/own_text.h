@@ -51,13 +51,17 @@ enum class OwnText {
     oneLogClaimed, ///< line
     logsClaimed,   ///< line, how many
     // Values that no statement can carry
-    refusedValue, ///< begins the message: the value
+    refusedValue,   ///< begins the message: the value
+    refusedInField, ///< begins the message: the field's label, the value
+    emptyField,     ///< begins the message: the field's label
     numberMissing,
     noPlainNumber,
     textWithApostrophe,
     noName,
     nothingSent,
-    // Selection values that cannot be read: the message, the reason, the place
+    // Selection values that cannot be read: the line, the message, the reason, the place
+    inLine,              ///< its number, its description
+    ofTheHost,           ///< a message of the host's own
     selectionUnreadable, ///< the condition
     orWithoutCondition,
     semicolonMissing,

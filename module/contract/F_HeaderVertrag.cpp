@@ -5,12 +5,11 @@
 #include "common/field_text.h"
 #include "common/number_format.h"
 #include "common/text.h"
-#include "contract/contract_row.h"
+#include "common/typed_text.h"
 #include "contract/header_captions.h"
 #include "host/text_numbers.h"
 #include "ui/caption.h"
 #include "ui/date_box.h"
-#include "ui/number_box.h"
 
 namespace tellurix::contract {
 
@@ -52,7 +51,7 @@ F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
                       }}) {
     connectDates();
     for (ui::TextBox& box : txtNumber)
-        ui::makeNumberBox(box, numberMask, services_.locale);
+        numbers_.emplace_back(box, numberMask, services_.locale);
     connectCurrency();
     btnOk.onClick = [this] { save(); };
     btnCancel.onClick = [this] { unload(); };
@@ -130,6 +129,8 @@ void F_HeaderVertrag::arrange() {
 int F_HeaderVertrag::Run(const host::TlxVar& session, std::int32_t contract) {
     session_ = session;
     contract_ = contract;
+    for (std::size_t i = 0; i < txtKopf.size(); ++i)
+        txtKopf[i].setMaxLength(services_.columnWidth.of(session_, "VERTRAEGE", numbered("KOPF", i)));
     homeCurrency_ = session.homeCurrency;
     host::moduleState().context.blnOK = host::Boolean16::False;
     setCaptions();
@@ -176,7 +177,6 @@ void F_HeaderVertrag::LoadHeader() {
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
     const auto row = session_.connection->open(query.number(contract_).text());
-    requireContract(*row);
 
     txtDate1.setText(common::dateText(row->field("INVDATE")));
     txtDate2.setText(common::dateText(row->field("DATE1")));
@@ -184,8 +184,8 @@ void F_HeaderVertrag::LoadHeader() {
     txtDate4.setText(common::dateText(row->field("DATE3")));
     txtLieferVon.setText(common::dateText(row->field("LIEFERVON")));
     txtLieferBis.setText(common::dateText(row->field("LIEFERBIS")));
-    for (std::size_t i = 0; i < txtNumber.size(); ++i) {
-        txtNumber[i].setText(common::numberText(row->field(numbered("NUMM", i)), "0.00", services_.locale));
+    for (std::size_t i = 0; i < numbers_.size(); ++i) {
+        numbers_[i].show(row->field(numbered("NUMM", i)));
         txtKopf[i].setText(row->text(numbered("KOPF", i)));
     }
     rechnungsart_.show(row->text("RECHNUNGSART"), row->text("RART_ID"));
@@ -207,7 +207,7 @@ void F_HeaderVertrag::leaveCurrency() {
     txtWahrung.setTag(home ? "0" : "1");
 }
 
-std::string F_HeaderVertrag::updateStatement() const {
+std::string F_HeaderVertrag::updateStatement() {
     StatementText statement{"UPDATE VERTRAEGE SET "};
     const auto date = [&](std::string_view assignment, const ui::TextBox& box) {
         statement.fixed(assignment);
@@ -228,11 +228,12 @@ std::string F_HeaderVertrag::updateStatement() const {
     date(",DATE3 = ", txtDate4);
     date(",LIEFERVON = ", txtLieferVon);
     date(",LIEFERBIS = ", txtLieferBis);
-    for (std::size_t i = 0; i < txtNumber.size(); ++i) {
-        numberOrNull(numbered(",NUMM", i) + " = ", txtNumber[i].text(), isNumeric(txtNumber[i].text()));
+    for (std::size_t i = 0; i < numbers_.size(); ++i) {
+        const auto number = numbers_[i].number();
+        numberOrNull(numbered(",NUMM", i) + " = ", number.value_or(""), number.has_value());
     }
     for (std::size_t i = 0; i < txtKopf.size(); ++i) {
-        statement.fixed(numbered(",KOPF", i) + " = ").quotedAsItStandsOrNull(txtKopf[i].text());
+        statement.fixed(numbered(",KOPF", i) + " = ").quotedAsItStandsOrNull(common::typedText(txtKopf[i]));
     }
     numberOrNull(",RART_ID = ", rechnungsart_.key(), !rechnungsart_.key().empty());
     numberOrNull(",BUCHNR_ID = ", buchungsart_.key(), !buchungsart_.key().empty());
@@ -244,7 +245,7 @@ std::string F_HeaderVertrag::updateStatement() const {
 }
 
 void F_HeaderVertrag::save() {
-    updateContract(*session_.connection, updateStatement());
+    session_.connection->execute(updateStatement());
     unload();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/LookupBox.h"
+#include "common/NumberField.h"
 #include "common/PersonBox.h"
 #include "host/module_state.h"
 #include "host/services.h"
@@ -11,6 +12,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tellurix::contract {
 
@@ -35,7 +37,7 @@ private:
     void LoadHeader();
     void save();
     void leaveCurrency();
-    std::string updateStatement() const;
+    std::string updateStatement();
 
     host::HostServices& services_;
     host::TlxVar session_;
@@ -86,6 +88,7 @@ private:
     ui::Button btnOk{*this, "btnOk", "Ok"};
     ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};
 
+    std::vector<common::NumberField> numbers_; ///< NUMM1 to NUMM10
     common::LookupBox rechnungsart_;
     common::LookupBox buchungsart_;
     common::PersonBox mandant_;

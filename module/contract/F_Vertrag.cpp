@@ -6,8 +6,8 @@
 #include "common/field_text.h"
 #include "common/own_text.h"
 #include "common/text.h"
+#include "common/typed_text.h"
 #include "contract/F_HeaderVertrag.h"
-#include "contract/contract_row.h"
 #include "contract/header_captions.h"
 #include "host/contract_type.h"
 #include "host/text_numbers.h"
@@ -80,7 +80,6 @@ void F_Vertrag::arrange() {
                 .growing(),
             column({
                 row({btnAbschlag, txtAbschlag}),
-                lblOhneAbschlag,
                 chkAbgeschlossen,
                 chkAClEmpty,
                 btnLieferprofil_WVO,
@@ -123,7 +122,7 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     showQuantityLines(false);
     services_.localizer.localize(session_, *this);
     setTitle(strCaption + " (" + name_ + ")");
-    showDeductionModel();
+    txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
     loadFlags();
     services_.display.showModal(*this);
 }
@@ -132,13 +131,12 @@ void F_Vertrag::SetContractField(const std::string& column, const std::string& v
     StatementText statement{"UPDATE VERTRAEGE SET "};
     statement.identifier(column).fixed(" = ").quotedAsItStandsOrNull(value);
     statement.fixed(" WHERE ID_VERTRAG = ").number(contract);
-    updateContract(*session_.connection, statement.text());
+    session_.connection->execute(statement.text());
 }
 
 void F_Vertrag::loadContract() {
     StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
     const auto contract = session_.connection->open(query.number(id_).text());
-    requireContract(*contract);
     customer_ = static_cast<std::int32_t>(contract->integer("ID_PERSONAL"));
     accessLevel_ = contract->integer("ID_ACCESS_LEVELS");
     showCustomer();
@@ -175,7 +173,6 @@ void F_Vertrag::ShowHeader() {
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
     const auto header = session_.connection->open(query.number(id_).text());
-    requireContract(*header);
     List1.clear();
     const auto add = [this](const std::string& caption, const std::string& value) {
         if (!value.empty()) List1.add(ui::plainCaption(caption) + ": " + value);
@@ -249,18 +246,6 @@ std::string F_Vertrag::GetAbschlagValue(const std::string& column) {
     return model->atEnd() ? std::string{} : model->text(column);
 }
 
-void F_Vertrag::showDeductionModel() {
-    lblOhneAbschlag.setVisible(false);
-    try {
-        txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
-    } catch (const common::StatementError&) {
-        // The name goes into the statement as it stands, and with an apostrophe in it there is none to send.
-        txtAbschlag.setText("");
-        lblOhneAbschlag.setCaption(common::ownText(OwnText::noDeductionModel, session_.language));
-        lblOhneAbschlag.setVisible(true);
-    }
-}
-
 void F_Vertrag::loadFlags() {
     chkAbgeschlossen.setChecked(false);
     chkAClEmpty.setChecked(false);
@@ -283,11 +268,9 @@ void F_Vertrag::chooseCustomer() {
     services_.moduleService.request(session_, "2PVK", common::toUpper(context.StrVer_Type),
                                     context.strServiceOut1, context.strServiceOut2);
     const std::int32_t chosen = services_.personalPicker.choose(
-        session_, GetRightsCode(context.StrVer_Type),
-        accessLevel_ == 0 ? session_.accessLevel : static_cast<int>(accessLevel_),
+        session_, GetRightsCode(context.StrVer_Type), static_cast<int>(accessLevel_),
         context.g_intStandardMandanten, customer_, context.blnOK);
-    if (chosen <= 0) return;
-    // The one that is shown is written, too: a colleague may have removed it meanwhile.
+    if (chosen <= 0 || chosen == customer_) return;
     SetContractField("ID_PERSONAL", std::to_string(chosen), id_);
     customer_ = chosen;
     showCustomer();
@@ -296,7 +279,6 @@ void F_Vertrag::chooseCustomer() {
 void F_Vertrag::removeCustomer() {
     StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
     const auto contract = session_.connection->openUpdatable(query.number(id_).text());
-    requireContract(*contract);
     contract->setField("id_personal", common::Null{});
     contract->update();
     customer_ = 0;
@@ -319,34 +301,11 @@ void F_Vertrag::toggleAdditionalTexts() {
 
 void F_Vertrag::writeAdditionalText(AdditionalText& text) {
     if (text.box.text() == text.written) return;
-    SetContractField(text.column, text.box.text(), id_);
+    SetContractField(text.column, common::typedText(text.box), id_);
     text.written = text.box.text();
 }
 
-bool F_Vertrag::keepsRefusedText() {
-    ui::TextBox* refused = nullptr;
-    for (AdditionalText& text : additionalTexts_) {
-        try {
-            writeAdditionalText(text);
-        } catch (const std::exception&) {
-            if (refused == nullptr) refused = &text.box;
-        }
-    }
-    if (refused == nullptr) return false;
-    const std::string question = common::ownText(OwnText::textNotSaved, session_.language);
-    if (common::ShowMessage(services_.display, question,
-                            ui::box::yesNo + ui::box::exclamation + ui::box::defaultButton2) ==
-        ui::Answer::yes) {
-        return false;
-    }
-    picZusatzText.setVisible(true);
-    common::SafeSetFocus(*refused);
-    return true;
-}
-
 void F_Vertrag::save() {
-    for (AdditionalText& text : additionalTexts_)
-        writeAdditionalText(text);
     StatementText statement{"UPDATE VERTRAEGE SET ABGESCHLOSSEN = "};
     statement.fixed(chkAbgeschlossen.checked() ? "1" : "0");
     if (chkAClEmpty.checked()) {
@@ -359,7 +318,7 @@ void F_Vertrag::save() {
             .fixed(" END");
     }
     statement.fixed(" WHERE ID_VERTRAG = ").number(id_);
-    updateContract(*session_.connection, statement.text());
+    session_.connection->execute(statement.text());
     notYetSaved_ = false;
     unload();
 }
@@ -373,7 +332,8 @@ bool F_Vertrag::queryUnload() {
         return true;
     }
     // The window's close box leaves no field; what was typed last is written all the same.
-    if (keepsRefusedText()) return false;
+    for (AdditionalText& text : additionalTexts_)
+        writeAdditionalText(text);
     releaseLineScreens();
     return true;
 }

@@ -1,6 +1,6 @@
 #include "lines/DeliveredQuantity.h"
 
-#include "common/StatementText.h"
+#include "common/Refused.h"
 #include "common/field_text.h"
 #include "common/text.h"
 #include "host/module_state.h"
@@ -43,10 +43,6 @@ std::string expressionOf(common::Recordset& unit) {
     return {};
 }
 
-Decimal decimalIn(const common::Value& field) {
-    return common::numberIn(field).value_or(Decimal{});
-}
-
 /// Where a log's own measure is, by the way it was measured (`DSART`).
 struct OwnMeasure {
     const char* column;
@@ -66,6 +62,11 @@ OwnMeasure ownMeasure(std::int64_t wayOfMeasuring) {
 }
 
 } // namespace
+
+Decimal quantityIn(const common::Value& field) {
+    const Decimal exact = common::numberIn(field).value_or(Decimal{});
+    return exact.scale() > quantityDecimals ? exact.rounded(quantityDecimals) : exact;
+}
 
 DeliveredQuantity::DeliveredQuantity(host::SelectionTranslator& translator, const host::TlxVar& session,
                                      std::string reference, std::int32_t contract)
@@ -90,26 +91,58 @@ std::vector<DeliveredQuantity::Line> DeliveredQuantity::linesUpTo(int place) con
         .number(contract_)
         .fixed(" ")
         .fixed(" ORDER BY VERTRAG_MENGEN.ORDNUNG");
-    const std::string type = common::toUpper(host::moduleState().context.StrVer_Type);
-    std::vector<Line> lines;
+    struct Read {
+        int place;
+        std::string selection;
+        std::string expression;
+    };
+    std::vector<Read> read;
     for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext()) {
-        const std::string selection = line->text("SELEKTION_VALUE");
-        lines.push_back({.place = static_cast<int>(line->integer("ORDNUNG")),
-                         .condition = selection.empty()
-                                          ? std::string{}
-                                          : translator_.translate(session_, logsOfContract, logsOfContract,
-                                                                  selection, type, reference_),
-                         .expression = expressionOf(*line)});
+        read.push_back(
+            {static_cast<int>(line->integer("ORDNUNG")), line->text("SELEKTION_VALUE"), expressionOf(*line)});
     }
+    std::vector<Line> lines;
+    for (Read& line : read)
+        lines.push_back({line.place, conditionOf(line.place, line.selection), std::move(line.expression)});
     return lines;
 }
 
-std::string DeliveredQuantity::logsOf(const std::vector<Line>& lines, std::size_t index) const {
+std::string DeliveredQuantity::conditionOf(int place, const std::string& selection) const {
+    if (selection.empty()) return {};
+    try {
+        return translator_.translate(session_, logsOfContract, logsOfContract, selection,
+                                     common::toUpper(host::moduleState().context.StrVer_Type), reference_);
+    } catch (const common::DatabaseError&) {
+        throw;
+    } catch (const std::exception& error) {
+        // It may be another line than the one that the user looks at.
+        StatementText query{"SELECT BEZEICHNUNG FROM VERTRAG_MENGEN WHERE ORDNUNG = "};
+        const auto line = session_.connection->open(
+            query.number(place).fixed(" AND ID_VERTRAG = ").number(contract_).text());
+        const std::string description = line->atEnd() ? std::string{} : line->text("BEZEICHNUNG");
+        std::vector<common::Refused::Sentence> message{
+            {common::OwnText::inLine, {std::to_string(place), description}}};
+        const auto* refused = dynamic_cast<const common::Refused*>(&error);
+        if (refused != nullptr && !refused->sentences().empty()) {
+            message.insert(message.end(), refused->sentences().begin(), refused->sentences().end());
+        } else {
+            message.push_back({common::OwnText::ofTheHost, {error.what()}});
+        }
+        throw common::Refused{std::move(message)};
+    }
+}
+
+StatementText DeliveredQuantity::bookedLogs() const {
     StatementText logs{" LOGS.ID_LOG IN (SELECT ID_LOG FROM LOGS_RECH WHERE "};
     logs.identifier(common::toUpper(host::moduleState().context.StrVer_Type) + "_VERTRAG")
         .fixed(" = ")
         .quoted(reference_)
         .fixed(")");
+    return logs;
+}
+
+std::string DeliveredQuantity::logsOf(const std::vector<Line>& lines, std::size_t index) const {
+    StatementText logs = bookedLogs();
     for (std::size_t i = 0; i < index; ++i) {
         if (lines[i].condition.empty()) return {};
         logs.fixed(" AND LOGS.ID_LOG NOT IN (SELECT LOGS.ID_LOG ").fixed(lines[i].condition).fixed(")");
@@ -119,6 +152,29 @@ std::string DeliveredQuantity::logsOf(const std::vector<Line>& lines, std::size_
     return logs.text();
 }
 
+std::vector<std::int64_t> DeliveredQuantity::claims(const std::vector<Line>& lines) const {
+    std::vector<std::int64_t> taken(lines.size());
+    if (lines.empty()) return taken;
+    // Each log asks the lines in their order which is the first to take it.
+    StatementText query{"SELECT STAMM.ZEILE,COUNT(*) AS ANZAHL FROM (SELECT (CASE"};
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::string& condition = lines[i].condition;
+        query.fixed(" WHEN LOGS.ID_LOG IN (SELECT LOGS.ID_LOG ")
+            .fixed(condition.empty() ? " FROM LOGS" : condition)
+            .fixed(") THEN ")
+            .number(i);
+        if (condition.empty()) break; // none is left for those behind it
+    }
+    query.fixed(" END) AS ZEILE FROM LOGS WHERE ")
+        .fixed(bookedLogs().text())
+        .fixed(") STAMM GROUP BY STAMM.ZEILE");
+    for (auto claim = session_.connection->open(query.text()); !claim->atEnd(); claim->moveNext()) {
+        const std::int64_t index = claim->integer("ZEILE", -1);
+        if (index >= 0) taken.at(static_cast<std::size_t>(index)) = claim->integer("ANZAHL");
+    }
+    return taken;
+}
+
 Decimal DeliveredQuantity::of(int place) const {
     const std::vector<Line> lines = linesUpTo(place);
     if (lines.empty() || lines.back().place != place || lines.back().expression.empty()) return {};
@@ -126,7 +182,7 @@ Decimal DeliveredQuantity::of(int place) const {
     if (logs.empty()) return {};
     const auto sum = session_.connection->open("SELECT ISNULL(SUM(" + lines.back().expression +
                                                "),0) FROM LOGS WHERE " + logs);
-    return decimalIn(sum->field(std::size_t{0}));
+    return quantityIn(sum->field(std::size_t{0}));
 }
 
 DeliveredQuantity::Explanation DeliveredQuantity::explain(int place) const {
@@ -134,14 +190,10 @@ DeliveredQuantity::Explanation DeliveredQuantity::explain(int place) const {
     Explanation explanation;
     if (lines.empty() || lines.back().place != place) return explanation;
     common::Connection& connection = *session_.connection;
-    for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
-        const std::string logs = logsOf(lines, i);
-        const std::int64_t count =
-            logs.empty()
-                ? 0
-                : connection.open("SELECT COUNT(*) AS ANZAHL FROM LOGS WHERE " + logs)->integer("ANZAHL");
-        explanation.earlier.push_back({lines[i].place, count});
-    }
+    const std::vector<Line> earlier{lines.begin(), lines.end() - 1};
+    const std::vector<std::int64_t> taken = claims(earlier);
+    for (std::size_t i = 0; i < earlier.size(); ++i)
+        explanation.earlier.push_back({earlier[i].place, taken[i]});
     explanation.unitHasMeasure = !lines.back().expression.empty();
     const std::string logs = logsOf(lines, lines.size() - 1);
     if (!explanation.unitHasMeasure || logs.empty()) return explanation;
@@ -158,9 +210,9 @@ DeliveredQuantity::Explanation DeliveredQuantity::explain(int place) const {
                                                 : std::nullopt,
                                     .species = log->text("HA"),
                                     .sort = log->text("HS"),
-                                    .measured = decimalIn(log->field(measure.column)),
+                                    .measured = quantityIn(log->field(measure.column)),
                                     .measuredIn = measure.unit,
-                                    .quantity = decimalIn(log->field("MENGE_EINHEIT"))});
+                                    .quantity = quantityIn(log->field("MENGE_EINHEIT"))});
     }
     return explanation;
 }

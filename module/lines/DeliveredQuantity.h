@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/Decimal.h"
+#include "common/StatementText.h"
 #include "common/date_time.h"
 #include "host/services.h"
 
@@ -10,6 +11,14 @@
 #include <vector>
 
 namespace tellurix::lines {
+
+/// To how many decimals quantities are exact. Measures are also kept as floating-point numbers and with
+/// more decimals than can be added up exactly; what is beyond these is noise of their calculation.
+inline constexpr int quantityDecimals = 6;
+
+/// A field as a quantity; 0 for NULL.
+/// @throws std::out_of_range when it has more than 12 digits before the point
+common::Decimal quantityIn(const common::Value& field);
 
 /// The quantity delivered against a quantity line: the sum, in the line's unit, over the logs that
 /// are booked against the contract and that the line's selection takes.
@@ -23,7 +32,7 @@ public:
                       std::string reference, std::int32_t contract);
 
     /// The delivered quantity of the line at a place; 0 for a unit in which logs have no measure.
-    /// @throws std::invalid_argument when a selection cannot be translated
+    /// @throws common::Refused naming the line whose selection cannot be translated
     common::Decimal of(int place) const;
 
     /// One log that counts for a line.
@@ -58,6 +67,12 @@ private:
     };
 
     std::vector<Line> linesUpTo(int place) const;
+    /// @throws common::Refused naming the line
+    std::string conditionOf(int place, const std::string& selection) const;
+    /// The condition on the logs of the contract.
+    common::StatementText bookedLogs() const;
+    /// How many logs each of the lines takes, by its index.
+    std::vector<std::int64_t> claims(const std::vector<Line>& lines) const;
     /// The condition on the logs that count for line `index`; empty when an earlier one takes all.
     std::string logsOf(const std::vector<Line>& lines, std::size_t index) const;
 

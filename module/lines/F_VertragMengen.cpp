@@ -52,8 +52,8 @@ void F_VertragMengen::prepare(bool shown) {
                                                 " ID_VERTRAG = " + std::to_string(contract_));
     StatementText query{"SELECT UBERLIEFERUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = "};
     const auto logistics = session_.connection->open(query.number(contract_).text());
-    overDelivery_.reset();
-    if (!logistics->atEnd()) overDelivery_ = common::numberIn(logistics->field("UBERLIEFERUNG"));
+    overDelivery_ = {};
+    if (!logistics->atEnd()) overDelivery_ = quantityIn(logistics->field("UBERLIEFERUNG"));
 }
 
 std::vector<ui::Grid::Column> F_VertragMengen::gridColumns() const {
@@ -70,7 +70,7 @@ ui::Grid::Row F_VertragMengen::FillGridRow(common::Recordset& record) const {
 
 void F_VertragMengen::showFields(common::Recordset& line) {
     quantity_.show(line.field("MENGE"));
-    agreed_ = common::numberIn(line.field("MENGE")).value_or(Decimal{});
+    agreed_ = quantityIn(line.field("MENGE"));
 }
 
 void F_VertragMengen::showNoLine() {
@@ -81,6 +81,10 @@ void F_VertragMengen::showNoLine() {
 void F_VertragMengen::emptyForNewLine() {
     quantity_.show(common::Null{});
     showNoOpenQuantity();
+}
+
+void F_VertragMengen::requireFields() {
+    static_cast<void>(quantity_.value());
 }
 
 void F_VertragMengen::writeFields(common::UpdatableRecordset& line) {
@@ -100,6 +104,7 @@ void F_VertragMengen::currentLineShown() {
 }
 
 void F_VertragMengen::stateShown() {
+    markCurrentRow();
     btnOffen.setEnabled(viewing() && hasLines());
 }
 
@@ -120,7 +125,8 @@ void F_VertragMengen::showNoOpenQuantity() {
 void F_VertragMengen::showOpenQuantity() {
     const Decimal quantity = delivered().of(place());
     txtOffen.setText(common::formatNumber(agreed_ - quantity, "0.00", services_.locale));
-    const Decimal permitted = agreed_ + (agreed_ * overDelivery_.value_or(Decimal{})).dividedByTenTo(2);
+    const Decimal permitted =
+        (agreed_ + (agreed_ * overDelivery_).dividedByTenTo(2)).rounded(quantityDecimals);
     if (quantity > permitted) {
         const auto number = [this](const Decimal& value) {
             return common::formatNumber(value, "##,##0.00", services_.locale);

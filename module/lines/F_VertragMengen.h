@@ -1,11 +1,10 @@
 #pragma once
 
+#include "common/NumberField.h"
 #include "lines/DeliveredQuantity.h"
 #include "lines/F_OffeneMenge.h"
 #include "lines/LineEditor.h"
-#include "lines/NumberField.h"
 
-#include <optional>
 #include <string>
 
 namespace tellurix::lines {
@@ -23,6 +22,7 @@ private:
     void showFields(common::Recordset& line) override;
     void showNoLine() override;
     void emptyForNewLine() override;
+    void requireFields() override;
     void writeFields(common::UpdatableRecordset& line) override;
     void currentLineShown() override;
     void stateShown() override;
@@ -33,9 +33,9 @@ private:
     void explainOpenQuantity();
     DeliveredQuantity delivered() const;
 
-    std::string reference_;                       ///< the contract's name
-    std::optional<common::Decimal> overDelivery_; ///< per cent that may be delivered above the quantity
-    common::Decimal agreed_;                      ///< quantity of the current line, as stored
+    std::string reference_;        ///< the contract's name
+    common::Decimal overDelivery_; ///< per cent that may be delivered above the quantity
+    common::Decimal agreed_;       ///< quantity of the current line
 
     ui::Label lblMenge{*this, "lblMenge", "Menge"};
     ui::TextBox txtMenge{*this, "txtMenge", 14};
@@ -43,7 +43,7 @@ private:
     ui::TextBox txtOffen{*this, "txtOffen", 14};
     ui::Button btnOffen{*this, "btnOffen", "Nachweis"};
 
-    NumberField quantity_;
+    common::NumberField quantity_;
     F_OffeneMenge offeneMenge_;
 };
 

@@ -149,6 +149,11 @@ bool F_VertragPreise::confirmSave() {
            ui::Answer::yes;
 }
 
+void F_VertragPreise::requireFields() {
+    for (const common::NumberField* field : {&percent_, &price_, &secondPrice_})
+        static_cast<void>(field->value());
+}
+
 void F_VertragPreise::writeFields(common::UpdatableRecordset& line) {
     line.setField("MSZ_PERCENT", percent_.value());
     line.setField("PREIS", price_.value());

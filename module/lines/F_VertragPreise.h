@@ -1,7 +1,7 @@
 #pragma once
 
+#include "common/NumberField.h"
 #include "lines/LineEditor.h"
-#include "lines/NumberField.h"
 #include "lines/PriceChange.h"
 #include "ui/GridEditor.h"
 
@@ -27,6 +27,7 @@ private:
     void showNoLine() override;
     void emptyForNewLine() override;
     bool confirmSave() override;
+    void requireFields() override;
     void writeFields(common::UpdatableRecordset& line) override;
     void stateShown() override;
     void linesChanged() override;
@@ -48,9 +49,9 @@ private:
     ui::CheckBox chkEdit{*this, "chkEdit", "Edit"};
     ui::TextBox txtEdit{*this, "txtEdit", 14};
 
-    NumberField percent_;
-    NumberField price_;
-    NumberField secondPrice_;
+    common::NumberField percent_;
+    common::NumberField price_;
+    common::NumberField secondPrice_;
     ui::GridEditor cellEditor_;
     PriceChange priceChange_;
 };

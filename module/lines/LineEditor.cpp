@@ -25,7 +25,8 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
       services_(services),
       kind_(kind),
       statements_(kind.table, 0),
-      newId_(noRow) {
+      newId_(noRow),
+      rowBefore_(ui::Grid::none) {
     connect();
 }
 
@@ -73,6 +74,7 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     ids_.clear();
     LoadGrid();
     if (!shown) return;
+    txtBEZEICHNUNG.setMaxLength(services_.columnWidth.of(session_, kind_.table, "BEZEICHNUNG"));
     showCurrentLine();
     enter(State::view);
     services_.display.showModal(*this);
@@ -223,7 +225,10 @@ void LineEditor::startNew() {
     newId_ = noRow;
     unlistedUnit_ = common::Null{};
     cboUnit.select(ui::ItemList::none);
+    chkSelektion.setChecked(false);
     emptyForNewLine();
+    rowBefore_ = MSFlexGrid1.currentRow();
+    MSFlexGrid1.setCurrent(ui::Grid::none, MSFlexGrid1.currentColumn());
     enter(State::fresh);
     common::SafeSetFocus(txtBEZEICHNUNG);
 }
@@ -241,17 +246,13 @@ std::int64_t LineEditor::createRow() {
     return std::get<std::int64_t>(newest->field(std::size_t{0}));
 }
 
-void LineEditor::StoreSelection() {
-    const std::string literal = selectionLiteral(quickSelection_.read());
+void LineEditor::StoreSelection(const std::string& literal) {
     if (literal.empty()) return;
     if (state_ != State::fresh) {
         session_.connection->execute(statements_.setSelectionAt(literal, place()));
         return;
     }
-    if (newId_ == noRow) {
-        statements_.requireSelection(literal); // before a row is made for it
-        newId_ = createRow();
-    }
+    if (newId_ == noRow) newId_ = createRow();
     session_.connection->execute(statements_.setSelectionOf(literal, newId_));
 }
 
@@ -283,8 +284,10 @@ void LineEditor::selectInDialog() {
 
 void LineEditor::save() {
     if (!confirmSave()) return;
+    requireFields();
+    const std::string selection = selectionLiteral(quickSelection_.read());
     if (state_ == State::edit) openInPlace(MSFlexGrid1.currentRow());
-    StoreSelection();
+    StoreSelection(selection);
     if (!lineHasSelection()) {
         common::ShowMessage(services_.display,
                             services_.localizer.text(host::textNumber::invalidEntry, session_),
@@ -321,6 +324,7 @@ void LineEditor::saveLine() {
 
 void LineEditor::cancel() {
     discardNewRow();
+    if (state_ == State::fresh) MSFlexGrid1.setCurrent(rowBefore_, MSFlexGrid1.currentColumn());
     showCurrentLine();
     enter(State::view);
     common::SafeSetFocus(MSFlexGrid1);

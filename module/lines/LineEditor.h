@@ -62,6 +62,9 @@ protected:
     virtual void emptyForNewLine() = 0;
     /// Asks what has to be asked before saving.
     virtual bool confirmSave() { return true; }
+    /// Refuses what cannot be written of them, before anything is.
+    /// @throws ui::RefusedInput
+    virtual void requireFields() = 0;
     /// Sets the fields that only this kind has.
     virtual void writeFields(common::UpdatableRecordset& line) = 0;
     /// The current line, or the state, is another one.
@@ -122,7 +125,7 @@ private:
     void discardNewRow();
     void removeLine();
     void moveLine(int step);
-    void StoreSelection();
+    void StoreSelection(const std::string& literal);
     bool lineHasSelection();
     void selectInDialog();
     void ShowSelection(const std::string& value);
@@ -135,6 +138,7 @@ private:
     std::vector<std::int64_t> ids_; ///< `ID` of each row of the grid
     State state_ = State::view;
     std::int64_t newId_;         ///< `ID` of the new line, -1 while it has no row
+    int rowBefore_;              ///< row that was current when the new line was begun
     common::Value unlistedUnit_; ///< the line's unit where the list does not offer it
 
     QuickSelectionBoxes quickSelection_{*this, services_, session_};

@@ -67,10 +67,6 @@ std::string LineStatements::setSelectionOf(const std::string& literal, std::int6
     return statement.fixed(" WHERE ID = ").number(id).text();
 }
 
-void LineStatements::requireSelection(const std::string& literal) const {
-    static_cast<void>(setSelectionOf(literal, 0));
-}
-
 std::string LineStatements::setDialogSelectionOf(const std::string& text, std::int64_t id) const {
     StatementText statement{"UPDATE "};
     statement.identifier(table_).fixed(" SET SELEKTION_VALUE = ").quotedOrNull(text);

@@ -32,8 +32,6 @@ public:
     /// @throws common::StatementError when the value would end its literal
     std::string setSelectionAt(const std::string& literal, int place) const;
     std::string setSelectionOf(const std::string& literal, std::int64_t id) const;
-    /// @throws common::StatementError where `setSelectionAt` and `setSelectionOf` would
-    void requireSelection(const std::string& literal) const;
     /// Writes the text of the selection dialog; an empty one as NULL.
     std::string setDialogSelectionOf(const std::string& text, std::int64_t id) const;
 

@@ -5,6 +5,7 @@
 #include "common/field_text.h"
 #include "common/number_format.h"
 #include "common/own_text.h"
+#include "common/typed_text.h"
 #include "ui/number_box.h"
 
 #include <stdexcept>
@@ -123,12 +124,13 @@ void PriceChange::preview() {
     grdVorschau.setRows(std::move(rows));
 }
 
-std::string PriceChange::statement() const {
+std::string PriceChange::statement() {
+    const std::string amount = common::typedNumber(txtWert);
     StatementText text{"UPDATE VERTRAG_PREISE SET "};
     if (kind() == ChangeKind::percent) {
-        text.fixed("PREIS = ROUND(PREIS * (100 + ").number(txtWert.text()).fixed(") / 100,2)");
+        text.fixed("PREIS = ROUND(PREIS * (100 + ").number(amount).fixed(") / 100,2)");
     } else {
-        text.fixed("PREIS = ROUND(PREIS  + ").number(txtWert.text()).fixed(",2)");
+        text.fixed("PREIS = ROUND(PREIS  + ").number(amount).fixed(",2)");
     }
     return text.fixed(" WHERE ID_Vertrag = ").number(contract_).text();
 }

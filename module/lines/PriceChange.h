@@ -55,7 +55,7 @@ private:
     void change();
     void preview();
     ChangeKind kind() const;
-    std::string statement() const;
+    std::string statement();
 
     host::HostServices& services_;
     const host::TlxVar& session_;

@@ -1,8 +1,16 @@
 #include "lines/QuickSelectionBoxes.h"
 
+#include "common/typed_text.h"
 #include "ui/caption.h"
 
 namespace tellurix::lines {
+
+namespace {
+
+/// The lookup-grid dialog lets several codes be chosen.
+constexpr const char* severalChoices = "01";
+
+} // namespace
 
 QuickSelectionBoxes::QuickSelectionBoxes(ui::Form& form, host::HostServices& services,
                                          const host::TlxVar& session)
@@ -27,8 +35,8 @@ void QuickSelectionBoxes::connect(Attribute attribute, const char* query, const 
     ui::TextBox& box = boxes_[static_cast<std::size_t>(attribute)];
     box.onFocus = [this, &box, query, column] { services_.typeAhead.bind(session_, box, query, column); };
     box.onPick = [this, &label, &box, settingKey] {
-        box.setText(services_.lookupGridDialog.choose(session_, services_.settings.text(session_, settingKey),
-                                                      ui::plainCaption(label.caption()), box.text()));
+        box.setText(services_.lookupGridDialog.choose(session_, settingKey, ui::plainCaption(label.caption()),
+                                                      "", severalChoices, box.text()));
     };
 }
 
@@ -49,7 +57,7 @@ QuickSelection QuickSelectionBoxes::read() {
     lengths.setText(lengthsIn(lengths.text(), services_.locale));
     QuickSelection selection;
     for (std::size_t i = 0; i < attributeCount; ++i)
-        selection.lists[i] = boxes_[i].text();
+        selection.lists[i] = common::typedCodes(boxes_[i]);
     return selection;
 }
 

@@ -23,6 +23,7 @@ public:
 
     void show(const QuickSelection& selection);
     /// What the boxes say. Lengths that are no numbers are dropped, from the box as well.
+    /// @throws ui::RefusedInput when there is a quote in a code: stored, it would end the code there
     QuickSelection read();
 
 private:

@@ -5,6 +5,7 @@
 #include "ui/CheckBox.h"
 #include "ui/Grid.h"
 #include "ui/ListBox.h"
+#include "ui/RefusedInput.h"
 #include "ui/TextBox.h"
 #include "ui/UpDown.h"
 #include "ui/caption.h"
@@ -56,6 +57,17 @@ void Desktop::dispatch(const Event& event) {
     if (form == nullptr || !form->loaded()) return;
     try {
         std::visit([this, form](const auto& happened) { handle(*form, happened); }, event);
+    } catch (const RefusedInput& refused) {
+        errors_.report(refused);
+        goTo(refused.control());
+    } catch (const std::exception& error) {
+        errors_.report(error);
+    }
+}
+
+void Desktop::goTo(Control& control) {
+    try {
+        control.form().setFocus(control);
     } catch (const std::exception& error) {
         errors_.report(error);
     }
@@ -113,14 +125,22 @@ void Desktop::pick(Form& form, Control& control) {
 
 void Desktop::typeCharacter(TextBox& box, char32_t character) {
     if (box.onKeyPress) box.onKeyPress(character);
-    if (character == 0) return;
-    box.typeOver(common::encodeUtf8(character));
-    call(box.onChange);
+    if (character != 0 && box.typeOver(common::encodeUtf8(character))) call(box.onChange);
 }
 
 void Desktop::typeText(TextBox& box, const std::string& text) {
-    for (const char32_t character : common::decodeUtf8(box.onPaste ? box.onPaste(text) : text))
-        if (box.takes(character)) typeCharacter(box, character);
+    std::u32string characters = common::decodeUtf8(box.onPaste ? box.onPaste(text) : text);
+    std::erase_if(characters, [&box](char32_t character) { return !box.takes(character); });
+    bool changed = false;
+    if (!box.onKeyPress) {
+        changed = box.typeOver(common::encodeUtf8(characters));
+    } else {
+        for (char32_t character : characters) {
+            box.onKeyPress(character);
+            if (character != 0 && box.typeOver(common::encodeUtf8(character))) changed = true;
+        }
+    }
+    if (changed) call(box.onChange);
 }
 
 void Desktop::handle(Form& form, const KeyDownEvent& event) {

@@ -22,8 +22,10 @@ namespace tellurix::ui {
 /// - Esc presses the cancel button, or closes the window.
 /// - Characters go through the box's key filter, pasted ones too. A box that a display has edited by
 ///   itself keeps the new text where that needs no filter; else it is typed in place of the old one.
+///   A text that comes at once is one change, however long it is.
 ///
-/// An error inside an event goes to the host's error handling, and the window stays as it is.
+/// An error inside an event goes to the host's error handling, and the window stays as it is. Where it
+/// is about what stands in one control (`RefusedInput`), that control gets the focus.
 class Desktop {
 public:
     explicit Desktop(ErrorHandling& errors) : errors_(errors) {}
@@ -60,6 +62,8 @@ private:
     /// Asks the control that has the focus; a refusal takes the focus back.
     /// @return false also when its handler closed the window or sent the focus elsewhere
     static bool leave(Form& form);
+    /// Gives the focus to the control that has to be put right, wherever it is.
+    void goTo(Control& control);
     /// Goes from the focused control to another one, by the rules of leaving.
     bool moveFocus(Form& form, Control& to);
     void moveByTab(Form& form, bool backwards);

@@ -41,14 +41,12 @@ void GridEditor::openWith(char32_t character) {
     box_.setText("");
     if (box_.onKeyPress) box_.onKeyPress(character);
     if (character == 0) return;
-    showOver(row, column, common::encodeUtf8(character));
-    // Getting the focus has selected the character; what is typed next goes behind it.
-    box_.select(1, 0);
+    showOver(row, column, "");
+    box_.typeOver(common::encodeUtf8(character));
 }
 
 void GridEditor::showOver(int row, int column, const std::string& text) {
-    before_ = grid_.cell(row, column);
-    box_.setText(text);
+    box_.show(text);
     box_.setVisible(true);
     grid_.showCellEditor(box_, row, column);
     grid_.form().setFocus(box_);
@@ -58,7 +56,7 @@ void GridEditor::commit() {
     if (!open()) return;
     const int row = grid_.editedRow();
     const int column = grid_.editedColumn();
-    if (box_.text() != before_) {
+    if (box_.touched()) {
         std::string shown = write(row, column, box_.text());
         // The rows may have been loaded again meanwhile.
         if (row < static_cast<int>(grid_.rows().size())) grid_.setCell(row, column, std::move(shown));

@@ -13,7 +13,8 @@ namespace tellurix::ui {
 /// on it opens the box with that character in place of the text. In the box, Enter writes and goes
 /// back to the grid, Esc goes back without writing, Up and Down write and go to the row above or
 /// below as far as there is one, Tab writes and goes on behind the grid. Leaving the box, going back
-/// to the grid and scrolling write as well. A text that was not changed is not written.
+/// to the grid and scrolling write as well. A text that nobody touched is not written; what was typed
+/// is, even where the cell shows the same: it may show fewer decimals than the value has.
 class GridEditor {
 public:
     /// @param box a text box of the same form that stands nowhere in its layout; its key filter
@@ -40,7 +41,6 @@ private:
 
     Grid& grid_;
     TextBox& box_;
-    std::string before_; ///< the cell's text when the box was opened
 };
 
 } // namespace tellurix::ui

@@ -19,9 +19,14 @@ public:
 
     ControlKind kind() const override { return ownKind; }
 
-    const std::string& text() const { return text_; }
+    const std::string& text() const;
     /// Shows a text; the caret goes behind it. Does not call `onChange`: that tells what the user did.
     void setText(std::string text);
+    /// As `setText`, for a value as it was read: the user has not touched it.
+    void show(std::string text);
+    /// Whether the user has typed, pasted or taken out something since `show`. A number is shown with
+    /// fewer decimals than it has: only this tells whether what stands there was meant.
+    bool touched() const { return touched_; }
     const std::string& tag() const { return tag_; }
     void setTag(std::string tag) { tag_ = std::move(tag); }
 
@@ -60,11 +65,13 @@ public:
     ///         filter has not seen, that is no text for this box, or that is too much
     [[nodiscard]] bool edited(std::string text, int selectionStart, int selectionLength);
     /// Types text in place of the selection, as far as `maxLength` allows.
-    void typeOver(std::string_view typed);
+    /// @return whether anything came in
+    bool typeOver(std::string_view typed);
     /// What would stand in the box after typing `typed` in place of the selection.
     std::string textAfterTyping(std::string_view typed) const;
     /// Removes the selection, or the character before (`-1`) or behind (`+1`) the caret.
-    void erase(int direction);
+    /// @return whether there was anything to remove
+    bool erase(int direction);
 
     /// A filter for typed characters: may replace the character, or swallow it by setting it to 0.
     std::function<void(char32_t&)> onKeyPress;
@@ -78,7 +85,14 @@ public:
     std::function<void()> onPick;
 
 private:
-    std::string text_;
+    int length() const { return static_cast<int>(characters_.size()); }
+    /// Puts characters in place of the selection; the caret goes behind them.
+    void replaceSelection(std::u32string_view characters);
+
+    std::u32string characters_;
+    /// The same in UTF-8, made when it is asked for: a long text is typed character by character.
+    mutable std::string text_;
+    mutable bool textIsOld_ = false;
     std::string tag_;
     std::string warning_;
     int width_;
@@ -86,6 +100,7 @@ private:
     int maxLength_ = 0;
     int selectionStart_ = 0;
     int selectionLength_ = 0;
+    bool touched_ = false;
     bool locked_ = false;
     bool rightAligned_ = false;
 };

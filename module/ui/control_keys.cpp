@@ -50,8 +50,7 @@ bool navigates(Key key) {
 
 void erase(TextBox& box, Key key) {
     if (!box.changeable() || (key != Key::backspace && key != Key::del)) return;
-    box.erase(key == Key::backspace ? -1 : +1);
-    call(box.onChange);
+    if (box.erase(key == Key::backspace ? -1 : +1)) call(box.onChange);
 }
 
 void moveInGrid(Grid& grid, Key key) {

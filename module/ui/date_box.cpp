@@ -6,6 +6,8 @@
 namespace tellurix::ui {
 
 void makeDateBox(TextBox& box, std::function<void()> showInvalid) {
+    constexpr int longestDate = 10; // "dd.mm.yyyy"
+    box.setMaxLength(longestDate);
     box.onKeyPress = [](char32_t& key) {
         const bool digit = key >= U'0' && key <= U'9';
         if (!digit && key != U'.' && key != U'-' && key != U'/') key = 0;

@@ -50,6 +50,7 @@ private:
 
 void makeNumberBox(TextBox& box, std::string mask, const common::Locale& locale) {
     box.setRightAligned(true);
+    box.setMaxLength(common::longestInMask(mask));
     box.onKeyPress = NumberKeys{box, mask, locale};
     box.onPaste = [locale](const std::string& pasted) {
         // The thousands of a number copied from a list must not be taken for its decimals.
@@ -64,6 +65,8 @@ void makeNumberBox(TextBox& box, std::string mask, const common::Locale& locale)
 }
 
 void makeDigitBox(TextBox& box) {
+    constexpr int mostDigits = 18;
+    box.setMaxLength(mostDigits);
     box.onKeyPress = [](char32_t& key) {
         if (key < U'0' || key > U'9') key = 0;
     };

@@ -129,5 +129,11 @@ TEST(NumberFormat, LetsOnlyTheBeginningsOfNumbersBeTyped) {
     EXPECT_FALSE(fitsNumberMask("12,5", "##0.00", Locale::english()));
 }
 
+TEST(NumberFormat, TheLongestTextOfAMask) {
+    EXPECT_EQ(longestInMask("-#######0.00"), 12) << "-12345678,90";
+    EXPECT_EQ(longestInMask("##,##0"), 6) << "12.345";
+    EXPECT_EQ(longestInMask("0000"), 4);
+}
+
 } // namespace
 } // namespace tellurix::common

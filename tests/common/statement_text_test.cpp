@@ -19,6 +19,9 @@ StatementText& asItStands(StatementText& text, std::string_view value) {
 StatementText& inLike(StatementText& text, std::string_view value) {
     return text.fixed("'%").insideLiteral(value).fixed("%'");
 }
+StatementText& inList(StatementText& text, std::string_view value) {
+    return text.fixed("'83 IN (''").insideInnerLiteral(value).fixed("'')'");
+}
 StatementText& identifier(StatementText& text, std::string_view value) {
     return text.identifier(value);
 }
@@ -48,6 +51,7 @@ TEST(StatementText, PutsAValueInItsPlace) {
              {"an empty text as it stands", asItStands, "", "''"},
              {"a filter inside a literal", inLike, "50%", "'%50%%'"},
              {"doubled quotes inside a literal", inLike, "''", "'%''%'"},
+             {"a code inside a literal inside a literal", inList, "FI", "'83 IN (''FI'')'"},
              {"a name", identifier, "A1_VERTRAG", "A1_VERTRAG"},
          }) {
         StatementText text("SET X = ");
@@ -82,6 +86,8 @@ TEST(StatementText, RefusesAValueThatWouldChangeTheStatement) {
              {"two that are not together", asItStands, "' OR '"},
              {"a doubled one and a single one", asItStands, "''x'"},
              {"an apostrophe in a filter", inLike, "' OR 1=1 --"},
+             {"an apostrophe in a code", inList, "O'X"},
+             {"a doubled one, which would end the inner literal", inList, "''"},
              {"an empty name", identifier, ""},
              {"a name with a blank", identifier, "ID FROM X"},
              {"a name with a point", identifier, "X.ID"},

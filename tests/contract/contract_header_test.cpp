@@ -24,7 +24,7 @@ protected:
 };
 
 TEST_F(ContractHeader, ShowsTheRow) {
-    editHeader(1, [&](User& user) {
+    editHeader(1, [](User& user) {
         EXPECT_EQ(user.text("txtDate1"), "07.01.2025");
         EXPECT_EQ(user.text("txtDate2"), "10.01.2025");
         EXPECT_EQ(user.text("txtDate4"), "") << "NULL is an empty box";
@@ -35,8 +35,7 @@ TEST_F(ContractHeader, ShowsTheRow) {
         EXPECT_EQ(user.tag("txtRechn"), "1");
         EXPECT_EQ(user.text("txtWahrung"), "EUR");
         EXPECT_EQ(user.tag("txtMandant(0)"), "1");
-        EXPECT_EQ(user.text("txtMandant(1)"),
-                  value("SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = 1"));
+        EXPECT_NE(user.text("txtMandant(1)"), "");
         EXPECT_EQ(user.tag("txtLieferadresse(0)"), "50");
         user.click("btnCancel");
     });
@@ -131,44 +130,74 @@ TEST_F(ContractHeader, ABadDateShowsTheMessageAndKeepsTheFocus) {
     EXPECT_EQ(value("SELECT LIEFERVON FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "2025-02-28");
 }
 
-TEST_F(ContractHeader, AValueThatWouldBreakTheStatementIsRefusedAndEverythingStays) {
-    const std::string hostile[] = {"Käufer's Wahl", "x', KOPF2='y", "'; DELETE FROM VERTRAEGE --", "''' "};
-    const auto rows = value("SELECT COUNT(*) FROM VERTRAEGE");
-    const auto before = row("SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = 1");
-    for (int box = 0; box < 10; ++box) {
-        const std::string name = "txtKopf(" + std::to_string(box) + ")";
-        for (const std::string& text : hostile) {
-            SCOPED_TRACE(name + " " + text);
-            const auto errors = host.display.errors().size();
-            editHeader(1, [&](User& user) {
-                user.type("txtNumber(0)", "99");
-                user.type(name, text);
-                user.click("btnOk");
-                EXPECT_EQ(host.display.errors().size(), errors + 1);
-                EXPECT_NE(host.display.errors().back().find(text), std::string::npos)
-                    << "names the refused value";
-                EXPECT_EQ(user.text(name), text);
-                EXPECT_EQ(user.text("txtNumber(0)"), "99,00");
-                user.click("btnCancel");
-            });
-        }
+TEST_F(ContractHeader, ANumberIsWrittenAsItWasReadUnlessTheUserTouchedIt) {
+    struct Case {
+        const char* rule;
+        std::function<void(User&)> act;
+        const char* written;
+    };
+    const Case cases[] = {
+        {"looked at", [](User& user) { user.key(Key::tab); }, "98.4567"},
+        {"typed as it is shown", [](User& user) { user.type("98,46"); }, "98.4600"},
+        {"emptied", [](User& user) { user.key(Key::del); }, "NULL"},
+    };
+    for (const Case& c : cases) {
+        host.database.execute("UPDATE VERTRAEGE SET NUMM1 = 98.4567 WHERE ID_VERTRAG = 1");
+        editHeader(1, [&](User& user) {
+            EXPECT_EQ(user.text("txtNumber(0)"), "98,46");
+            user.focus("txtNumber(0)");
+            c.act(user);
+            user.click("btnOk");
+        });
+        EXPECT_EQ(value("SELECT NUMM1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"), c.written) << c.rule;
     }
-    EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAEGE"), rows);
-    EXPECT_EQ(row("SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = 1"), before);
 }
 
-TEST_F(ContractHeader, HostileTextInALookupIsRefusedWhenTheBoxIsLeft) {
-    for (const char* box : {"txtRechn", "txtBuchn"}) {
-        const auto errors = host.display.errors().size();
+TEST_F(ContractHeader, ALookupThatFailedIsStoredWhenItHasBeenPutRight) {
+    struct Case {
+        const char* box;
+        const char* wrong;
+        const char* column;
+        const char* fails; ///< the statement that fails besides
+    };
+    const Case cases[] = {
+        {"txtRechn", "xyz", "RART_ID", ""},
+        {"txtRechn", "xyz", "RART_ID", "FROM RECHNUNGSART WHERE"},
+        {"txtRechn", "x'z", "RART_ID", ""},
+        {"txtBuchn", "xyz", "BUCHNR_ID", ""},
+        {"txtMandant(0)", "999", "ID_MANDANTEN", ""},
+        {"txtLieferadresse(0)", "999", "ID_PERSONAL_LIEFERADRESSE", ""},
+        {"txtLieferadresse(0)", "999", "ID_PERSONAL_LIEFERADRESSE", "FROM PERSONAL WHERE"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string{c.box} + " " + c.wrong + " " + c.fails);
+        const std::string stored = std::string{"SELECT "} + c.column + " FROM VERTRAEGE WHERE ID_VERTRAG = 1";
+        const std::string before = value(stored);
+        ASSERT_NE(before, "NULL");
         editHeader(1, [&](User& user) {
-            user.type(box, "x' OR '1'='1' --'");
+            const std::string right = user.text(c.box);
+            host.database.failOn(c.fails);
+            user.type(c.box, c.wrong);
             user.key(Key::tab);
-            EXPECT_EQ(host.display.errors().size(), errors + 1);
-            EXPECT_EQ(user.focused(), box);
-            EXPECT_EQ(user.text(box), "x' OR '1'='1' --'");
-            user.click("btnCancel");
+            EXPECT_EQ(user.focused(), c.box);
+            EXPECT_EQ(user.tag(c.box), "") << "no text stands with the key of another one";
+            host.database.failOn("");
+            user.type(c.box, right);
+            user.click("btnOk");
         });
+        EXPECT_EQ(value(stored), before);
     }
+}
+
+TEST_F(ContractHeader, AFreeTextIsAsLongAsItsColumn) {
+    host.columnWidths["VERTRAEGE.KOPF2"] = 5;
+    editHeader(1, [](User& user) {
+        user.type("txtKopf(1)", "Länge 4");
+        EXPECT_EQ(user.text("txtKopf(1)"), "Länge");
+        user.type("txtKopf(2)", "ohne Grenze");
+        EXPECT_EQ(user.text("txtKopf(2)"), "ohne Grenze");
+        user.key(Key::escape);
+    });
 }
 
 TEST_F(ContractHeader, LookupsResolveToKeysAndUnresolvedOnesKeepTheFocus) {
@@ -219,14 +248,17 @@ TEST_F(ContractHeader, PickersOpenWithTheirTitles) {
     };
     editHeader(6, [&](User& user) {
         for (const Case& c : cases) {
+            const std::string before = user.text(c.box);
             user.focus(c.box);
             user.ctrl();
             EXPECT_EQ(host.picks.back(), c.pick);
+            EXPECT_EQ(user.text(c.box), before) << "cancelling changes nothing";
         }
         host.pickedPerson = 0;
         user.focus("txtMandant(0)");
         user.ctrl();
         EXPECT_EQ(host.picks.back(), "2PVM/5") << "a contract's own access level comes first";
+        EXPECT_EQ(user.tag("txtMandant(0)"), "2") << "nobody chosen: the client stays";
         user.click("btnCancel");
     });
 }
@@ -242,23 +274,6 @@ TEST_F(ContractHeader, AFailingSaveLeavesTheScreenWithEverythingTyped) {
         user.click("btnOk");
     });
     EXPECT_EQ(value("SELECT KOPF1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "neu");
-}
-
-TEST_F(ContractHeader, AContractThatAColleagueDeletedKeepsTheScreenWithEverythingTyped) {
-    host.display.onWindow("F_Vertrag", [](User& user) {
-        user.click("btnHeader");
-        user.click("btnAbbrechen");
-    });
-    host.display.onWindow("F_HeaderVertrag", [&](User& user) {
-        user.type("txtKopf(0)", "neu");
-        host.database.execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = 1");
-        user.click("btnOk");
-        ASSERT_EQ(host.display.errors().size(), 1u);
-        EXPECT_NE(host.display.errors().back().find("inzwischen gelöscht"), std::string::npos);
-        EXPECT_EQ(user.text("txtKopf(0)"), "neu");
-        user.click("btnCancel");
-    });
-    host.openContract(1);
 }
 
 TEST_F(ContractHeader, SavingIsOneStatementInTheGivenOrder) {

@@ -131,6 +131,10 @@ TEST_F(CellEditing, WhatIsNoNumberIsZeroAndWhatDidNotChangeIsNotWritten) {
         user.key(Key::enter);
         EXPECT_EQ(value("SELECT PREIS FROM VERTRAG_PREISE WHERE ID = 2"), "12.3450")
             << "looking at a cell does not round it";
+        user.type("12,35");
+        user.key(Key::enter);
+        EXPECT_EQ(value("SELECT PREIS FROM VERTRAG_PREISE WHERE ID = 2"), "12.3500")
+            << "typing what it shows does";
         user.doubleClick("MSFlexGrid1");
         user.replaceText("txtEdit", "1'; DELETE FROM VERTRAG_PREISE --");
         user.key(Key::enter);

@@ -124,13 +124,20 @@ TEST_F(PriceLines, GoingToARowShowsItsFieldsAndItsSelection) {
 
 TEST_F(PriceLines, ANewLineIsWrittenWithItsSelectionAtTheEnd) {
     host.database.execute("UPDATE VERTRAG_PREISE SET PREIS_ABR2 = 12.5 WHERE ID = 1");
+    host.columnWidths["VERTRAG_PREISE.BEZEICHNUNG"] = 20;
     editPrices(1, [&](User& user) {
         user.click("cmdNeu");
         EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Fichte Blochholz A/B") << "keeps what it shows";
         EXPECT_EQ(user.text("txtPreis"), "");
+        EXPECT_EQ(user.control<ui::ComboBox>("cboUnit").selected(), ui::ItemList::none);
+        EXPECT_EQ(user.control<ui::ComboBox>("cboGeld").selected(), ui::ItemList::none);
+        EXPECT_FALSE(user.checked("chkSelektion")) << "it has none yet";
+        EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), ui::Grid::none) << "no old line is the current one";
         EXPECT_FALSE(user.usable("MSFlexGrid1"));
         EXPECT_FALSE(user.usable("cmdOk"));
         EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "3");
+        user.type("txtBEZEICHNUNG", "Dünne Fichte d'Or, zu lang");
+        EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Dünne Fichte d'Or, z");
         user.type("txtBEZEICHNUNG", "Dünne Fichte d'Or");
         user.type("txtPreis", "1250,5");
         user.select("cboUnit", 2);
@@ -181,8 +188,10 @@ TEST_F(PriceLines, CancellingANewLineLeavesNothingBehind) {
                 return user.close();
             }
             user.key(Key::escape);
+            EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), 0) << "the line before is the current one again";
             EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Fichte Blochholz A/B");
             EXPECT_EQ(user.text("txtHs"), "B");
+            EXPECT_TRUE(user.checked("chkSelektion"));
             user.click("cmdOk");
         });
         EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "3");
@@ -196,12 +205,14 @@ TEST_F(PriceLines, APriceOfZeroIsAskedFor) {
         std::optional<Answer> answer;
         const char* stored;
     };
+    host.database.execute("UPDATE VERTRAG_PREISE SET PREIS = 98.4567 WHERE ID = 1");
     const Case cases[] = {
-        {"zero, and No", "0", Answer::no, "98.5000"},
+        {"zero, and No", "0", Answer::no, "98.4567"},
         {"zero, and Yes", "0,00", Answer::yes, "0.0000"},
         {"below zero is not asked", "-5,5", std::nullopt, "-5.5000"},
         {"a point is a comma", "7.25", std::nullopt, "7.2500"},
         {"no price", "", std::nullopt, "NULL"},
+        {"typed as it is shown", "98,46", std::nullopt, "98.4600"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.rule);
@@ -217,7 +228,7 @@ TEST_F(PriceLines, APriceOfZeroIsAskedFor) {
             user.click("cmdOk");
         });
         EXPECT_EQ(value("SELECT PREIS FROM VERTRAG_PREISE WHERE ID = 1"), c.stored);
-        host.database.execute("UPDATE VERTRAG_PREISE SET PREIS = 98.5 WHERE ID = 1");
+        host.database.execute("UPDATE VERTRAG_PREISE SET PREIS = 98.4567 WHERE ID = 1");
     }
     EXPECT_EQ(host.display.messages().front().title, "Vertrag Preise");
     EXPECT_EQ(host.display.messages().front().flags, ui::box::yesNo);
@@ -286,13 +297,19 @@ TEST_F(PriceLines, AFailureWhileMovingIsRepairedByTheNextLoad) {
 TEST_F(PriceLines, DeletingClosesTheGap) {
     host.database.execute(
         "INSERT INTO VERTRAG_PREISE (ID_VERTRAG,ORDNUNG,BEZEICHNUNG) VALUES (1,4,'vierte')");
+    const std::string others = value("SELECT SUM(ORDNUNG) FROM VERTRAG_PREISE WHERE ID_VERTRAG <> 1");
     editPrices(1, [&](User& user) {
         user.select("MSFlexGrid1", 1, 1);
+        // Loading, which would put the places right as well, has nothing to write any more.
+        host.database.failOn("VERTRAG_PREISE WHERE ID = 3");
         user.click("cmdLoschen");
+        EXPECT_TRUE(host.display.errors().empty());
+        host.database.failOn("");
         EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Kiefer Langholz") << "the next one is current";
         user.click("cmdOk");
     });
     EXPECT_EQ(prices("ID,ORDNUNG", 1), "[1 | 1][3 | 2][23 | 3]");
+    EXPECT_EQ(value("SELECT SUM(ORDNUNG) FROM VERTRAG_PREISE WHERE ID_VERTRAG <> 1"), others);
     editPrices(8, [&](User& user) {
         user.click("cmdLoschen");
         EXPECT_FALSE(user.usable("cmdLoschen")) << "none is left";

@@ -108,14 +108,78 @@ TEST_F(QuantityLines, MoreThanAgreedOrPermittedIsAWarningAndNeverABlock) {
     }
 }
 
+TEST_F(QuantityLines, MeasuresOfAnyTypeAreQuantitiesOfSixDecimals) {
+    struct Case {
+        const char* rule;
+        const char* type;
+        const char* measures[3]; ///< of three logs of line 1
+        const char* agreed;
+        const char* open;
+        bool warned;
+    };
+    const Case cases[] = {
+        {"noise of floating-point numbers is no over-delivery",
+         "float",
+         {"0.1", "0.2", "0"},
+         "0.3",
+         "0,00",
+         false},
+        {"a real one is", "float", {"0.1", "0.200001", "0"}, "0.3", "0,00", true},
+        {"many decimals",
+         "decimal(18,13)",
+         {"33.3333333333333", "33.3333333333333", "33.3333333333334"},
+         "100",
+         "0,00",
+         false},
+        {"more than can be added up exactly",
+         "float",
+         {"12345.678901234567", "1e-9", "0.1"},
+         "20000",
+         "7654,22",
+         false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        host.database.execute("DROP TABLE LOGS");
+        host.database.execute(std::string{"CREATE TABLE LOGS (ID_LOG int IDENTITY(1,1) NOT NULL PRIMARY KEY,"
+                                          "NUMMER int NULL,DATUM datetime NULL,HA nvarchar(10) NULL,"
+                                          "HS nvarchar(10) NULL,DSART smallint NULL,KUBRM float NULL,"
+                                          "KUBATRO float NULL,STK float NULL,UFAKT_RM float NULL,KUBATUR "} +
+                              c.type + " NULL)");
+        for (const char* measure : c.measures) {
+            host.database.execute(std::string{"INSERT INTO LOGS (HA,HS,DSART,KUBATUR) VALUES ('FI','B',1,"} +
+                                  measure + ")");
+        }
+        host.database.execute("DELETE FROM LOGS_RECH");
+        host.database.execute("INSERT INTO LOGS_RECH (ID_LOG,R_VERTRAG) SELECT ID_LOG,"
+                              "'R-2025-001 Fichte Wolfsberg' FROM LOGS");
+        host.database.execute(std::string{"UPDATE VERTRAG_MENGEN SET SELEKTION_VALUE = '83 IN (''FI'') ;',"
+                                          "MENGE = "} +
+                              c.agreed + " WHERE ID = 1");
+        editQuantities(1, [&](User& user) {
+            EXPECT_EQ(user.text("txtOffen"), c.open);
+            EXPECT_EQ(!warning(user).empty(), c.warned) << warning(user);
+            host.display.onWindow("F_OffeneMenge", [](User& shown) {
+                EXPECT_EQ(shown.grid("grdHolz").rows().size(), 3u);
+                shown.key(Key::escape);
+            });
+            user.click("btnOffen");
+            user.click("cmdOk");
+        });
+        EXPECT_TRUE(host.display.errors().empty()) << host.display.errors().front();
+    }
+}
+
 TEST_F(QuantityLines, TheNumberCanBeChecked) {
     host.display.onWindow("F_Vertrag", [](User& user) {
         user.click("PosButton");
         user.click("btnAbbrechen");
     });
-    host.display.onWindow("F_VertragMengen", [](User& user) {
+    host.display.onWindow("F_VertragMengen", [&](User& user) {
         user.select("MSFlexGrid1", 2, 1);
+        host.statements.clear();
         user.click("btnOffen");
+        EXPECT_EQ(sent("COUNT(*)"), 1) << "all earlier lines at once";
         user.click("cmdOk");
     });
     host.display.onWindow("F_OffeneMenge", [&](User& user) {
@@ -136,13 +200,19 @@ TEST_F(QuantityLines, ASelectionThatCannotBeReadIsReportedAndTheLineCanBePutRigh
     editQuantities(1, [&](User& user) {
         EXPECT_EQ(host.display.errors().size(), 1u);
         EXPECT_EQ(user.text("txtOffen"), "");
+        user.select("MSFlexGrid1", 1, 1);
+        ASSERT_EQ(host.display.errors().size(), 2u);
+        EXPECT_EQ(host.display.errors().back(),
+                  "Zeile 1 „" + user.grid("MSFlexGrid1").cell(0, 1) + "“: kein Merkmal: 12 = 3 ")
+            << "it is not the line that is looked at";
+        user.select("MSFlexGrid1", 0, 1);
         user.click("cmdBearbeiten");
         user.type("txtHa", "FI");
         user.click("cmdSpeichern");
         EXPECT_EQ(user.text("txtOffen"), "62,50");
         user.click("cmdOk");
     });
-    EXPECT_EQ(host.display.errors().size(), 1u);
+    EXPECT_EQ(host.display.errors().size(), 3u);
 }
 
 TEST_F(QuantityLines, TheOrderOfTheLinesDecidesWhatCounts) {
@@ -161,6 +231,10 @@ TEST_F(QuantityLines, NewEditAndDeleteWriteTheirTable) {
     editQuantities(2, [&](User& user) {
         user.click("cmdNeu");
         EXPECT_EQ(user.text("txtMenge"), "");
+        EXPECT_EQ(user.grid("MSFlexGrid1").cell(0, 0), "") << "no old line is the current one";
+        user.click("cmdAbbrechen");
+        EXPECT_EQ(user.grid("MSFlexGrid1").cell(0, 0), ">>");
+        user.click("cmdNeu");
         user.type("txtBEZEICHNUNG", "Zweite");
         user.type("txtMenge", "-0,5");
         user.select("cboUnit", 0);

@@ -14,10 +14,7 @@ TEST(ErrorReporter, SaysWhatTheUserCanDo) {
     const auto database = [](DatabaseErrorCategory category) {
         return common::DatabaseError{category, "technical text", "SELECT 1"};
     };
-    const auto statement = common::StatementError{
-        {{common::OwnText::refusedValue, {"O'Neill"}}, {common::OwnText::textWithApostrophe}},
-        "UPDATE …",
-        "O'Neill"};
+    const auto statement = common::StatementError{common::OwnText::textWithApostrophe, "UPDATE …", "O'Neill"};
     const auto unexpected = std::runtime_error{"out of paper"};
     const auto syntax = database(DatabaseErrorCategory::syntax);
     const auto unknownName = database(DatabaseErrorCategory::unknownName);

@@ -74,9 +74,8 @@ void User::focus(std::string_view control) {
 
 void User::replaceText(std::string_view control, std::string_view text) {
     focus(control);
-    auto& box = this->control<ui::TextBox>(control);
-    box.setText(std::string{text});
-    if (box.onChange) box.onChange();
+    this->control<ui::TextBox>(control).setText(std::string{text} + "?");
+    key(ui::Key::backspace);
 }
 
 void User::paste(std::string_view control, std::string_view text) {

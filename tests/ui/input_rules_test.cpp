@@ -4,6 +4,7 @@
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 #include "ui/ListBox.h"
+#include "ui/RefusedInput.h"
 #include "ui/TextBox.h"
 #include "ui/date_box.h"
 #include "ui/number_box.h"
@@ -28,6 +29,7 @@ public:
         txtGesperrt.setLocked(true);
         btnOk.onClick = [this] { unload(); };
         btnFail.onClick = [] { throw std::runtime_error{"der Server ist weg"}; };
+        btnRefuse.onClick = [this] { throw ui::RefusedInput{txtMenge, {{common::OwnText::numberMissing}}}; };
         btnKunden.onClick = [this] { ++customersOpened; };
         btnCancel.onClick = [this] { unload(); };
         btnCancel.setCausesValidation(false);
@@ -41,6 +43,8 @@ public:
             ui::frame(frmExtra, {chkExtra}),
             btnKunden,
             btnFail,
+            btnRefuse,
+            btnNeu,
             btnOk,
             btnCancel,
         }));
@@ -64,6 +68,8 @@ public:
     ui::CheckBox chkExtra{*this, "chkExtra", "E&xtra"};
     ui::Button btnKunden{*this, "btnKunden", "K&unden"};
     ui::Button btnFail{*this, "btnFail", "Fehler"};
+    ui::Button btnRefuse{*this, "btnRefuse", "A&&u"};
+    ui::Button btnNeu{*this, "btnNeu", "&Neu"};
     ui::Button btnOk{*this, "btnOk", "Ok"};
     ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};
 
@@ -94,6 +100,81 @@ TEST_F(InputRules, TabAndEnterGoThroughTheLayoutAndSkipWhatCannotBeUsed) {
                                                      "txtGesperrt", "btnKunden"}));
         user.key(Key::tab, true);
         EXPECT_EQ(user.focused(), "txtGesperrt");
+        user.key(Key::enter, true);
+        EXPECT_EQ(user.focused(), "txtKunde") << "Shift+Enter goes back as well";
+        order.txtKunde.onLeave = [this] {
+            order.frmExtra.setEnabled(true);
+            order.txtGesperrt.setEnabled(false);
+            return true;
+        };
+        user.key(Key::tab);
+        EXPECT_EQ(user.focused(), "chkExtra") << "what leaving has changed counts for where Tab goes";
+        user.key(Key::escape);
+    });
+}
+
+TEST_F(InputRules, CtrlTabIsNoTabAndAWindowBeginsAtItsFirstBoxEachTime) {
+    for (int time = 0; time < 2; ++time) {
+        ui::Desktop desktop{display};
+        desktop.runModal(order, [&]() -> ui::Event {
+            EXPECT_EQ(order.focused(), &order.txtName);
+            for (const bool alt : {false, true})
+                desktop.dispatch(ui::KeyDownEvent{{.key = Key::tab, .ctrl = !alt, .alt = alt}});
+            EXPECT_EQ(order.focused(), &order.txtName);
+            desktop.dispatch(ui::FocusEvent{&order.txtKunde});
+            return ui::CloseEvent{};
+        });
+    }
+}
+
+TEST_F(InputRules, ABoxKnowsWhetherTheUserTouchedIt) {
+    struct Case {
+        const char* rule;
+        std::function<void(User&)> act;
+        bool touched;
+    };
+    const Case cases[] = {
+        {"gone through", [](User& user) { user.key(Key::tab); }, false},
+        {"typed as it was", [](User& user) { user.type("12,50"); }, true},
+        {"pasted as it was", [](User& user) { user.paste("txtMenge", "12,50"); }, true},
+        {"something taken out", [](User& user) { user.key(Key::del); }, true},
+        {"what the filter drops", [](User& user) { user.type("x"); }, false},
+        {"a box left empty has nothing to take out",
+         [](User& user) {
+             user.control<ui::TextBox>("txtMenge").show("");
+             user.key(Key::backspace);
+         },
+         false},
+    };
+    work([&](User& user) {
+        for (const Case& c : cases) {
+            order.txtMenge.show("12,50");
+            user.focus("txtMenge");
+            order.txtMenge.selectAll();
+            c.act(user);
+            EXPECT_EQ(order.txtMenge.touched(), c.touched) << c.rule;
+        }
+        user.close();
+    });
+}
+
+TEST_F(InputRules, BoxesAreFullAndALongTextComesAtOnce) {
+    int changes = 0;
+    order.txtName.onKeyPress = [](char32_t& key) {
+        if (key == U'x') key = 0;
+    };
+    order.txtName.onChange = [&] { ++changes; };
+    work([&](User& user) {
+        user.paste("txtName", std::string(20'000, 'a') + "x" + std::string(10, 'b'));
+        EXPECT_EQ(user.text("txtName"), std::string(20'000, 'a') + std::string(10, 'b'));
+        EXPECT_EQ(changes, 1);
+        order.txtName.setMaxLength(3);
+        user.key(Key::tab);
+        user.type("txtName", "abcd");
+        EXPECT_EQ(user.text("txtName"), "abc") << "a full selected box gives way to what is typed";
+        user.type("txtDatum", "01.02.20251");
+        EXPECT_EQ(user.text("txtDatum"), "01.02.2025");
+        EXPECT_EQ(order.txtMenge.maxLength(), 9);
         user.key(Key::escape);
     });
 }
@@ -241,7 +322,15 @@ TEST_F(InputRules, AccessKeysPressTickAndGo) {
         user.alt(U'x');
         EXPECT_TRUE(user.checked("chkExtra"));
         user.alt(U'u');
-        EXPECT_EQ(order.customersOpened, 1);
+        EXPECT_EQ(order.customersOpened, 1) << "&& marks no key";
+        order.txtKunde.setEnabled(false);
+        order.btnNeu.setEnabled(false);
+        user.alt(U'n');
+        user.focus("txtDatum");
+        user.alt(U'n');
+        EXPECT_EQ(user.focused(), "txtName") << "what cannot be used is not counted";
+        order.txtKunde.setEnabled(true);
+        user.focus("txtDatum");
         user.alt(U'n');
         EXPECT_EQ(user.focused(), "txtName") << "a shared key goes to the first …";
         user.alt(U'N');
@@ -253,8 +342,12 @@ TEST_F(InputRules, AccessKeysPressTickAndGo) {
 TEST_F(InputRules, AnErrorInAnEventIsReportedAndTheWindowStaysWithWhatWasTyped) {
     work([&](User& user) {
         user.type("txtName", "Grün");
+        user.click("btnRefuse");
+        EXPECT_EQ(user.focused(), "txtMenge") << "where something has to be put right";
         user.click("btnFail");
-        EXPECT_EQ(display.errors(), std::vector<std::string>{"der Server ist weg"});
+        EXPECT_EQ(user.focused(), "btnFail");
+        EXPECT_EQ(display.errors().size(), 2u);
+        EXPECT_EQ(display.errors().back(), "der Server ist weg");
         EXPECT_EQ(user.text("txtName"), "Grün");
         user.click("btnOk");
     });
