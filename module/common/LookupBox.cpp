@@ -5,14 +5,9 @@
 namespace tellurix::common {
 
 LookupBox::LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
-                     std::string keyQuery)
-    : box_(box), services_(services), session_(session), keyQuery_(std::move(keyQuery)) {
-    box_.onLeave = [this] { return leave(); };
-}
-
-LookupBox::LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
                      std::function<std::string()> title, Lookup lookup)
-    : LookupBox(box, services, session, std::move(lookup.keyQuery)) {
+    : box_(box), services_(services), session_(session), keyQuery_(std::move(lookup.keyQuery)) {
+    box_.onLeave = [this] { return leave(); };
     box_.onPick = [this, title = std::move(title), listQuery = std::move(lookup.listQuery)] {
         box_.setText(services_.listPicker.choose(session_, listQuery, title(), box_.text()));
     };

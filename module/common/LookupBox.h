@@ -28,11 +28,6 @@ public:
     LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
               std::function<std::string()> title, Lookup lookup);
 
-    /// One whose picker is the screen's own: the box's `onPick` stays as the screen sets it.
-    /// @param keyQuery as in `Lookup`
-    LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
-              std::string keyQuery);
-
     /// Shows a value as it was read: its text and its key.
     void show(const std::string& text, const std::string& key);
     /// The key, empty for no value.

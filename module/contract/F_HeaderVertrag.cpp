@@ -6,6 +6,7 @@
 #include "common/number_format.h"
 #include "common/text.h"
 #include "common/typed_text.h"
+#include "contract/contract_row.h"
 #include "contract/header_captions.h"
 #include "host/text_numbers.h"
 #include "ui/caption.h"
@@ -177,6 +178,7 @@ void F_HeaderVertrag::LoadHeader() {
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
     const auto row = session_.connection->open(query.number(contract_).text());
+    requireContract(*row);
 
     txtDate1.setText(common::dateText(row->field("INVDATE")));
     txtDate2.setText(common::dateText(row->field("DATE1")));
@@ -245,7 +247,7 @@ std::string F_HeaderVertrag::updateStatement() {
 }
 
 void F_HeaderVertrag::save() {
-    session_.connection->execute(updateStatement());
+    updateContract(*session_.connection, updateStatement());
     unload();
 }
 

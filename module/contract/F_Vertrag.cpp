@@ -8,6 +8,7 @@
 #include "common/text.h"
 #include "common/typed_text.h"
 #include "contract/F_HeaderVertrag.h"
+#include "contract/contract_row.h"
 #include "contract/header_captions.h"
 #include "host/contract_type.h"
 #include "host/text_numbers.h"
@@ -80,6 +81,7 @@ void F_Vertrag::arrange() {
                 .growing(),
             column({
                 row({btnAbschlag, txtAbschlag}),
+                lblOhneAbschlag,
                 chkAbgeschlossen,
                 chkAClEmpty,
                 btnLieferprofil_WVO,
@@ -122,7 +124,7 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     showQuantityLines(false);
     services_.localizer.localize(session_, *this);
     setTitle(strCaption + " (" + name_ + ")");
-    txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
+    showDeductionModel();
     loadFlags();
     services_.display.showModal(*this);
 }
@@ -131,12 +133,13 @@ void F_Vertrag::SetContractField(const std::string& column, const std::string& v
     StatementText statement{"UPDATE VERTRAEGE SET "};
     statement.identifier(column).fixed(" = ").quotedAsItStandsOrNull(value);
     statement.fixed(" WHERE ID_VERTRAG = ").number(contract);
-    session_.connection->execute(statement.text());
+    updateContract(*session_.connection, statement.text());
 }
 
 void F_Vertrag::loadContract() {
     StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
     const auto contract = session_.connection->open(query.number(id_).text());
+    requireContract(*contract);
     customer_ = static_cast<std::int32_t>(contract->integer("ID_PERSONAL"));
     accessLevel_ = contract->integer("ID_ACCESS_LEVELS");
     showCustomer();
@@ -173,6 +176,7 @@ void F_Vertrag::ShowHeader() {
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
     const auto header = session_.connection->open(query.number(id_).text());
+    requireContract(*header);
     List1.clear();
     const auto add = [this](const std::string& caption, const std::string& value) {
         if (!value.empty()) List1.add(ui::plainCaption(caption) + ": " + value);
@@ -246,6 +250,18 @@ std::string F_Vertrag::GetAbschlagValue(const std::string& column) {
     return model->atEnd() ? std::string{} : model->text(column);
 }
 
+void F_Vertrag::showDeductionModel() {
+    lblOhneAbschlag.setVisible(false);
+    try {
+        txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
+    } catch (const common::StatementError&) {
+        // The name goes into the statement as it stands, and with an apostrophe in it there is none to send.
+        txtAbschlag.setText("");
+        lblOhneAbschlag.setCaption(common::ownText(OwnText::noDeductionModel, session_.language));
+        lblOhneAbschlag.setVisible(true);
+    }
+}
+
 void F_Vertrag::loadFlags() {
     chkAbgeschlossen.setChecked(false);
     chkAClEmpty.setChecked(false);
@@ -268,9 +284,11 @@ void F_Vertrag::chooseCustomer() {
     services_.moduleService.request(session_, "2PVK", common::toUpper(context.StrVer_Type),
                                     context.strServiceOut1, context.strServiceOut2);
     const std::int32_t chosen = services_.personalPicker.choose(
-        session_, GetRightsCode(context.StrVer_Type), static_cast<int>(accessLevel_),
+        session_, GetRightsCode(context.StrVer_Type),
+        accessLevel_ == 0 ? session_.accessLevel : static_cast<int>(accessLevel_),
         context.g_intStandardMandanten, customer_, context.blnOK);
-    if (chosen <= 0 || chosen == customer_) return;
+    if (chosen <= 0) return;
+    // The one that is shown is written, too: a colleague may have removed it meanwhile.
     SetContractField("ID_PERSONAL", std::to_string(chosen), id_);
     customer_ = chosen;
     showCustomer();
@@ -279,6 +297,7 @@ void F_Vertrag::chooseCustomer() {
 void F_Vertrag::removeCustomer() {
     StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
     const auto contract = session_.connection->openUpdatable(query.number(id_).text());
+    requireContract(*contract);
     contract->setField("id_personal", common::Null{});
     contract->update();
     customer_ = 0;
@@ -305,7 +324,30 @@ void F_Vertrag::writeAdditionalText(AdditionalText& text) {
     text.written = text.box.text();
 }
 
+bool F_Vertrag::keepsRefusedText() {
+    ui::TextBox* refused = nullptr;
+    for (AdditionalText& text : additionalTexts_) {
+        try {
+            writeAdditionalText(text);
+        } catch (const std::exception&) {
+            if (refused == nullptr) refused = &text.box;
+        }
+    }
+    if (refused == nullptr) return false;
+    const std::string question = common::ownText(OwnText::textNotSaved, session_.language);
+    if (common::ShowMessage(services_.display, question,
+                            ui::box::yesNo + ui::box::exclamation + ui::box::defaultButton2) ==
+        ui::Answer::yes) {
+        return false;
+    }
+    picZusatzText.setVisible(true);
+    common::SafeSetFocus(*refused);
+    return true;
+}
+
 void F_Vertrag::save() {
+    for (AdditionalText& text : additionalTexts_)
+        writeAdditionalText(text);
     StatementText statement{"UPDATE VERTRAEGE SET ABGESCHLOSSEN = "};
     statement.fixed(chkAbgeschlossen.checked() ? "1" : "0");
     if (chkAClEmpty.checked()) {
@@ -318,7 +360,7 @@ void F_Vertrag::save() {
             .fixed(" END");
     }
     statement.fixed(" WHERE ID_VERTRAG = ").number(id_);
-    session_.connection->execute(statement.text());
+    updateContract(*session_.connection, statement.text());
     notYetSaved_ = false;
     unload();
 }
@@ -332,8 +374,7 @@ bool F_Vertrag::queryUnload() {
         return true;
     }
     // The window's close box leaves no field; what was typed last is written all the same.
-    for (AdditionalText& text : additionalTexts_)
-        writeAdditionalText(text);
+    if (keepsRefusedText()) return false;
     releaseLineScreens();
     return true;
 }

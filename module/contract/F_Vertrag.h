@@ -61,6 +61,8 @@ private:
     void loadAdditionalTexts();
     void loadFlags();
     void showCustomer();
+    /// Empty, with the reason beside it, for a contract whose name no statement can carry.
+    void showDeductionModel();
     lines::F_VertragPreise& priceLines();
     lines::F_VertragMengen& quantityLines();
     /// Loads the lines into the overview, with or without showing their screen first.
@@ -73,6 +75,9 @@ private:
     void openHeader();
     void toggleAdditionalTexts();
     void writeAdditionalText(AdditionalText& text);
+    /// Writes what is still unwritten. Where that fails the user is asked once whether to discard it.
+    /// @return true when he wants to go back to it
+    bool keepsRefusedText();
     void save();
     void discard();
     bool queryUnload() override;
@@ -112,6 +117,7 @@ private:
 
     ui::Button btnAbschlag{*this, "btnAbschlag", "Abschlag"};
     ui::TextBox txtAbschlag{*this, "txtAbschlag", 26};
+    ui::Label lblOhneAbschlag{*this, "lblOhneAbschlag"};
     ui::CheckBox chkAbgeschlossen{*this, "chkAbgeschlossen", "Abgeschlossen"};
     ui::CheckBox chkAClEmpty{*this, "chkAClEmpty", "Auf allen Ebenen sichtbar"};
     ui::Button btnLieferprofil_WVO{*this, "btnLieferprofil_WVO", "Lieferprofil Vertragsdefinition"};

@@ -1,21 +1,28 @@
 #include "contract/TakeOverFrame.h"
 
 #include "common/M_Common.h"
+#include "common/Refused.h"
 #include "common/StatementText.h"
 #include "common/text.h"
 #include "common/whole_number.h"
 #include "host/module_state.h"
 #include "host/text_numbers.h"
-#include "lines/TakeOver.h"
 #include "ui/caption.h"
 
 #include <stdexcept>
 
 namespace tellurix::contract {
 
+using common::OwnText;
 using common::StatementText;
 
 namespace {
+
+/// The host's lists, to choose from and to find a typed text in.
+constexpr const char* contractList = "VERTRAG_GRID";
+constexpr const char* contractByName = "VERTRAG_VALID";
+constexpr const char* typeList = "TYPEOFVERTRAG_GRID";
+constexpr const char* typeByCode = "TYPEOFVERTRAG_VALID";
 
 /// Shows the progress bar as long as it lives.
 class ShownProgress {
@@ -47,15 +54,13 @@ TakeOverFrame::TakeOverFrame(ui::Form& form, host::HostServices& services, const
       txtTypeOfVertrag(form, "txtTypeOfVertrag", 14),
       btnUbernehmen(form, "btnUbernehmen", "Ubernehmen"),
       ProgressBar1(form, "ProgressBar1"),
-      source_(txtVertrag, services, session,
-              "SELECT ID_VERTRAG,VERTRAG_NAME FROM VERTRAEGE WHERE VERTRAG_NAME = '"),
-      type_(txtTypeOfVertrag, services, session,
-            [this] { return ui::plainCaption(lblTypeOfVertrag.caption()); },
-            {.listQuery = "SELECT DISTINCT VER_TYPE AS SHORT FROM VERTRAEGE",
-             .keyQuery = "SELECT VER_TYPE FROM VERTRAEGE WHERE VER_TYPE = '"}) {
+      source_{txtVertrag},
+      type_{txtTypeOfVertrag} {
     ProgressBar1.setVisible(false);
-    // What is offered depends on the type that was chosen before.
     txtVertrag.onPick = [this] { pickSource(); };
+    txtVertrag.onLeave = [this] { return resolveSource(); };
+    txtTypeOfVertrag.onPick = [this] { pickType(); };
+    txtTypeOfVertrag.onLeave = [this] { return resolveType(); };
     btnUbernehmen.onClick = [this] { takeOver(); };
 }
 
@@ -70,41 +75,146 @@ void TakeOverFrame::clear() {
     type_.show("", "");
 }
 
-void TakeOverFrame::pickSource() {
-    StatementText query{"SELECT VERTRAG_NAME AS SHORT FROM VERTRAEGE"};
-    if (!type_.key().empty()) query.fixed(" WHERE VER_TYPE = ").quotedAsItStands(type_.key());
-    txtVertrag.setText(services_.listPicker.choose(
-        session_, query.text(), ui::plainCaption(lblVertrag.caption()), txtVertrag.text()));
+void TakeOverFrame::Choice::show(const std::string& shown, const std::string& of) {
+    box.setText(shown);
+    text = shown;
+    key = of;
 }
 
-void TakeOverFrame::refuse(const std::string& why) {
+void TakeOverFrame::Choice::forget() {
+    text.clear();
+    key.clear();
+}
+
+std::string TakeOverFrame::words(OwnText text, const std::vector<std::string>& values) const {
+    return common::ownText(text, session_.language, values);
+}
+
+void TakeOverFrame::pickType() {
+    const std::string key = services_.keyedLists.choose(
+        session_, typeList, ui::plainCaption(lblTypeOfVertrag.caption()), limits(), txtTypeOfVertrag.text());
+    if (!key.empty()) txtTypeOfVertrag.setText(key);
+}
+
+void TakeOverFrame::pickSource() {
+    const auto key = common::wholeNumber<std::int32_t>(services_.keyedLists.choose(
+        session_, contractList, ui::plainCaption(lblVertrag.caption()), limits(), txtVertrag.text()));
+    if (!key) return;
+    if (*key == contract_) {
+        refuse(txtVertrag, words(OwnText::sourceIsItself));
+        return;
+    }
+    if (const auto name = nameOf(*key)) source_.show(*name, std::to_string(*key));
+}
+
+bool TakeOverFrame::resolveType() {
+    const std::string typed = txtTypeOfVertrag.text();
+    if (type_.isCurrent()) return true;
+    std::string key;
+    if (!typed.empty()) {
+        const auto keys = services_.keyedLists.find(session_, typeByCode, typed, limits());
+        if (keys.empty()) {
+            return refuse(txtTypeOfVertrag,
+                          services_.localizer.text(host::textNumber::invalidEntry, session_));
+        }
+        key = keys.front();
+    }
+    type_.show(typed, key);
+    // A source that was found before may be of another type.
+    source_.forget();
+    return true;
+}
+
+bool TakeOverFrame::resolveSource() {
+    const std::string name = txtVertrag.text();
+    if (source_.isCurrent()) return true;
+    source_.forget();
+    if (name.empty()) return true;
+    std::vector<std::string> keys;
+    bool ofItself = nameOf(contract_) == name;
+    for (const std::string& found : services_.keyedLists.find(session_, contractByName, name, limits())) {
+        const auto contract = common::wholeNumber<std::int32_t>(found);
+        // A host's lists may know no limits.
+        if (contract == contract_) ofItself = true;
+        if (contract && contract != contract_ && isOfChosenType(*contract)) keys.push_back(found);
+    }
+    if (keys.empty()) {
+        return refuse(txtVertrag,
+                      ofItself ? words(OwnText::sourceIsItself) : words(OwnText::sourceUnknown, {name}));
+    }
+    const std::string key = keys.size() == 1 ? keys.front() : askWhich(keys);
+    if (key.empty()) return false;
+    source_.show(name, key);
+    return true;
+}
+
+bool TakeOverFrame::isOfChosenType(std::int32_t contract) {
+    if (type_.key.empty()) return true;
+    const std::string type = services_.keyedLists.typeOf(session_, contract);
+    return type.empty() || common::toUpper(type) == common::toUpper(type_.key);
+}
+
+std::string TakeOverFrame::askWhich(const std::vector<std::string>& keys) {
+    StatementText query{
+        "SELECT VERTRAEGE.ID_VERTRAG AS SHORT,VERTRAEGE.VERTRAG_NAME,VERTRAEGE.INVDATE,PERSONAL.KURZBEZEICHNUNG"
+        " FROM VERTRAEGE LEFT JOIN PERSONAL ON PERSONAL.ID_PERSONAL = VERTRAEGE.ID_PERSONAL"
+        " AND PERSONAL.ID_PERSONAL > 0 WHERE VERTRAEGE.ID_VERTRAG IN ("};
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        query.fixed(i == 0 ? "" : ",").number(keys[i]);
+    return services_.listPicker.choose(session_, query.fixed(")").text(),
+                                       words(OwnText::whichSource, {txtVertrag.text()}), "");
+}
+
+std::optional<std::string> TakeOverFrame::nameOf(std::int32_t contract) {
+    StatementText query{"SELECT VERTRAG_NAME FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    const auto row = session_.connection->open(query.number(contract).text());
+    return row->atEnd() ? std::nullopt : std::optional{row->text("VERTRAG_NAME")};
+}
+
+bool TakeOverFrame::refuse(ui::TextBox& box, const std::string& why) {
     common::ShowMessage(services_.display, why, ui::box::exclamation);
-    common::SafeSetFocus(txtVertrag);
+    common::SafeSetFocus(box);
+    return false;
 }
 
 bool TakeOverFrame::acceptsTypeOf(std::int32_t source) {
-    StatementText query{"SELECT VER_TYPE FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    const auto contract = session_.connection->open(query.number(source).text());
-    const std::string type = contract->atEnd() ? std::string{} : contract->text("VER_TYPE");
+    const std::string type = services_.keyedLists.typeOf(session_, source);
     const std::string& own = host::moduleState().context.StrVer_Type;
-    if (common::toUpper(type) == common::toUpper(own)) return true;
-    const std::string question = "Der Vertrag „" + txtVertrag.text() + "“ hat die Vertragsart " + type +
-                                 ", dieser Vertrag die Vertragsart " + own +
-                                 ". Sollen die Zeilen trotzdem übernommen werden?";
-    return common::ShowMessage(services_.display, question, ui::box::yesNo + ui::box::question) ==
-           ui::Answer::yes;
+    if (type.empty() || common::toUpper(type) == common::toUpper(own)) return true;
+    return common::ShowMessage(services_.display,
+                               words(OwnText::sourceOfOtherType, {txtVertrag.text(), type, own}),
+                               ui::box::yesNo + ui::box::question) == ui::Answer::yes;
 }
 
 void TakeOverFrame::takeOver() {
-    const std::string& name = txtVertrag.text();
-    if (name.empty()) return refuse(services_.localizer.text(host::textNumber::invalidEntry, session_));
-    const auto source = common::wholeNumber<std::int32_t>(source_.key());
-    if (!source) return refuse("Den Vertrag „" + name + "“ gibt es nicht.");
-    if (source == contract_) return refuse("Ein Vertrag kann nicht aus sich selbst übernehmen.");
-    lines::TakeOver lines{*session_.connection, *source, contract_};
-    if (lines.total() == 0) return refuse("Der Vertrag „" + name + "“ hat keine Preise und keine Mengen.");
-    if (!acceptsTypeOf(*source)) return;
+    const std::string name = txtVertrag.text();
+    if (name.empty()) {
+        refuse(txtVertrag, services_.localizer.text(host::textNumber::invalidEntry, session_));
+        return;
+    }
+    if (!nameOf(contract_)) throw common::Refused{OwnText::contractIsGone};
+    if (!resolveSource()) return;
+    const std::int32_t source = common::wholeNumber<std::int32_t>(source_.key).value();
+    lines::TakeOver lines{*session_.connection, source, contract_};
+    if (lines.total() == 0) {
+        refuse(txtVertrag, words(OwnText::sourceWithoutLines, {name}));
+        return;
+    }
+    if (!acceptsTypeOf(source)) return;
+    // Pressing the button once more must not take the same lines over again, whatever happens to them.
+    clear();
+    copy(lines);
+    tookOver_();
+    if (lines.done() == lines.total()) {
+        const std::string count = std::to_string(lines.done());
+        common::ShowMessage(services_.display,
+                            lines.done() == 1 ? words(OwnText::oneLineTakenOver)
+                                              : words(OwnText::linesTakenOver, {count}),
+                            ui::box::information);
+    }
+}
 
+void TakeOverFrame::copy(lines::TakeOver& lines) {
     const ui::BusyPointer busy{services_.display};
     const ShownProgress shown{ProgressBar1, lines.total()};
     try {
@@ -113,13 +223,10 @@ void TakeOverFrame::takeOver() {
             services_.display.refresh();
         });
     } catch (const std::exception& error) {
-        services_.errors.report(std::runtime_error{"Es wurden nur " + std::to_string(lines.done()) + " von " +
-                                                   std::to_string(lines.total()) + " Zeilen übernommen. " +
-                                                   error.what()});
+        const std::string some =
+            words(OwnText::someTakenOver, {std::to_string(lines.done()), std::to_string(lines.total())});
+        services_.errors.report(std::runtime_error{some + " " + error.what()});
     }
-    // Pressing the button once more must not take the same lines over again.
-    clear();
-    tookOver_();
 }
 
 } // namespace tellurix::contract

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "common/LookupBox.h"
+#include "common/own_text.h"
 #include "host/services.h"
+#include "lines/TakeOver.h"
 #include "ui/Button.h"
 #include "ui/Frame.h"
 #include "ui/Label.h"
@@ -11,7 +12,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace tellurix::contract {
 
@@ -28,11 +31,36 @@ public:
     void clear();
 
 private:
+    /// What a box shows, and the key that the host's list gave for it; empty for none.
+    struct Choice {
+        ui::TextBox& box;
+        std::string text = {};
+        std::string key = {};
+
+        bool isCurrent() const { return box.text() == text; }
+        void show(const std::string& shown, const std::string& of);
+        /// The text stays in the box, to be looked up again.
+        void forget();
+    };
+
+    host::KeyedLists::Limits limits() const { return {type_.key, contract_}; }
+    void pickType();
     void pickSource();
+    bool resolveType();
+    /// Finds the contract whose name was typed, among those of the chosen type.
+    /// @return false when there is none, or the user did not say which: he has been told
+    bool resolveSource();
+    bool isOfChosenType(std::int32_t contract);
+    /// The contract that the user means of several with the same name, empty when he cancelled.
+    std::string askWhich(const std::vector<std::string>& keys);
+    std::optional<std::string> nameOf(std::int32_t contract);
     void takeOver();
-    void refuse(const std::string& why);
+    /// @return false
+    bool refuse(ui::TextBox& box, const std::string& why);
     /// Whether the source is of the contract's own type, or the user wants its lines all the same.
     bool acceptsTypeOf(std::int32_t source);
+    void copy(lines::TakeOver& lines);
+    std::string words(common::OwnText text, const std::vector<std::string>& values = {}) const;
 
     host::HostServices& services_;
     const host::TlxVar& session_;
@@ -47,8 +75,8 @@ private:
     ui::Button btnUbernehmen;
     ui::ProgressBar ProgressBar1;
 
-    common::LookupBox source_;
-    common::LookupBox type_; ///< the contract type that the choice of the source is limited to
+    Choice source_;
+    Choice type_; ///< the contract type that the choice of the source is limited to
 };
 
 } // namespace tellurix::contract

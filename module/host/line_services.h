@@ -29,13 +29,20 @@ public:
 class LookupGridDialog {
 public:
     virtual ~LookupGridDialog() = default;
-    /// @param settingKey which list: "HOLZART_GRID", "HOLZSORTE_GRID", "GUETEKLASSE_GRID", "STKL_GRID"
-    /// @param text always empty
-    /// @param mode "01": several choices
-    /// @param current what is chosen so far, for a dialog that can start from it; the host's own knows
-    ///        only the other parameters
+    /// @param layout of the list: the named setting "HOLZART_GRID", "HOLZSORTE_GRID", "GUETEKLASSE_GRID"
+    ///        or "STKL_GRID"
+    /// @param current what is chosen so far
     /// @return the chosen codes separated by commas, or `current` when the user cancelled
-    virtual std::string choose(const TlxVar& session, const std::string& settingKey, const std::string& title,
+    std::string choose(const TlxVar& session, const std::string& layout, const std::string& title,
+                       const std::string& current) {
+        return choose(session, layout, title, "", "01", current);
+    }
+
+    /// The host's own operation.
+    /// @param text always empty
+    /// @param mode always "01": several choices
+    /// @param current for a dialog that can start from it; the host's own knows only the others
+    virtual std::string choose(const TlxVar& session, const std::string& layout, const std::string& title,
                                const std::string& text, const std::string& mode,
                                const std::string& current) = 0;
 };

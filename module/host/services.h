@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tellurix::host {
 
@@ -70,8 +71,15 @@ public:
     /// @param query an SQL text whose first column is named SHORT, or `calendar`
     /// @param current the text in the box now
     /// @return the chosen text, or `current` when the user cancelled
+    std::string choose(const TlxVar& session, const std::string& query, const std::string& title,
+                       const std::string& current) {
+        return choose(session, query, title, current, "");
+    }
+
+    /// The host's own operation.
+    /// @param text always empty
     virtual std::string choose(const TlxVar& session, const std::string& query, const std::string& title,
-                               const std::string& current) = 0;
+                               const std::string& current, const std::string& text) = 0;
 };
 
 /// Resolves what was typed into a lookup box to the key of a row.
@@ -82,8 +90,44 @@ public:
     /// `displayColumn` in the second box. An empty box has no key and needs no query.
     /// @param shown a second box to fill, or null
     /// @return false when nothing was found: the user has been told, the tag is empty, the text stays
-    virtual bool resolve(const TlxVar& session, const std::string& query, ui::TextBox& box,
-                         ui::TextBox* shown, const std::string& displayColumn) = 0;
+    bool resolve(const TlxVar& session, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
+                 const std::string& displayColumn) {
+        return resolve(session, -1, query, box, shown, displayColumn, nullptr, "");
+    }
+
+    /// The host's own operation.
+    /// @param option always -1
+    /// @param third a third box, which no screen has: always null
+    /// @param text always empty
+    virtual bool resolve(const TlxVar& session, std::int32_t option, const std::string& query,
+                         ui::TextBox& box, ui::TextBox* shown, const std::string& displayColumn,
+                         ui::TextBox* third, const std::string& text) = 0;
+};
+
+/// The host's keyed lists. Which rows a list has, and what it calls them, is the host's knowledge:
+///
+/// | to choose from | to find a text in | rows |
+/// | --- | --- | --- |
+/// | "VERTRAG_GRID" | "VERTRAG_VALID" | contracts by `VERTRAG_NAME`; a row's key is `ID_VERTRAG` |
+/// | "TYPEOFVERTRAG_GRID" | "TYPEOFVERTRAG_VALID" | contract-type codes, which are the keys, too |
+class KeyedLists {
+public:
+    /// What limits a list of contracts. A host whose lists know no limits may ignore it.
+    struct Limits {
+        std::string type;          ///< only contracts of this type; empty for all
+        std::int32_t contract = 0; ///< the one that the user works on, which is not offered
+    };
+
+    virtual ~KeyedLists() = default;
+    /// @param current the text in the box now
+    /// @return the key of the chosen row, empty when the user cancelled
+    virtual std::string choose(const TlxVar& session, const std::string& list, const std::string& title,
+                               const Limits& limits, const std::string& current) = 0;
+    /// @return the keys of all rows with that text
+    virtual std::vector<std::string> find(const TlxVar& session, const std::string& list,
+                                          const std::string& text, const Limits& limits) = 0;
+    /// @return a contract's type code, empty when the host does not say
+    virtual std::string typeOf(const TlxVar& session, std::int32_t contract) = 0;
 };
 
 /// Composes the query that finds a person by number, within what the user may see.
@@ -155,6 +199,7 @@ struct HostServices {
     HostPersonalPicker& personalPicker;
     ListPicker& listPicker;
     LookupValidation& lookupValidation;
+    KeyedLists& keyedLists;
     PersonQueryBuilder& personQuery;
     DateConverter& dateConverter;
     NamedSettings& settings;

@@ -5,13 +5,6 @@
 
 namespace tellurix::lines {
 
-namespace {
-
-/// The lookup-grid dialog lets several codes be chosen.
-constexpr const char* severalChoices = "01";
-
-} // namespace
-
 QuickSelectionBoxes::QuickSelectionBoxes(ui::Form& form, host::HostServices& services,
                                          const host::TlxVar& session)
     : services_(services),
@@ -35,8 +28,8 @@ void QuickSelectionBoxes::connect(Attribute attribute, const char* query, const 
     ui::TextBox& box = boxes_[static_cast<std::size_t>(attribute)];
     box.onFocus = [this, &box, query, column] { services_.typeAhead.bind(session_, box, query, column); };
     box.onPick = [this, &label, &box, settingKey] {
-        box.setText(services_.lookupGridDialog.choose(session_, settingKey, ui::plainCaption(label.caption()),
-                                                      "", severalChoices, box.text()));
+        box.setText(services_.lookupGridDialog.choose(session_, services_.settings.text(session_, settingKey),
+                                                      ui::plainCaption(label.caption()), box.text()));
     };
 }
 

@@ -54,12 +54,12 @@ std::vector<std::string> insertsFor(const Copy& copy, common::Connection& connec
 }
 
 // clang-format off
-const Copy copyOfQuantities{
+const Copy copiedQuantities{
     "SELECT COUNT(ORDNUNG) FROM VERTRAG_MENGEN WHERE ID_VERTRAG = ",
     "SELECT BEZEICHNUNG,SELEKTION_VALUE,MENGE,ID_WARENEINHEIT FROM VERTRAG_MENGEN WHERE ID_VERTRAG = ",
     "INSERT INTO VERTRAG_MENGEN (ID_VERTRAG,ORDNUNG,BEZEICHNUNG,SELEKTION_VALUE,MENGE,ID_WARENEINHEIT) VALUES (",
     {"BEZEICHNUNG", "SELEKTION_VALUE", "MENGE", "ID_WARENEINHEIT"}};
-const Copy copyOfPrices{
+const Copy copiedPrices{
     "SELECT COUNT(ORDNUNG) FROM VERTRAG_PREISE WHERE ID_VERTRAG = ",
     "SELECT BEZEICHNUNG,SELEKTION_VALUE,PREIS,EURO,ID_WARENEINHEIT,PREIS_ABR2 FROM VERTRAG_PREISE WHERE ID_VERTRAG = ",
     "INSERT INTO VERTRAG_PREISE (ID_VERTRAG,ORDNUNG,BEZEICHNUNG,SELEKTION_VALUE,PREIS,EURO,ID_WARENEINHEIT,PREIS_ABR2) VALUES (",
@@ -69,8 +69,8 @@ const Copy copyOfPrices{
 } // namespace
 
 TakeOver::TakeOver(common::Connection& connection, std::int32_t source, std::int32_t target)
-    : connection_(connection), inserts_(insertsFor(copyOfQuantities, connection, source, target)) {
-    std::vector<std::string> prices = insertsFor(copyOfPrices, connection, source, target);
+    : connection_(connection), inserts_(insertsFor(copiedQuantities, connection, source, target)) {
+    std::vector<std::string> prices = insertsFor(copiedPrices, connection, source, target);
     inserts_.insert(inserts_.end(), std::make_move_iterator(prices.begin()),
                     std::make_move_iterator(prices.end()));
 }

@@ -223,6 +223,10 @@ TEST_F(ContractEditor, RemovingAndChoosingTheCustomerWritesAtOnce) {
               "Lieferung frei Werk Wolfsberg, Tor 2");
 
     host.pickedPerson = 11;
+    edit(6, [](User& user) {
+        user.click("KundeButton");
+        user.close();
+    });
     edit(1, [&](User& user) {
         user.alt(U'K'); // shared by "&Kunde" and "&Kopf": goes to the first and presses nothing
         user.key(Key::enter);
@@ -231,11 +235,17 @@ TEST_F(ContractEditor, RemovingAndChoosingTheCustomerWritesAtOnce) {
         host.pickedPerson = 0;
         user.click("KundeButton");
         EXPECT_NE(user.text("txtKunde"), "") << "choosing nobody changes nothing";
+        host.database.execute("UPDATE VERTRAEGE SET ID_PERSONAL = NULL WHERE ID_VERTRAG = 1");
+        host.pickedPerson = 11;
+        user.click("KundeButton");
         user.close();
     });
-    EXPECT_EQ(value("SELECT ID_PERSONAL FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "11");
-    EXPECT_EQ(host.picks, (std::vector<std::string>{"2PVK/0", "2PVK/0"}));
-    EXPECT_EQ(host.requests, (std::vector<std::string>{"1VVM/R", "2PVK/R", "2PVK/R", "1VVM/R"}));
+    EXPECT_EQ(value("SELECT ID_PERSONAL FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "11")
+        << "the shown customer is written again";
+    EXPECT_EQ(host.picks, (std::vector<std::string>{"2PVK/5", "2PVK/2", "2PVK/2", "2PVK/2"}))
+        << "with the contract's level, or the user's when it has none";
+    EXPECT_EQ(host.requests, (std::vector<std::string>{"1VVM/R", "2PVK/R", "1VVM/R", "2PVK/R", "2PVK/R",
+                                                       "2PVK/R", "1VVM/R"}));
 }
 
 TEST_F(ContractEditor, AdditionalTextsAreWrittenWhenTheyAreLeft) {
@@ -262,6 +272,116 @@ TEST_F(ContractEditor, AdditionalTextsAreWrittenWhenTheyAreLeft) {
     });
     EXPECT_EQ(row("SELECT ZUSATZTEXT,ZUSATZTEXT_1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"),
               "zuletzt getippt | Auflage");
+}
+
+TEST_F(ContractEditor, ARefusedTextIsAskedForOnceAndNeverKeepsTheEditorOpen) {
+    struct Case {
+        const char* rule;
+        void (*close)(User&);
+    };
+    const Case cases[] = {
+        {"Esc", [](User& user) { user.key(Key::escape); }},
+        {"the close box", [](User& user) { user.close(); }},
+        {"Abbrechen", [](User& user) { user.click("btnAbbrechen"); }},
+    };
+    const auto before =
+        row("SELECT ZUSATZTEXT,ZUSATZTEXT_1,ABGESCHLOSSEN FROM VERTRAEGE WHERE ID_VERTRAG = 1");
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        const auto messages = host.display.messages().size();
+        for (const Answer answer : {Answer::no, Answer::yes})
+            host.display.onMessage("Der Text konnte nicht gespeichert werden. Verwerfen?", answer);
+        edit(1, [&](User& user) {
+            user.click("btnZusatz");
+            user.type("txtZusatzText(0)", "Förster's Auflage");
+            c.close(user);
+            EXPECT_EQ(user.focused(), "txtZusatzText(0)") << "No goes back to the text";
+            EXPECT_EQ(user.text("txtZusatzText(0)"), "Förster's Auflage");
+            user.click("chkAbgeschlossen");
+            EXPECT_FALSE(user.checked("chkAbgeschlossen")) << "the box is not left with it";
+            c.close(user);
+        });
+        EXPECT_EQ(host.display.messages().size(), messages + 2);
+        EXPECT_EQ(host.display.messages().back().flags,
+                  ui::box::yesNo + ui::box::exclamation + ui::box::defaultButton2);
+    }
+    EXPECT_EQ(row("SELECT ZUSATZTEXT,ZUSATZTEXT_1,ABGESCHLOSSEN FROM VERTRAEGE WHERE ID_VERTRAG = 1"),
+              before);
+}
+
+TEST_F(ContractEditor, SavingWritesWaitingTextsBeforeTheFlags) {
+    const std::int32_t id = newContract();
+    host.display.onMessage("Text 1078", Answer::no);
+    host.display.onMessage("Text 1078", Answer::no);
+    edit(
+        id,
+        [&](User& user) {
+            user.click("chkAbgeschlossen");
+            user.click("btnZusatz");
+            user.type("txtZusatz", "Auflage");
+            user.key(Key::escape); // leaves the box without writing it
+            EXPECT_EQ(user.focused(), "btnAbbrechen");
+            host.database.failOn("ZUSATZTEXT = ");
+            user.click("btnSpeichern");
+            EXPECT_NE(value("SELECT ABGESCHLOSSEN FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id)),
+                      "true");
+            host.database.failOn("");
+            user.close();
+            EXPECT_EQ(host.display.messages().size(), 2u) << "a failed save does not count as one";
+            user.click("btnSpeichern");
+        },
+        true);
+    EXPECT_EQ(row("SELECT ZUSATZTEXT,ABGESCHLOSSEN FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id)),
+              "Auflage | true");
+}
+
+TEST_F(ContractEditor, AContractThatAColleagueDeletedIsTold) {
+    struct Case {
+        const char* rule;
+        void (*act)(User&);
+    };
+    const Case cases[] = {
+        {"the flags", [](User& user) { user.click("btnSpeichern"); }},
+        {"the customer", [](User& user) { user.click("KundeButton"); }},
+        {"no customer", [](User& user) { user.click("btnDeleteMan"); }},
+        {"an additional text",
+         [](User& user) {
+             user.click("btnZusatz");
+             user.type("txtZusatz", "zu spät");
+             user.key(Key::tab);
+             user.type("txtZusatz", "");
+         }},
+        {"the head data", [](User& user) { user.click("btnHeader"); }},
+    };
+    host.pickedPerson = 11;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        const std::int32_t id = newContract();
+        const auto errors = host.display.errors().size();
+        edit(id, [&](User& user) {
+            host.database.execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id));
+            c.act(user);
+            ASSERT_TRUE(user.window().loaded());
+            ASSERT_EQ(host.display.errors().size(), errors + 1);
+            EXPECT_NE(host.display.errors().back().find("inzwischen gelöscht"), std::string::npos);
+            user.click("btnAbbrechen");
+        });
+    }
+}
+
+TEST_F(ContractEditor, AContractWithAnApostropheInItsNameOpensWithoutADeductionModel) {
+    host.database.execute("UPDATE VERTRAEGE SET VERTRAG_NAME = 'O''Neill' WHERE ID_VERTRAG = 1");
+    edit(1, [&](User& user) {
+        EXPECT_EQ(user.window().title(), "Vertrag (O'Neill)");
+        EXPECT_EQ(user.text("txtAbschlag"), "");
+        EXPECT_NE(user.caption("lblOhneAbschlag").find("Apostroph"), std::string::npos);
+        EXPECT_TRUE(user.control<ui::Label>("lblOhneAbschlag").visible());
+        user.close();
+    });
+    edit(2, [](User& user) {
+        EXPECT_FALSE(user.control<ui::Label>("lblOhneAbschlag").visible());
+        user.close();
+    });
 }
 
 TEST_F(ContractEditor, TheHeaderIsShownAgainAfterItWasEdited) {

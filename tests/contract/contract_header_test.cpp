@@ -24,7 +24,7 @@ protected:
 };
 
 TEST_F(ContractHeader, ShowsTheRow) {
-    editHeader(1, [](User& user) {
+    editHeader(1, [&](User& user) {
         EXPECT_EQ(user.text("txtDate1"), "07.01.2025");
         EXPECT_EQ(user.text("txtDate2"), "10.01.2025");
         EXPECT_EQ(user.text("txtDate4"), "") << "NULL is an empty box";
@@ -35,7 +35,8 @@ TEST_F(ContractHeader, ShowsTheRow) {
         EXPECT_EQ(user.tag("txtRechn"), "1");
         EXPECT_EQ(user.text("txtWahrung"), "EUR");
         EXPECT_EQ(user.tag("txtMandant(0)"), "1");
-        EXPECT_NE(user.text("txtMandant(1)"), "");
+        EXPECT_EQ(user.text("txtMandant(1)"),
+                  value("SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = 1"));
         EXPECT_EQ(user.tag("txtLieferadresse(0)"), "50");
         user.click("btnCancel");
     });
@@ -274,6 +275,23 @@ TEST_F(ContractHeader, AFailingSaveLeavesTheScreenWithEverythingTyped) {
         user.click("btnOk");
     });
     EXPECT_EQ(value("SELECT KOPF1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "neu");
+}
+
+TEST_F(ContractHeader, AContractThatAColleagueDeletedKeepsTheScreenWithEverythingTyped) {
+    host.display.onWindow("F_Vertrag", [](User& user) {
+        user.click("btnHeader");
+        user.click("btnAbbrechen");
+    });
+    host.display.onWindow("F_HeaderVertrag", [&](User& user) {
+        user.type("txtKopf(0)", "neu");
+        host.database.execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = 1");
+        user.click("btnOk");
+        ASSERT_EQ(host.display.errors().size(), 1u);
+        EXPECT_NE(host.display.errors().back().find("inzwischen gelöscht"), std::string::npos);
+        EXPECT_EQ(user.text("txtKopf(0)"), "neu");
+        user.click("btnCancel");
+    });
+    host.openContract(1);
 }
 
 TEST_F(ContractHeader, SavingIsOneStatementInTheGivenOrder) {

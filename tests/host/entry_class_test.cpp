@@ -60,14 +60,16 @@ TEST_F(EntryClass, NotifiesTheHostByTheExactTypeCode) {
 TEST_F(EntryClass, HandsTheFlagsBack) {
     host.blnOK = std::string{"True"};
     host.bolEuroChange = static_cast<host::Boolean16>(1);
-    host.display.onWindow("F_Vertrag", [](User& user) {
+    host.display.onWindow("F_Vertrag", [this](User& user) {
         EXPECT_EQ(host::moduleState().context.blnOK, host::Boolean16::True);
         EXPECT_EQ(host::moduleState().context.strDecimalSep, ",");
+        host.blnOK = false; // what the caller's variables hold meanwhile
+        host.bolEuroChange = host::Boolean16::False;
         user.close();
     });
     host.openContract(1);
     EXPECT_EQ(host.blnOK, host::Variant{true});
-    EXPECT_EQ(static_cast<int>(host.bolEuroChange), 1) << "written back unchanged";
+    EXPECT_EQ(static_cast<int>(host.bolEuroChange), 1) << "written back as it was read";
 
     // Opening the header clears the flag, and nothing but the person picker sets it again.
     host.display.onWindow("F_Vertrag", [](User& user) {

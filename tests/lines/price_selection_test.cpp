@@ -64,10 +64,10 @@ TEST_F(PriceSelection, TheQuickSelectionCompletesAndOffersCodes) {
         const char* bound;
     };
     const Case cases[] = {
-        {"txtHa", "HOLZART_GRID/Ha//01", "txtHa/HA"},
-        {"txtHs", "HOLZSORTE_GRID/Hs//01", "txtHs/HS"},
-        {"txtGKL", "GUETEKLASSE_GRID/GKL//01", "txtGKL/GKL"},
-        {"txtStkl", "STKL_GRID/Stkl//01", "txtStkl/STKL"},
+        {"txtHa", "layout of HOLZART_GRID/Ha//01", "txtHa/HA"},
+        {"txtHs", "layout of HOLZSORTE_GRID/Hs//01", "txtHs/HS"},
+        {"txtGKL", "layout of GUETEKLASSE_GRID/GKL//01", "txtGKL/GKL"},
+        {"txtStkl", "layout of STKL_GRID/Stkl//01", "txtStkl/STKL"},
     };
     editPrices(1, [&](User& user) {
         user.click("cmdBearbeiten");

@@ -11,7 +11,7 @@ protected:
     std::string chosen(const std::string& text, const ScriptedDisplay::Script& script,
                        const std::string& key = "HOLZART_GRID", const std::string& mode = "01") {
         display.onWindow("F_LookupGrid", script);
-        return host.lookupGridDialog.choose(session, key, "Ha", "", mode, text);
+        return host.lookupGridDialog.choose(session, host.settings.text(session, key), "Ha", "", mode, text);
     }
 };
 
@@ -37,7 +37,8 @@ TEST_F(CodeList, OffersWhatIsNotDisabled) {
             },
             key);
     }
-    EXPECT_THROW(host.lookupGridDialog.choose(session, "VERTRAG_GRID", "", "", "01", ""), std::invalid_argument);
+    EXPECT_THROW(host.lookupGridDialog.choose(session, "VERTRAG_GRID", "", "", "01", ""),
+                 std::invalid_argument);
 }
 
 TEST_F(CodeList, AnswersTheMarkedCodes) {

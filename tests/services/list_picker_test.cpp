@@ -20,7 +20,7 @@ std::string chosenText(const std::string& current, const ScriptedDisplay::Script
     F_ListPicker picker{"Einheit", units, countTexts, current};
     display.onWindow("F_ListPicker", script);
     display.showModal(picker);
-    return picker.chosen().value_or("none");
+    return picker.chosen() ? picker.chosen()->front() : "none";
 }
 
 std::string firstColumn(const ui::Grid& grid) {
@@ -110,7 +110,7 @@ TEST(ListPicker, ALongListShowsItsStartAndReachesTheRestByNarrowing) {
         user.key(Key::enter);
     });
     display.showModal(picker);
-    EXPECT_EQ(picker.chosen(), "V700");
+    EXPECT_EQ(picker.chosen()->front(), "V700");
 }
 
 } // namespace

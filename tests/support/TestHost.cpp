@@ -1,6 +1,9 @@
 #include "support/TestHost.h"
 
 #include "common/date_format.h"
+#include "common/text.h"
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -35,6 +38,7 @@ TestHost::TestHost(common::Connection& inner)
                .personalPicker = *this,
                .listPicker = *this,
                .lookupValidation = *this,
+               .keyedLists = *this,
                .personQuery = *this,
                .dateConverter = *this,
                .settings = *this,
@@ -81,13 +85,42 @@ std::int32_t TestHost::choose(const host::TlxVar&, const std::string& mode, int 
 }
 
 std::string TestHost::choose(const host::TlxVar&, const std::string& query, const std::string& title,
-                             const std::string& current) {
+                             const std::string& current, const std::string& text) {
+    EXPECT_EQ(text, "");
     picks.push_back(query + "/" + title);
     return pickedText.empty() ? current : pickedText;
 }
 
-bool TestHost::resolve(const host::TlxVar& with, const std::string& query, ui::TextBox& box,
-                       ui::TextBox* shown, const std::string& displayColumn) {
+std::string TestHost::choose(const host::TlxVar&, const std::string& list, const std::string& title,
+                             const Limits& limits, const std::string&) {
+    lists.push_back(list + "/" + title + "/" + limits.type + "/" + std::to_string(limits.contract));
+    return pickedKey;
+}
+
+std::vector<std::string> TestHost::find(const host::TlxVar& with, const std::string& list,
+                                        const std::string& text, const Limits& limits) {
+    lists.push_back(list + "/" + text + "/" + limits.type + "/" + std::to_string(limits.contract));
+    if (!foundKeys.empty()) return foundKeys;
+    const bool types = list == "TYPEOFVERTRAG_VALID";
+    std::string query = types ? "SELECT DISTINCT VER_TYPE AS K FROM VERTRAEGE WHERE VER_TYPE = '"
+                              : "SELECT ID_VERTRAG AS K FROM VERTRAEGE WHERE VERTRAG_NAME = '";
+    query += common::replaceAll(text, "'", "''") + "'";
+    if (listsKnowLimits && !types) query += " AND ID_VERTRAG <> " + std::to_string(limits.contract);
+    if (listsKnowLimits && !types && !limits.type.empty()) query += " AND VER_TYPE = '" + limits.type + "'";
+    std::vector<std::string> keys;
+    for (auto row = with.connection->open(query); !row->atEnd(); row->moveNext())
+        keys.push_back(row->text("K"));
+    return keys;
+}
+
+std::string TestHost::typeOf(const host::TlxVar& with, std::int32_t contract) {
+    return readValue(with, "VER_TYPE", "VERTRAEGE", " ID_VERTRAG = " + std::to_string(contract));
+}
+
+bool TestHost::resolve(const host::TlxVar& with, std::int32_t option, const std::string& query,
+                       ui::TextBox& box, ui::TextBox* shown, const std::string& displayColumn,
+                       ui::TextBox* third, const std::string& text) {
+    EXPECT_TRUE(option == -1 && third == nullptr && text.empty());
     box.setTag("");
     if (shown != nullptr) shown->setText("");
     if (box.text().empty()) return true;
@@ -110,7 +143,8 @@ std::string TestHost::toSql(const std::string& text, const host::TlxVar&) {
 
 std::string TestHost::text(const host::TlxVar&, const std::string& name) {
     const auto setting = settings.find(name);
-    return setting == settings.end() ? std::string{} : setting->second;
+    if (setting != settings.end()) return setting->second;
+    return name.ends_with("_GRID") ? "layout of " + name : std::string{};
 }
 
 int TestHost::of(const host::TlxVar&, const std::string& table, const std::string& column) {
@@ -125,9 +159,9 @@ std::optional<std::string> TestHost::select(const host::TlxVar&, const std::stri
     return onSelectionDialog ? onSelectionDialog(key) : std::nullopt;
 }
 
-std::string TestHost::choose(const host::TlxVar&, const std::string& settingKey, const std::string& title,
+std::string TestHost::choose(const host::TlxVar&, const std::string& layout, const std::string& title,
                              const std::string& text, const std::string& mode, const std::string& current) {
-    picks.push_back(settingKey + "/" + title + "/" + text + "/" + mode);
+    picks.push_back(layout + "/" + title + "/" + text + "/" + mode);
     return pickedText.empty() ? current : pickedText;
 }
 

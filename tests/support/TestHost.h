@@ -41,6 +41,7 @@ class TestHost final : host::HostDataAccess,
                        host::HostPersonalPicker,
                        host::ListPicker,
                        host::LookupValidation,
+                       host::KeyedLists,
                        host::PersonQueryBuilder,
                        host::DateConverter,
                        host::NamedSettings,
@@ -76,6 +77,11 @@ public:
     std::int32_t pickedPerson = 0;       ///< what the person picker answers next
     bool articles = false;
 
+    std::vector<std::string> lists;     ///< keyed lists asked: "list/text or title/type/contract"
+    std::string pickedKey;              ///< what a keyed list answers when the user is to choose
+    std::vector<std::string> foundKeys; ///< what it finds instead of the contracts of that name
+    bool listsKnowLimits = true;        ///< whether they obey the limits that they are given
+
     std::map<std::string, std::string> settings; ///< the named settings that are not empty
     /// What the selection dialog does with the key that it is given; nothing is a cancelled dialog.
     std::function<std::optional<std::string>(const std::string& key)> onSelectionDialog;
@@ -95,9 +101,15 @@ private:
                         std::int16_t standardClient, std::int32_t currentPerson,
                         host::Boolean16& confirmed) override;
     std::string choose(const host::TlxVar&, const std::string& query, const std::string& title,
-                       const std::string& current) override;
-    bool resolve(const host::TlxVar&, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
-                 const std::string& displayColumn) override;
+                       const std::string& current, const std::string& text) override;
+    bool resolve(const host::TlxVar&, std::int32_t option, const std::string& query, ui::TextBox& box,
+                 ui::TextBox* shown, const std::string& displayColumn, ui::TextBox* third,
+                 const std::string& text) override;
+    std::string choose(const host::TlxVar&, const std::string& list, const std::string& title,
+                       const Limits& limits, const std::string& current) override;
+    std::vector<std::string> find(const host::TlxVar&, const std::string& list, const std::string& text,
+                                  const Limits& limits) override;
+    std::string typeOf(const host::TlxVar&, std::int32_t contract) override;
     std::string build(const host::TlxVar&, const std::string& table, const std::string& number,
                       int accessLevel, const std::string& filter) override;
     std::string toSql(const std::string& text, const host::TlxVar&) override;
@@ -110,7 +122,7 @@ private:
     std::optional<std::string> select(const host::TlxVar&, const std::string& key,
                                       const std::string& upperType, const std::string& out1,
                                       const std::string& out2) override;
-    std::string choose(const host::TlxVar&, const std::string& settingKey, const std::string& title,
+    std::string choose(const host::TlxVar&, const std::string& layout, const std::string& title,
                        const std::string& text, const std::string& mode, const std::string& current) override;
     void bind(const host::TlxVar&, ui::TextBox& box, const std::string& query,
               const std::string& displayColumn) override;

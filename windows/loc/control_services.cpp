@@ -39,14 +39,15 @@ void text(ServiceObject& service, Given given) {
 
 Variant resolve(ServiceObject& service, Given given) {
     auto call = callOf(service, given);
-    Dispatch box(given[2]);
-    Dispatch shown(given[3].object());
+    Dispatch box(given[3]);
+    Dispatch shown(given[4].object());
     BoxMirror boxMirror;
     BoxMirror shownMirror;
     boxMirror.read(box);
     if (shown) shownMirror.read(shown);
     const bool found = call.services().lookupValidation.resolve(
-        call.session(), given[1].text(), boxMirror.box, shown ? &shownMirror.box : nullptr, given[4].text());
+        call.session(), given[1].integer(), given[2].text(), boxMirror.box,
+        shown ? &shownMirror.box : nullptr, given[5].text(), nullptr, given[7].text());
     boxMirror.write(box);
     if (shown) shownMirror.write(shown);
     return found;

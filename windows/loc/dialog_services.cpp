@@ -41,8 +41,36 @@ const ServiceClass& listPicker() {
         DispatchTable().method<ServiceObject>(L"Choose", [](ServiceObject& service, Given given) {
             auto call = callOf(service, given);
             return Variant(call.services().listPicker.choose(call.session(), given[1].text(), given[2].text(),
-                                                             given[3].text()));
+                                                             given[3].text(), given[4].text()));
         })};
+    return served;
+}
+
+const ServiceClass& keyedLists() {
+    static const ServiceClass served{
+        "Tellurix_Loc.KeyedLists",
+        DispatchTable()
+            .method<ServiceObject>(L"Choose",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       return Variant(call.services().keyedLists.choose(
+                                           call.session(), given[1].text(), given[2].text(),
+                                           {given[3].text(), given[4].integer()}, given[5].text()));
+                                   })
+            .method<ServiceObject>(L"Find",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       std::string keys;
+                                       for (const std::string& key : call.services().keyedLists.find(
+                                                call.session(), given[1].text(), given[2].text(),
+                                                {given[3].text(), given[4].integer()}))
+                                           keys += (keys.empty() ? "" : ",") + key;
+                                       return Variant(keys);
+                                   })
+            .method<ServiceObject>(L"TypeOf", [](ServiceObject& service, Given given) {
+                auto call = callOf(service, given);
+                return Variant(call.services().keyedLists.typeOf(call.session(), given[1].integer()));
+            })};
     return served;
 }
 

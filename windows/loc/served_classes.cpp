@@ -33,6 +33,7 @@ std::span<const ServedClass> servedClasses() {
         ServedClass{__uuidof(HostLocalizer), service<_HostLocalizer, hostLocalizer>},
         ServedClass{__uuidof(HostPersonalPicker), service<_HostPersonalPicker, hostPersonalPicker>},
         ServedClass{__uuidof(ListPicker), service<_ListPicker, listPicker>},
+        ServedClass{__uuidof(KeyedLists), service<_KeyedLists, keyedLists>},
         ServedClass{__uuidof(LookupValidation), service<_LookupValidation, lookupValidation>},
         ServedClass{__uuidof(PersonQueryBuilder), service<_PersonQueryBuilder, personQueryBuilder>},
         ServedClass{__uuidof(DateConverter), service<_DateConverter, dateConverter>},

@@ -24,6 +24,7 @@ const ServiceClass& selectionTranslator();
 // Questions to the user: dialog_services.cpp
 const ServiceClass& hostPersonalPicker();
 const ServiceClass& listPicker();
+const ServiceClass& keyedLists();
 const ServiceClass& selectionDialog();
 const ServiceClass& lookupGridDialog();
 const ServiceClass& hostErrorReport();

@@ -85,7 +85,7 @@ void F_ListPicker::narrow() {
 
 void F_ListPicker::choose() {
     if (grdList.currentRow() == ui::Grid::none) return;
-    chosen_ = grdList.cell(grdList.currentRow(), 0);
+    chosen_ = grdList.rows()[static_cast<std::size_t>(grdList.currentRow())];
     unload();
 }
 

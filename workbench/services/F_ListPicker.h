@@ -12,7 +12,7 @@
 namespace tellurix::workbench {
 
 /// Lets the user choose one entry of a list. What is typed narrows the list to the entries that have
-/// all of its words somewhere in their columns; the first column is the answer.
+/// all of its words somewhere in their columns.
 class F_ListPicker final : public ui::Form {
 public:
     struct List {
@@ -31,8 +31,8 @@ public:
     ///        part of an entry
     F_ListPicker(std::string title, List list, CountTexts countTexts, const std::string& current);
 
-    /// The answer, nothing when the user cancelled.
-    const std::optional<std::string>& chosen() const { return chosen_; }
+    /// The chosen entry, nothing when the user cancelled.
+    const std::optional<ui::Grid::Row>& chosen() const { return chosen_; }
 
 private:
     void startOn(const std::string& current);
@@ -42,7 +42,7 @@ private:
     List list_;
     std::vector<std::string> searchTexts_; ///< of each entry, in capitals
     CountTexts countTexts_;
-    std::optional<std::string> chosen_;
+    std::optional<ui::Grid::Row> chosen_;
 
     ui::Label lblFilter{*this, "lblFilter", "&Filter"};
     ui::TextBox txtFilter{*this, "txtFilter", 40};

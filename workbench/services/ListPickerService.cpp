@@ -33,7 +33,8 @@ F_ListPicker::List listOf(common::Recordset& rows) {
 } // namespace
 
 std::string ListPickerService::choose(const host::TlxVar& session, const std::string& query,
-                                      const std::string& title, const std::string& current) {
+                                      const std::string& title, const std::string& current,
+                                      const std::string& /*text*/) {
     return query == calendar ? chooseDay(session, title, current)
                              : chooseEntry(session, query, title, current);
 }
@@ -50,7 +51,7 @@ std::string ListPickerService::chooseEntry(const host::TlxVar& session, const st
         current};
     localizer_.localize(session, form);
     display_.showModal(form);
-    return form.chosen().value_or(current);
+    return form.chosen() ? form.chosen()->front() : current;
 }
 
 std::string ListPickerService::chooseDay(const host::TlxVar& session, const std::string& title,

@@ -14,7 +14,7 @@ public:
         : display_(display), clock_(clock), localizer_(localizer), locale_(locale) {}
 
     std::string choose(const host::TlxVar& session, const std::string& query, const std::string& title,
-                       const std::string& current) override;
+                       const std::string& current, const std::string& text) override;
 
 private:
     std::string chooseEntry(const host::TlxVar& session, const std::string& query, const std::string& title,

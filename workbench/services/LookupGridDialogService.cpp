@@ -7,11 +7,11 @@
 
 namespace tellurix::workbench {
 
-std::string LookupGridDialogService::choose(const host::TlxVar& session, const std::string& settingKey,
+std::string LookupGridDialogService::choose(const host::TlxVar& session, const std::string& layout,
                                             const std::string& title, const std::string&,
                                             const std::string& mode, const std::string& current) {
-    const AttributeKind* kind = findAttribute(settingKey);
-    if (kind == nullptr) throw std::invalid_argument{"Es gibt keine Auswahlliste „" + settingKey + "“."};
+    const AttributeKind* kind = findAttribute(layout);
+    if (kind == nullptr) throw std::invalid_argument{"Es gibt keine Auswahlliste „" + layout + "“."};
     F_LookupGrid form{title, SelectionWords{localizer_, session, locale_}.choiceCaptions(),
                       choicesOf(session, *kind), codesOf(current), mode == "01"};
     localizer_.localize(session, form);

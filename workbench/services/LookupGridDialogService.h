@@ -11,7 +11,7 @@ public:
         : display_(display), localizer_(localizer), locale_(locale) {}
 
     /// @throws std::invalid_argument for a list that does not exist
-    std::string choose(const host::TlxVar& session, const std::string& settingKey, const std::string& title,
+    std::string choose(const host::TlxVar& session, const std::string& layout, const std::string& title,
                        const std::string& text, const std::string& mode, const std::string& current) override;
 
 private:

@@ -19,8 +19,10 @@ std::string nameOf(const ui::TextBox& box) {
 
 } // namespace
 
-bool LookupValidationService::resolve(const host::TlxVar& session, const std::string& query, ui::TextBox& box,
-                                      ui::TextBox* shown, const std::string& displayColumn) {
+bool LookupValidationService::resolve(const host::TlxVar& session, std::int32_t /*option*/,
+                                      const std::string& query, ui::TextBox& box, ui::TextBox* shown,
+                                      const std::string& displayColumn, ui::TextBox* /*third*/,
+                                      const std::string& /*text*/) {
     const auto answer = [&](const std::string& key, const std::string& display) {
         box.setTag(key);
         if (shown != nullptr) shown->setText(display);

@@ -11,8 +11,9 @@ public:
     LookupValidationService(ui::Display& display, Localizer& localizer)
         : display_(display), localizer_(localizer) {}
 
-    bool resolve(const host::TlxVar& session, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
-                 const std::string& displayColumn) override;
+    bool resolve(const host::TlxVar& session, std::int32_t option, const std::string& query, ui::TextBox& box,
+                 ui::TextBox* shown, const std::string& displayColumn, ui::TextBox* third,
+                 const std::string& text) override;
 
 private:
     ui::Display& display_;

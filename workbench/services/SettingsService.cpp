@@ -8,7 +8,9 @@ std::string SettingsService::text(const host::TlxVar& session, const std::string
     if (const auto replaced = replaced_.find(name); replaced != replaced_.end()) return replaced->second;
     common::StatementText query{"SELECT VALUE FROM WORKBENCH_SETTING WHERE NAME = "};
     const auto setting = session.connection->open(query.quoted(name).text());
-    return setting->atEnd() ? std::string{} : setting->text("VALUE");
+    if (!setting->atEnd()) return setting->text("VALUE");
+    // Lists are laid out the same for everybody here, so that the name of a layout says all of it.
+    return name.ends_with("_GRID") ? name : std::string{};
 }
 
 } // namespace tellurix::workbench

@@ -6,6 +6,7 @@
 #include "services/DateConverterService.h"
 #include "services/ErrorReporter.h"
 #include "services/GridLayoutStoreService.h"
+#include "services/KeyedListsService.h"
 #include "services/ListPickerService.h"
 #include "services/Localizer.h"
 #include "services/LookupGridDialogService.h"
@@ -52,6 +53,7 @@ private:
     PersonPicker personalPicker_;
     ListPickerService listPicker_;
     LookupValidationService lookupValidation_;
+    KeyedListsService keyedLists_;
     PersonQueryService personQuery_;
     DateConverterService dateConverter_;
     SettingsService settings_;

@@ -14,6 +14,7 @@ LateServices::LateServices(ui::Display& display)
             .personalPicker = personalPicker_,
             .listPicker = listPicker_,
             .lookupValidation = lookupValidation_,
+            .keyedLists = keyedLists_,
             .personQuery = personQuery_,
             .dateConverter = dateConverter_,
             .settings = settings_,

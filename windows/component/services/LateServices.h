@@ -28,6 +28,7 @@ private:
     LatePersonalPicker personalPicker_;
     LateListPicker listPicker_;
     LateLookupValidation lookupValidation_;
+    LateKeyedLists keyedLists_;
     LatePersonQuery personQuery_;
     LateDateConverter dateConverter_;
     LateSettings settings_;

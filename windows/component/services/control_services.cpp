@@ -19,14 +19,22 @@ std::string LateLocalizer::text(int number, const host::TlxVar& session) {
     return text.value();
 }
 
-bool LateLookupValidation::resolve(const host::TlxVar& session, const std::string& query, ui::TextBox& box,
-                                   ui::TextBox* shown, const std::string& displayColumn) {
+bool LateLookupValidation::resolve(const host::TlxVar& session, std::int32_t option, const std::string& query,
+                                   ui::TextBox& box, ui::TextBox* shown, const std::string& displayColumn,
+                                   ui::TextBox* third, const std::string& text) {
     SessionRecord record(session);
     const Lent<BoxObject> lentBox(box);
     std::optional<Lent<BoxObject>> lentShown;
-    if (shown != nullptr) lentShown.emplace(*shown);
-    const Variant second = lentShown ? lentShown->argument() : Variant(ComPtr<IDispatch>());
-    return object_.call(L"Resolve", {record.argument(), query, lentBox.argument(), second, displayColumn})
+    std::optional<Lent<BoxObject>> lentThird;
+    const auto lend = [](std::optional<Lent<BoxObject>>& lent, ui::TextBox* other) {
+        if (other == nullptr) return Variant(ComPtr<IDispatch>());
+        lent.emplace(*other);
+        return lent->argument();
+    };
+    const Variant second = lend(lentShown, shown);
+    return object_
+        .call(L"Resolve", {record.argument(), option, query, lentBox.argument(), second, displayColumn,
+                           lend(lentThird, third), text})
         .flag();
 }
 

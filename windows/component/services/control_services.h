@@ -19,8 +19,9 @@ private:
 
 class LateLookupValidation final : public host::LookupValidation {
 public:
-    bool resolve(const host::TlxVar& session, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
-                 const std::string& displayColumn) override;
+    bool resolve(const host::TlxVar& session, std::int32_t option, const std::string& query, ui::TextBox& box,
+                 ui::TextBox* shown, const std::string& displayColumn, ui::TextBox* third,
+                 const std::string& text) override;
 
 private:
     HostClass object_{"LookupValidation"};

@@ -1,5 +1,7 @@
 #include "component/services/dialog_services.h"
 
+#include <algorithm>
+
 namespace tellurix::windows {
 
 std::int32_t LatePersonalPicker::choose(const host::TlxVar& session, const std::string& mode, int accessLevel,
@@ -14,9 +16,37 @@ std::int32_t LatePersonalPicker::choose(const host::TlxVar& session, const std::
 }
 
 std::string LateListPicker::choose(const host::TlxVar& session, const std::string& query,
-                                   const std::string& title, const std::string& current) {
+                                   const std::string& title, const std::string& current,
+                                   const std::string& text) {
     SessionRecord record(session);
-    return object_.call(L"Choose", {record.argument(), query, title, current}).text();
+    return object_.call(L"Choose", {record.argument(), query, title, current, text}).text();
+}
+
+std::string LateKeyedLists::choose(const host::TlxVar& session, const std::string& list,
+                                   const std::string& title, const Limits& limits,
+                                   const std::string& current) {
+    SessionRecord record(session);
+    return object_.call(L"Choose", {record.argument(), list, title, limits.type, limits.contract, current})
+        .text();
+}
+
+std::vector<std::string> LateKeyedLists::find(const host::TlxVar& session, const std::string& list,
+                                              const std::string& text, const Limits& limits) {
+    SessionRecord record(session);
+    const std::string found =
+        object_.call(L"Find", {record.argument(), list, text, limits.type, limits.contract}).text();
+    std::vector<std::string> keys;
+    for (std::size_t start = 0; start < found.size();) {
+        const std::size_t end = std::min(found.find(',', start), found.size());
+        keys.push_back(found.substr(start, end - start));
+        start = end + 1;
+    }
+    return keys;
+}
+
+std::string LateKeyedLists::typeOf(const host::TlxVar& session, std::int32_t contract) {
+    SessionRecord record(session);
+    return object_.call(L"TypeOf", {record.argument(), contract}).text();
 }
 
 std::optional<std::string> LateSelectionDialog::select(const host::TlxVar& session, const std::string& key,
@@ -28,11 +58,11 @@ std::optional<std::string> LateSelectionDialog::select(const host::TlxVar& sessi
     return selected.text();
 }
 
-std::string LateLookupGridDialog::choose(const host::TlxVar& session, const std::string& settingKey,
+std::string LateLookupGridDialog::choose(const host::TlxVar& session, const std::string& layout,
                                          const std::string& title, const std::string& text,
                                          const std::string& mode, const std::string& current) {
     SessionRecord record(session);
-    return object_.call(L"Choose", {record.argument(), settingKey, title, text, mode, current}).text();
+    return object_.call(L"Choose", {record.argument(), layout, title, text, mode, current}).text();
 }
 
 } // namespace tellurix::windows

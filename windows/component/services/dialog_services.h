@@ -20,10 +20,22 @@ private:
 class LateListPicker final : public host::ListPicker {
 public:
     std::string choose(const host::TlxVar& session, const std::string& query, const std::string& title,
-                       const std::string& current) override;
+                       const std::string& current, const std::string& text) override;
 
 private:
     HostClass object_{"ListPicker"};
+};
+
+class LateKeyedLists final : public host::KeyedLists {
+public:
+    std::string choose(const host::TlxVar& session, const std::string& list, const std::string& title,
+                       const Limits& limits, const std::string& current) override;
+    std::vector<std::string> find(const host::TlxVar& session, const std::string& list,
+                                  const std::string& text, const Limits& limits) override;
+    std::string typeOf(const host::TlxVar& session, std::int32_t contract) override;
+
+private:
+    HostClass object_{"KeyedLists"};
 };
 
 class LateSelectionDialog final : public host::SelectionDialog {
@@ -38,7 +50,7 @@ private:
 
 class LateLookupGridDialog final : public host::LookupGridDialog {
 public:
-    std::string choose(const host::TlxVar& session, const std::string& settingKey, const std::string& title,
+    std::string choose(const host::TlxVar& session, const std::string& layout, const std::string& title,
                        const std::string& text, const std::string& mode, const std::string& current) override;
 
 private:
