@@ -51,8 +51,6 @@ TEST_F(RefusedTexts, AreNamedByTheirFieldAndGetTheFocus) {
          "Zusatztext",
          nullptr,
          {}},
-        {nullptr, "F_Vertrag", {}, "txtVertrag", "x'y", "Vertrag", nullptr, {}},
-        {nullptr, "F_Vertrag", {}, "txtTypeOfVertrag", "R' OR 1=1 --", "Vertragsart", nullptr, {}},
         {"PreisButton", prices, newLine, "txtHa", "FI') ;'; DELETE FROM VERTRAG_PREISE --", "Ha",
          "cmdSpeichern", given},
         {"PreisButton", prices, newLine, "txtHs", "O'X", "Hs", "cmdSpeichern", given},
