@@ -251,15 +251,16 @@ std::string F_Vertrag::GetAbschlagValue(const std::string& column) {
 }
 
 void F_Vertrag::showDeductionModel() {
-    lblOhneAbschlag.setVisible(false);
+    std::string reason;
     try {
         txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
     } catch (const common::StatementError&) {
         // The name goes into the statement as it stands, and with an apostrophe in it there is none to send.
         txtAbschlag.setText("");
-        lblOhneAbschlag.setCaption(common::ownText(OwnText::noDeductionModel, session_.language));
-        lblOhneAbschlag.setVisible(true);
+        reason = common::ownText(OwnText::noDeductionModel, session_.language);
     }
+    lblOhneAbschlag.setVisible(!reason.empty());
+    lblOhneAbschlag.setCaption(std::move(reason));
 }
 
 void F_Vertrag::loadFlags() {

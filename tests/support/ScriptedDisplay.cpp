@@ -181,6 +181,7 @@ void ScriptedDisplay::setBusy(bool busy) {
 }
 
 void ScriptedDisplay::report(const std::exception& error) {
+    if (handling_ != nullptr) return handling_->report(error);
     errors_.emplace_back(error.what());
 }
 

@@ -80,6 +80,9 @@ public:
     /// The next message box holds this text and is answered so.
     void onMessage(std::string containing, ui::Answer answer = ui::Answer::ok);
 
+    /// Errors are shown by the host's error handling from now on, and no longer remembered.
+    void reportTo(ui::ErrorHandling& handling) { handling_ = &handling; }
+
     /// All message boxes shown so far.
     const std::vector<Message>& messages() const { return messages_; }
     /// Messages of the errors handed to the host's error handling so far.
@@ -107,6 +110,7 @@ private:
     std::deque<Reply> replies_;
     std::vector<Message> messages_;
     std::vector<std::string> errors_;
+    ui::ErrorHandling* handling_ = nullptr;
     int busy_ = 0;
 };
 
