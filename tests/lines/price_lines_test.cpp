@@ -183,6 +183,7 @@ TEST_F(PriceLines, CancellingANewLineLeavesNothingBehind) {
             if (c.closeBox) {
                 host.display.onMessage("nicht gespeichert", Answer::no);
                 user.close();
+                EXPECT_EQ(ui::box::defaultOf(host.display.messages().back().flags), 1) << "No is the default";
                 EXPECT_EQ(user.text("txtBEZEICHNUNG"), "verworfen");
                 host.display.onMessage("nicht gespeichert", Answer::yes);
                 return user.close();
