@@ -7,9 +7,15 @@ namespace tellurix::embedded {
 
 Database::Database(std::filesystem::path file, const common::Clock& clock, Options options)
     : file_(std::move(file)), clock_(clock), options_(options) {
-    // Shows at once whether the file is there and is a database.
-    connect();
+    // Shows at once whether the file is there and is a database of ours.
+    reported({}, [&] {
+        readOnly_ = SqliteConnection(file_, options_.create, options_.patience, clock_).isReadOnly();
+    });
     options_.create = false;
+}
+
+void Database::moveLogIntoFile() const {
+    reported({}, [&] { SqliteConnection(file_, false, options_.patience, clock_).moveLogIntoFile(); });
 }
 
 std::unique_ptr<common::Connection> Database::connect() const {

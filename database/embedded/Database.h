@@ -25,12 +25,20 @@ public:
     };
 
     /// @param clock what GETDATE() answers; has to outlive the database and its connections
-    /// @throws common::DatabaseError (connection) when the file cannot be opened or is no database
+    /// @throws common::DatabaseError when the file cannot be opened (connection), is not there (missing), is
+    ///         no database (damaged) or another program's, which is left unchanged (connection)
     Database(std::filesystem::path file, const common::Clock& clock, Options options);
     Database(std::filesystem::path file, const common::Clock& clock)
         : Database(std::move(file), clock, Options()) {}
 
     const std::filesystem::path& file() const { return file_; }
+    /// Whether the file could only be read when it was opened; every write to it fails then.
+    bool isReadOnly() const { return readOnly_; }
+
+    /// Brings everything that was written into the one file, and that onto the disk, so that it can be
+    /// copied or moved. Nobody may be connected meanwhile.
+    /// @throws common::DatabaseError (storageFull, locked)
+    void moveLogIntoFile() const;
 
     std::unique_ptr<common::Connection> connect() const;
 
@@ -38,6 +46,7 @@ private:
     std::filesystem::path file_;
     const common::Clock& clock_;
     Options options_;
+    bool readOnly_ = false;
 };
 
 } // namespace tellurix::embedded

@@ -67,6 +67,14 @@ void Engine::bind(SqliteStatement& statement, const Translation& translation, co
     }
 }
 
+SqliteStatement Engine::prepare(const Translation& translation) {
+    try {
+        return connection_.prepare(translation.sql, true);
+    } catch (const NestedTooDeeply&) {
+        failSyntax("The statement is nested too deeply", translation.deepestPosition);
+    }
+}
+
 Running Engine::start(Batch& batch, const Task& task, const Frame& frame) {
     releaseSnapshot();
     session().failure.reset();
@@ -76,7 +84,7 @@ Running Engine::start(Batch& batch, const Task& task, const Frame& frame) {
         Compiled& compiled = compile(batch, task);
         Running running{&compiled, {}};
         if (compiled.idle.empty()) {
-            running.statement = connection_.prepare(compiled.translation.sql, true);
+            running.statement = prepare(compiled.translation);
         } else {
             running.statement = std::move(compiled.idle.back());
             compiled.idle.pop_back();
@@ -108,7 +116,7 @@ void Engine::giveBack(Running running) {
 }
 
 std::int64_t Engine::write(Batch& batch, const Task& task, const Frame& frame) {
-    readAllOpenRows();
+    prepareToWrite();
     start(batch, task, frame);
     return connection_.changes();
 }
@@ -119,6 +127,11 @@ Cell Engine::valueOf(Batch& batch, const Task& task, const Frame& frame) {
     Cell cell = cellAt(running.statement, 0);
     giveBack(std::move(running));
     return cell;
+}
+
+void Engine::prepareToWrite() {
+    connection_.requireFileInPlace();
+    readAllOpenRows();
 }
 
 void Engine::readAllOpenRows() {

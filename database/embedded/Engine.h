@@ -69,6 +69,8 @@ public:
     /// Every open recordset reads its remaining rows now: SQLite would mix a write of the same
     /// connection into rows that are still being fetched.
     void readAllOpenRows();
+    /// Has to be called before anything is written: sees to the open rows, and that the file is in its place.
+    void prepareToWrite();
     /// The same for those that have begun to read: as long as they do, every statement of the
     /// connection would see the database as it was then.
     void releaseSnapshot();
@@ -81,6 +83,7 @@ public:
     void discard(std::string sqlName) { discarded_.push_back(std::move(sqlName)); }
 
 private:
+    SqliteStatement prepare(const Translation& translation);
     void bind(SqliteStatement& statement, const Translation& translation, const Frame& frame);
     void dropDiscarded();
 

@@ -62,21 +62,21 @@ void Interpreter::run(const DeleteStatement& deletion) {
 
 void Interpreter::run(const TableDefinition& table) {
     if (table.table.written.starts_with('@')) return; // made before the batch began
-    engine_->readAllOpenRows();
+    engine_->prepareToWrite();
     engine_->refreshCatalogue();
     createTable(engine_->connection(), engine_->catalogue(), table);
     engine_->refreshCatalogue();
 }
 
 void Interpreter::run(const CreateIndexStatement& index) {
-    engine_->readAllOpenRows();
+    engine_->prepareToWrite();
     engine_->refreshCatalogue();
     createIndex(engine_->connection(), engine_->catalogue(), index);
     engine_->refreshCatalogue();
 }
 
 void Interpreter::run(const DropTableStatement& drop) {
-    engine_->readAllOpenRows();
+    engine_->prepareToWrite();
     engine_->refreshCatalogue();
     dropTable(engine_->connection(), engine_->catalogue(), drop);
     engine_->refreshCatalogue();

@@ -64,6 +64,7 @@ private:
     // parser_expressions.cpp
     Expression* parseExpression();
     Expression* parseAnd();
+    Expression* parseLinks(Keyword word, Operator op, Expression* (Parser::*parseLink)());
     Expression* parseNot();
     Expression* parseComparison();
     Expression* parseAdditive();
@@ -118,13 +119,15 @@ private:
 /// Counts the nesting of what is being read.
 class Parser::Depth {
 public:
-    explicit Depth(Parser& parser);
-    ~Depth() { --parser_.depth_; }
+    /// @param levels how much of the stack the construct takes, an expression in parentheses taking 1
+    explicit Depth(Parser& parser, int levels = 1);
+    ~Depth() { parser_.depth_ -= levels_; }
     Depth(const Depth&) = delete;
     Depth& operator=(const Depth&) = delete;
 
 private:
     Parser& parser_;
+    int levels_;
 };
 
 } // namespace tellurix::embedded

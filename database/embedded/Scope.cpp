@@ -14,8 +14,10 @@ std::string fullName(const Expression& column) {
     return name + std::string(column.name.written);
 }
 
-/// Whether two expressions mean the same; columns have to be translated already.
-bool sameExpression(const Expression& left, const Expression& right) {
+bool sameExpression(const Expression* left, const Expression* right);
+
+/// The same without the first operands.
+bool sameNode(const Expression& left, const Expression& right) {
     if (left.kind != right.kind || left.op != right.op || left.negated != right.negated ||
         left.distinct != right.distinct || left.hasElse != right.hasElse ||
         left.operands.size() != right.operands.size() || left.query != nullptr || right.query != nullptr)
@@ -35,8 +37,19 @@ bool sameExpression(const Expression& left, const Expression& right) {
     default:
         if (left.name.folded != right.name.folded || left.part.folded != right.part.folded) return false;
     }
-    return std::equal(left.operands.begin(), left.operands.end(), right.operands.begin(),
-                      [](const Expression* a, const Expression* b) { return sameExpression(*a, *b); });
+    return left.operands.empty() || std::equal(left.operands.begin() + 1, left.operands.end(),
+                                               right.operands.begin() + 1, sameExpression);
+}
+
+/// Whether two expressions mean the same; columns have to be translated already. A loop goes down the
+/// first operands, because a long chain of signs is deep there.
+bool sameExpression(const Expression* left, const Expression* right) {
+    while (sameNode(*left, *right)) {
+        if (left->operands.empty()) return true;
+        left = left->operands.front();
+        right = right->operands.front();
+    }
+    return false;
 }
 
 } // namespace
@@ -113,7 +126,7 @@ void Scope::startGrouping(const List<Expression*>& groupBy) {
 
 bool Scope::isGroup(const Expression& expression) const {
     return std::any_of(groupBy_->begin(), groupBy_->end(),
-                       [&](const Expression* group) { return sameExpression(*group, expression); });
+                       [&](const Expression* group) { return sameExpression(group, &expression); });
 }
 
 void Scope::use(const Expression& column) {

@@ -2,6 +2,7 @@
 
 #include "embedded/Session.h"
 #include "embedded/SqliteStatement.h"
+#include "embedded/file_origin.h"
 
 #include <sqlite3.h>
 
@@ -17,8 +18,11 @@ namespace tellurix::embedded {
 /// done; it has to be translated and compiled anew.
 struct SchemaChanged {};
 
+/// A translated statement is nested more deeply than SQLite's parser takes.
+struct NestedTooDeeply {};
+
 /// A connection to the file through SQLite's C interface, with our functions and our collation,
-/// and with SQLite's errors turned into faults.
+/// and with SQLite's errors turned into faults. A file of another program is refused unchanged.
 class SqliteConnection {
 public:
     /// @param create whether a file that does not exist is made
@@ -32,6 +36,13 @@ public:
     SqliteStatement prepare(std::string_view sql, bool lasting = false);
     /// Runs statements that answer nothing.
     void run(const std::string& sql);
+    /// The file is write-protected, or lies where nothing can be written.
+    bool isReadOnly() const;
+    /// @throws Fault (missing) when the file was deleted or moved since it was opened: what is written
+    ///         then goes nowhere
+    void requireFileInPlace();
+    /// Brings everything into the one file, and that onto the disk.
+    void moveLogIntoFile();
     std::int64_t changes() const { return sqlite3_changes64(handle_.get()); }
 
     /// Throws what the last call's result code means.
@@ -42,11 +53,16 @@ private:
         void operator()(sqlite3* handle) const { sqlite3_close_v2(handle); }
     };
 
-    void configure();
+    void configure(FileOrigin origin);
+    [[noreturn]] void failForeign() const;
+    bool holdsOurs();
+    /// The number that a query or PRAGMA answers with.
+    std::int64_t number(std::string_view query);
     void rebuildAfterNewCollation();
 
     Session session_;
     std::chrono::milliseconds patience_;
+    std::string name_; ///< of the file
     std::unique_ptr<sqlite3, Close> handle_;
 };
 

@@ -45,6 +45,8 @@ struct Translation {
 
     std::string sql;
     std::vector<int> parameters; ///< what ?1, ?2, … are: numbers of variables, `now`, `memory`
+    /// The place in the statement text that is nested most deeply.
+    std::size_t deepestPosition = common::DatabaseError::noPosition;
     /// Of a query; shared with the recordsets that are open on it.
     std::shared_ptr<const std::vector<Column>> columns = std::make_shared<std::vector<Column>>();
     /// An INSERT into a table with an identity: its folded name, and whether the key is given.
@@ -135,7 +137,7 @@ private:
     Fragment variable(const Expression& expression);
     Fragment negate(const Expression& expression);
     Fragment arithmetic(const Expression& expression);
-    static Fragment concatenation(const Fragment& left, const Fragment& right);
+    static Fragment calculated(const Expression& expression, Fragment left, Fragment right);
     Fragment caseWhen(const Expression& expression);
     Fragment simpleCase(const Expression& expression);
     Fragment caseText(std::string sql, std::vector<Fragment> conditions, std::vector<Fragment> results,
@@ -185,16 +187,36 @@ private:
 
     void start();
     Translation finish(std::string sql);
+    /// Counts the nesting of what is being translated.
+    class Depth;
 
     Catalogue& catalogue_;
     const Variables& variables_;
     Scope* scope_ = nullptr;
     int sourceCount_ = 0;
     int rememberedCount_ = 0;
+    int depth_ = 0;
+    int deepest_ = 0;
+    std::size_t deepestPosition_ = 0;
     /// Source and column of every use of a column so far.
     std::vector<std::pair<int, int>> usedColumns_;
     std::vector<int> parameters_;
     Arena defaults_; ///< syntax trees of columns' defaults
+};
+
+class Translator::Depth {
+public:
+    Depth(Translator& translator, std::size_t position) : depth_(translator.depth_) {
+        if (++depth_ <= translator.deepest_) return;
+        translator.deepest_ = depth_;
+        translator.deepestPosition_ = position;
+    }
+    ~Depth() { --depth_; }
+    Depth(const Depth&) = delete;
+    Depth& operator=(const Depth&) = delete;
+
+private:
+    int& depth_;
 };
 
 } // namespace tellurix::embedded

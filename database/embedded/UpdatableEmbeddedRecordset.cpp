@@ -75,7 +75,7 @@ void UpdatableEmbeddedRecordset::update() {
 
 /// The fields then show what the columns made of the values.
 void UpdatableEmbeddedRecordset::writeChanges(Row& current) {
-    engine_->readAllOpenRows();
+    engine_->prepareToWrite();
     std::vector<Edit> edits;
     Frame frame;
     for (const auto& [column, value] : changes_) {
@@ -106,7 +106,7 @@ void UpdatableEmbeddedRecordset::writeChanges(Row& current) {
 void UpdatableEmbeddedRecordset::remove() {
     Row& current = row();
     reported(batch_->text(), [&] {
-        engine_->readAllOpenRows();
+        engine_->prepareToWrite();
         SqliteStatement statement =
             engine_->connection().prepare("DELETE FROM main." + quoteName(tableName_) + " WHERE _rowid_=?1");
         statement.bind(1, current.number);

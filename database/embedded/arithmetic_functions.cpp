@@ -91,7 +91,9 @@ void roundExact(ScalarCall& call) {
 void roundFloat(ScalarCall& call) {
     const double factor = std::pow(10.0, call.floating(1));
     const double scaled = call.floating(0) * factor;
-    call.answer(std::isfinite(scaled) && factor > 0 ? std::round(scaled) / factor : call.floating(0));
+    // A factor too small for a number rounds everything away; one that is too large changes nothing.
+    if (factor == 0.0) return call.answer(0.0);
+    call.answer(std::isfinite(scaled) ? std::round(scaled) / factor : call.floating(0));
 }
 
 void absolute(ScalarCall& call) {

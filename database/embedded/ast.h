@@ -31,9 +31,9 @@ enum class ExpressionKind : std::uint8_t {
     column,      ///< qualifier.name
     variable,    ///< name
     negate,      ///< operands: the value
-    arithmetic,  ///< op, operands: left, right
+    arithmetic,  ///< op, operands: left, right; a chain is deep on its left side
     comparison,  ///< op, operands: left, right
-    logical,     ///< op and/or, operands: left, right
+    logical,     ///< op and/or, operands: all links of the chain
     logicalNot,  ///< operands: the condition
     isNull,      ///< operands: the value; negated
     inList,      ///< operands: the value, then the list; negated

@@ -57,21 +57,22 @@ Expression* Parser::parseLoneExpression() {
 
 Expression* Parser::parseExpression() {
     const Depth depth(*this);
-    Expression* left = parseAnd();
-    while (at(Keyword::orKeyword)) {
-        const std::size_t position = take().position;
-        left = binary(ExpressionKind::logical, Operator::logicalOr, position, left, parseAnd());
-    }
-    return left;
+    return parseLinks(Keyword::orKeyword, Operator::logicalOr, &Parser::parseAnd);
 }
 
 Expression* Parser::parseAnd() {
-    Expression* left = parseNot();
-    while (at(Keyword::andKeyword)) {
-        const std::size_t position = take().position;
-        left = binary(ExpressionKind::logical, Operator::logicalAnd, position, left, parseNot());
-    }
-    return left;
+    return parseLinks(Keyword::andKeyword, Operator::logicalAnd, &Parser::parseNot);
+}
+
+Expression* Parser::parseLinks(Keyword word, Operator op, Expression* (Parser::*parseLink)()) {
+    Expression* const first = (this->*parseLink)();
+    if (!at(word)) return first;
+    Expression* const chain = node(ExpressionKind::logical, peek().position);
+    chain->op = op;
+    chain->operands.push_back(first);
+    while (accept(word))
+        chain->operands.push_back((this->*parseLink)());
+    return chain;
 }
 
 Expression* Parser::parseNot() {

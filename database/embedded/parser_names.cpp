@@ -10,15 +10,15 @@ namespace tellurix::embedded {
 
 namespace {
 
-constexpr int deepestNesting = 200;
+/// What is nested as deeply as this takes a quarter of a session's stack, checked builds included.
+constexpr int deepestNesting = 100;
 
 } // namespace
 
-Parser::Depth::Depth(Parser& parser) : parser_(parser) {
-    if (++parser_.depth_ > deepestNesting) {
-        --parser_.depth_;
+Parser::Depth::Depth(Parser& parser, int levels) : parser_(parser), levels_(levels) {
+    if (parser_.depth_ + levels > deepestNesting)
         failSyntax("The statement is nested too deeply", parser_.peek().position);
-    }
+    parser_.depth_ += levels;
 }
 
 Parser::Parser(std::string_view text, Arena& arena)

@@ -5,7 +5,8 @@
 namespace tellurix::embedded {
 
 Query* Parser::parseQuery() {
-    const Depth depth(*this);
+    constexpr int levelsOfQuery = 4;
+    const Depth depth(*this, levelsOfQuery);
     SelectBranch* const outer = branch_;
     Query* const query = arena_.make<Query>(arena_);
     query->position = peek().position;

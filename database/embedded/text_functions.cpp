@@ -40,12 +40,10 @@ void left(ScalarCall& call) {
 /// Text, first character from 1, length, position.
 void substring(ScalarCall& call) {
     const std::string_view text = call.text(0);
-    std::int64_t first = call.integer(1);
-    std::int64_t length = static_cast<std::int64_t>(std::min(unitCount(call, 2, 3), text.size()));
-    if (first < 1) {
-        length = first < -length ? 0 : std::max<std::int64_t>(0, length + first - 1);
-        first = 1;
-    }
+    // The characters before the first one count for the length, though there are none.
+    const std::int64_t end = call.integer(1) + static_cast<std::int64_t>(unitCount(call, 2, 3));
+    const std::int64_t first = std::max<std::int64_t>(1, call.integer(1));
+    const std::int64_t length = std::max<std::int64_t>(0, end - first);
     const std::string_view before = utf16Prefix(text, static_cast<std::size_t>(first - 1));
     call.answer(utf16Prefix(text.substr(before.size()), static_cast<std::size_t>(length)));
 }

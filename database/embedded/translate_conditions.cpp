@@ -1,12 +1,11 @@
 #include "embedded/Fault.h"
 #include "embedded/Translator.h"
+#include "embedded/chained.h"
 
 #include <algorithm>
 #include <iterator>
 #include <map>
-#include <ranges>
 #include <set>
-#include <span>
 #include <vector>
 
 namespace tellurix::embedded {
@@ -45,27 +44,6 @@ std::string compared(const Fragment& left, const char* sign, const Fragment& rig
     return sql;
 }
 
-/// Conditions joined by a word with blanks around it. A chain of them must not nest by its length,
-/// neither in the text, where SQLite takes some ninety parentheses, nor in the tree that SQLite makes
-/// of it, which a chain without parentheses makes as deep as it is long: a thousand at most.
-std::string chained(std::span<const std::string> links, std::string_view word) {
-    constexpr std::size_t longestFlat = 64;
-    if (links.size() == 1) return links.front();
-    std::string sql = "(";
-    if (links.size() > longestFlat) {
-        const std::size_t half = links.size() / 2;
-        sql += chained(links.first(half), word);
-        sql += word;
-        sql += chained(links.subspan(half), word);
-    } else {
-        for (const std::string& link : links) {
-            if (sql.size() > 1) sql += word;
-            sql += link;
-        }
-    }
-    return sql + ")";
-}
-
 } // namespace
 
 Fragment Translator::comparison(const Expression& expression) {
@@ -80,18 +58,9 @@ Fragment Translator::logical(const Expression& expression) {
         return conditionOf("(NOT " + condition(expression.operands[0], "NOT").sql + ")", expression.position);
     const bool isAnd = expression.op == Operator::logicalAnd;
     const char* const word = isAnd ? "AND" : "OR";
-    std::vector<Expression*> links;
-    const Expression* chain = &expression;
-    Expression* first = nullptr;
-    do {
-        links.push_back(chain->operands[1]);
-        first = chain->operands[0];
-        chain = first;
-    } while (chain->kind == ExpressionKind::logical && chain->op == expression.op);
-    links.push_back(first);
     std::vector<std::string> texts;
     std::map<std::vector<std::string>, std::vector<std::string>> byColumns;
-    for (Expression* const link : links | std::views::reverse) {
+    for (Expression* const link : expression.operands) {
         Fragment fragment = condition(link, word);
         (fragment.rowColumns.empty() ? texts : byColumns[fragment.rowColumns])
             .push_back(std::move(fragment.sql));

@@ -1,4 +1,5 @@
 #include "embedded/Translator.h"
+#include "embedded/chained.h"
 
 #include "embedded/Fault.h"
 #include "embedded/decimal_units.h"
@@ -7,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <ranges>
 
 namespace tellurix::embedded {
 
@@ -33,6 +35,13 @@ ArithmeticNames namesOf(Operator op) {
     }
 }
 
+Type joinedType(const Type& left, const Type& right) {
+    Type type = Type::text(Type::unlimited);
+    if (left.length != Type::unlimited && right.length != Type::unlimited)
+        type.length = std::min(left.length + right.length, 4000);
+    return type;
+}
+
 Type decimalResult(Operator op, const Type& left, const Type& right) {
     switch (op) {
     case Operator::multiply:
@@ -57,8 +66,15 @@ int Variables::find(std::string_view folded) const {
 }
 
 Fragment Translator::any(Expression& expression) {
+    // NULLIF, BETWEEN and CASE write a value more than once, which nested ones do again and again.
+    constexpr std::size_t longestText = 2'000'000;
+    const Depth depth(*this, expression.position);
     const std::size_t before = scope_ == nullptr ? 0 : scope_->looseColumns();
     Fragment fragment = dispatch(expression);
+    const bool grows =
+        fragment.literal == Fragment::Literal::none && fragment.type.kind != TypeKind::condition;
+    if (grows && fragment.sql.size() > longestText)
+        failSyntax("The expression is too long", expression.position);
     if (scope_ != nullptr) scope_->finish(expression, before);
     return fragment;
 }
@@ -232,28 +248,44 @@ Fragment Translator::negate(const Expression& expression) {
     return operand;
 }
 
-Fragment Translator::concatenation(const Fragment& left, const Fragment& right) {
-    Type type = Type::text(Type::unlimited);
-    if (left.type.length != Type::unlimited && right.type.length != Type::unlimited)
-        type.length = std::min(left.type.length + right.type.length, 4000);
-    std::string sql;
-    sql.reserve(left.sql.size() + right.sql.size() + 4);
-    sql += '(';
-    sql += left.sql;
-    sql += "||";
-    sql += right.sql;
-    sql += ')';
-    return {.sql = std::move(sql), .type = type, .position = left.position};
+/// Walks along a chain such as a + b - c from its first sign on, whatever its length.
+Fragment Translator::arithmetic(const Expression& expression) {
+    std::vector<const Expression*> signs{&expression};
+    while (signs.back()->operands[0]->kind == ExpressionKind::arithmetic)
+        signs.push_back(signs.back()->operands[0]);
+    const std::size_t before = scope_ == nullptr ? 0 : scope_->looseColumns();
+    Fragment left = value(*signs.back()->operands[0]);
+    std::vector<std::string> joined; // the texts that `left` is made of
+    const auto join = [&] {
+        if (!joined.empty()) left.sql = chained(std::exchange(joined, {}), "||");
+    };
+    // SQLite takes far fewer; without a limit the text would grow with the square of the chain first.
+    constexpr std::size_t mostCalculations = 1'000;
+    std::size_t calculations = 0;
+    for (const Expression* const sign : signs | std::views::reverse) {
+        Fragment right = value(*sign->operands[1]);
+        if (left.isNull()) left.type = right.type;
+        if (right.isNull()) right.type = left.type;
+        if (sign->op == Operator::add && left.type.isText() && right.type.isText()) {
+            if (joined.empty()) joined.push_back(std::move(left.sql));
+            joined.push_back(std::move(right.sql));
+            left = {.sql = {}, .type = joinedType(left.type, right.type), .position = left.position};
+        } else {
+            if (++calculations > mostCalculations)
+                failSyntax("The statement is nested too deeply", sign->position);
+            join();
+            left = calculated(*sign, std::move(left), std::move(right));
+        }
+        if (scope_ != nullptr && sign != &expression) scope_->finish(*sign, before);
+    }
+    join();
+    return left;
 }
 
-Fragment Translator::arithmetic(const Expression& expression) {
-    Fragment left = value(*expression.operands[0]);
-    Fragment right = value(*expression.operands[1]);
-    if (left.isNull()) left.type = right.type;
-    if (right.isNull()) right.type = left.type;
+/// Neither of two NULLs has a type; one of them has the other value's.
+Fragment Translator::calculated(const Expression& expression, Fragment left, Fragment right) {
     if (left.isNull()) return nullFragment(expression.position);
     const bool bothTexts = left.type.isText() && right.type.isText();
-    if (bothTexts && expression.op == Operator::add) return concatenation(left, right);
     const auto common = bothTexts ? std::nullopt : commonType(left.type, right.type);
     if (!common || !common->isNumber())
         failConversion("A value of type " + describe(left.type) + " and one of type " + describe(right.type) +

@@ -63,7 +63,9 @@ Fragment Translator::isNullFunction(const Expression& call) {
 }
 
 Fragment Translator::coalesce(const Expression& call) {
-    if (call.operands.size() < 2) failSyntax("COALESCE takes at least two arguments", call.position);
+    constexpr std::size_t mostArguments = 100; // of a function of SQLite's
+    if (call.operands.size() < 2 || call.operands.size() > mostArguments)
+        failSyntax("COALESCE takes 2 to " + std::to_string(mostArguments) + " arguments", call.position);
     std::vector<Fragment> values;
     Type type;
     for (Expression* const operand : call.operands) {

@@ -68,6 +68,7 @@ Translation Translator::updatable(const SelectStatement& select) {
 }
 
 Translator::QueryText Translator::queryText(const Query& query, bool named, const EditItem& edit) {
+    const Depth depth(*this, query.position);
     return query.branches.size() == 1 ? singleText(query, named, edit) : unionText(query, named);
 }
 
@@ -88,6 +89,11 @@ Translator::QueryText Translator::singleText(const Query& query, bool named, con
 
 /// All branches take the types on which their columns agree.
 Translator::QueryText Translator::unionText(const Query& query, bool named) {
+    // SQLite goes down into them by recursion, and a session's stack is small.
+    constexpr std::size_t mostBranches = 250;
+    if (query.branches.size() > mostBranches)
+        failSyntax("A UNION has at most " + std::to_string(mostBranches) + " branches",
+                   query.branches[mostBranches]->position);
     std::vector<std::unique_ptr<Branch>> branches;
     for (const SelectBranch* const source : query.branches) {
         if (source->top != nullptr) failSyntax("TOP inside a UNION is not supported", source->top->position);

@@ -32,6 +32,7 @@ void Translator::start() {
     parameters_.clear();
     sourceCount_ = 0;
     rememberedCount_ = 0;
+    depth_ = deepest_ = 0;
     usedColumns_.clear();
 }
 
@@ -39,6 +40,7 @@ Translation Translator::finish(std::string sql) {
     Translation translation;
     translation.sql = std::move(sql);
     translation.parameters = parameters_;
+    if (deepest_ > 0) translation.deepestPosition = deepestPosition_;
     return translation;
 }
 

@@ -45,6 +45,10 @@ enum class DatabaseErrorCategory {
     constraint,  ///< a key, uniqueness or NOT NULL rule of the table
     locked,      ///< another session holds the database for too long
     connection,  ///< the database cannot be reached
+    storageFull, ///< there is no room left for what was to be written
+    readOnly,    ///< the database can only be read
+    damaged,     ///< the database's file does not hold what it should
+    missing,     ///< the database's file is not, or no longer, in its place
     other
 };
 

@@ -91,6 +91,14 @@ std::string nameOf(common::DatabaseErrorCategory category) {
         return "locked";
     case Category::connection:
         return "connection";
+    case Category::storageFull:
+        return "storageFull";
+    case Category::readOnly:
+        return "readOnly";
+    case Category::damaged:
+        return "damaged";
+    case Category::missing:
+        return "missing";
     case Category::other:
         return "other";
     }

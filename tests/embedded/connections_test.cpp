@@ -5,7 +5,6 @@
 #include "embedded/script.h"
 
 #include <chrono>
-#include <fstream>
 #include <thread>
 
 namespace tellurix::embedded {
@@ -201,13 +200,22 @@ TEST_F(Connections, EditedRowsTakeEveryKindOfValueAndShowWhatTheColumnMadeOfIt) 
     rows->setField("d", std::string("05.06.2025"));
     rows->update();
     EXPECT_EQ(writtenRow(*rows), "Äpfel | true | 12 | 2.6 | 0.5 | 2025-06-05");
+    EXPECT_EQ(answer(*second_, "SELECT * FROM E WHERE N = 12"), "Äpfel | true | 12 | 2.6 | 0.5 | 2025-06-05");
+}
+
+TEST_F(Connections, WhatWasSetAndNotUpdatedIsForgottenWithTheRow) {
+    const auto rows = first_->openUpdatable("SELECT * FROM T ORDER BY ID");
+    rows->setField("N", std::int64_t{99});
     rows->moveNext();
-    // What was set and not updated is forgotten with the row.
-    rows->setField("n", std::int64_t{99});
+    EXPECT_EQ(rows->integer("N"), 2);
+    rows->setField("PREIS", common::Decimal(5, 0));
+    rows->update();
+    rows->setField("N", std::int64_t{98});
+    rows->remove();
     rows->moveNext();
-    EXPECT_TRUE(rows->atEnd());
-    EXPECT_EQ(answer(*second_, "SELECT * FROM E ORDER BY N"),
-              "NULL | NULL | 1 | NULL | NULL | NULL\nÄpfel | true | 12 | 2.6 | 0.5 | 2025-06-05");
+    rows->setField("PREIS", common::Decimal(6, 0));
+    rows->update();
+    EXPECT_EQ(answer(*second_, "SELECT * FROM T"), "1 | 1 | 1.50\n3 | 3 | 6.00");
 }
 
 TEST_F(Connections, ATextIsReadAndEditedInTurnsWhateverHappensToItsTable) {
@@ -244,16 +252,6 @@ TEST_F(Connections, OptionsBelongToTheirConnection) {
     first_->execute("SET DATEFORMAT mdy");
     EXPECT_EQ(answer(*first_, "SELECT MONTH('05.06.2025')"), "5");
     EXPECT_EQ(answer(*second_, "SELECT MONTH('05.06.2025')"), "6");
-}
-
-TEST_F(EmbeddedTest, AFileThatIsMissingOrNoDatabaseIsReported) {
-    const auto open = [&](const std::filesystem::path& file) {
-        return failureOf([&] { Database(file, clock()); });
-    };
-    EXPECT_TRUE(open(file().parent_path() / "missing.db").starts_with("connection: ")) << open("missing.db");
-    const auto letter = file().parent_path() / "letter.txt";
-    std::ofstream(letter) << std::string(5000, 'x');
-    EXPECT_TRUE(open(letter).starts_with("connection: ")) << open(letter);
 }
 
 TEST_F(EmbeddedTest, ScriptsAreCutAtLinesThatHoldOnlyGo) {

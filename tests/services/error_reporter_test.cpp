@@ -22,6 +22,10 @@ TEST(ErrorReporter, SaysWhatTheUserCanDo) {
     const auto constraint = database(DatabaseErrorCategory::constraint);
     const auto locked = database(DatabaseErrorCategory::locked);
     const auto connection = database(DatabaseErrorCategory::connection);
+    const auto storageFull = database(DatabaseErrorCategory::storageFull);
+    const auto readOnly = database(DatabaseErrorCategory::readOnly);
+    const auto damaged = database(DatabaseErrorCategory::damaged);
+    const auto missing = database(DatabaseErrorCategory::missing);
     const auto other = database(DatabaseErrorCategory::other);
     struct Case {
         const std::exception& error;
@@ -38,6 +42,10 @@ TEST(ErrorReporter, SaysWhatTheUserCanDo) {
         {conversion, "de", {"passt nicht in sein Feld", "technical text"}, warning},
         {constraint, "de", {"verletzen eine Regel", "technical text"}, warning},
         {connection, "de", {"Verbindung zur Datenbank", "technical text"}, critical},
+        {storageFull, "de", {"kein Platz mehr", "nichts gespeichert", "technical text"}, critical},
+        {readOnly, "de", {"schreibgeschützt", "nichts gespeichert", "technical text"}, critical},
+        {damaged, "de", {"ist beschädigt", "technical text"}, critical},
+        {missing, "de", {"nicht mehr an ihrem Platz", "nichts gespeichert", "technical text"}, critical},
         {syntax, "de", {"nicht verstanden", "technical text"}, critical},
         {unknownName, "de", {"Tabelle oder Spalte fehlt", "technical text"}, critical},
         {other, "de", {"hat einen Fehler gemeldet", "technical text"}, critical},

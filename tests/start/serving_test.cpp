@@ -22,6 +22,20 @@ TEST(Serving, PrintsTheAddressAndEndsCleanlyWhenAsked) {
     }
 }
 
+TEST(Serving, AReadOnlyDatabaseIsToldAtTheStart) {
+    const TestFolder folder;
+    ASSERT_EQ(Program(folder, {"sql", "--empty", "--database", folder / "test.db", "CREATE TABLE T (N int)"})
+                  .wait(),
+              0);
+    std::filesystem::permissions(folder / "test.db", std::filesystem::perms::owner_read);
+    Program program{folder, {"--database", folder / "test.db"}};
+    EXPECT_TRUE(program.firstLine().starts_with("http://"));
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.wait(), 0);
+    EXPECT_NE(program.errors().find("test.db is read-only; nothing can be saved"), std::string::npos)
+        << program.errors();
+}
+
 TEST(Serving, ADatabaseThatIsNoneIsToldBeforeAnyBrowserComes) {
     const TestFolder folder;
     folder.write("test.db", "This is not a database, and far longer than one line of a text file would be.");

@@ -7,6 +7,11 @@
 
 #include <unistd.h>
 
+#ifndef _WIN32
+#include <cerrno>
+#include <csignal>
+#endif
+#include <charconv>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -18,12 +23,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr const char* workpieceMark = ".new-";
+
 /// The files of a database in the making; they go with it unless it is put in its place.
 class Workpiece {
 public:
     explicit Workpiece(const fs::path& target) : file_(target) {
         // The process's number keeps two programs that start at once apart.
-        file_ += ".new-" + std::to_string(::getpid());
+        file_ += workpieceMark + std::to_string(::getpid());
         remove();
     }
     ~Workpiece() { remove(); }
@@ -53,13 +60,41 @@ private:
     fs::path file_;
 };
 
-void build(const fs::path& file, DatabaseContents contents, const common::Clock& clock) {
-    const embedded::Database database{file, clock, {.create = true}};
-    const auto connection = database.connect();
-    if (contents == DatabaseContents::nothing) return;
+void fill(common::Connection& connection) {
     for (const char* script :
          {"schema.sql", "sample_reference.sql", "sample_contracts.sql", "sample_logistics.sql"}) {
-        embedded::runScript(*connection, database_contents::file(script));
+        embedded::runScript(connection, database_contents::file(script));
+    }
+}
+
+void build(const fs::path& file, DatabaseContents contents, const common::Clock& clock) {
+    const embedded::Database database{file, clock, {.create = true}};
+    if (contents == DatabaseContents::sample) fill(*database.connect());
+    // Only the file gets a name; where the disk is full it must not be said to be whole.
+    database.moveLogIntoFile();
+}
+
+/// Whether the process that made a workpiece still runs.
+bool isAtWork(std::string_view processNumber) {
+    int number = 0;
+    std::from_chars(processNumber.data(), processNumber.data() + processNumber.size(), number);
+#ifdef _WIN32
+    return false; // what a program there has open nobody else can remove
+#else
+    return number > 0 && (::kill(number, 0) == 0 || errno == EPERM);
+#endif
+}
+
+/// What programs left behind that were killed while they made this file.
+void removeLeftovers(const fs::path& target) {
+    const std::string start = target.filename().string() + workpieceMark;
+    std::error_code error;
+    for (fs::directory_iterator entry{fs::absolute(target).parent_path(), error}, end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        std::error_code ignored;
+        if (name.starts_with(start) && !isAtWork(std::string_view{name}.substr(start.size())))
+            fs::remove(entry->path(), ignored);
     }
 }
 
@@ -102,6 +137,7 @@ fs::path defaultDatabaseFile() {
 }
 
 void createWhenMissing(const fs::path& file, DatabaseContents contents, const common::Clock& clock) {
+    removeLeftovers(file);
     if (fs::exists(file)) return;
     Workpiece workpiece{file};
     build(workpiece.file(), contents, clock);

@@ -19,7 +19,9 @@ enum class DatabaseContents { nothing, sample };
 
 /// Makes the database file when it is not there. All or nothing: it is built beside its place and
 /// put there when it is whole, so neither a failure nor a killed process leaves half a database,
-/// and of two programs that start at once only one builds the file that both use.
+/// and of two programs that start at once only one builds the file that both use. What killed ones left
+/// beside it is removed.
+/// @throws common::DatabaseError when it cannot be made, e.g. on a full disk (storageFull)
 void createWhenMissing(const std::filesystem::path& file, DatabaseContents contents,
                        const common::Clock& clock);
 

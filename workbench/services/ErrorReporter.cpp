@@ -22,6 +22,14 @@ const char* keyOf(common::DatabaseErrorCategory category) {
         return "error.locked";
     case connection:
         return "error.connection";
+    case storageFull:
+        return "error.storageFull";
+    case readOnly:
+        return "error.readOnly";
+    case damaged:
+        return "error.damaged";
+    case missing:
+        return "error.missing";
     case other:
         break;
     }

@@ -22,6 +22,10 @@ public:
     /// that the module writes would be another one then
     std::unique_ptr<common::Connection> connect();
 
+    /// Whether nothing can be saved.
+    bool isReadOnly() const { return database_.isReadOnly(); }
+    const std::filesystem::path& file() const { return database_.file(); }
+
 private:
     SystemClock clock_;
     std::optional<TraceFile> trace_;

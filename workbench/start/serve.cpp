@@ -11,7 +11,7 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <ostream>
+#include <iostream>
 
 namespace tellurix::workbench {
 
@@ -111,6 +111,9 @@ int serve(const CommandLine& line, std::ostream& out) {
     Workbench workbench{line};
     // A database that no session could use is told at once, and not to the first browser.
     workbench.database.connect();
+    if (workbench.database.isReadOnly())
+        std::cerr << "tellurix-workbench: warning: the database " << workbench.database.file().string()
+                  << " is read-only; nothing can be saved\n";
     Server server{[&workbench](BrowserDisplay& display) { runSession(workbench, display); },
                   {.port = line.port}};
     out << server.address() << std::endl;

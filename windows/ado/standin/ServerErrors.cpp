@@ -85,6 +85,10 @@ ServerError serverErrorOf(const common::DatabaseError& error) {
         return {DB_E_ABORTLIMITREACHED, error.what(), "HYT00"};
     case Category::connection:
         return {E_FAIL, error.what(), "08001"};
+    case Category::storageFull:
+    case Category::readOnly:
+    case Category::damaged:
+    case Category::missing:
     case Category::other:
         break;
     }
