@@ -50,7 +50,7 @@ struct Destination {
 
     Purpose purpose = Purpose::meeting;
     std::string_view column = {};
-    int style = 0; ///< of a date that becomes a text
+    int style = -1; ///< of a date that becomes a text, or the other way round; -1 when none is given
 };
 
 /// The value as another type. Conversions that can fail are checked when the statement runs,

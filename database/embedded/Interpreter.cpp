@@ -25,9 +25,34 @@ void Interpreter::run(const Block& block) {
 }
 
 void Interpreter::run(const SelectStatement& select) {
+    if (select.query->assigns) return assign(select);
     Task task{&select, [&select](Translator& translator) { return translator.query(select); }};
     engine_->compile(*batch_, task);
     result_.rows = std::make_unique<EmbeddedRecordset>(engine_, batch_, std::move(task), frame_);
+}
+
+/// Where there are several rows, the last one's values stay; where there is none, all stays as it is.
+void Interpreter::assign(const SelectStatement& select) {
+    const SelectBranch& branch = *select.query->branches.front();
+    const bool oneRow = branch.from.empty() && branch.where == nullptr && branch.having == nullptr &&
+                        branch.top == nullptr && !branch.aggregates;
+    if (oneRow) {
+        for (const SelectItem& item : branch.items)
+            assign(item.variable, *item.expression);
+        return;
+    }
+    const Task task{&select, [&select](Translator& translator) { return translator.assignments(select); }};
+    Running running = engine_->start(*batch_, task, frame_);
+    if (!running.statement) return;
+    Frame found = frame_;
+    do
+        for (std::size_t index = 0; index < branch.items.size(); ++index) {
+            const int number = batch_->variables().require(branch.items[index].variable);
+            found[static_cast<std::size_t>(number)] = cellAt(running.statement, static_cast<int>(index));
+        }
+    while (running.statement.step());
+    engine_->giveBack(std::move(running));
+    frame_ = std::move(found);
 }
 
 void Interpreter::write(const Task& task) {
@@ -91,11 +116,7 @@ void Interpreter::run(const SetVariable& set) {
 }
 
 void Interpreter::assign(const Name& variable, Expression& value) {
-    const int number = batch_->variables().find(variable.folded);
-    if (number == Variables::none)
-        failUnknownName("The variable " + std::string(variable.written) + " is not declared",
-                        variable.position);
-    const auto index = static_cast<std::size_t>(number);
+    const auto index = static_cast<std::size_t>(batch_->variables().require(variable));
     const Type& type = batch_->variables().scalars[index].type;
     frame_[index] = engine_->valueOf(
         *batch_, {&value, [&value, &type](Translator& translator) { return translator.value(value, type); }},

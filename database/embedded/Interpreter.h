@@ -19,6 +19,7 @@ public:
 private:
     void run(const Statement& statement);
     void run(const SelectStatement& select);
+    void assign(const SelectStatement& select);
     void run(const InsertStatement& insert);
     void run(const UpdateStatement& update);
     void run(const DeleteStatement& deletion);

@@ -53,6 +53,8 @@ private:
 
     // parser_queries.cpp
     Query* parseQuery();
+    Query* parseTopQuery();
+    void requireAssignments(const Query& query);
     SelectBranch* parseBranch();
     SelectItem parseSelectItem();
     void parseFrom(List<FromItem>& from);

@@ -4,7 +4,6 @@
 #include "embedded/only_aggregate.h"
 #include "embedded/scalar_call.h"
 
-#include <cerrno>
 #include <string>
 
 namespace tellurix::embedded {
@@ -246,9 +245,8 @@ void SqliteConnection::fail(int code) {
     const std::string message = sqlite3_errmsg(handle_.get());
     if (message == "parser stack overflow" || message.starts_with("Expression tree is too large"))
         throw NestedTooDeeply{};
-    const int system = sqlite3_system_errno(handle_.get());
-    const bool noRoom =
-        (code & 0xFF) == SQLITE_IOERR && (system == ENOSPC || system == EFBIG || system == EDQUOT);
+    // Where room is shared out (quotas, limits of a process) a full disk is a write that fails.
+    const bool noRoom = extended == SQLITE_IOERR_WRITE || extended == SQLITE_IOERR_SHMSIZE;
     const DatabaseErrorCategory category = noRoom ? DatabaseErrorCategory::storageFull : categoryOf(code);
     if (category == DatabaseErrorCategory::locked)
         throw Fault(category, "The database is held by another session; gave up after " +

@@ -29,6 +29,8 @@ struct Variables {
     NameMap<std::shared_ptr<const Table>> tables;
 
     int find(std::string_view folded) const;
+    /// @throws Fault (unknownName)
+    int require(const Name& name) const;
 };
 
 /// A statement in SQLite's SQL, ready to be compiled.
@@ -74,6 +76,8 @@ public:
         : catalogue_(catalogue), variables_(variables) {}
 
     Translation query(const SelectStatement& select);
+    /// A query whose items are converted to the variables that they are for.
+    Translation assignments(const SelectStatement& select);
     Translation insert(const InsertStatement& insert);
     Translation update(const UpdateStatement& update);
     Translation remove(const DeleteStatement& deletion);
@@ -138,6 +142,7 @@ private:
     Fragment negate(const Expression& expression);
     Fragment arithmetic(const Expression& expression);
     static Fragment calculated(const Expression& expression, Fragment left, Fragment right);
+    static Fragment shiftedDate(const Expression& expression, Fragment left, Fragment right);
     Fragment caseWhen(const Expression& expression);
     Fragment simpleCase(const Expression& expression);
     Fragment caseText(std::string sql, std::vector<Fragment> conditions, std::vector<Fragment> results,
@@ -162,12 +167,19 @@ private:
     Fragment isNullFunction(const Expression& call);
     Fragment coalesce(const Expression& call);
     Fragment nullIf(const Expression& call);
+    Fragment iif(const Expression& call);
     Fragment round(const Expression& call);
+    Fragment wholeNumber(const Expression& call);
     Fragment absolute(const Expression& call);
     Fragment textEnd(const Expression& call);
     Fragment substring(const Expression& call);
     Fragment changedText(const Expression& call);
     Fragment textLength(const Expression& call);
+    Fragment charIndex(const Expression& call);
+    Fragment patIndex(const Expression& call);
+    Fragment replace(const Expression& call);
+    Fragment isNumeric(const Expression& call);
+    Fragment isDate(const Expression& call);
     Fragment yearMonthDay(const Expression& call);
     Fragment now(const Expression& call);
     Fragment identityOf(const Expression& call);

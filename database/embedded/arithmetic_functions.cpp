@@ -81,19 +81,47 @@ void floatDivision(ScalarCall& call) {
     call.answer(call.floating(0) / call.floating(1));
 }
 
-/// Units, scale, decimals, position.
+/// Units, scale, decimals, whether it is cut instead, position.
 void roundExact(ScalarCall& call) {
-    const auto value = roundedUnits(call.integer(0), call.smallInteger(1), call.integer(2));
-    if (!value) failOverflow(Type::decimal(Type::maxPrecision, call.smallInteger(1)), call.position(3));
+    const int scale = call.smallInteger(1);
+    const auto value = call.integer(3) == 0 ? roundedUnits(call.integer(0), scale, call.integer(2))
+                                            : cutUnits(call.integer(0), scale, call.integer(2));
+    if (!value) failOverflow(Type::decimal(Type::maxPrecision, scale), call.position(4));
     call.answer(*value);
 }
 
+/// Number, decimals, whether it is cut instead.
 void roundFloat(ScalarCall& call) {
     const double factor = std::pow(10.0, call.floating(1));
     const double scaled = call.floating(0) * factor;
     // A factor too small for a number rounds everything away; one that is too large changes nothing.
     if (factor == 0.0) return call.answer(0.0);
-    call.answer(std::isfinite(scaled) ? std::round(scaled) / factor : call.floating(0));
+    if (!std::isfinite(scaled)) return call.answer(call.floating(0));
+    call.answer((call.integer(2) == 0 ? std::round(scaled) : std::trunc(scaled)) / factor);
+}
+
+/// Units, scale, scale of the result, which is 0 or the same.
+template <bool up>
+void wholeUnits(ScalarCall& call) {
+    const std::int64_t one = powerOfTen(call.smallInteger(1));
+    const std::int64_t units = call.integer(0);
+    std::int64_t whole = units / one;
+    if (up && units % one > 0) ++whole;
+    if (!up && units % one < 0) --whole;
+    call.answer(call.integer(2) == 0 ? whole : whole * one);
+}
+
+template <double (*whole)(double)>
+void wholeFloat(ScalarCall& call) {
+    call.answer(whole(call.floating(0)));
+}
+
+double floorOf(double value) {
+    return std::floor(value);
+}
+
+double ceilingOf(double value) {
+    return std::ceil(value);
 }
 
 void absolute(ScalarCall& call) {
@@ -117,8 +145,12 @@ void registerArithmetic(sqlite3* connection, Session& session) {
     registerScalar<decimalArithmetic<Operator::divide>, 2>(connection, "ts_ddiv", 4, session);
     registerScalar<decimalArithmetic<Operator::modulo>, 2>(connection, "ts_dmod", 4, session);
     registerScalar<floatDivision, 2>(connection, "ts_fdiv", 3, session);
-    registerScalar<roundExact, 3>(connection, "ts_round", 4, session);
-    registerScalar<roundFloat, 2>(connection, "ts_fround", 2, session);
+    registerScalar<roundExact, 4>(connection, "ts_round", 5, session);
+    registerScalar<roundFloat, 3>(connection, "ts_fround", 3, session);
+    registerScalar<wholeUnits<false>, 1>(connection, "ts_floor", 3, session);
+    registerScalar<wholeUnits<true>, 1>(connection, "ts_ceiling", 3, session);
+    registerScalar<wholeFloat<floorOf>, 1>(connection, "ts_ffloor", 1, session);
+    registerScalar<wholeFloat<ceilingOf>, 1>(connection, "ts_fceiling", 1, session);
     registerScalar<absolute, 1>(connection, "ts_abs", 3, session);
 }
 

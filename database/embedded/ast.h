@@ -94,6 +94,7 @@ struct SelectItem {
     Expression* expression = nullptr; ///< none for `*`
     Name alias;
     Name starQualifier; ///< of `t.*`
+    Name variable;      ///< of `@v = …`
     std::size_t position = 0;
 };
 
@@ -133,6 +134,7 @@ struct Query {
     explicit Query(Arena& arena) : branches(arena.memory()), orderBy(arena.memory()) {}
 
     std::size_t position = 0;
+    bool assigns = false; ///< its items set variables
     List<SelectBranch*> branches;
     List<OrderItem> orderBy;
 };

@@ -1,5 +1,6 @@
 #include "common/Decimal.h"
 #include "embedded/blanks.h"
+#include "embedded/date_text.h"
 #include "embedded/decimal_units.h"
 #include "embedded/packed.h"
 #include "embedded/scalar_call.h"
@@ -58,6 +59,41 @@ void textToInteger(ScalarCall& call) {
     answerInRange(call, value, type);
 }
 
+bool isDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+bool readsAsNumber(std::string_view text) {
+    const auto takeSign = [&] {
+        if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
+    };
+    bool money = false;
+    bool anything = !text.empty();
+    takeSign();
+    for (const std::string_view sign : {"$", "€", "£", "¥"})
+        if (text.starts_with(sign)) {
+            text.remove_prefix(sign.size());
+            money = true;
+        }
+    if (money) takeSign();
+    bool digits = false;
+    bool point = false;
+    while (!text.empty() &&
+           (isDigit(text.front()) || text.front() == ',' || (text.front() == '.' && !point))) {
+        digits = digits || isDigit(text.front());
+        money = money || text.front() == ',';
+        point = point || text.front() == '.';
+        text.remove_prefix(1);
+    }
+    if (digits && !money && !text.empty() && (text.front() == 'e' || text.front() == 'E')) {
+        text.remove_prefix(1);
+        takeSign();
+        while (!text.empty() && isDigit(text.front()))
+            text.remove_prefix(1);
+    }
+    return anything && text.empty();
+}
+
 bool equalsWord(std::string_view text, std::string_view lowerWord) {
     return text.size() == lowerWord.size() &&
            std::equal(text.begin(), text.end(), lowerWord.begin(),
@@ -101,6 +137,27 @@ void textToDate(ScalarCall& call) {
     const auto moment = readDate(call.text(0), call.session().dateOrder);
     if (!moment) failText(call, type);
     call.answer(toMilliseconds(type.dayOnly ? std::chrono::floor<std::chrono::days>(*moment) : *moment));
+}
+
+/// Text, packed target type, position, style.
+void styledTextToDate(ScalarCall& call) {
+    const Type type = unpackType(call.integer(1));
+    const auto moment = readStyledDate(call.text(0), call.smallInteger(3));
+    if (!moment)
+        failConversion("The text '" + excerpt(call.text(0)) + "' is no date in style " +
+                           std::to_string(call.integer(3)),
+                       call.position(2));
+    call.answer(toMilliseconds(type.dayOnly ? std::chrono::floor<std::chrono::days>(*moment) : *moment));
+}
+
+void isDate(ScalarCall& call) {
+    call.answer(
+        std::int64_t{!trimmed(call.text(0)).empty() && readDate(call.text(0), call.session().dateOrder)});
+}
+
+/// Whether some type of numbers takes the text: a float, or money with its sign and commas.
+void isNumeric(ScalarCall& call) {
+    call.answer(std::int64_t{readsAsNumber(trimmed(call.text(0)))});
 }
 
 void integerToInteger(ScalarCall& call) {
@@ -227,6 +284,9 @@ void registerConversions(sqlite3* connection, Session& session) {
     registerScalar<textToDecimal, 1>(connection, "ts_text_dec", withOrWithoutLabel, session);
     registerScalar<textToFloat, 1>(connection, "ts_text_float", withOrWithoutLabel, session);
     registerScalar<textToDate, 1>(connection, "ts_text_date", withOrWithoutLabel, session);
+    registerScalar<styledTextToDate, 1>(connection, "ts_styled_date", 4, session);
+    registerScalar<isDate, 1>(connection, "ts_isdate", 1, session);
+    registerScalar<isNumeric, 1>(connection, "ts_isnumeric", 1, session);
     registerScalar<integerToInteger, 1>(connection, "ts_int_int", withOrWithoutLabel, session);
     registerScalar<decimalToDecimal, 1>(connection, "ts_dec_dec", withOrWithoutLabel, session);
     registerScalar<decimalToInteger, 1>(connection, "ts_dec_int", withOrWithoutLabel, session);

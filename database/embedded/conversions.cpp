@@ -83,7 +83,8 @@ Fragment toText(Fragment value, const Type& target, const Destination& destinati
                              destination);
     case TypeKind::dateTime: {
         const std::size_t position = value.position;
-        Fragment text{.sql = "ts_date_text(" + value.sql + "," + std::to_string(destination.style) + "," +
+        Fragment text{.sql = "ts_date_text(" + value.sql + "," +
+                             std::to_string(std::max(destination.style, 0)) + "," +
                              positionArgument(position) + ")",
                       .type = Type::text(Type::unlimited),
                       .position = position};
@@ -173,6 +174,11 @@ Fragment toFloat(Fragment value, const Type& target, const Destination& destinat
 }
 
 Fragment toDate(Fragment value, const Type& target, const Destination& destination) {
+    if (value.type.isText() && destination.style >= 0)
+        return {.sql = "ts_styled_date(" + value.sql + "," + std::to_string(packType(target)) + "," +
+                       positionArgument(value.position) + "," + std::to_string(destination.style) + ")",
+                .type = target,
+                .position = value.position};
     if (value.type.isText()) return call("ts_text_date", value, target, packType(target), destination);
     if (value.type.kind != TypeKind::dateTime) failTypes(value, target, destination);
     if (target.dayOnly && !value.type.dayOnly) return wrapped("ts_day(", value, ")", target);

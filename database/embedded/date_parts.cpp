@@ -153,6 +153,19 @@ std::int64_t partOfDate(DatePart part, common::DateTime moment, int dateFirst) {
     return 0;
 }
 
+std::string nameOfPart(DatePart part, common::DateTime moment) {
+    static constexpr std::array<const char*, 12> months{"Januar",    "Februar", "März",     "April",
+                                                        "Mai",       "Juni",    "Juli",     "August",
+                                                        "September", "Oktober", "November", "Dezember"};
+    static constexpr std::array<const char*, daysOfWeek> weekdays{
+        "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag", "Sonntag"};
+    constexpr int monday = 1;
+    const std::int64_t number = partOfDate(part, moment, monday);
+    if (part == DatePart::month) return months.at(static_cast<std::size_t>(number - 1));
+    if (part == DatePart::weekday) return weekdays.at(static_cast<std::size_t>(number - 1));
+    return std::to_string(number);
+}
+
 std::optional<common::DateTime> addToDate(DatePart part, std::int64_t count, common::DateTime moment) {
     // Beyond this no date is left, and the arithmetic below cannot overflow.
     constexpr std::int64_t mostMilliseconds = std::int64_t{9000} * 366 * 24 * 3600 * 1000;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace tellurix::embedded {
@@ -34,6 +35,9 @@ bool canCount(DatePart part);
 
 /// @param dateFirst first day of the week, 1 = Monday; only `weekday` asks for it
 std::int64_t partOfDate(DatePart part, common::DateTime moment, int dateFirst);
+
+/// What DATENAME answers: German names of months and weekdays, numbers for all else.
+std::string nameOfPart(DatePart part, common::DateTime moment);
 
 /// @return nothing when the sum leaves the years that a date can have. A month that is too short
 ///         for the day gives its last day.

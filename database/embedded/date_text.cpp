@@ -2,6 +2,7 @@
 
 #include "embedded/blanks.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -40,6 +41,16 @@ public:
         while (!text_.empty() && text_.front() == ' ')
             text_.remove_prefix(1);
         return text_.size() < before;
+    }
+
+    /// The word in any case of its letters.
+    bool word(std::string_view expected) {
+        const auto same = [](char left, char right) { return (left | ' ') == (right | ' '); };
+        if (text_.size() < expected.size() ||
+            !std::equal(expected.begin(), expected.end(), text_.begin(), same))
+            return false;
+        text_.remove_prefix(expected.size());
+        return true;
     }
 
     std::size_t digitsAhead() const {
@@ -134,15 +145,78 @@ Parts partsOf(common::DateTime moment) {
             static_cast<int>(time.subseconds().count())};
 }
 
+constexpr std::array<std::string_view, 12> monthNames{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+
 /// "Jun  5 2025  2:30PM", what a date becomes when no style is given.
 std::string writeDefault(const Parts& parts) {
-    static constexpr std::array<std::string_view, 12> months{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                             "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     const int hour = parts.hour % 12 == 0 ? 12 : parts.hour % 12;
     const auto wide = [](int value) { return (value < 10 ? " " : "") + std::to_string(value); };
-    return std::string(months.at(static_cast<std::size_t>(parts.month - 1))) + " " + wide(parts.day) + " " +
-           padded(parts.year, 4) + " " + wide(hour) + ":" + padded(parts.minute, 2) +
+    return std::string(monthNames.at(static_cast<std::size_t>(parts.month - 1))) + " " + wide(parts.day) +
+           " " + padded(parts.year, 4) + " " + wide(hour) + ":" + padded(parts.minute, 2) +
            (parts.hour < 12 ? "AM" : "PM");
+}
+
+/// The same the other way round.
+std::optional<common::DateTime> readDefault(Scanner& scanner) {
+    int monthNumber = 1;
+    while (monthNumber <= 12 && !scanner.word(monthNames.at(static_cast<std::size_t>(monthNumber - 1))))
+        ++monthNumber;
+    int dayNumber = 0;
+    int yearNumber = 0;
+    if (monthNumber > 12 || !scanner.blanks() || !scanner.number(dayNumber, 1, 2) || !scanner.blanks() ||
+        !scanner.number(yearNumber, 4, 4))
+        return std::nullopt;
+    const common::Date date = year{yearNumber} / monthNumber / dayNumber;
+    std::chrono::milliseconds time{0};
+    if (scanner.blanks()) {
+        if (!readTime(scanner, time)) return std::nullopt;
+        const auto hours = std::chrono::duration_cast<std::chrono::hours>(time).count();
+        const bool afternoon = scanner.word("PM");
+        if (afternoon || scanner.word("AM")) {
+            if (hours < 1 || hours > 12) return std::nullopt;
+            time += std::chrono::hours{(hours == 12 ? -12 : 0) + (afternoon ? 12 : 0)};
+        }
+    }
+    if (!scanner.atEnd() || !date.ok()) return std::nullopt;
+    return common::startOf(date) + time;
+}
+
+std::optional<common::DateTime> withinYears(std::optional<common::DateTime> moment) {
+    return moment && *moment >= firstMoment && *moment <= lastMoment ? moment : std::nullopt;
+}
+
+/// The styles that are a day in digits: the order of its parts and the sign between them. Those below 100
+/// have years of two digits.
+struct DayStyle {
+    int style;
+    DateOrder order;
+    char separator;
+};
+
+constexpr std::array<DayStyle, 8> dayStyles{{{101, DateOrder::monthDayYear, '/'},
+                                             {102, DateOrder::yearMonthDay, '.'},
+                                             {103, DateOrder::dayMonthYear, '/'},
+                                             {104, DateOrder::dayMonthYear, '.'},
+                                             {105, DateOrder::dayMonthYear, '-'},
+                                             {110, DateOrder::monthDayYear, '-'},
+                                             {111, DateOrder::yearMonthDay, '/'},
+                                             {23, DateOrder::yearMonthDay, '-'}}};
+
+const DayStyle* dayStyleOf(int style) {
+    const auto* const found = std::ranges::find_if(dayStyles, [&](const DayStyle& each) {
+        return each.style == style || (style < 23 && each.style == style + 100);
+    });
+    return found == dayStyles.end() ? nullptr : found;
+}
+
+std::string writeDay(const DayStyle& style, const std::string& y, const std::string& m,
+                     const std::string& d) {
+    const auto joined = [&](const std::string& a, const std::string& b, const std::string& c) {
+        return a + style.separator + b + style.separator + c;
+    };
+    if (style.order == DateOrder::yearMonthDay) return joined(y, m, d);
+    return style.order == DateOrder::dayMonthYear ? joined(d, m, y) : joined(m, d, y);
 }
 
 } // namespace
@@ -165,9 +239,22 @@ std::optional<common::DateTime> readDate(std::string_view text, DateOrder order)
         if (scanner.blanks() && !readTime(scanner, time)) return std::nullopt;
     }
     if (!scanner.atEnd() || !date.ok()) return std::nullopt;
-    const common::DateTime moment = common::startOf(date) + time;
-    if (moment < firstMoment || moment > lastMoment) return std::nullopt;
-    return moment;
+    return withinYears(common::startOf(date) + time);
+}
+
+std::optional<common::DateTime> readStyledDate(std::string_view text, int style) {
+    if (trimmed(text).empty()) return readDate(text, DateOrder::dayMonthYear);
+    Scanner scanner(trimmed(text));
+    if (style == 0 || style == 100) return withinYears(readDefault(scanner));
+    if (style == 8 || style == 108) {
+        std::chrono::milliseconds time{0};
+        if (!readTime(scanner, time) || !scanner.atEnd()) return std::nullopt;
+        return common::DateTime{std::chrono::local_days{year{1900} / 1 / 1}} + time;
+    }
+    const DayStyle* const day = dayStyleOf(style);
+    const bool international = isInternational(trimmed(text));
+    if (style == 126 ? !international : international) return std::nullopt;
+    return readDate(text, day == nullptr ? DateOrder::yearMonthDay : day->order);
 }
 
 bool isDateStyle(int style) {
@@ -181,20 +268,24 @@ std::optional<std::string> writeDate(common::DateTime moment, int style) {
     const std::string d = padded(parts.day, 2);
     const std::string time =
         padded(parts.hour, 2) + ":" + padded(parts.minute, 2) + ":" + padded(parts.second, 2);
+    const std::string shortYear = padded(parts.year % 100, 2);
+    if (const DayStyle* const day = dayStyleOf(style))
+        return writeDay(*day, style == day->style ? y : shortYear, m, d);
     switch (style) {
     case 0:
     case 100:
         return writeDefault(parts);
-    case 23:
-        return y + "-" + m + "-" + d;
-    case 104:
-        return d + "." + m + "." + y;
+    case 8:
     case 108:
         return time;
+    case 12:
+        return shortYear + m + d;
     case 112:
         return y + m + d;
+    case 20:
     case 120:
         return y + "-" + m + "-" + d + " " + time;
+    case 21:
     case 121:
         return y + "-" + m + "-" + d + " " + time + "." + padded(parts.millisecond, 3);
     case 126: {

@@ -22,7 +22,11 @@ std::optional<common::DateTime> readDate(std::string_view text, DateOrder order)
 /// @return nothing when the style is not supported
 std::optional<std::string> writeDate(common::DateTime moment, int style);
 
-/// Whether `writeDate` knows the style.
+/// Reads a date text in one of CONVERT's styles, which says in which order the parts stand.
+/// @return nothing when the text is no date in this style
+std::optional<common::DateTime> readStyledDate(std::string_view text, int style);
+
+/// Whether `writeDate` and `readStyledDate` know the style.
 bool isDateStyle(int style);
 
 constexpr common::DateTime fromMilliseconds(std::int64_t milliseconds) {

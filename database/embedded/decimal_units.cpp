@@ -95,4 +95,10 @@ std::optional<std::int64_t> roundedUnits(std::int64_t units, int scale, std::int
     return narrow(dividedHalfAway(units, step) * step);
 }
 
+std::optional<std::int64_t> cutUnits(std::int64_t units, int scale, std::int64_t decimals) {
+    if (decimals >= scale) return units;
+    if (scale - decimals > mostDigits) return 0;
+    return units - units % powerOfTen(static_cast<int>(scale - decimals));
+}
+
 } // namespace tellurix::embedded

@@ -30,4 +30,7 @@ std::optional<std::int64_t> remainderOfUnits(std::int64_t left, int leftScale, s
 /// Rounded to so many decimals (negative: tens, hundreds, …), in the same scale.
 std::optional<std::int64_t> roundedUnits(std::int64_t units, int scale, std::int64_t decimals);
 
+/// The same without rounding: the digits are cut off.
+std::optional<std::int64_t> cutUnits(std::int64_t units, int scale, std::int64_t decimals);
+
 } // namespace tellurix::embedded

@@ -30,7 +30,7 @@ bool isAggregate(std::string_view folded) {
 }
 
 bool takesDatePart(std::string_view folded) {
-    return folded == "datepart" || folded == "dateadd" || folded == "datediff";
+    return folded == "datepart" || folded == "dateadd" || folded == "datediff" || folded == "datename";
 }
 
 constexpr std::int32_t castLength = 30;

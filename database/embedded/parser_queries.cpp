@@ -2,9 +2,18 @@
 #include "embedded/Parser.h"
 #include "embedded/names.h"
 
+#include <algorithm>
+
 namespace tellurix::embedded {
 
 Query* Parser::parseQuery() {
+    Query* const query = parseTopQuery();
+    if (query->assigns) failSyntax("Only a SELECT that stands alone can set variables", query->position);
+    return query;
+}
+
+/// A query that is a statement, whose items may set variables.
+Query* Parser::parseTopQuery() {
     constexpr int levelsOfQuery = 4;
     const Depth depth(*this, levelsOfQuery);
     SelectBranch* const outer = branch_;
@@ -15,12 +24,25 @@ Query* Parser::parseQuery() {
         SelectBranch* const branch = parseBranch();
         branch->unionAll = unionAll;
         query->branches.push_back(branch);
+        query->assigns = query->assigns || std::ranges::any_of(branch->items, [](const SelectItem& item) {
+                             return !item.variable.empty();
+                         });
         if (!accept(Keyword::unionKeyword)) break;
         unionAll = accept(Keyword::allKeyword);
     } while (true);
     parseOrderBy(*query);
     branch_ = outer;
+    requireAssignments(*query);
     return query;
+}
+
+void Parser::requireAssignments(const Query& query) {
+    if (!query.assigns) return;
+    for (const SelectBranch* const branch : query.branches)
+        for (const SelectItem& item : branch->items)
+            if (item.variable.empty())
+                failSyntax("A SELECT that sets variables cannot answer with columns too", item.position);
+    if (query.branches.size() > 1) failSyntax("A UNION cannot set variables", query.branches[1]->position);
 }
 
 SelectBranch* Parser::parseBranch() {
@@ -65,6 +87,13 @@ SelectItem Parser::parseSelectItem() {
         item.starQualifier = parseName("a table name");
         take();
         take();
+        return item;
+    }
+    if (peek(1).symbol == Symbol::equal && (named || peek().kind == TokenKind::variable)) {
+        // The other way to name a column, and the way to set a variable.
+        (named ? item.alias : item.variable) = named ? parseName("an alias") : parseVariable();
+        take();
+        item.expression = parseExpression();
         return item;
     }
     item.expression = parseExpression();

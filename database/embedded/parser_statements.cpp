@@ -29,7 +29,7 @@ Statement Parser::parseStatement() {
     switch (token.keyword) {
     case Keyword::selectKeyword: {
         auto* const select = arena_.make<SelectStatement>();
-        select->query = parseQuery();
+        select->query = parseTopQuery();
         return select;
     }
     case Keyword::insertKeyword:

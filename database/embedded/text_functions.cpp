@@ -56,6 +56,68 @@ void length(ScalarCall& call) {
     call.answer(static_cast<std::int64_t>(utf16Length(text)));
 }
 
+/// Where a text is found again, letter by letter and in any case. An empty one is found nowhere.
+std::size_t findFolded(std::string_view text, std::string_view wanted, std::size_t from, std::size_t& end) {
+    if (wanted.empty()) return std::string_view::npos;
+    while (from < text.size()) {
+        std::size_t inText = from;
+        std::size_t inWanted = 0;
+        while (inText < text.size() && inWanted < wanted.size()) {
+            if (foldCharacter(nextCharacter(text, inText)) !=
+                foldCharacter(nextCharacter(wanted, inWanted))) {
+                inWanted = 0;
+                break;
+            }
+        }
+        if (inWanted == wanted.size()) {
+            end = inText;
+            return from;
+        }
+        nextCharacter(text, from);
+    }
+    return std::string_view::npos;
+}
+
+std::int64_t placeOf(std::string_view text, std::size_t index) {
+    return static_cast<std::int64_t>(utf16Length(text.substr(0, index))) + 1;
+}
+
+/// Wanted text, text, first place to look at.
+void charIndex(ScalarCall& call) {
+    const std::string_view text = call.text(1);
+    const auto before = static_cast<std::size_t>(std::max<std::int64_t>(call.integer(2), 1) - 1);
+    std::size_t end = 0;
+    const std::size_t found = findFolded(text, call.text(0), utf16Prefix(text, before).size(), end);
+    call.answer(found == std::string_view::npos ? std::int64_t{0} : placeOf(text, found));
+}
+
+/// Pattern, text: the place of the first match, which begins where the pattern's % in front ends.
+void patIndex(ScalarCall& call) {
+    std::string_view pattern = call.text(0);
+    const std::string_view text = call.text(1);
+    const Collation& collation = call.session().collation;
+    if (!pattern.starts_with('%')) return call.answer(std::int64_t{matchesLike(text, pattern, 0, collation)});
+    while (pattern.starts_with('%'))
+        pattern.remove_prefix(1);
+    for (std::size_t index = 0;; nextCharacter(text, index)) {
+        if (pattern.empty() || matchesLike(text.substr(index), pattern, 0, collation))
+            return call.answer(placeOf(text, pattern.empty() ? 0 : index));
+        if (index >= text.size()) return call.answer(std::int64_t{0});
+    }
+}
+
+/// Text, wanted text, what takes its place.
+void replace(ScalarCall& call) {
+    const std::string_view text = call.text(0);
+    std::string replaced;
+    std::size_t from = 0;
+    std::size_t end = 0;
+    for (std::size_t found = 0; (found = findFolded(text, call.text(1), from, end)) != std::string_view::npos;
+         from = end)
+        replaced.append(text.substr(from, found - from)).append(call.text(2));
+    call.answer(std::string_view(replaced.append(text.substr(from))));
+}
+
 template <std::string (*change)(std::string_view)>
 void changeCase(ScalarCall& call) {
     call.answer(std::string_view(change(call.text(0))));
@@ -69,6 +131,9 @@ void registerTextFunctions(sqlite3* connection, Session& session) {
     registerScalar<right, 2>(connection, "ts_right", 3, session);
     registerScalar<left, 2>(connection, "ts_left", 3, session);
     registerScalar<substring, 3>(connection, "ts_substring", 4, session);
+    registerScalar<charIndex, 3>(connection, "ts_charindex", 3, session);
+    registerScalar<patIndex, 2>(connection, "ts_patindex", 2, session);
+    registerScalar<replace, 3>(connection, "ts_replace", 3, session);
     registerScalar<length, 1>(connection, "ts_len", 1, session);
     registerScalar<changeCase<upperCase>, 1>(connection, "ts_upper", 1, session);
     registerScalar<changeCase<lowerCase>, 1>(connection, "ts_lower", 1, session);

@@ -35,6 +35,11 @@ ArithmeticNames namesOf(Operator op) {
     }
 }
 
+/// The type that a NULL has in a calculation: that of the other value, of which a date takes days.
+Type typeBeside(const Fragment& other) {
+    return other.type.kind == TypeKind::dateTime ? Type::integer() : other.type;
+}
+
 Type joinedType(const Type& left, const Type& right) {
     Type type = Type::text(Type::unlimited);
     if (left.length != Type::unlimited && right.length != Type::unlimited)
@@ -63,6 +68,13 @@ Type decimalResult(Operator op, const Type& left, const Type& right) {
 int Variables::find(std::string_view folded) const {
     const auto found = scalarByName.find(folded);
     return found == scalarByName.end() ? none : found->second;
+}
+
+int Variables::require(const Name& name) const {
+    const int number = find(name.folded);
+    if (number == none)
+        failUnknownName("The variable " + std::string(name.written) + " is not declared", name.position);
+    return number;
 }
 
 Fragment Translator::any(Expression& expression) {
@@ -219,10 +231,7 @@ std::string Translator::parameter(int variable) {
 }
 
 Fragment Translator::variable(const Expression& expression) {
-    const int number = variables_.find(expression.name.folded);
-    if (number == Variables::none)
-        failUnknownName("The variable " + std::string(expression.name.written) + " is not declared",
-                        expression.position);
+    const int number = variables_.require(expression.name);
     return {.sql = parameter(number),
             .type = variables_.scalars[static_cast<std::size_t>(number)].type,
             .position = expression.position};
@@ -264,8 +273,8 @@ Fragment Translator::arithmetic(const Expression& expression) {
     std::size_t calculations = 0;
     for (const Expression* const sign : signs | std::views::reverse) {
         Fragment right = value(*sign->operands[1]);
-        if (left.isNull()) left.type = right.type;
-        if (right.isNull()) right.type = left.type;
+        if (left.isNull()) left.type = typeBeside(right);
+        if (right.isNull()) right.type = typeBeside(left);
         if (sign->op == Operator::add && left.type.isText() && right.type.isText()) {
             if (joined.empty()) joined.push_back(std::move(left.sql));
             joined.push_back(std::move(right.sql));
@@ -286,6 +295,8 @@ Fragment Translator::arithmetic(const Expression& expression) {
 Fragment Translator::calculated(const Expression& expression, Fragment left, Fragment right) {
     if (left.isNull()) return nullFragment(expression.position);
     const bool bothTexts = left.type.isText() && right.type.isText();
+    if (left.type.kind == TypeKind::dateTime || right.type.kind == TypeKind::dateTime)
+        return shiftedDate(expression, std::move(left), std::move(right));
     const auto common = bothTexts ? std::nullopt : commonType(left.type, right.type);
     if (!common || !common->isNumber())
         failConversion("A value of type " + describe(left.type) + " and one of type " + describe(right.type) +
@@ -330,6 +341,27 @@ Fragment Translator::calculated(const Expression& expression, Fragment left, Fra
     result.sql += position;
     result.sql += ')';
     return result;
+}
+
+/// A moment plus or minus a number of days, parts of days included.
+Fragment Translator::shiftedDate(const Expression& expression, Fragment left, Fragment right) {
+    const bool plus = expression.op == Operator::add;
+    if (plus && right.type.kind == TypeKind::dateTime) std::swap(left, right);
+    const bool possible = left.type.kind == TypeKind::dateTime && !left.type.dayOnly &&
+                          right.type.isNumber() && (plus || expression.op == Operator::subtract);
+    if (!possible)
+        failConversion("A value of type " + describe(left.type) + " and one of type " + describe(right.type) +
+                           " cannot be calculated with; DATEADD and DATEDIFF calculate with dates",
+                       expression.position);
+    const std::string days = plus ? right.sql : "-(" + right.sql + ")";
+    const std::string position = "," + std::to_string(expression.position) + ")";
+    Fragment moved{.sql = {}, .type = Type::dateTime(), .position = expression.position};
+    if (right.type.kind == TypeKind::floating)
+        moved.sql = "ts_fshift(" + left.sql + "," + days + position;
+    else
+        moved.sql = "ts_shift(" + left.sql + "," + days + "," + std::to_string(asDecimal(right.type).scale) +
+                    position;
+    return moved;
 }
 
 Fragment Translator::caseWhen(const Expression& expression) {

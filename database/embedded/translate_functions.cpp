@@ -1,5 +1,6 @@
 #include "embedded/Fault.h"
 #include "embedded/Translator.h"
+#include "embedded/call_arguments.h"
 #include "embedded/date_parts.h"
 #include "embedded/names.h"
 
@@ -8,14 +9,6 @@
 namespace tellurix::embedded {
 
 namespace {
-
-void requireArguments(const Expression& call, std::size_t fewest, std::size_t most) {
-    if (call.operands.size() >= fewest && call.operands.size() <= most) return;
-    std::string count = std::to_string(fewest);
-    if (most != fewest) count += " or " + std::to_string(most);
-    failSyntax("The function " + std::string(call.name.written) + " takes " + count + " arguments here",
-               call.position);
-}
 
 std::string code(DatePart part) {
     return std::to_string(static_cast<int>(part));
@@ -26,15 +19,32 @@ std::string code(DatePart part) {
 Fragment Translator::function(const Expression& call) {
     using Function = Fragment (Translator::*)(const Expression&);
     static const NameMap<Function> functions{
-        {"isnull", &Translator::isNullFunction}, {"coalesce", &Translator::coalesce},
-        {"nullif", &Translator::nullIf},         {"round", &Translator::round},
-        {"abs", &Translator::absolute},          {"left", &Translator::textEnd},
-        {"right", &Translator::textEnd},         {"substring", &Translator::substring},
-        {"upper", &Translator::changedText},     {"lower", &Translator::changedText},
-        {"ltrim", &Translator::changedText},     {"rtrim", &Translator::changedText},
-        {"len", &Translator::textLength},        {"year", &Translator::yearMonthDay},
-        {"month", &Translator::yearMonthDay},    {"day", &Translator::yearMonthDay},
-        {"getdate", &Translator::now},           {"ident_current", &Translator::identityOf},
+        {"isnull", &Translator::isNullFunction},
+        {"coalesce", &Translator::coalesce},
+        {"nullif", &Translator::nullIf},
+        {"round", &Translator::round},
+        {"abs", &Translator::absolute},
+        {"left", &Translator::textEnd},
+        {"right", &Translator::textEnd},
+        {"substring", &Translator::substring},
+        {"upper", &Translator::changedText},
+        {"lower", &Translator::changedText},
+        {"ltrim", &Translator::changedText},
+        {"rtrim", &Translator::changedText},
+        {"len", &Translator::textLength},
+        {"year", &Translator::yearMonthDay},
+        {"month", &Translator::yearMonthDay},
+        {"day", &Translator::yearMonthDay},
+        {"getdate", &Translator::now},
+        {"ident_current", &Translator::identityOf},
+        {"iif", &Translator::iif},
+        {"floor", &Translator::wholeNumber},
+        {"ceiling", &Translator::wholeNumber},
+        {"charindex", &Translator::charIndex},
+        {"patindex", &Translator::patIndex},
+        {"replace", &Translator::replace},
+        {"isnumeric", &Translator::isNumeric},
+        {"isdate", &Translator::isDate},
     };
     const auto found = functions.find(call.name.folded);
     if (found == functions.end())
@@ -81,6 +91,13 @@ Fragment Translator::coalesce(const Expression& call) {
     return {.sql = sql + ")", .type = type, .position = call.position};
 }
 
+Fragment Translator::iif(const Expression& call) {
+    requireArguments(call, 3, 3);
+    std::vector<Fragment> conditions{condition(call.operands[0], "IIF")};
+    std::vector<Fragment> results{value(*call.operands[1]), value(*call.operands[2])};
+    return caseText("CASE", std::move(conditions), std::move(results), call.position);
+}
+
 Fragment Translator::nullIf(const Expression& call) {
     requireArguments(call, 2, 2);
     Fragment result = value(*call.operands[0]);
@@ -93,25 +110,49 @@ Fragment Translator::nullIf(const Expression& call) {
 }
 
 Fragment Translator::round(const Expression& call) {
-    requireArguments(call, 2, 2);
+    requireArguments(call, 2, 3);
     Fragment number = value(*call.operands[0]);
-    const Fragment decimals = integerArgument(call, 1);
+    const std::string decimals = integerArgument(call, 1).sql;
+    // Anything but 0 cuts instead of rounding.
+    const std::string cuts = call.operands.size() > 2 ? integerArgument(call, 2).sql : "0";
     if (number.isNull()) return number;
     if (number.type.isText()) number = convert(std::move(number), Type::of(TypeKind::floating));
     if (!number.type.isNumber())
         failConversion("ROUND takes a number, not " + describe(number.type), call.position);
     Type type = number.type;
     if (type.kind == TypeKind::floating)
-        return {.sql = "ts_fround(" + number.sql + "," + decimals.sql + ")",
+        return {.sql = "ts_fround(" + number.sql + "," + decimals + "," + cuts + ")",
                 .type = type,
                 .position = call.position};
     // Rounding up can need one digit more before the point.
     if (type.isDecimal() && !type.money)
         type.precision = static_cast<std::uint8_t>(std::min(type.precision + 1, Type::maxPrecision));
-    return {.sql = "ts_round(" + number.sql + "," + std::to_string(type.scale) + "," + decimals.sql + "," +
-                   std::to_string(call.position) + ")",
+    return {.sql = "ts_round(" + number.sql + "," + std::to_string(type.scale) + "," + decimals + "," + cuts +
+                   "," + std::to_string(call.position) + ")",
             .type = type,
             .position = call.position};
+}
+
+/// FLOOR and CEILING.
+Fragment Translator::wholeNumber(const Expression& call) {
+    requireArguments(call, 1, 1);
+    Fragment number = value(*call.operands[0]);
+    if (number.isNull()) return number;
+    if (number.type.isText()) number = convert(std::move(number), Type::of(TypeKind::floating));
+    if (!number.type.isNumber())
+        failConversion(std::string(call.name.written) + " takes a number, not " + describe(number.type),
+                       call.position);
+    if (number.type.isIntegral()) return number;
+    const bool up = call.name.folded == "ceiling";
+    Fragment whole{.sql = {}, .type = number.type, .position = call.position};
+    if (number.type.kind == TypeKind::floating) {
+        whole.sql = (up ? "ts_fceiling(" : "ts_ffloor(") + number.sql + ")";
+        return whole;
+    }
+    if (!number.type.money) whole.type.scale = 0;
+    whole.sql = (up ? "ts_ceiling(" : "ts_floor(") + number.sql + "," + std::to_string(number.type.scale) +
+                "," + std::to_string(whole.type.scale) + ")";
+    return whole;
 }
 
 Fragment Translator::absolute(const Expression& call) {
@@ -130,64 +171,12 @@ Fragment Translator::absolute(const Expression& call) {
     return {.sql = "abs(" + number.sql + ")", .type = number.type, .position = call.position};
 }
 
-Fragment Translator::textArgument(const Expression& call, std::size_t index) {
-    return convert(value(*call.operands[index]), Type::text(Type::unlimited));
-}
-
-Translator::TextArgument Translator::changedArgument(const Expression& call) {
-    Fragment source = value(*call.operands[0]);
-    Type type = source.type.isText() ? source.type : Type::text(Type::unlimited);
-    type.padded = false;
-    return {convert(std::move(source), Type::text(Type::unlimited)).sql, type};
-}
-
 Fragment Translator::integerArgument(const Expression& call, std::size_t index) {
     return convert(value(*call.operands[index]), Type::integer());
 }
 
 Fragment Translator::dateArgument(const Expression& call, std::size_t index) {
     return convert(value(*call.operands[index]), Type::dateTime());
-}
-
-Fragment Translator::textEnd(const Expression& call) {
-    requireArguments(call, 2, 2);
-    auto [text, type] = changedArgument(call);
-    const Fragment count = integerArgument(call, 1);
-    if (count.literal == Fragment::Literal::exact && count.units > 0 &&
-        (type.length == Type::unlimited || count.units < type.length))
-        type.length = static_cast<std::int32_t>(count.units);
-    const char* const name = call.name.folded == "left" ? "ts_left(" : "ts_right(";
-    return {.sql = name + text + "," + count.sql + "," + std::to_string(call.position) + ")",
-            .type = type,
-            .position = call.position};
-}
-
-Fragment Translator::substring(const Expression& call) {
-    requireArguments(call, 3, 3);
-    auto [text, type] = changedArgument(call);
-    return {.sql = "ts_substring(" + text + "," + integerArgument(call, 1).sql + "," +
-                   integerArgument(call, 2).sql + "," + std::to_string(call.position) + ")",
-            .type = type,
-            .position = call.position};
-}
-
-Fragment Translator::changedText(const Expression& call) {
-    requireArguments(call, 1, 1);
-    auto [text, type] = changedArgument(call);
-    const std::string_view name = call.name.folded;
-    std::string sql;
-    if (name == "ltrim" || name == "rtrim")
-        sql = std::string(name) + "(" + text + ",' ')";
-    else
-        sql = "ts_" + std::string(name) + "(" + text + ")";
-    return {.sql = std::move(sql), .type = type, .position = call.position};
-}
-
-Fragment Translator::textLength(const Expression& call) {
-    requireArguments(call, 1, 1);
-    return {.sql = "ts_len(" + textArgument(call, 0).sql + ")",
-            .type = Type::integer(),
-            .position = call.position};
 }
 
 Fragment Translator::yearMonthDay(const Expression& call) {
@@ -290,10 +279,12 @@ Fragment Translator::cast(const Expression& call) {
         const Fragment style = value(*call.operands[1]);
         const bool known = style.literal == Fragment::Literal::exact && style.type.isIntegral();
         const auto number = static_cast<int>(style.units);
-        const bool dateToText = operand.type.kind == TypeKind::dateTime && call.type.isText();
-        const bool numberToText = operand.type.isNumber() && call.type.isText();
-        const bool supported = dateToText ? isDateStyle(number) : numberToText && number == 0;
-        if (!operand.isNull() && !(known && supported))
+        const bool isDate = operand.type.kind == TypeKind::dateTime;
+        const bool toDate = call.type.kind == TypeKind::dateTime;
+        const bool styled = operand.type.isText() != call.type.isText() && !operand.isNull();
+        // Between two texts, two dates or two numbers a style has no meaning.
+        const bool supported = !styled || (isDate || toDate ? isDateStyle(number) : number == 0);
+        if (!known || !supported)
             failSyntax("CONVERT from " + describe(operand.type) + " to " + describe(call.type) +
                            " does not support this style",
                        call.operands[1]->position);
@@ -306,13 +297,19 @@ Fragment Translator::cast(const Expression& call) {
 
 Fragment Translator::datePart(const Expression& call) {
     const auto part = datePartNamed(call.part.folded);
-    const bool reads = call.name.folded == "datepart";
+    const bool names = call.name.folded == "datename";
+    const bool reads = names || call.name.folded == "datepart";
     const bool adds = call.name.folded == "dateadd";
     requireArguments(call, reads ? 1 : 2, reads ? 1 : 2);
     if (!part || !(reads ? canRead(*part) : adds ? canAdd(*part) : canCount(*part)))
         failSyntax(std::string(call.name.written) + " of " + std::string(call.part.written) +
                        " is not supported",
                    call.part.position);
+    constexpr std::int32_t longestName = 30;
+    if (names)
+        return {.sql = "ts_datename(" + code(*part) + "," + dateArgument(call, 0).sql + ")",
+                .type = Type::text(longestName),
+                .position = call.position};
     if (reads)
         return {.sql = "ts_datepart(" + code(*part) + "," + dateArgument(call, 0).sql + ")",
                 .type = Type::integer(),

@@ -26,6 +26,23 @@ Translation Translator::query(const SelectStatement& select) {
     return translation;
 }
 
+Translation Translator::assignments(const SelectStatement& select) {
+    start();
+    const List<SelectItem>& items = select.query->branches.front()->items;
+    QueryText text = singleText(*select.query, false, [&](Fragment item, std::size_t index) {
+        const int number = variables_.require(items[index].variable);
+        return convert(std::move(item), variables_.scalars[static_cast<std::size_t>(number)].type,
+                       {.purpose = Destination::Purpose::cast});
+    });
+    // The server sets the variables row by row; here every row sees them as they were before.
+    for (const SelectItem& item : items)
+        if (std::ranges::find(parameters_, variables_.require(item.variable)) != parameters_.end())
+            failSyntax("A SELECT from a table that sets " + std::string(item.variable.written) +
+                           " cannot use it at the same time",
+                       item.variable.position);
+    return finish(std::move(text.sql));
+}
+
 std::shared_ptr<const std::vector<Translation::Column>>
 Translator::resultColumns(const std::vector<OutputColumn>& columns) {
     std::vector<Translation::Column> result;
