@@ -2,12 +2,14 @@
 
 #include "embedded/Fault.h"
 #include "embedded/Parser.h"
+#include "embedded/computed_part.h"
 
 namespace tellurix::embedded {
 
 Batch::Batch(std::string_view text) : text_(text), tableVariables_(arena_.memory()) {
     block_ = Parser(text_, arena_).parseBatch();
     collect(*block_);
+    computedStatements_ = computedPart(*block_);
 }
 
 void Batch::collect(const Block& block) {

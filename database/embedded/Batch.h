@@ -1,10 +1,13 @@
 #pragma once
 
+#include "embedded/Session.h"
 #include "embedded/SqliteStatement.h"
 #include "embedded/Translator.h"
 #include "embedded/ast.h"
+#include "embedded/cell.h"
 #include "embedded/packed.h"
 
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -21,6 +24,14 @@ struct Compiled {
     std::vector<SqliteStatement> idle; ///< prepared and not running now
 };
 
+/// What the first statements of a batch have computed, for the options that they ran under.
+struct Computed {
+    SessionOptions before;
+    SessionOptions after;
+    std::vector<Cell> frame;
+    std::int64_t rowsAffected = -1;
+};
+
 /// A statement text once it has been parsed, and what has been compiled of it so far: statements
 /// are translated when they are reached, because a batch may create the tables that it then uses.
 class Batch {
@@ -32,6 +43,9 @@ public:
     Block& block() { return *block_; }
     Variables& variables() { return variables_; }
     const List<TableDefinition*>& tableVariables() const { return tableVariables_; }
+    /// How many of the first statements `computed` stands for; see computed_part.h.
+    std::size_t computedStatements() const { return computedStatements_; }
+    std::optional<Computed>& computed() { return computed_; }
 
     /// @param node the part of the syntax tree that is meant
     Compiled& compiled(const void* node) { return compiled_[node]; }
@@ -53,6 +67,8 @@ private:
     Block* block_ = nullptr;
     Variables variables_;
     List<TableDefinition*> tableVariables_;
+    std::size_t computedStatements_ = 0;
+    std::optional<Computed> computed_;
     std::unordered_map<const void*, Compiled> compiled_;
     std::set<std::vector<std::pair<int, std::int64_t>>> editNodes_;
 };

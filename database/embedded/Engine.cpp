@@ -2,7 +2,9 @@
 
 #include "embedded/ConditionMemory.h"
 #include "embedded/EmbeddedRecordset.h"
+#include "embedded/computed_part.h"
 #include "embedded/definitions.h"
+#include "embedded/names.h"
 
 #include <algorithm>
 
@@ -116,7 +118,9 @@ void Engine::giveBack(Running running) {
 }
 
 std::int64_t Engine::write(Batch& batch, const Task& task, const Frame& frame) {
-    prepareToWrite();
+    // In a loop that fills a table variable asking for the file would take as long as the rows.
+    if (!compile(batch, task).translation.writesVariable) connection_.requireFileInPlace();
+    readAllOpenRows();
     start(batch, task, frame);
     return connection_.changes();
 }
@@ -174,6 +178,20 @@ void Engine::prepareTableVariables(Batch& batch) {
                     discard(table->sqlName());
                     delete table; // NOLINT(cppcoreguidelines-owning-memory): the deleter of a shared_ptr
                 }));
+    }
+}
+
+void Engine::indexTableVariables(Batch& batch) {
+    for (const auto& [name, table] : batch.variables().tables) {
+        std::string columns;
+        for (const std::string_view column : comparedColumns(batch.block()))
+            if (const int number = table->findColumn(column); number != Table::noColumn)
+                columns += (columns.empty() ? "" : ",") + quoteName(table->column(number).name);
+        // temp."@1" gets temp."@1 index" on "@1".
+        const std::string own = table->sqlName().substr(table->sqlName().find('.') + 1);
+        if (!columns.empty())
+            connection_.run("CREATE INDEX IF NOT EXISTS temp." + own.substr(0, own.size() - 1) +
+                            " index\" ON " + own + " (" + columns + ")");
     }
 }
 

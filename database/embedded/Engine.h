@@ -79,6 +79,8 @@ public:
 
     /// Makes the tables of a batch's table variables, or empties them when it has run before.
     void prepareTableVariables(Batch& batch);
+    /// Gives the batch's table variables an index over the columns by which its queries look into them.
+    void indexTableVariables(Batch& batch);
     /// A table variable that is gone; its table is dropped at the next occasion.
     void discard(std::string sqlName) { discarded_.push_back(std::move(sqlName)); }
 

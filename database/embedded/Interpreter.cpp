@@ -10,9 +10,42 @@ Interpreter::Interpreter(std::shared_ptr<Engine> engine, std::shared_ptr<Batch> 
     : engine_(std::move(engine)), batch_(std::move(batch)), frame_(batch_->variables().scalars.size()) {}
 
 common::ExecuteResult Interpreter::run() {
-    engine_->prepareTableVariables(*batch_);
-    run(batch_->block());
+    const List<Statement>& statements = batch_->block().statements;
+    if (!restore()) {
+        engine_->prepareTableVariables(*batch_);
+        compute();
+    }
+    for (std::size_t index = batch_->computedStatements(); index < statements.size(); ++index)
+        run(statements[index]);
     return std::move(result_);
+}
+
+/// Takes over what an earlier run of the same text has computed. Its table variables are still filled.
+bool Interpreter::restore() {
+    const std::optional<Computed>& computed = batch_->computed();
+    SessionOptions& options = engine_->session().options;
+    if (!computed || computed->before != options) return false;
+    options = computed->after;
+    frame_ = computed->frame;
+    result_.rowsAffected = computed->rowsAffected;
+    return true;
+}
+
+void Interpreter::compute() {
+    const std::size_t count = batch_->computedStatements();
+    if (count == 0) return;
+    batch_->computed().reset();
+    const SessionOptions before = engine_->session().options;
+    {
+        // Nothing here touches the file, so that nobody waits for this; one end for all statements is
+        // quicker.
+        SqliteTransaction together(engine_->connection(), SqliteTransaction::Kind::variable);
+        for (std::size_t index = 0; index < count; ++index)
+            run(batch_->block().statements[index]);
+        together.commit();
+    }
+    engine_->indexTableVariables(*batch_);
+    batch_->computed() = Computed{before, engine_->session().options, frame_, result_.rowsAffected};
 }
 
 void Interpreter::run(const Statement& statement) {
@@ -57,7 +90,7 @@ void Interpreter::assign(const SelectStatement& select) {
 
 void Interpreter::write(const Task& task) {
     const std::int64_t changes = engine_->write(*batch_, task, frame_);
-    result_.rowsAffected = engine_->session().noCount ? -1 : changes;
+    result_.rowsAffected = engine_->session().options.noCount ? -1 : changes;
 }
 
 void Interpreter::run(const InsertStatement& insert) {
@@ -148,18 +181,18 @@ void Interpreter::run(const SetOption& set) {
     Session& session = engine_->session();
     switch (set.option) {
     case Option::noCount:
-        session.noCount = set.on;
+        session.options.noCount = set.on;
         break;
     case Option::dateFirst:
-        session.dateFirst = set.number;
+        session.options.dateFirst = set.number;
         break;
     case Option::dateFormat:
         if (set.name.folded == "dmy")
-            session.dateOrder = DateOrder::dayMonthYear;
+            session.options.dateOrder = DateOrder::dayMonthYear;
         else if (set.name.folded == "mdy")
-            session.dateOrder = DateOrder::monthDayYear;
+            session.options.dateOrder = DateOrder::monthDayYear;
         else if (set.name.folded == "ymd")
-            session.dateOrder = DateOrder::yearMonthDay;
+            session.options.dateOrder = DateOrder::yearMonthDay;
         else
             failSyntax("The date format " + std::string(set.name.written) + " is not supported",
                        set.name.position);

@@ -17,6 +17,8 @@ public:
     common::ExecuteResult run();
 
 private:
+    bool restore();
+    void compute();
     void run(const Statement& statement);
     void run(const SelectStatement& select);
     void assign(const SelectStatement& select);

@@ -10,6 +10,17 @@
 
 namespace tellurix::embedded {
 
+/// The options set by SET on which a computation can depend.
+struct SessionOptions {
+    bool noCount = false;
+    /// The first day of the week, 1 = Monday. Monday and the day-first order are what a login
+    /// with German as its language has.
+    int dateFirst = 1;
+    DateOrder dateOrder = DateOrder::dayMonthYear;
+
+    friend bool operator==(const SessionOptions&, const SessionOptions&) = default;
+};
+
 /// What a connection remembers between statements: the options set by SET, and the place where a
 /// function that runs inside SQLite leaves its error, because only a bare text passes through.
 struct Session {
@@ -17,11 +28,7 @@ struct Session {
 
     const common::Clock& clock;
     const Collation collation;
-    bool noCount = false;
-    /// The first day of the week, 1 = Monday. Monday and the day-first order are what a login
-    /// with German as its language has.
-    int dateFirst = 1;
-    DateOrder dateOrder = DateOrder::dayMonthYear;
+    SessionOptions options;
     /// Folded name of the one table whose keys may be given; empty when there is none.
     std::string identityInsert;
 

@@ -257,8 +257,8 @@ void SqliteConnection::fail(int code) {
     throw Fault(category, describeFile(category, name_, message));
 }
 
-SqliteTransaction::SqliteTransaction(SqliteConnection& connection) : connection_(connection) {
-    connection_.run("BEGIN IMMEDIATE");
+SqliteTransaction::SqliteTransaction(SqliteConnection& connection, Kind kind) : connection_(connection) {
+    connection_.run(kind == Kind::write ? "BEGIN IMMEDIATE" : "BEGIN");
 }
 
 SqliteTransaction::~SqliteTransaction() {

@@ -69,7 +69,12 @@ private:
 /// Undoes everything since its construction unless `commit` is reached.
 class SqliteTransaction {
 public:
-    explicit SqliteTransaction(SqliteConnection& connection);
+    enum class Kind {
+        write,   ///< nobody else writes meanwhile
+        variable ///< the file is not touched, so nobody is held up
+    };
+
+    explicit SqliteTransaction(SqliteConnection& connection, Kind kind = Kind::write);
     ~SqliteTransaction();
     SqliteTransaction(const SqliteTransaction&) = delete;
     SqliteTransaction& operator=(const SqliteTransaction&) = delete;

@@ -54,6 +54,7 @@ struct Translation {
     /// An INSERT into a table with an identity: its folded name, and whether the key is given.
     std::string identityTable;
     bool givesIdentity = false;
+    bool writesVariable = false; ///< it writes into a table variable, not into the file
     /// A query whose rows are edited: its table, and the table's column of each field.
     std::string editedTable;
     std::vector<int> editedColumns;

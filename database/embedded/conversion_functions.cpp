@@ -134,7 +134,7 @@ void textToFloat(ScalarCall& call) {
 
 void textToDate(ScalarCall& call) {
     const Type type = unpackType(call.integer(1));
-    const auto moment = readDate(call.text(0), call.session().dateOrder);
+    const auto moment = readDate(call.text(0), call.session().options.dateOrder);
     if (!moment) failText(call, type);
     call.answer(toMilliseconds(type.dayOnly ? std::chrono::floor<std::chrono::days>(*moment) : *moment));
 }
@@ -151,8 +151,8 @@ void styledTextToDate(ScalarCall& call) {
 }
 
 void isDate(ScalarCall& call) {
-    call.answer(
-        std::int64_t{!trimmed(call.text(0)).empty() && readDate(call.text(0), call.session().dateOrder)});
+    call.answer(std::int64_t{!trimmed(call.text(0)).empty() &&
+                             readDate(call.text(0), call.session().options.dateOrder)});
 }
 
 /// Whether some type of numbers takes the text: a float, or money with its sign and commas.

@@ -11,7 +11,7 @@ namespace {
 /// Code of the part, date.
 void datePart(ScalarCall& call) {
     call.answer(partOfDate(static_cast<DatePart>(call.smallInteger(0)), fromMilliseconds(call.integer(1)),
-                           call.session().dateFirst));
+                           call.session().options.dateFirst));
 }
 
 /// Code of the part, number, date, position.

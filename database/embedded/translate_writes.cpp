@@ -139,6 +139,7 @@ Translation Translator::insert(const InsertStatement& insert) {
     sql += insert.query != nullptr ? insertedQuery(*insert.query, target, given, tail)
                                    : insertedRows(insert.rows, target, given, tail);
     Translation translation = finish(std::move(sql));
+    translation.writesVariable = insert.table.written.starts_with('@');
     if (hasIdentity) {
         translation.identityTable = foldName(target.name());
         translation.givesIdentity = givesIdentity;

@@ -180,6 +180,33 @@ TEST_F(Connections, ATableVariableDoesNotDisturbOtherStatements) {
     EXPECT_EQ(answer(*first_, batch), "30");
 }
 
+TEST_F(Connections, ABatchSentAgainAnswersAsIfItComputedAnew) {
+    const std::string loop = "DECLARE @t TABLE (N int, D datetime) DECLARE @i int = 0 WHILE @i < 20 BEGIN "
+                             "INSERT INTO @t VALUES (@i, '05.06.2025') SET @i = @i + 1 END ";
+    const std::string lookUp = loop + "SELECT (SELECT COUNT(*) FROM @t A WHERE A.N = T.N), "
+                                      "MONTH((SELECT MAX(D) FROM @t)), @i FROM T WHERE ID = 1";
+    const std::string writesOn = loop + "INSERT INTO @t VALUES (7,NULL) SELECT COUNT(*) FROM @t";
+    const std::string reads =
+        "DECLARE @s int = 0, @i int = 0 WHILE @i < 3 BEGIN SET @s = @s + (SELECT N FROM T "
+        "WHERE ID = 1) SET @i = @i + 1 END SELECT @s";
+    EXPECT_EQ(answer(*first_, lookUp), "1 | 6 | 20");
+    EXPECT_EQ(answer(*first_, lookUp), "1 | 6 | 20");
+    EXPECT_EQ(answer(*first_, writesOn), "21");
+    EXPECT_EQ(answer(*first_, writesOn), "21");
+    EXPECT_EQ(answer(*first_, reads), "3");
+    second_->execute("UPDATE T SET N = 99 WHERE ID = 1");
+    EXPECT_EQ(answer(*first_, reads), "297");
+    EXPECT_EQ(answer(*first_, lookUp), "0 | 6 | 20");
+    first_->execute("SET DATEFORMAT mdy");
+    EXPECT_EQ(answer(*first_, lookUp), "0 | 5 | 20");
+    EXPECT_EQ(answer(*first_, lookUp), "0 | 5 | 20");
+    // While the rows of one run are being read, the same text runs again.
+    const auto rows = first_->open(loop + "SELECT N FROM @t ORDER BY N");
+    rows->moveNext();
+    EXPECT_EQ(first_->open(loop + "SELECT N FROM @t ORDER BY N")->integer("N"), 0);
+    EXPECT_EQ(rows->integer("N"), 1);
+}
+
 TEST_F(Connections, ARowThatIsGoneCannotBeEdited) {
     const auto rows = first_->openUpdatable("SELECT * FROM T WHERE ID = 2");
     second_->execute("DELETE FROM T WHERE ID = 2");
