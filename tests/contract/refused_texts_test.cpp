@@ -75,7 +75,8 @@ TEST_F(RefusedTexts, AreNamedByTheirFieldAndGetTheFocus) {
         SCOPED_TRACE(std::string{c.box} + " " + c.typed);
         const std::string before = contract();
         const auto errors = host.display.errors().size();
-        if (c.box == std::string{"txtWert"}) host.display.onMessage("Wollen Sie", Answer::yes);
+        if (c.box == std::string{"txtWert"})
+            host.display.onMessage("Wollen Sie", Answer::yes, "Vertrag Preisänderung");
         const auto work = [&](User& user) {
             for (const char* button : c.before)
                 user.click(button);

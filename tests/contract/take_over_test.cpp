@@ -132,6 +132,7 @@ TEST_F(TakingLinesOver, AnotherContractTypeIsAskedFor) {
 }
 
 TEST_F(TakingLinesOver, OfContractsWithTheSameNameTheUserSaysWhich) {
+    host.contracts = {2, 3};
     host.database.execute("UPDATE VERTRAEGE SET VERTRAG_NAME = 'Doppelt' WHERE ID_VERTRAG IN (1,2,3)");
     host.display.onMessage("Es wurden 4 Zeilen übernommen.");
     edit(1, [&](User& user) {

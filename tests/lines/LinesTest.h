@@ -1,12 +1,14 @@
 #pragma once
 
 #include "support/ContractTest.h"
+#include "support/EarlierVisit.h"
 
 #include <string>
 
 namespace tellurix::tests {
 
-/// A test of the line screens, which are opened from the contract editor as a user does.
+/// A test of the line screens, which are opened from the contract editor as a user does, and for the
+/// second time: the first time much was left behind.
 class LinesTest : public ContractTest {
 protected:
     void editPrices(std::int32_t contract, const ScriptedDisplay::Script& script,
@@ -50,7 +52,11 @@ protected:
 private:
     void edit(const char* button, const char* form, std::int32_t contract,
               const ScriptedDisplay::Script& script, const std::string& type) {
-        host.display.onWindow("F_Vertrag", [button](User& user) {
+        host.display.onWindow("F_Vertrag", [this, button, form](User& user) {
+            host.display.aside([&] {
+                host.display.onWindow(form, [this](User& former) { leaveLinesBehind(former, host.display); });
+                user.click(button);
+            });
             user.click(button);
             user.click("btnAbbrechen");
         });

@@ -17,23 +17,23 @@ TEST_F(PriceSelection, ALineNeedsASelection) {
             user.click("cmdNeu");
             user.type("txtPreis", "5");
             user.click("cmdSpeichern");
-            EXPECT_EQ(host.selections, std::vector<std::string>{"23VERTP/A1"}) << "the dialog made the row";
+            EXPECT_EQ(host.selections, std::vector<std::string>{"28VERTP/A1"}) << "the dialog made the row";
             EXPECT_TRUE(user.usable("cmdSpeichern")) << "cancelled: the save has ended";
             host.onSelectionDialog = [](const std::string&) { return " 83 <> 'O''X' "; };
             user.click("cmdSpeichern");
-            EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 23"), "83 <> 'O''X'");
+            EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 28"), "83 <> 'O''X'");
             EXPECT_TRUE(user.checked("chkSelektion"));
             user.click("cmdSpeichern");
             EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 17"), "1")
                 << "one row only";
             host.onSelectionDialog = [](const std::string&) { return "  "; };
             user.click("cmdSelect");
-            EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 23"), "NULL");
+            EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 28"), "NULL");
             EXPECT_FALSE(user.checked("chkSelektion"));
             user.click("cmdOk");
         },
         "a1");
-    EXPECT_EQ(row("SELECT ORDNUNG,PREIS,EURO,ID_WARENEINHEIT FROM VERTRAG_PREISE WHERE ID = 23"),
+    EXPECT_EQ(row("SELECT ORDNUNG,PREIS,EURO,ID_WARENEINHEIT FROM VERTRAG_PREISE WHERE ID = 28"),
               "1 | 5.0000 | false | NULL");
 }
 
@@ -64,10 +64,14 @@ TEST_F(PriceSelection, TheQuickSelectionCompletesAndOffersCodes) {
         const char* bound;
     };
     const Case cases[] = {
-        {"txtHa", "layout of HOLZART_GRID/Ha//01", "txtHa/HA"},
-        {"txtHs", "layout of HOLZSORTE_GRID/Hs//01", "txtHs/HS"},
-        {"txtGKL", "layout of GUETEKLASSE_GRID/GKL//01", "txtGKL/GKL"},
-        {"txtStkl", "layout of STKL_GRID/Stkl//01", "txtStkl/STKL"},
+        {"txtHa", "layout of HOLZART_GRID/Ha//01",
+         "txtHa/HA/SELECT ID,HA FROM HOLZART WHERE ISNULL(DISABLE,0)=0"},
+        {"txtHs", "layout of HOLZSORTE_GRID/Hs//01",
+         "txtHs/HS/SELECT ID,HS FROM HOLZSORTE WHERE ISNULL(DISABLE,0)=0"},
+        {"txtGKL", "layout of GUETEKLASSE_GRID/GKL//01",
+         "txtGKL/GKL/SELECT ID,GKL FROM GUETEKLASSE WHERE ISNULL(DISABLE,0)=0"},
+        {"txtStkl", "layout of STKL_GRID/Stkl//01",
+         "txtStkl/STKL/SELECT ID,STKL FROM STKL WHERE ISNULL(DISABLE,0)=0"},
     };
     editPrices(1, [&](User& user) {
         user.click("cmdBearbeiten");
@@ -101,7 +105,7 @@ TEST_F(PriceSelection, WhatLooksLikeAStatementIsText) {
         EXPECT_EQ(user.grid("MSFlexGrid1").cell(3, 1), "x'; DELETE FROM VERTRAG_PREISE --");
         user.click("cmdOk");
     });
-    EXPECT_EQ(prices("ID", 1), "[1][2][3][23]");
+    EXPECT_EQ(prices("ID", 1), "[1][2][3][28]");
     EXPECT_EQ(prices("*", 2), others);
 }
 

@@ -202,7 +202,7 @@ TEST_F(SelectionDialog, AnUnfinishedConditionKeepsItOpen) {
     for (const Case& c : cases) {
         const std::string value = selected(c.stored, [&](User& user) {
             c.script(user);
-            display.onMessage(c.message);
+            display.onMessage(c.message, ui::Answer::ok, "Selektion");
             user.click("btnOk");
             EXPECT_EQ(user.focused(), c.focused) << c.message;
             user.key(Key::escape);
@@ -212,7 +212,7 @@ TEST_F(SelectionDialog, AnUnfinishedConditionKeepsItOpen) {
 }
 
 TEST_F(SelectionDialog, AValueThatCannotBeReadIsToldAndStays) {
-    display.onMessage("83 LIKE 'F%'");
+    display.onMessage("83 LIKE 'F%'", ui::Answer::ok, "Selektion");
     EXPECT_EQ(selected("83 LIKE 'F%' ;",
                        [](User& user) {
                            EXPECT_TRUE(user.grid("grdConditions").rows().empty());

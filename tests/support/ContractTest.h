@@ -9,18 +9,22 @@
 
 namespace tellurix::tests {
 
-/// A test of the contract screens: a small real database with the sample trade in it, and a host.
+/// A test of the contract screens: a small real database with the sample trade in it, and a host. At its
+/// end all rows that do not belong to a contract which it opened are as they were.
 class ContractTest : public testing::Test {
 private:
     SampleDatabase database_;
     std::unique_ptr<common::Connection> connection_ = database_.connect();
 
 protected:
+    void TearDown() override { EXPECT_EQ(database_.changesBeside(host.contracts, ownTables), ""); }
+
     /// The first row of a query, its fields separated by " | ", past the module's statements.
     std::string row(const std::string& query) { return firstRow(*connection_, query); }
     /// The same for a query of one field.
     std::string value(const std::string& query) { return row(query); }
 
+    std::set<std::string> ownTables; ///< which the test changes in rows of any contract
     TestHost host{*connection_};
 };
 

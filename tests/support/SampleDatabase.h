@@ -3,8 +3,10 @@
 #include "embedded/Database.h"
 #include "support/TestFolder.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <set>
 #include <string>
 
 namespace tellurix::tests {
@@ -18,11 +20,21 @@ public:
     const std::filesystem::path& file() const { return file_; }
     std::unique_ptr<common::Connection> connect() const { return database_->connect(); }
 
+    /// The rows that are others than in the sample, one a line: "- " before those that are gone, "+ "
+    /// before those that came. The rows of the given contracts and tables are left out.
+    std::string changesBeside(const std::set<std::int32_t>& contracts,
+                              const std::set<std::string>& tables) const;
+
 private:
     TestFolder folder_;
     std::filesystem::path file_ = folder_ / "sample.db";
     std::unique_ptr<embedded::Database> database_;
 };
+
+/// All tables of the schema.
+std::set<std::string> tableNames();
+/// A row with the kinds of its values told apart: 1, '1' and NULL.
+std::string literalRow(common::Recordset& row);
 
 /// A field as the texts of the tests write it: NULL, true, 12.50, 2025-06-05, or the text itself.
 std::string written(const common::Value& field);

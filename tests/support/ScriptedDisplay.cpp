@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace tellurix::tests {
 
 namespace {
@@ -135,25 +137,36 @@ std::string User::items(std::string_view control) {
 }
 
 ScriptedDisplay::~ScriptedDisplay() {
-    for (const Expected& window : windows_)
-        ADD_FAILURE() << "the window " << window.form << " was never shown";
-    for (const Reply& reply : replies_)
-        ADD_FAILURE() << "the message \"" << reply.containing << "\" was never shown";
+    expectNothingMore();
     EXPECT_EQ(busy_, 0) << "the hourglass was left on";
 }
 
-void ScriptedDisplay::onWindow(std::string form, Script script) {
-    windows_.push_back({std::move(form), std::move(script)});
+void ScriptedDisplay::expectNothingMore() const {
+    for (const Expected& window : memory_.windows)
+        ADD_FAILURE() << "the window " << window.form << " was never shown";
+    for (const Reply& reply : memory_.replies)
+        ADD_FAILURE() << "the message \"" << reply.containing << "\" was never shown";
 }
 
-void ScriptedDisplay::onMessage(std::string containing, ui::Answer answer) {
-    replies_.push_back({std::move(containing), answer});
+void ScriptedDisplay::aside(const std::function<void()>& work) {
+    Memory waiting = std::exchange(memory_, {});
+    work();
+    expectNothingMore();
+    memory_ = std::move(waiting);
+}
+
+void ScriptedDisplay::onWindow(std::string form, Script script) {
+    memory_.windows.push_back({std::move(form), std::move(script)});
+}
+
+void ScriptedDisplay::onMessage(std::string containing, ui::Answer answer, std::string title) {
+    memory_.replies.push_back({std::move(containing), answer, std::move(title)});
 }
 
 void ScriptedDisplay::showModal(ui::Form& form) {
-    if (windows_.empty()) fail("unexpected window " + form.name());
-    const Expected expected = std::move(windows_.front());
-    windows_.pop_front();
+    if (memory_.windows.empty()) fail("unexpected window " + form.name());
+    const Expected expected = std::move(memory_.windows.front());
+    memory_.windows.pop_front();
     if (expected.form != form.name()) fail("expected the window " + expected.form + ", got " + form.name());
     desktop_.runModal(form, [&]() -> ui::Event {
         User user{desktop_};
@@ -164,11 +177,14 @@ void ScriptedDisplay::showModal(ui::Form& form) {
 }
 
 ui::Answer ScriptedDisplay::messageBox(const std::string& text, int flags, const std::string& title) {
-    messages_.push_back({text, flags, title});
-    if (replies_.empty()) fail("unexpected message: " + text);
-    const Reply reply = std::move(replies_.front());
-    replies_.pop_front();
+    memory_.messages.push_back({text, flags, title});
+    if (memory_.replies.empty()) fail("unexpected message: " + text);
+    const Reply reply = std::move(memory_.replies.front());
+    memory_.replies.pop_front();
     EXPECT_NE(text.find(reply.containing), std::string::npos) << "the message was: " << text;
+    EXPECT_EQ(title, reply.title) << text;
+    const bool asks = ui::box::buttonsOf(flags) != ui::box::ok;
+    EXPECT_EQ(reply.answer != ui::Answer::ok, asks) << "the buttons of: " << text;
     return reply.answer;
 }
 
@@ -182,7 +198,7 @@ void ScriptedDisplay::setBusy(bool busy) {
 
 void ScriptedDisplay::report(const std::exception& error) {
     if (handling_ != nullptr) return handling_->report(error);
-    errors_.emplace_back(error.what());
+    memory_.errors.emplace_back(error.what());
 }
 
 } // namespace tellurix::tests

@@ -77,16 +77,22 @@ public:
 
     /// The next window is the form of that name, and this is what the user does in it.
     void onWindow(std::string form, Script script);
-    /// The next message box holds this text and is answered so.
-    void onMessage(std::string containing, ui::Answer answer = ui::Answer::ok);
+    /// The next message box holds this text and is answered so, which has to be one of its buttons.
+    void onMessage(std::string containing, ui::Answer answer = ui::Answer::ok,
+                   std::string title = "Tellurix");
+    /// Somebody else works the display for a while: what is expected waits, and what is shown to him
+    /// is not remembered.
+    void aside(const std::function<void()>& work);
+    /// The topmost window, or null.
+    ui::Form* top() const { return desktop_.top(); }
 
     /// Errors are shown by the host's error handling from now on, and no longer remembered.
     void reportTo(ui::ErrorHandling& handling) { handling_ = &handling; }
 
     /// All message boxes shown so far.
-    const std::vector<Message>& messages() const { return messages_; }
+    const std::vector<Message>& messages() const { return memory_.messages; }
     /// Messages of the errors handed to the host's error handling so far.
-    const std::vector<std::string>& errors() const { return errors_; }
+    const std::vector<std::string>& errors() const { return memory_.errors; }
 
     void showModal(ui::Form& form) override;
     ui::Answer messageBox(const std::string& text, int flags, const std::string& title) override;
@@ -103,13 +109,19 @@ private:
     struct Reply {
         std::string containing;
         ui::Answer answer;
+        std::string title;
     };
+    /// What is expected, and what was shown.
+    struct Memory {
+        std::deque<Expected> windows;
+        std::deque<Reply> replies;
+        std::vector<Message> messages;
+        std::vector<std::string> errors;
+    };
+    void expectNothingMore() const;
 
     ui::Desktop desktop_{*this};
-    std::deque<Expected> windows_;
-    std::deque<Reply> replies_;
-    std::vector<Message> messages_;
-    std::vector<std::string> errors_;
+    Memory memory_;
     ui::ErrorHandling* handling_ = nullptr;
     int busy_ = 0;
 };

@@ -2,13 +2,25 @@
 
 #include "common/date_format.h"
 #include "common/text.h"
+#include "support/EarlierVisit.h"
+#include "support/SampleDatabase.h"
+#include "ui/caption.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <stdexcept>
+#include <tuple>
+#include <utility>
 
 namespace tellurix::tests {
+
+namespace {
+
+/// What the host's standard client is; no other number that the module hands on is the same.
+constexpr std::int16_t standardClient = 77;
+
+} // namespace
 
 void FaultyConnection::check(std::string_view statement) const {
     if (part_.empty() || statement.find(part_) == std::string_view::npos) return;
@@ -49,8 +61,13 @@ TestHost::TestHost(common::Connection& inner)
                .lookupGridDialog = *this,
                .typeAhead = *this,
                .selectionTranslator = *this},
-      traced_(database,
-              [this](const tracing::Statement& statement) { statements.push_back(statement.text); }),
+      inner_(inner),
+      traced_(database, [this](const tracing::Statement& statement) { remember(statement); }),
+      formerlyTraced_(inner,
+                      [this](const tracing::Statement& statement) {
+                          EXPECT_EQ(call_->session.connection, &formerlyTraced_)
+                              << "on the connection of an earlier call: " << statement.text;
+                      }),
       module_(services) {
     session = {.connection = &traced_, .accessLevel = 2, .homeCurrency = "CHF", .site = {}, .user = "test"};
 }
@@ -59,46 +76,165 @@ TestHost::~TestHost() {
     host::releaseModuleState();
 }
 
-void TestHost::openContract(std::int32_t id, const std::string& type, bool newVertrag) {
+void TestHost::remember(const tracing::Statement& statement) {
+    statements.push_back(statement.text);
+    // Those that are meant for all lines of a contract, or for all that a contract has.
+    const bool many = statement.text.starts_with("DELETE FROM") ||
+                      statement.text.starts_with("UPDATE VERTRAG_PREISE SET PREIS = ROUND(") ||
+                      statement.text.find(" SET ORDNUNG = ORDNUNG - 1 ") != std::string::npos;
+    if (!many && !statement.text.starts_with("SELECT")) {
+        EXPECT_LE(statement.rowsAffected, 1) << statement.text;
+    }
+}
+
+void TestHost::run(const host::TlxVar& with, std::int32_t contract, const std::string& type,
+                   bool newVertrag) {
+    call_ = Call{with, contract, type};
+    answer1_.clear();
+    answer2_.clear();
     // The main window is this object, which outlives the call and all screens.
     const std::shared_ptr<host::HostMainWindow> mainWindow{std::shared_ptr<void>{}, this};
-    module_.Vertrag_Run(session, id, "", type, ".", ",", "", blnOK, bolEuroChange, mainWindow, 1, newVertrag,
-                        "Vertrag", false);
+    host::TlxVar lent = with;
+    module_.Vertrag_Run(lent, contract, "", type, ".", ",", "", blnOK, bolEuroChange, mainWindow,
+                        standardClient, newVertrag, "Vertrag", false);
+}
+
+void TestHost::openContract(std::int32_t id, const std::string& type, bool newVertrag) {
+    if (!std::exchange(visited_, true)) showAnotherContract(id);
+    contracts.insert(id);
+    run(session, id, type, newVertrag);
+}
+
+void TestHost::showAnotherContract(std::int32_t than) {
+    const auto remembering = [](auto&... members) {
+        return [&members..., before = std::tuple{members...}]() mutable {
+            std::tie(members...) = std::move(before);
+        };
+    };
+    auto restore = remembering(blnOK, bolEuroChange, requests, picks, pickedText, pickedPerson, pickedKey,
+                               lists, foundKeys, listsKnowLimits, settings, selections, typeAheads);
+    foundKeys.clear();
+    blnOK = true;
+    pickedPerson = 0;
+    settings["MESZAHL"] = "1";
+    display.aside([&] {
+        leaveMuchBehind(display);
+        run({.connection = &formerlyTraced_,
+             .accessLevel = 8,
+             .homeCurrency = "DKK",
+             .site = "UELZEN",
+             .user = "vorher",
+             .language = "en"},
+            than == fullContract ? sparseContract : fullContract, "A6", false);
+    });
+    restore();
+    statements.clear();
+}
+
+void TestHost::expectOwn(const host::TlxVar& with) const {
+    const host::TlxVar& own = call_ ? call_->session : session;
+    EXPECT_EQ(with.connection, own.connection);
+    EXPECT_EQ(with.accessLevel, own.accessLevel);
+    EXPECT_EQ(with.homeCurrency, own.homeCurrency);
+    EXPECT_EQ(with.site, own.site);
+    EXPECT_EQ(with.user, own.user);
+    EXPECT_EQ(with.language, own.language);
+}
+
+void TestHost::expectUpperType(const std::string& type) const {
+    EXPECT_EQ(type, common::toUpper(call_->type));
+}
+
+ui::TextBox& TestHost::focusedBox() const {
+    return dynamic_cast<ui::TextBox&>(*display.top()->focused());
+}
+
+void TestHost::expectFocused(const ui::TextBox& box) const {
+    EXPECT_EQ(box.name(), focusedBox().name());
+}
+
+std::string TestHost::captionOfFocused() const {
+    return ui::plainCaption(display.top()->labelOf(focusedBox())->caption());
+}
+
+std::string TestHost::contractField(const std::string& column) const {
+    return firstRow(inner_, "SELECT " + column +
+                                " FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(call_->contract));
+}
+
+void TestHost::expectLevel(int level) const {
+    const std::string own = contractField("ID_ACCESS_LEVELS");
+    if (own == "no row") return; // a contract that is gone has none
+    EXPECT_EQ(level, own == "NULL" ? call_->session.accessLevel : std::stoi(own));
 }
 
 std::string TestHost::readValue(const host::TlxVar& with, const std::string& column, const std::string& table,
                                 const std::string& condition) {
+    expectOwn(with);
+    EXPECT_EQ(condition, " ID_VERTRAG = " + std::to_string(call_->contract));
     const auto row = with.connection->open("SELECT " + column + " FROM " + table + " WHERE" + condition);
     return row->atEnd() ? std::string{} : row->text(column);
 }
 
-void TestHost::request(const host::TlxVar&, const std::string& code, const std::string& type, std::string&,
-                       std::string&) {
+void TestHost::request(const host::TlxVar& with, const std::string& code, const std::string& type,
+                       std::string& out1, std::string& out2) {
+    expectOwn(with);
+    expectUpperType(type);
+    EXPECT_EQ(&out1, &host::moduleState().context.strServiceOut1);
+    EXPECT_EQ(&out2, &host::moduleState().context.strServiceOut2);
     requests.push_back(code + "/" + type);
+    out1 = answer1_ = "first answer to " + code;
+    out2 = answer2_ = "second answer to " + code;
 }
 
-std::int32_t TestHost::choose(const host::TlxVar&, const std::string& mode, int accessLevel, std::int16_t,
-                              std::int32_t, host::Boolean16& confirmed) {
+std::int32_t TestHost::choose(const host::TlxVar& with, const std::string& mode, int accessLevel,
+                              std::int16_t client, std::int32_t currentPerson, host::Boolean16& confirmed) {
+    expectOwn(with);
+    expectLevel(accessLevel);
+    EXPECT_EQ(client, standardClient);
+    const auto* box = ui::as<ui::TextBox>(display.top()->focused());
+    if (box != nullptr) {
+        EXPECT_EQ(std::to_string(currentPerson), box->tag().empty() ? "0" : box->tag());
+    } else {
+        const std::string shown = dynamic_cast<ui::TextBox&>(*display.top()->find("txtKunde")).text();
+        EXPECT_EQ(shown.empty() ? "no row" : shown,
+                  firstRow(inner_, "SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = " +
+                                       std::to_string(currentPerson)));
+    }
+    EXPECT_EQ(&confirmed, &host::moduleState().context.blnOK);
     picks.push_back(mode + "/" + std::to_string(accessLevel));
     confirmed = host::toBoolean16(pickedPerson > 0);
     return pickedPerson;
 }
 
-std::string TestHost::choose(const host::TlxVar&, const std::string& query, const std::string& title,
+std::string TestHost::choose(const host::TlxVar& with, const std::string& query, const std::string& title,
                              const std::string& current, const std::string& text) {
+    expectOwn(with);
     EXPECT_EQ(text, "");
+    // Either the list of the box, or a question about what is in it.
+    const bool asks = title.find("„" + focusedBox().text() + "“") != std::string::npos;
+    EXPECT_EQ(current, asks ? "" : focusedBox().text());
+    EXPECT_TRUE(asks || ui::plainCaption(title).ends_with(captionOfFocused())) << title;
+    EXPECT_EQ(query == calendar ? "SHORT" : inner_.open(query)->fieldName(0), "SHORT");
     picks.push_back(query + "/" + title);
     return pickedText.empty() ? current : pickedText;
 }
 
-std::string TestHost::choose(const host::TlxVar&, const std::string& list, const std::string& title,
-                             const Limits& limits, const std::string&) {
+std::string TestHost::choose(const host::TlxVar& with, const std::string& list, const std::string& title,
+                             const Limits& limits, const std::string& current) {
+    expectOwn(with);
+    EXPECT_EQ(limits.contract, call_->contract);
+    EXPECT_EQ(title, captionOfFocused());
+    EXPECT_EQ(current, focusedBox().text());
     lists.push_back(list + "/" + title + "/" + limits.type + "/" + std::to_string(limits.contract));
     return pickedKey;
 }
 
 std::vector<std::string> TestHost::find(const host::TlxVar& with, const std::string& list,
                                         const std::string& text, const Limits& limits) {
+    expectOwn(with);
+    EXPECT_EQ(limits.contract, call_->contract);
+    EXPECT_EQ(text, focusedBox().text());
     lists.push_back(list + "/" + text + "/" + limits.type + "/" + std::to_string(limits.contract));
     if (!foundKeys.empty()) return foundKeys;
     const bool types = list == "TYPEOFVERTRAG_VALID";
@@ -114,13 +250,17 @@ std::vector<std::string> TestHost::find(const host::TlxVar& with, const std::str
 }
 
 std::string TestHost::typeOf(const host::TlxVar& with, std::int32_t contract) {
-    return readValue(with, "VER_TYPE", "VERTRAEGE", " ID_VERTRAG = " + std::to_string(contract));
+    expectOwn(with);
+    return firstRow(inner_, "SELECT VER_TYPE FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(contract));
 }
 
 bool TestHost::resolve(const host::TlxVar& with, std::int32_t option, const std::string& query,
                        ui::TextBox& box, ui::TextBox* shown, const std::string& displayColumn,
                        ui::TextBox* third, const std::string& text) {
+    expectOwn(with);
+    expectFocused(box);
     EXPECT_TRUE(option == -1 && third == nullptr && text.empty());
+    EXPECT_EQ(shown != nullptr, !displayColumn.empty());
     box.setTag("");
     if (shown != nullptr) shown->setText("");
     if (box.text().empty()) return true;
@@ -131,49 +271,80 @@ bool TestHost::resolve(const host::TlxVar& with, std::int32_t option, const std:
     return true;
 }
 
-std::string TestHost::build(const host::TlxVar&, const std::string& table, const std::string& number, int,
-                            const std::string& filter) {
+std::string TestHost::build(const host::TlxVar& with, const std::string& table, const std::string& number,
+                            int accessLevel, const std::string& filter) {
+    expectOwn(with);
+    EXPECT_EQ(number, focusedBox().text());
+    expectLevel(accessLevel);
+    EXPECT_EQ(filter, focusedBox().name() == "txtMandant(0)" ? "PERSONAL_VALID_MANDANTEN" : "PERSONAL_VALID");
     return "SELECT ID_PERSONAL,NUMMER,KURZBEZEICHNUNG FROM " + table + " WHERE NUMMER = " + number +
            (filter == "PERSONAL_VALID_MANDANTEN" ? " AND ISNULL(MANDANT,0) = 1" : "");
 }
 
-std::string TestHost::toSql(const std::string& text, const host::TlxVar&) {
+std::string TestHost::toSql(const std::string& text, const host::TlxVar& with) {
+    expectOwn(with);
     return common::formatDate(common::parseDate(text).value(), "yyyymmdd", common::Locale::german());
 }
 
-std::string TestHost::text(const host::TlxVar&, const std::string& name) {
-    const auto setting = settings.find(name);
-    if (setting != settings.end()) return setting->second;
-    return name.ends_with("_GRID") ? "layout of " + name : std::string{};
+std::string TestHost::text(const host::TlxVar& with, const std::string& name) {
+    expectOwn(with);
+    return name.ends_with("_GRID") ? "layout of " + name : settings.at(name);
 }
 
-int TestHost::of(const host::TlxVar&, const std::string& table, const std::string& column) {
+int TestHost::of(const host::TlxVar& with, const std::string& table, const std::string& column) {
+    expectOwn(with);
+    EXPECT_EQ(inner_.open("SELECT " + column + " FROM " + table)->fieldType(0), common::FieldType::text);
     const auto width = columnWidths.find(table + "." + column);
     return width == columnWidths.end() ? 0 : width->second;
 }
 
-std::optional<std::string> TestHost::select(const host::TlxVar&, const std::string& key,
-                                            const std::string& upperType, const std::string&,
-                                            const std::string&) {
+std::optional<std::string> TestHost::select(const host::TlxVar& with, const std::string& key,
+                                            const std::string& upperType, const std::string& out1,
+                                            const std::string& out2) {
+    expectOwn(with);
+    expectUpperType(upperType);
+    EXPECT_EQ(out1, answer1_);
+    EXPECT_EQ(out2, answer2_);
+    const std::size_t letters = key.find("VERT");
+    const bool price = display.top()->name() == "F_VertragPreise";
+    EXPECT_EQ(key.substr(letters), price ? "VERTP" : "VERTM");
+    EXPECT_EQ(firstRow(inner_, std::string{"SELECT ID_VERTRAG FROM "} +
+                                   (price ? "VERTRAG_PREISE" : "VERTRAG_MENGEN") +
+                                   " WHERE ID = " + key.substr(0, letters)),
+              std::to_string(call_->contract))
+        << "the line of the selection dialog";
     selections.push_back(key + "/" + upperType);
     return onSelectionDialog ? onSelectionDialog(key) : std::nullopt;
 }
 
-std::string TestHost::choose(const host::TlxVar&, const std::string& layout, const std::string& title,
+std::string TestHost::choose(const host::TlxVar& with, const std::string& layout, const std::string& title,
                              const std::string& text, const std::string& mode, const std::string& current) {
+    expectOwn(with);
+    EXPECT_EQ(title, captionOfFocused());
+    EXPECT_EQ(current, focusedBox().text());
     picks.push_back(layout + "/" + title + "/" + text + "/" + mode);
     return pickedText.empty() ? current : pickedText;
 }
 
-void TestHost::bind(const host::TlxVar&, ui::TextBox& box, const std::string&,
+void TestHost::bind(const host::TlxVar& with, ui::TextBox& box, const std::string& query,
                     const std::string& displayColumn) {
-    typeAheads.push_back(box.name() + "/" + displayColumn);
+    expectOwn(with);
+    expectFocused(box);
+    EXPECT_EQ(inner_.open(query)->fieldName(1), displayColumn);
+    typeAheads.push_back(box.name() + "/" + displayColumn + "/" + query);
 }
 
 /// Translates the conditions that the tests use, by the letter: "83 IN (" and "83 NOT IN (" become
 /// LOGS.HA, and so on. Any other piece is one that cannot be read.
-std::string TestHost::translate(const host::TlxVar&, const std::string&, const std::string&,
-                                const std::string& value, const std::string&, const std::string&) {
+std::string TestHost::translate(const host::TlxVar& with, const std::string& kind,
+                                const std::string& sameKind, const std::string& value,
+                                const std::string& upperType, const std::string& formValue) {
+    expectOwn(with);
+    EXPECT_EQ(kind, "1LV");
+    EXPECT_EQ(sameKind, kind);
+    expectUpperType(upperType);
+    EXPECT_EQ(formValue, contractField("VERTRAG_NAME"));
+    EXPECT_FALSE(value.empty());
     translations.push_back(value);
     const std::map<std::string, std::string> columns = {
         {"83 ", "HA"}, {"87 ", "HS"}, {"90 ", "GKL"}, {"93 ", "STKL"}, {"94 ", "LANGE"}};

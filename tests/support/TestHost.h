@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,11 @@ private:
 /// A host for tests: a scripted display, a fixed day, services that answer what a test told them,
 /// and a memory of every statement and every request. Letting go of it forgets the module state of
 /// the thread, as unloading the module does.
+///
+/// Whatever a test looks at, it fails when a service is handed anything but the session, the contract
+/// type, the access level, the texts of the context and the box that the host expects at the moment;
+/// when a statement changes several rows that is not meant to; and when the screens only work
+/// on their first contract: before the first call of a test, another contract has been worked on.
 class TestHost final : host::HostDataAccess,
                        host::HostModuleService,
                        host::HostLocalizer,
@@ -60,6 +66,9 @@ public:
     /// The way the host calls the module for a contract of the given type.
     void openContract(std::int32_t id, const std::string& type = "R", bool newVertrag = false);
 
+    /// The contracts that a test works on. What belongs to others has to stay as it is.
+    std::set<std::int32_t> contracts;
+
     /// What the module asks whether the host works on articles.
     host::HostMainWindow& mainWindow() { return *this; }
 
@@ -82,21 +91,47 @@ public:
     std::vector<std::string> foundKeys; ///< what it finds instead of the contracts of that name
     bool listsKnowLimits = true;        ///< whether they obey the limits that they are given
 
-    std::map<std::string, std::string> settings; ///< the named settings that are not empty
+    std::map<std::string, std::string> settings{{"MESZAHL", ""}}; ///< the named settings that are asked for
     /// What the selection dialog does with the key that it is given; nothing is a cancelled dialog.
     std::function<std::optional<std::string>(const std::string& key)> onSelectionDialog;
     std::map<std::string, int> columnWidths; ///< of the text columns that have a limit: "TABLE.COLUMN"
     std::vector<std::string> selections;     ///< selection dialogs opened: "key/type"
     std::vector<std::string> translations;   ///< selection values translated
-    std::vector<std::string> typeAheads;     ///< boxes bound: "box/column"
+    std::vector<std::string> typeAheads;     ///< boxes bound: "box/column/query"
 
 private:
+    /// What the host handed over when it called the module.
+    struct Call {
+        host::TlxVar session;
+        std::int32_t contract = 0;
+        std::string type;
+    };
+    /// Opens another contract for another user at another site, on a connection of its own, and leaves
+    /// behind what can be left behind.
+    void showAnotherContract(std::int32_t than);
+    void run(const host::TlxVar& with, std::int32_t contract, const std::string& type, bool newVertrag);
+    void remember(const tracing::Statement& statement);
+
+    void expectOwn(const host::TlxVar& with) const;
+    void expectUpperType(const std::string& type) const;
+    /// The box that the user is in.
+    void expectFocused(const ui::TextBox& box) const;
+    ui::TextBox& focusedBox() const;
+    /// What the label beside the user's box says, which is how its lists are called.
+    std::string captionOfFocused() const;
+    /// The contract's own level, or the user's.
+    void expectLevel(int level) const;
+    std::string contractField(const std::string& column) const;
+
     std::string readValue(const host::TlxVar&, const std::string& column, const std::string& table,
                           const std::string& condition) override;
     void request(const host::TlxVar&, const std::string& code, const std::string& type, std::string& out1,
                  std::string& out2) override;
-    void localize(const host::TlxVar&, ui::Form&) override {}
-    std::string text(int number, const host::TlxVar&) override { return "Text " + std::to_string(number); }
+    void localize(const host::TlxVar& with, ui::Form&) override { expectOwn(with); }
+    std::string text(int number, const host::TlxVar& with) override {
+        expectOwn(with);
+        return "Text " + std::to_string(number);
+    }
     std::int32_t choose(const host::TlxVar&, const std::string& mode, int accessLevel,
                         std::int16_t standardClient, std::int32_t currentPerson,
                         host::Boolean16& confirmed) override;
@@ -114,11 +149,13 @@ private:
                       int accessLevel, const std::string& filter) override;
     std::string toSql(const std::string& text, const host::TlxVar&) override;
     std::string text(const host::TlxVar&, const std::string& name) override;
-    void save(const host::TlxVar&, const ui::Grid&, const std::string&) override {}
-    void restore(const host::TlxVar&, ui::Grid&, const std::string&) override {}
+    void save(const host::TlxVar& with, const ui::Grid&, const std::string&) override { expectOwn(with); }
+    void restore(const host::TlxVar& with, ui::Grid&, const std::string&) override { expectOwn(with); }
     int of(const host::TlxVar&, const std::string& table, const std::string& column) override;
-    void set(const host::TlxVar&, const std::string&, const std::string&, const std::string&,
-             const std::string&) override {}
+    void set(const host::TlxVar& with, const std::string&, const std::string&, const std::string&,
+             const std::string&) override {
+        expectOwn(with);
+    }
     std::optional<std::string> select(const host::TlxVar&, const std::string& key,
                                       const std::string& upperType, const std::string& out1,
                                       const std::string& out2) override;
@@ -131,8 +168,14 @@ private:
                           const std::string& formValue) override;
     bool IsArtikel() override { return articles; }
 
+    common::Connection& inner_;
     tracing::TracingConnection traced_;
+    tracing::TracingConnection formerlyTraced_;
     host::clsVertrag module_;
+    std::optional<Call> call_;
+    std::string answer1_; ///< what the module service answered last in this call
+    std::string answer2_;
+    bool visited_ = false;
 };
 
 } // namespace tellurix::tests

@@ -26,6 +26,12 @@ INSERT INTO VERTRAEGE (ID_VERTRAG, VERTRAG_NAME, VER_TYPE, ID_FAKTART, INVDATE, 
 (14, 'A7-2024-002 Vermessung Graz', 'A7', 8, '20240110', '20240115', '20241215', NULL, NULL, NULL, NULL, 4, 1, NULL, NULL, 1, NULL, NULL, 1),
 (15, 'A8-2025-001 Provision Gmunden', 'A8', 9, '20250402', '20250401', '20260331', 'Provision je vermitteltem Fm', NULL, 1.5, 2, 4, 1, 45, NULL, 2, NULL, NULL, NULL),
 (17, 'A1-2026-001 Einkauf Mariahof', 'A1', 2, '20260205', '20260301', '20261031', NULL, NULL, NULL, 2, 3, NULL, 32, NULL, 1, NULL, 1, 0)
+
+-- For comparing: 18 has every field, each with a value of its own; 19 only every second one. The places of
+-- their lines run in another order than the keys.
+INSERT INTO VERTRAEGE (ID_VERTRAG, VERTRAG_NAME, VER_TYPE, ID_FAKTART, INVDATE, DATE1, DATE2, DATE3, LIEFERVON, LIEFERBIS, KOPF1, KOPF2, KOPF3, KOPF4, KOPF5, KOPF6, KOPF7, KOPF8, KOPF9, KOPF10, NUMM1, NUMM2, NUMM3, NUMM4, NUMM5, NUMM6, NUMM7, NUMM8, NUMM9, NUMM10, RART_ID, BUCHNR_ID, EURO, ID_PERSONAL, ID_PERSONAL_LIEFERADRESSE, ID_MANDANTEN, ID_ACCESS_LEVELS, ACL_EMPTY, ABGESCHLOSSEN, ZUSATZTEXT, ZUSATZTEXT_1, ZUSATZTEXT_2) VALUES
+(18, 'A6-2024-001 Stockkauf Obdach', 'A6', 7, '20240201', '20240202', '20240203', '20240204', '20240205', '20241206', 'Schlag Tannhof', 'Zahlung in drei Raten', 'Rinde beim Käufer', 'Auszeige durch den Förster', 'Rückegassen ausgesteckt', 'Bringung bei Frost', 'Waldort Abteilung 7', 'Schlagruhe im April', 'Reisig bleibt liegen', 'Haftung beim Käufer', 1.01, 20.02, 300.03, 4000.04, 50000.05, 6.06, 70.07, 800.08, 9000.09, 10000.1, 5, 4, 0, 33, 53, 2, 6, 0, 1, 'Stockkauf nach Hieb', 'Grenzen bezeichnet', 'Kaution hinterlegt'),
+(19, 'A3-2024-002 Fracht Rohrbach', 'A3', 4, NULL, '20240302', NULL, '20240304', NULL, '20241106', 'Fracht nur tagsüber', NULL, 'Maut beim Auftraggeber', NULL, 'Ladezeit eine Stunde', NULL, 'Anmeldung per Telefon', NULL, 'Standgeld nach Tarif', NULL, 11.5, NULL, 13.25, NULL, 15.75, NULL, 17.05, NULL, 19.95, NULL, NULL, 5, 1, NULL, 54, NULL, NULL, 1, 1, NULL, 'Kette mitführen', NULL)
 SET IDENTITY_INSERT VERTRAEGE OFF
 GO
 
@@ -54,7 +60,12 @@ INSERT INTO VERTRAG_PREISE (ID, ID_VERTRAG, ORDNUNG, BEZEICHNUNG, SELEKTION_VALU
 (19, 13, 1, 'Fichte am Stock', '83 IN (''FI'') ;93 IN (''2a'', ''2b'') ;', NULL, 52, 1, 1, 34.5),
 (20, 13, 2, 'Buche am Stock', '83 IN (''BU'') ;', NULL, 41, 1, 1, 22.75),
 (21, 15, 1, 'Provision', '83 IN (''FI'') ;', NULL, 0.8, 1, 1, NULL),
-(22, 5, 1, 'Käferholz', '83 IN (''FI'') ;90 IN (''CX'') ;', NULL, 61, 1, 1, NULL)
+(22, 5, 1, 'Käferholz', '83 IN (''FI'') ;90 IN (''CX'') ;', NULL, 61, 1, 1, NULL),
+(23, 18, 3, 'Buche am Hang', '83 IN (''BU'') ;87 IN (''BR'') ;90 IN (''D'') ;93 IN (''2b'') ;94 IN (1) ;', 3.3, 33.33, 1, 4, 13.31),
+(24, 19, 2, 'Fracht leer', NULL, 2.2, NULL, 1, NULL, 1.5),
+(25, 18, 1, 'Fichte am Hang', '83 IN (''FI'') ;87 IN (''B'') ;90 IN (''A'') ;93 IN (''1b'') ;94 IN (4) ;', 1.1, 11.11, 0, 2, 11.22),
+(26, 19, 1, 'Fracht voll', '87 IN (''L'') ;93 IN (''3a'') ;', NULL, 9.99, NULL, 3, NULL),
+(27, 18, 2, 'Lärche am Hang', '83 IN (''LA'') ;87 IN (''L'') ;90 IN (''B'') ;93 IN (''2a'') ;94 IN (5) ;', 2.2, 22.22, 0, 8, 12.21)
 SET IDENTITY_INSERT VERTRAG_PREISE OFF
 GO
 
@@ -81,12 +92,18 @@ INSERT INTO VERTRAG_MENGEN (ID, ID_VERTRAG, ORDNUNG, BEZEICHNUNG, SELEKTION_VALU
 (18, 13, 1, 'Fichte am Stock', '83 IN (''FI'') ;', 350, 1),
 (19, 13, 2, 'Buche am Stock', '83 IN (''BU'') ;', 120, 2),
 (20, 16, 2, 'Schleifholz', '87 IN (''S'') ;', 900, 1),
-(21, 16, 5, 'Schleifholz Bruch', '90 IN (''CX'') ;', 60, 2)
+(21, 16, 5, 'Schleifholz Bruch', '90 IN (''CX'') ;', 60, 2),
+(22, 18, 3, 'Buche', '83 IN (''BU'') ;', 30.5, 6),
+(23, 19, 2, 'Rückfracht', NULL, NULL, 7),
+(24, 18, 1, 'Fichte', '83 IN (''FI'') ;', 10.25, 2),
+(25, 19, 1, 'Hinfracht', '83 IN (''TA'') ;', 44.4, NULL),
+(26, 18, 2, 'Lärche', '83 IN (''LA'') ;', 200.125, 4)
 SET IDENTITY_INSERT VERTRAG_MENGEN OFF
 GO
 
 -- Delivered logs: 1 to 6 for contract 1, 10 to 12 for contract 3, 20 to 22 for contract 4,
--- 30 to 33 for contract 6, 40 for the stumpage contract 13; log 50 is not booked anywhere.
+-- 30 to 33 for contract 6, 40 for the stumpage contract 13; log 50 is not booked anywhere; 60 to 62, in
+-- which no measure is like another, for contract 18.
 SET IDENTITY_INSERT LOGS ON
 INSERT INTO LOGS (ID_LOG, NUMMER, DATUM, HA, HS, GKL, STKL, LANGE, MENGE, DSART, KUBATUR, KUBRM, KUBATRO, STK, UFAKT_RM, UFAKT_ATO, UFAKT_STK, UFAKT_LUT) VALUES
 (1, 250001, '20250120', 'FI', 'B', 'A', '3a', 4, 20.5, 1, 20.5, NULL, NULL, 31, 0.7, 2.4, 0.66, 1.2),
@@ -106,7 +123,10 @@ INSERT INTO LOGS (ID_LOG, NUMMER, DATUM, HA, HS, GKL, STKL, LANGE, MENGE, DSART,
 (32, 260032, '20260212', 'LA', 'ST', NULL, '1a', 2.5, 250, 3, 6.25, NULL, NULL, 250, NULL, NULL, 0.025, NULL),
 (33, 260033, '20260213', 'FI', 'ST', NULL, '1b', 3, 60, 3, 4.2, NULL, NULL, 60, NULL, NULL, 0.07, NULL),
 (40, 250040, '20250422', 'FI', 'B', 'B', '2a', 4, 44.6, 1, 44.6, NULL, NULL, 120, 0.7, NULL, NULL, NULL),
-(50, 250050, '20250604', 'FI', 'B', 'B', '3a', 4, 33.3, 1, 33.3, NULL, NULL, 50, 0.7, 2.4, NULL, 1.2)
+(50, 250050, '20250604', 'FI', 'B', 'B', '3a', 4, 33.3, 1, 33.3, NULL, NULL, 50, 0.7, 2.4, NULL, 1.2),
+(60, 240060, '20240611', 'FI', 'B', 'A', '1b', 4, 12.6, 1, 12.6, 17.1, 5.3, 21, 0.7, 2.5, 0.6, 1.8),
+(61, 240061, '20240612', 'LA', 'L', 'B', '2a', 5, 13, 1, 13, 18.2, 6.4, 22, 0.8, 2.6, 0.65, 1.7),
+(62, 240062, '20240613', 'BU', 'BR', 'D', '2b', 1, 23, 3, 14.4, 19.3, 7.5, 23, 0.9, 2.4, 0.75, 1.6)
 SET IDENTITY_INSERT LOGS OFF
 GO
 
@@ -128,7 +148,10 @@ INSERT INTO LOGS_RECH (ID_LOG, R_VERTRAG, A1_VERTRAG, A2_VERTRAG, A6_VERTRAG, A2
 (31, 'R-2026-001 Stangen Passau', NULL, NULL, NULL, NULL),
 (32, 'R-2026-001 Stangen Passau', NULL, NULL, NULL, NULL),
 (33, 'R-2026-001 Stangen Passau', NULL, NULL, NULL, NULL),
-(40, NULL, NULL, NULL, 'A6-2025-001 Stockkauf Gußwerk', NULL)
+(40, NULL, NULL, NULL, 'A6-2025-001 Stockkauf Gußwerk', NULL),
+(60, NULL, NULL, NULL, 'A6-2024-001 Stockkauf Obdach', NULL),
+(61, NULL, NULL, NULL, 'A6-2024-001 Stockkauf Obdach', NULL),
+(62, NULL, NULL, NULL, 'A6-2024-001 Stockkauf Obdach', NULL)
 GO
 
 -- Surcharge and deduction lines. STATISTIK is the place in the list of statistics; the reference
@@ -139,5 +162,7 @@ INSERT INTO ABSCHLAG (RECH_NAME, VER_TYPE, LINE_NUM, ABS_MODEL, STATISTIK, BEZEI
 ('R-2025-001 Fichte Wolfsberg', 'V', 2, 'Sägewerk Standard', 13, 'Skonto', '-2', '1,2', NULL, NULL),
 ('R-2025-003 Faserholz Judenburg', 'V', 0, NULL, 5, 'Frachtkostenersatz', '8,5', NULL, NULL, 1),
 ('A1-2025-001 Einkauf Breitenau', 'V1', 0, 'Einkauf Kleinwald', 11, 'Verbandsbeitrag', '-0,4', NULL, NULL, 4),
-('A1-2025-001 Einkauf Breitenau', 'V1', 1, 'Einkauf Kleinwald', 7, 'Wegebenützung', '-1,2', '1', NULL, NULL)
+('A1-2025-001 Einkauf Breitenau', 'V1', 1, 'Einkauf Kleinwald', 7, 'Wegebenützung', '-1,2', '1', NULL, NULL),
+('A6-2024-001 Stockkauf Obdach', 'V', 0, 'Sägewerk Altbestand', 2, 'Rindenabzug Fichte', '-10', NULL, NULL, 2),
+('A6-2024-001 Stockkauf Obdach', 'V6', 0, 'Stockkauf Bauernwald', 12, 'Vermessung je Stück', '1,235', NULL, '83 IN (''BU'') ;', 5)
 GO

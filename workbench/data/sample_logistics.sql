@@ -1,7 +1,8 @@
 -- Sample data, third file: the logistics coordination of some contracts. Needs the other two files.
 
 -- Settings: contracts 3 and 4 take weekly provision reports, 5 is a closed contract, 7 and 16 take none
--- (weekday NULL and 0); contract 1 has settings, but neither weeks nor helpers.
+-- (weekday NULL and 0); contract 1 has settings, but neither weeks nor helpers;
+-- 18 has every setting, each with a value of its own.
 SET IDENTITY_INSERT WVO_VERTRAG ON
 INSERT INTO WVO_VERTRAG (ID, ID_VERTRAEGE, ANGEMELDETEMENGE, GESPERRT, MENGENAUF, SICHTBAR, GESCHAEFTSFELD_NEU, VORVERTRAG, ANGEMELDETE, MENGENMELDUNG, UBERLIEFERUNG, BEMERKUNG, [ORIGINAL], BEREITSELLUNGS, BEREITSELLUNGSTIME, ID_WVO_T_BELIEFERUNG, ID_WVO_T_LIEFERPARITAT, KEINE_MENGENMELDUNG_AUF_WB, FHP_LOGISTIK_VERWENDEN, FHP_WALDVERBAND_KOORDINATOR, FHP_WH_TA_TEILEN, FHP_TA_SENDETAG, FHP_TA_SENDETIME) VALUES
 (1, 3, NULL, NULL, 1, 1, 1, NULL, '20250425', '20250430', 10, 'Zufuhr nur auf Abruf, Zufahrt über Möderbrugg', 'c:\VertragsdokumenteOriginal\R-2025-003.pdf', 5, '12:00', 2, 2, 1, 1, 1, 1, 2, '06:30'),
@@ -9,7 +10,8 @@ INSERT INTO WVO_VERTRAG (ID, ID_VERTRAEGE, ANGEMELDETEMENGE, GESPERRT, MENGENAUF
 (3, 5, 1, 1, NULL, NULL, NULL, NULL, NULL, NULL, 5, 'Abgeschlossen', NULL, 4, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL),
 (4, 7, NULL, NULL, NULL, NULL, 1, 1, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, 1, NULL, NULL, NULL, NULL, NULL),
 (5, 16, 0, NULL, NULL, 1, 1, NULL, '20250615', '20250620', 2.5, NULL, NULL, 0, NULL, 3, 3, NULL, NULL, NULL, NULL, NULL, NULL),
-(6, 1, NULL, NULL, NULL, NULL, 1, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, 1, NULL, NULL, NULL, NULL, NULL)
+(6, 1, NULL, NULL, NULL, NULL, 1, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, 1, NULL, NULL, NULL, NULL, NULL),
+(7, 18, 1, NULL, 1, NULL, 1, NULL, '20240206', '20240307', 50, 'Abfuhr über den Tannhof', 'c:\VertragsdokumenteOriginal\A6-2024-001.pdf', 6, '10:30', 3, 1, NULL, 1, NULL, 1, 4, '05:45')
 SET IDENTITY_INSERT WVO_VERTRAG OFF
 GO
 
