@@ -181,6 +181,7 @@ ui::Answer ScriptedDisplay::messageBox(const std::string& text, int flags, const
     if (memory_.replies.empty()) fail("unexpected message: " + text);
     const Reply reply = std::move(memory_.replies.front());
     memory_.replies.pop_front();
+    if (reply.containing.empty()) return reply.answer;
     EXPECT_NE(text.find(reply.containing), std::string::npos) << "the message was: " << text;
     EXPECT_EQ(title, reply.title) << text;
     const bool asks = ui::box::buttonsOf(flags) != ui::box::ok;

@@ -77,7 +77,8 @@ public:
 
     /// The next window is the form of that name, and this is what the user does in it.
     void onWindow(std::string form, Script script);
-    /// The next message box holds this text and is answered so, which has to be one of its buttons.
+    /// The next message box holds this text and is answered so, which has to be one of its buttons. With
+    /// no text, any message box is meant.
     void onMessage(std::string containing, ui::Answer answer = ui::Answer::ok,
                    std::string title = "Tellurix");
     /// Somebody else works the display for a while: what is expected waits, and what is shown to him
