@@ -21,6 +21,8 @@ using nlohmann::json;
 
 namespace {
 
+constexpr std::chrono::seconds patience{5};
+
 tcp::endpoint endpointOf(std::uint16_t port) {
     return {net::ip::address_v4::loopback(), port};
 }
@@ -30,6 +32,16 @@ tcp::endpoint endpointOf(std::uint16_t port) {
 struct PageClient::Connection {
     net::io_context context;
     websocket::stream<tcp::socket> stream{context};
+
+    /// Does what has been started. A server that says nothing any more must not keep a test waiting.
+    void finish() {
+        context.restart();
+        context.run_for(patience);
+        if (context.stopped()) return;
+        beast::error_code ignored;
+        stream.next_layer().close(ignored);
+        context.run();
+    }
 };
 
 PageClient::PageClient(const std::string& address, const std::string& origin)
@@ -41,9 +53,10 @@ PageClient::PageClient(const std::string& address, const std::string& origin)
     const std::string from = origin.empty() ? "http://" + host : origin;
     connection_->stream.set_option(websocket::stream_base::decorator(
         [from](websocket::request_type& request) { request.set(beast::http::field::origin, from); }));
-    beast::error_code error;
-    connection_->stream.handshake(host, "/" + key + "/session", error);
-    connected_ = !error;
+    const std::string target = "/" + key + "/session";
+    connection_->stream.async_handshake(host, target,
+                                        [this](beast::error_code error) { connected_ = !error; });
+    connection_->finish();
 }
 
 PageClient::~PageClient() {
@@ -58,22 +71,33 @@ void PageClient::sendText(const std::string& text, bool binary) {
 
 json PageClient::receive() {
     beast::flat_buffer buffer;
-    beast::error_code error;
-    connection_->stream.read(buffer, error);
-    if (error) return nullptr;
+    beast::error_code failure;
+    connection_->stream.async_read(buffer,
+                                   [&failure](beast::error_code error, std::size_t) { failure = error; });
+    connection_->finish();
+    if (failure) return nullptr;
     return json::parse(beast::buffers_to_string(buffer.data()));
 }
 
-json PageClient::greet(const std::string& known, bool takeOver, bool orNew) {
+json PageClient::sayHello(const std::string& known, bool takeOver, bool orNew) {
     sendText(json{{"type", "hello"}, {"session", known}, {"takeOver", takeOver}, {"orNew", orNew}}.dump());
-    const json greeting = receive();
+    json greeting = receive();
     if (!greeting.is_object() || !greeting.contains("session")) return greeting;
     session = greeting["session"];
     number = std::max(number, greeting["received"].get<std::uint64_t>());
+    return greeting;
+}
+
+void PageClient::redraw() {
     sendText(json{{"type", "redraw"}, {"n", ++number}}.dump());
     do {
         drawing = receive();
     } while (drawing.is_object() && !drawing.contains("complete"));
+}
+
+json PageClient::greet(const std::string& known, bool takeOver, bool orNew) {
+    json greeting = sayHello(known, takeOver, orNew);
+    if (greeting.is_object() && greeting.contains("session")) redraw();
     return greeting;
 }
 

@@ -23,10 +23,13 @@ public:
     /// Sends an event with the next number and waits for its acknowledgement.
     /// @return the drawings up to then, their "changed" and "opened" of one kind after the other
     nlohmann::json say(nlohmann::json event);
-    /// The next message; null when the connection has been closed.
+    /// The next message; null when the connection has been closed, or none comes.
     nlohmann::json receive();
-    /// Greets, and asks for the whole drawing.
-    /// @return the greeting; `drawing` has what follows
+    /// Greets. @return the answer
+    nlohmann::json sayHello(const std::string& session = {}, bool takeOver = false, bool orNew = true);
+    /// Asks for the whole drawing and waits for it: `drawing`.
+    void redraw();
+    /// Both, one after the other.
     nlohmann::json greet(const std::string& session = {}, bool takeOver = false, bool orNew = true);
     /// After the other side's end: why.
     int closeCode() const;

@@ -3,6 +3,12 @@
 #include "web/DemoForm.h"
 #include "web/PageClient.h"
 
+#include <netinet/in.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <ctime>
 #include <thread>
 
 namespace tellurix::workbench {
@@ -44,10 +50,39 @@ protected:
         return page.drawing["opened"]
             .front()["controls"][static_cast<std::size_t>(idOf(page, control))]["text"];
     }
+    static json clicking(const PageClient& page, const std::string& control) {
+        return {{"type", "click"}, {"window", 1}, {"control", idOf(page, control)}};
+    }
     static json typing(PageClient& page, const std::string& control, const std::string& text) {
         return {{"type", "text"}, {"window", 1}, {"control", idOf(page, control)},
                 {"text", text},   {"start", 0},  {"length", 0}};
     }
+
+    /// A connection that says nothing.
+    class Silent {
+    public:
+        Silent() = default;
+        ~Silent() { ::close(socket_); }
+        Silent(const Silent&) = delete;
+        Silent& operator=(const Silent&) = delete;
+
+        bool connect(const Server& server) const {
+            sockaddr_in address{};
+            address.sin_family = AF_INET;
+            address.sin_port = htons(server.port());
+            address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+            return ::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+        }
+        /// Waits until the other side closes it. @return whether it did before it said anything
+        bool isClosed() const {
+            char byte = 0;
+            return ::recv(socket_, &byte, 1, 0) <= 0;
+        }
+        void send(const std::string& bytes) const { ::send(socket_, bytes.data(), bytes.size(), 0); }
+
+    private:
+        int socket_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    };
 
     std::atomic<int> ended_ = 0; ///< sessions that came to their end
 
@@ -61,7 +96,7 @@ private:
 };
 
 TEST_F(ServerTest, SilentTowardsStrangersAndMalformedRequests) {
-    Server& server = start({.patience = 300ms});
+    Server& server = start({.patience = 300ms, .strangersPatience = 300ms});
     const std::string host = "127.0.0.1:" + std::to_string(server.port());
     const std::string target = server.address().substr(server.address().find("/?"));
     struct Row {
@@ -76,9 +111,13 @@ TEST_F(ServerTest, SilentTowardsStrangersAndMalformedRequests) {
              {"two hosts", "GET " + target + " HTTP/1.1\r\nHost: " + host + "\r\nHost: evil.example\r\n\r\n",
               403},
              {"no host", "GET " + target + " HTTP/1.1\r\n\r\n", 403},
+             {"cookies of all other programs on this machine",
+              "GET " + target + " HTTP/1.1\r\nHost: " + host +
+                  "\r\nConnection: close\r\nCookie: " + std::string(20000, 'x') + "\r\n\r\n",
+              200},
              {"no HTTP", "hello\r\n\r\n", 0},
              {"endless headers",
-              "GET " + target + " HTTP/1.1\r\nHost: " + host + "\r\nX: " + std::string(9000, 'x') +
+              "GET " + target + " HTTP/1.1\r\nHost: " + host + "\r\nX: " + std::string(70000, 'x') +
                   "\r\n\r\n",
               0},
              {"a long body",
@@ -96,7 +135,7 @@ TEST_F(ServerTest, SilentTowardsStrangersAndMalformedRequests) {
 }
 
 TEST_F(ServerTest, MalformedMessagesCloseTheConnectionAndSpareTheSession) {
-    Server& server = start({.grace = 10s, .messageBytes = 4096});
+    Server& server = start({.grace = 10s, .messageBytes = 100'000});
     struct Row {
         const char* rule;
         std::string message;
@@ -108,12 +147,13 @@ TEST_F(ServerTest, MalformedMessagesCloseTheConnectionAndSpareTheSession) {
     for (const auto& row : std::vector<Row>{
              {"not JSON", "hello", false, 1007},
              {"a wrong type", R"({"n":"x","type":"key"})", false, 1007},
+             {"a text within a text within a text", std::string(90'000, '['), false, 1007},
              {"no UTF-8", "\"\xFF\"", false, 1007},
              {"binary", "{}", true, 1003},
-             {"too long", std::string(5000, ' '), false, 1009},
+             {"too long", std::string(100'001, ' '), false, 1009},
          }) {
         PageClient page{server.address()};
-        page.greet(session, true);
+        EXPECT_EQ(page.greet(session, true)["messageBytes"], 100'000);
         if (session.empty()) page.say(typing(page, "txtName", "bleibt"));
         EXPECT_EQ(textOf(page, "txtName"), session.empty() ? "" : "bleibt") << row.rule;
         session = page.session;
@@ -203,6 +243,67 @@ TEST_F(ServerTest, ALivePageKeepsItsSessionUnlessItIsKnownToBeGone) {
     EXPECT_EQ(server.sessionCount(), 2U);
 }
 
+TEST_F(ServerTest, AnOldPagesEndLeavesTheNewOneConnected) {
+    Server& server = start();
+    PageClient old{server.address()};
+    old.greet();
+    PageClient fresh{server.address()};
+    fresh.greet(old.session, true);
+    old.vanish();
+    // Longer than the session would wait for a page that is gone.
+    std::this_thread::sleep_for(600ms);
+    EXPECT_FALSE(fresh.say(typing(fresh, "txtName", "noch da"))["changed"].empty());
+    EXPECT_EQ(server.sessionCount(), 1U);
+}
+
+TEST_F(ServerTest, APageIsToldNothingBeforeItHasTheWholeDrawing) {
+    Server& server = start({.grace = 10s});
+    std::string session;
+    {
+        PageClient page{server.address()};
+        page.greet();
+        session = page.session;
+        page.sendText(
+            typing(page, "txtName", "vorher").patch(R"([{"op":"add","path":"/n","value":50}])"_json).dump());
+        page.sendText(
+            clicking(page, "btnSlow").patch(R"([{"op":"add","path":"/n","value":51}])"_json).dump());
+        EXPECT_TRUE(page.receive().is_object());
+    }
+    PageClient back{server.address()};
+    ASSERT_TRUE(back.sayHello(session, true).contains("session"));
+    // Meanwhile the slow handler comes to its end, and what it changed is drawn.
+    std::this_thread::sleep_for(600ms);
+    back.sendText(json{{"type", "redraw"}, {"n", 60}}.dump());
+    const json first = back.receive();
+    EXPECT_TRUE(first.contains("complete")) << first.dump().substr(0, 200);
+}
+
+TEST_F(ServerTest, DrawingsCountAsWaitingUntilThePageHasTakenThem) {
+    // One whole drawing is half of that.
+    Server& server = start({.grace = 10s, .messageBytes = 500'000, .waitingBytes = 100'000});
+    PageClient page{server.address()};
+    page.greet();
+    ASSERT_GT(page.drawing.dump().size(), 40'000U);
+    for (int i = 0; i < 6; ++i)
+        page.redraw();
+    EXPECT_TRUE(page.drawing.is_object())
+        << "a page that reads is never cut off, whatever it was sent in all";
+
+    const std::string longText(400'000, 'x');
+    page.say(typing(page, "txtKunde", longText));
+    page.redraw();
+    EXPECT_TRUE(page.drawing.is_object()) << "nor for one drawing, which would be no smaller the next time";
+    // Far more than the system keeps for a connection whose page does not read.
+    for (int i = 0; i < 60; ++i)
+        page.sendText(json{{"type", "redraw"}, {"n", ++page.number}}.dump());
+    ASSERT_TRUE(soon([&] {
+        return PageClient(server.address()).sayHello(page.session, false, false).contains("session");
+    })) << "it has been cut off";
+    PageClient back{server.address()};
+    back.greet(page.session, true);
+    EXPECT_EQ(textOf(back, "txtKunde"), longText);
+}
+
 TEST_F(ServerTest, AnAbandonedSessionEndsWithoutAskingItsScreens) {
     Server& server = start();
     const int asked = DemoForm::queriedUnloads;
@@ -233,6 +334,67 @@ TEST_F(ServerTest, OneSessionTooManyIsToldSo) {
     // Closing one makes room.
     EXPECT_EQ(pages.front()->say({{"type", "close"}, {"window", 1}})["ended"], "closed");
     EXPECT_TRUE(soon([&] { return PageClient(server.address()).greet().contains("session"); }));
+}
+
+TEST_F(ServerTest, WhenAllAreTakenASessionInWhichNothingWasDoneGivesItsPlace) {
+    Server& server = start({.sessions = 3, .grace = 10s});
+    PageClient watched{server.address()};
+    watched.greet();
+    std::string untouched;
+    std::string worked;
+    {
+        PageClient onlyLooked{server.address()};
+        onlyLooked.greet();
+        untouched = onlyLooked.session;
+        PageClient typed{server.address()};
+        typed.greet();
+        typed.say(typing(typed, "txtName", "getippt"));
+        worked = typed.session;
+    }
+    PageClient next{server.address()};
+    ASSERT_TRUE(soon([&] { return PageClient(server.address()).greet().contains("session"); }));
+    EXPECT_EQ(PageClient(server.address()).greet(untouched, false, false)["ended"], "gone");
+    PageClient back{server.address()};
+    EXPECT_EQ(back.greet(worked)["session"], worked);
+    EXPECT_EQ(textOf(back, "txtName"), "getippt");
+    EXPECT_FALSE(watched.say(typing(watched, "txtName", "noch da"))["changed"].empty());
+}
+
+TEST_F(ServerTest, WhoHasNoKeyNeitherWaitsLongNorKeepsOthersOut) {
+    Server& server = start({.sessions = 2, .strangersPatience = 500ms});
+    std::vector<std::unique_ptr<Silent>> strangers;
+    for (int i = 0; i < 200; ++i) {
+        strangers.push_back(std::make_unique<Silent>());
+        ASSERT_TRUE(strangers.back()->connect(server));
+        strangers.back()->send("GET / HTTP/1.1\r\nHost: ");
+    }
+    PageClient page{server.address()};
+    EXPECT_TRUE(page.greet().contains("session"));
+    const auto before = std::chrono::steady_clock::now();
+    for (const auto& stranger : strangers)
+        EXPECT_TRUE(stranger->isClosed());
+    EXPECT_LT(std::chrono::steady_clock::now() - before, 5s) << "not as long as one who has the key";
+    EXPECT_FALSE(page.say(typing(page, "txtName", "noch da"))["changed"].empty());
+}
+
+TEST_F(ServerTest, WithoutAFileLeftItPausesAndGoesOnWhenThereIsOneAgain) {
+    Server& server = start({.strangersPatience = 10s});
+    ASSERT_EQ(request(server.port(), "GET / HTTP/1.1\r\n\r\n").status, 403);
+    const Silent late;
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
+    const int next = ::dup(0);
+    ::close(next);
+    const rlimit none{static_cast<rlim_t>(next), limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    EXPECT_TRUE(late.connect(server));
+    const std::clock_t before = std::clock();
+    std::this_thread::sleep_for(1s);
+    const double busy = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    EXPECT_LT(busy, 0.3) << "of one second";
+    late.send("GET / HTTP/1.1\r\n\r\n");
+    EXPECT_FALSE(late.isClosed()) << "it is answered";
 }
 
 TEST_F(ServerTest, AnErrorInAnEventIsShownAndTheSessionGoesOn) {

@@ -1,10 +1,11 @@
 #include "web/HttpConnection.h"
 
+#include "web/guarded.h"
+
 #include <boost/beast/http/read.hpp>
 #include <boost/beast/http/write.hpp>
 #include <boost/beast/websocket/rfc6455.hpp>
 
-#include <iostream>
 #include <utility>
 
 namespace tellurix::workbench {
@@ -14,7 +15,8 @@ namespace http = beast::http;
 
 namespace {
 
-constexpr std::uint32_t mostHeaderBytes = 8 * 1024;
+// Cookies of all other programs on this machine come along.
+constexpr std::uint32_t mostHeaderBytes = 64 * 1024;
 constexpr std::uint64_t mostBodyBytes = 1024;
 
 std::string text(beast::string_view view) {
@@ -34,35 +36,47 @@ SiteRequest neutral(const SocketConnection::Request& request) {
 } // namespace
 
 HttpConnection::HttpConnection(boost::asio::ip::tcp::socket socket, const Site& site, Sessions& sessions,
-                               SocketConnection::Limits limits, std::shared_ptr<void> place)
-    : stream_(std::move(socket)),
-      site_(site),
-      sessions_(sessions),
-      limits_(limits),
-      place_(std::move(place)) {}
+                               Places& places, Limits limits)
+    : stream_(std::move(socket)), site_(site), sessions_(sessions), places_(places), limits_(limits) {}
+
+template <typename Action>
+auto HttpConnection::handler(Action action) {
+    return guarded(std::move(action), [self = shared_from_this()] { self->close(); });
+}
+
+void HttpConnection::start() {
+    place_ = places_.forStranger([connection = weak_from_this()] {
+        if (const auto self = connection.lock()) self->close();
+    });
+    read();
+}
+
+std::chrono::milliseconds HttpConnection::patience() const {
+    return known_ ? limits_.known.patience : limits_.strangersPatience;
+}
 
 void HttpConnection::read() {
     parser_.emplace();
     parser_->header_limit(mostHeaderBytes);
     parser_->body_limit(mostBodyBytes);
-    stream_.expires_after(limits_.patience);
+    stream_.expires_after(patience());
     http::async_read(stream_, buffer_, *parser_,
-                     [self = shared_from_this()](beast::error_code error, std::size_t) {
+                     handler([self = shared_from_this()](beast::error_code error, std::size_t) {
                          // A request that is too long, malformed or never finished gets no answer.
-                         if (error) return;
-                         try {
-                             self->handle();
-                         } catch (const std::exception& failure) {
-                             std::cerr << "Request failed: " << failure.what() << '\n';
-                         }
-                     });
+                         if (!error) self->handle();
+                     }));
 }
 
 void HttpConnection::handle() {
     const SocketConnection::Request request = parser_->release();
     const SiteRequest asked = neutral(request);
+    if (!known_ && site_.knows(asked)) {
+        place_ = places_.forKnown();
+        if (!place_) return;
+        known_ = true;
+    }
     if (site_.admitsConnection(asked)) {
-        std::make_shared<SocketConnection>(std::move(stream_), sessions_, limits_, std::move(place_))
+        std::make_shared<SocketConnection>(std::move(stream_), sessions_, limits_.known, std::move(place_))
             ->start(request);
         return;
     }
@@ -79,9 +93,9 @@ void HttpConnection::handle() {
 
 void HttpConnection::write(Response response) {
     const auto kept = std::make_shared<Response>(std::move(response));
-    stream_.expires_after(limits_.patience);
+    stream_.expires_after(patience());
     http::async_write(
-        stream_, *kept, [self = shared_from_this(), kept](beast::error_code error, std::size_t) {
+        stream_, *kept, handler([self = shared_from_this(), kept](beast::error_code error, std::size_t) {
             if (error) return;
             if (kept->keep_alive()) {
                 self->read();
@@ -89,7 +103,11 @@ void HttpConnection::write(Response response) {
             }
             beast::error_code ignored;
             self->stream_.socket().shutdown(boost::asio::ip::tcp::socket::shutdown_send, ignored);
-        });
+        }));
+}
+
+void HttpConnection::close() {
+    stream_.close();
 }
 
 } // namespace tellurix::workbench

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "web/Places.h"
 #include "web/Sessions.h"
 #include "web/Site.h"
 #include "web/SocketConnection.h"
@@ -10,6 +11,7 @@
 #include <boost/beast/http/parser.hpp>
 #include <boost/beast/http/string_body.hpp>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -19,26 +21,38 @@ namespace tellurix::workbench {
 /// connection goes on as a SocketConnection. Lives as long as one of its operations is under way.
 class HttpConnection final : public std::enable_shared_from_this<HttpConnection> {
 public:
-    /// @param place held as long as the connection lives, so that the living ones can be counted
-    HttpConnection(boost::asio::ip::tcp::socket socket, const Site& site, Sessions& sessions,
-                   SocketConnection::Limits limits, std::shared_ptr<void> place);
+    struct Limits {
+        std::chrono::milliseconds strangersPatience; ///< for each request and answer until the key was shown
+        SocketConnection::Limits known;              ///< from then on
+    };
 
-    void start() { read(); }
+    HttpConnection(boost::asio::ip::tcp::socket socket, const Site& site, Sessions& sessions, Places& places,
+                   Limits limits);
+
+    /// Waits for the first request.
+    void start();
 
 private:
     using Response = boost::beast::http::response<boost::beast::http::string_body>;
 
+    /// Makes a handler that closes this connection when it fails.
+    template <typename Action>
+    auto handler(Action action);
+    std::chrono::milliseconds patience() const;
     void read();
     void handle();
     void write(Response response);
+    void close();
 
     boost::beast::tcp_stream stream_;
     boost::beast::flat_buffer buffer_;
     std::optional<boost::beast::http::request_parser<boost::beast::http::string_body>> parser_;
     const Site& site_;
     Sessions& sessions_;
-    const SocketConnection::Limits limits_;
-    std::shared_ptr<void> place_;
+    Places& places_;
+    const Limits limits_;
+    Places::Place place_;
+    bool known_ = false; ///< it has shown the key
 };
 
 } // namespace tellurix::workbench

@@ -1,17 +1,18 @@
 #include "web/Server.h"
 
 #include "web/HttpConnection.h"
+#include "web/Places.h"
 #include "web/Sessions.h"
 #include "web/Site.h"
+#include "web/guarded.h"
 #include "web/secrets.h"
 
 #include <boost/asio/executor_work_guard.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/post.hpp>
+#include <boost/asio/steady_timer.hpp>
 
-#include <atomic>
-#include <iostream>
-#include <optional>
+#include <stdexcept>
 #include <thread>
 
 namespace tellurix::workbench {
@@ -23,7 +24,19 @@ namespace {
 
 /// The browser opens a few connections for the files of a page beside its lasting one.
 constexpr std::size_t connectionsBesideSessions = 64;
+constexpr std::size_t mostStrangers = 64;
 constexpr std::size_t mostQueuedMessages = 256;
+/// Until it is worth trying again to accept: until then somebody may have left.
+constexpr std::chrono::milliseconds pauseAfterFailure{200};
+
+tcp::acceptor listeningAt(net::io_context& context, std::uint16_t port) {
+    try {
+        return {context, tcp::endpoint{net::ip::address_v4::loopback(), port}};
+    } catch (const boost::system::system_error& error) {
+        throw std::runtime_error{"port " + std::to_string(port) +
+                                 " of 127.0.0.1 cannot be used: " + error.code().message()};
+    }
+}
 
 } // namespace
 
@@ -31,56 +44,88 @@ constexpr std::size_t mostQueuedMessages = 256;
 struct Server::Network {
     Network(Program program, const ServerOptions& given)
         : options(given),
-          acceptor(context, tcp::endpoint{net::ip::address_v4::loopback(), given.port}),
+          places(given.sessions + connectionsBesideSessions, mostStrangers),
+          acceptor(listeningAt(context, given.port)),
           site(acceptor.local_endpoint().port(), randomKey()),
-          sessions(std::move(program), {given.grace, given.stackBytes, mostQueuedMessages}, given.sessions) {
-        sessions.onFinished = [this] { net::post(context, [this] { sessions.sweep(); }); };
-        accept();
-        thread = std::thread{[this] { context.run(); }};
+          sessions(std::move(program),
+                   {given.grace, given.stackBytes, mostQueuedMessages, given.messageBytes}, given.sessions) {
+        sessions.onFinished = [this] { net::post(context, guarded([this] { sessions.sweep(); })); };
+        thread = std::thread{[this] { run(); }};
+    }
+
+    void run() {
+        // What the library itself throws may have cost it the wait for the next connection.
+        for (bool finished = false; !finished;)
+            guarded(
+                [&] {
+                    startAccepting();
+                    context.run();
+                    finished = true;
+                },
+                [] { std::this_thread::sleep_for(pauseAfterFailure); })();
+    }
+
+    void startAccepting() {
+        boost::system::error_code ignored;
+        acceptor.cancel(ignored);
+        pause.cancel();
+        if (acceptor.is_open()) accept();
     }
 
     void accept() {
         acceptor.async_accept([this](boost::system::error_code error, tcp::socket socket) {
             if (error == net::error::operation_aborted) return;
-            if (!error) serve(std::move(socket));
+            // No file is left to open a connection with: accepting would fail over and over at once.
+            if (error) return acceptLater();
+            guarded([&] { serve(std::move(socket)); })();
             accept();
         });
     }
 
+    void acceptLater() {
+        pause.expires_after(pauseAfterFailure);
+        pause.async_wait([this](boost::system::error_code error) {
+            if (!error) accept();
+        });
+    }
+
     void serve(tcp::socket socket) {
-        // One too many is closed at once: it goes out of scope.
-        if (connections >= options.sessions + connectionsBesideSessions) return;
         // An answer goes out at once, also behind another one that the browser has not confirmed yet.
         boost::system::error_code ignored;
         socket.set_option(tcp::no_delay{true}, ignored);
-        try {
-            ++connections;
-            const std::shared_ptr<void> place{nullptr, [this](void*) { --connections; }};
-            std::make_shared<HttpConnection>(std::move(socket), site, sessions,
-                                             SocketConnection::Limits{options.messageBytes, options.patience},
-                                             place)
-                ->start();
-        } catch (const std::exception& failure) {
-            std::cerr << "Connection refused: " << failure.what() << '\n';
-        }
+        std::make_shared<HttpConnection>(
+            std::move(socket), site, sessions, places,
+            HttpConnection::Limits{options.strangersPatience,
+                                   {options.messageBytes, options.waitingBytes, options.patience}})
+            ->start();
     }
 
     void stop() {
         if (!thread.joinable()) return;
-        net::post(context, [this] { acceptor.close(); });
+        net::post(context, guarded([this] {
+                      acceptor.close();
+                      pause.cancel();
+                  }));
         sessions.stop();
         // The last messages of the sessions are still on their way; a page that does not answer the
         // end of its connection is not waited for.
-        net::post(context, [this] { finishBy.expires_after(std::chrono::milliseconds{300}); });
-        net::post(context,
-                  [this] { finishBy.async_wait([this](boost::system::error_code) { context.stop(); }); });
+        const auto finish = [this] { context.stop(); };
+        net::post(context, guarded(
+                               [this, finish] {
+                                   finishBy.expires_after(std::chrono::milliseconds{300});
+                                   finishBy.async_wait([finish](boost::system::error_code) { finish(); });
+                               },
+                               finish));
         thread.join();
     }
 
     const ServerOptions options;
-    std::atomic<std::size_t> connections = 0;
+    Places places;
     net::io_context context{1};
+    /// `stop` ends the run, and not that the library has lost count of its work by an exception.
+    net::executor_work_guard<net::io_context::executor_type> running{context.get_executor()};
     tcp::acceptor acceptor;
+    net::steady_timer pause{context};
     net::steady_timer finishBy{context};
     Site site;
     Sessions sessions;

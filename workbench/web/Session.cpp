@@ -1,5 +1,7 @@
 #include "web/Session.h"
 
+#include "web/guarded.h"
+
 #include <nlohmann/json.hpp>
 
 #include <iostream>
@@ -12,8 +14,8 @@ Session::Session(std::string id, Limits limits) : id_(std::move(id)), limits_(li
 void Session::start(const Program& program, std::function<void()> onFinished) {
     thread_.start(limits_.stackBytes, [this, program, onFinished = std::move(onFinished)] {
         run(program);
-        sayGoodbye();
-        onFinished();
+        guarded([this] { sayGoodbye(); })();
+        guarded(onFinished)();
     });
 }
 
@@ -45,17 +47,25 @@ bool Session::finished() const {
     return finished_;
 }
 
+std::optional<Session::Clock::time_point> Session::leftUntouchedAt() const {
+    const std::lock_guard lock{mutex_};
+    if (link_ || connection_ == 0 || touched_) return std::nullopt;
+    return detachedAt_;
+}
+
 bool Session::attach(std::shared_ptr<PageLink> link, bool takeOver) {
     const std::lock_guard lock{mutex_};
     if (finished_ || ending_ || (link_ && !takeOver)) return false;
     if (!link_ && connection_ > 0 && Clock::now() >= detachedAt_ + limits_.grace) return false;
+    link->send(
+        nlohmann::json{{"session", id_}, {"received", received_}, {"messageBytes", limits_.messageBytes}}
+            .dump());
     if (link_) {
         link_->send(nlohmann::json{{"ended", "takenOver"}}.dump());
         link_->close();
     }
     link_ = std::move(link);
     ++connection_;
-    link_->send(nlohmann::json{{"session", id_}, {"received", received_}}.dump());
     changed_.notify_all();
     return true;
 }
@@ -73,6 +83,7 @@ bool Session::post(const PageLink& link, PageMessage message) {
     if (link_.get() != &link || message.number <= received_) return true;
     if (queue_.size() >= limits_.queuedMessages) return false;
     received_ = message.number;
+    touched_ = touched_ || message.kind != PageMessage::Kind::redraw;
     message.connection = connection_;
     queue_.push_back(std::move(message));
     changed_.notify_all();

@@ -39,6 +39,7 @@ public:
         std::chrono::milliseconds grace; ///< how long the session waits for a page that went away
         std::size_t stackBytes;
         std::size_t queuedMessages;
+        std::size_t messageBytes; ///< of one message; told to the page
     };
 
     Session(std::string id, Limits limits);
@@ -49,6 +50,8 @@ public:
     void start(const Program& program, std::function<void()> onFinished);
     void join() { thread_.join(); }
     bool finished() const;
+    /// When its page went away without ever having done anything; nothing for every other session.
+    std::optional<std::chrono::steady_clock::time_point> leftUntouchedAt() const;
 
     /// Connects a page. Another one that is still connected is sent away, with `takeOver`, or else
     /// refused its place to.
@@ -86,6 +89,7 @@ private:
     std::uint64_t connection_ = 0;      ///< counts the connections
     std::uint64_t drawnConnection_ = 0; ///< the one whose page has got everything
     std::uint64_t received_ = 0;        ///< number of the last message queued
+    bool touched_ = false;              ///< the user has done something
     Clock::time_point detachedAt_ = Clock::now();
     std::optional<std::string> ending_;
     bool finished_ = false;

@@ -2,7 +2,8 @@
 
 #include "web/secrets.h"
 
-#include <vector>
+#include <algorithm>
+#include <iterator>
 
 namespace tellurix::workbench {
 
@@ -22,6 +23,7 @@ std::shared_ptr<Session> Sessions::find(const std::string& id) {
 std::shared_ptr<Session> Sessions::create() {
     sweep();
     const std::lock_guard lock{mutex_};
+    if (sessions_.size() >= atMost_) makeRoom();
     if (stopped_ || sessions_.size() >= atMost_) return nullptr;
     auto session = std::make_shared<Session>(randomKey(), limits_);
     session->start(program_, [this] {
@@ -29,6 +31,21 @@ std::shared_ptr<Session> Sessions::create() {
     });
     sessions_.emplace(session->id(), session);
     return session;
+}
+
+void Sessions::makeRoom() {
+    auto longest = sessions_.end();
+    std::optional<std::chrono::steady_clock::time_point> since;
+    for (auto at = sessions_.begin(); at != sessions_.end(); ++at) {
+        const auto left = at->second->leftUntouchedAt();
+        if (!left || (since && *left >= *since)) continue;
+        longest = at;
+        since = left;
+    }
+    if (longest == sessions_.end()) return;
+    longest->second->end("abandoned");
+    sentAway_.push_back(std::move(longest->second));
+    sessions_.erase(longest);
 }
 
 std::size_t Sessions::count() {
@@ -46,24 +63,30 @@ void Sessions::sweep() {
                 ++at;
                 continue;
             }
-            gone.push_back(std::move(at->second));
+            gone.push_back(at->second);
             at = sessions_.erase(at);
         }
+        const auto done = [](const auto& session) { return session->finished(); };
+        std::ranges::copy_if(sentAway_, std::back_inserter(gone), done);
+        std::erase_if(sentAway_, done);
     }
     for (const auto& session : gone)
         session->join();
 }
 
 void Sessions::stop() {
-    std::map<std::string, std::shared_ptr<Session>> all;
+    std::vector<std::shared_ptr<Session>> all;
     {
         const std::lock_guard lock{mutex_};
         stopped_ = true;
-        all.swap(sessions_);
+        all.swap(sentAway_);
+        for (auto& [id, session] : sessions_)
+            all.push_back(std::move(session));
+        sessions_.clear();
     }
-    for (const auto& [id, session] : all)
+    for (const auto& session : all)
         session->end("stopped");
-    for (const auto& [id, session] : all)
+    for (const auto& session : all)
         session->join();
 }
 

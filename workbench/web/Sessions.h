@@ -2,12 +2,12 @@
 
 #include "web/Session.h"
 
-#include <condition_variable>
 #include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <string>
+#include <vector>
 
 namespace tellurix::workbench {
 
@@ -22,7 +22,8 @@ public:
 
     /// The session of that id, or null.
     std::shared_ptr<Session> find(const std::string& id);
-    /// Starts a new one, or returns null when there are as many as allowed.
+    /// Starts a new one, or returns null when there are as many as allowed. Before that, a session
+    /// whose page went away without having done anything gives its place.
     /// @throws std::exception when the system has no means for another one
     std::shared_ptr<Session> create();
     /// How many are at work.
@@ -36,11 +37,15 @@ public:
     std::function<void()> onFinished;
 
 private:
+    /// Sends away the session that has been left longest of those in which nothing was done.
+    void makeRoom();
+
     const Session::Program program_;
     const Session::Limits limits_;
     const std::size_t atMost_;
     std::mutex mutex_;
     std::map<std::string, std::shared_ptr<Session>> sessions_;
+    std::vector<std::shared_ptr<Session>> sentAway_; ///< on their way to their end
     bool stopped_ = false;
 };
 

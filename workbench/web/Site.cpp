@@ -97,6 +97,10 @@ SiteReply Site::page(const SiteRequest& request) const {
     }
 }
 
+bool Site::knows(const SiteRequest& request) const {
+    return ownHost(request.host) && keyedName(request.target).has_value();
+}
+
 bool Site::admitsConnection(const SiteRequest& request) const {
     // The origin is the page's own address, by the same name as the request's.
     return request.upgrade && ownHost(request.host) && request.origin == "http://" + request.host &&

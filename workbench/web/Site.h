@@ -38,6 +38,8 @@ public:
     /// Where the user goes.
     std::string address() const;
     SiteReply answer(const SiteRequest& request) const;
+    /// Whether the request has the key, and so comes from the user.
+    bool knows(const SiteRequest& request) const;
     /// Whether this asks for the page's connection and may have it. Otherwise `answer` it.
     bool admitsConnection(const SiteRequest& request) const;
 

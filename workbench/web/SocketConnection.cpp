@@ -1,11 +1,12 @@
 #include "web/SocketConnection.h"
 
+#include "web/guarded.h"
+
 #include <boost/asio/post.hpp>
 #include <boost/beast/core/buffers_to_string.hpp>
 #include <boost/beast/websocket/rfc6455.hpp>
 #include <nlohmann/json.hpp>
 
-#include <iostream>
 #include <utility>
 
 namespace tellurix::workbench {
@@ -16,9 +17,6 @@ namespace websocket = beast::websocket;
 
 namespace {
 
-/// More than this waits to be sent only when the page has stopped reading.
-constexpr std::size_t mostOutgoingBytes = 32UL * 1024 * 1024;
-
 std::string ended(const char* reason) {
     return nlohmann::json{{"ended", reason}}.dump();
 }
@@ -26,61 +24,51 @@ std::string ended(const char* reason) {
 } // namespace
 
 SocketConnection::SocketConnection(beast::tcp_stream stream, Sessions& sessions, Limits limits,
-                                   std::shared_ptr<void> place)
+                                   Places::Place place)
     : stream_(std::move(stream)),
       greetingTimer_(stream_.get_executor()),
       sessions_(sessions),
       limits_(limits),
       place_(std::move(place)) {}
 
-void SocketConnection::guarded(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const ProtocolError&) {
-        closeWith(CloseCode::bad_payload);
-    } catch (const std::exception& error) {
-        std::cerr << "Connection failed: " << error.what() << '\n';
-        drop();
-    }
+template <typename Action>
+auto SocketConnection::handler(Action action) {
+    return guarded(std::move(action), [self = shared_from_this()] { self->drop(); });
 }
 
 void SocketConnection::start(const Request& request) {
-    guarded([&] {
-        // From here on the WebSocket has timeouts of its own.
-        beast::get_lowest_layer(stream_).expires_never();
-        stream_.set_option(websocket::stream_base::timeout{
-            .handshake_timeout = limits_.patience,
-            .idle_timeout = std::chrono::seconds{30},
-            .keep_alive_pings = true,
-        });
-        stream_.read_message_max(limits_.messageBytes);
-        stream_.async_accept(request, [self = shared_from_this()](Code error) {
-            if (error) return;
-            self->guarded([&self] {
-                self->greetingTimer_.expires_after(self->limits_.patience);
-                self->greetingTimer_.async_wait([self](Code cancelled) {
-                    if (!cancelled && !self->session_) self->drop();
-                });
-                self->read();
-            });
-        });
+    // From here on the WebSocket has timeouts of its own.
+    beast::get_lowest_layer(stream_).expires_never();
+    stream_.set_option(websocket::stream_base::timeout{
+        .handshake_timeout = limits_.patience,
+        .idle_timeout = std::chrono::seconds{30},
+        .keep_alive_pings = true,
     });
+    stream_.read_message_max(limits_.messageBytes);
+    stream_.async_accept(request, handler([self = shared_from_this()](Code error) {
+                             if (!error) self->accepted();
+                         }));
+}
+
+void SocketConnection::accepted() {
+    greetingTimer_.expires_after(limits_.patience);
+    greetingTimer_.async_wait(handler([self = shared_from_this()](Code cancelled) {
+        if (!cancelled && !self->session_) self->drop();
+    }));
+    read();
 }
 
 void SocketConnection::read() {
-    stream_.async_read(buffer_, [self = shared_from_this()](Code error, std::size_t) {
-        if (error) {
-            self->greetingTimer_.cancel();
-            if (self->session_) self->session_->detach(*self);
-            return;
-        }
-        self->guarded([&self] {
-            self->received();
-            self->buffer_.consume(self->buffer_.size());
-        });
-        // Once closing, reading on only waits for the other side's answer to that.
-        self->guarded([&self] { self->read(); });
-    });
+    stream_.async_read(buffer_, handler([self = shared_from_this()](Code error, std::size_t) {
+                           if (error) {
+                               self->leaveSession();
+                               return;
+                           }
+                           self->received();
+                           self->buffer_.consume(self->buffer_.size());
+                           // Once closing, reading on only waits for the other side's answer to that.
+                           self->read();
+                       }));
 }
 
 void SocketConnection::received() {
@@ -89,7 +77,14 @@ void SocketConnection::received() {
         closeWith(CloseCode::unknown_data);
         return;
     }
-    const std::string message = beast::buffers_to_string(buffer_.data());
+    try {
+        take(beast::buffers_to_string(buffer_.data()));
+    } catch (const ProtocolError&) {
+        closeWith(CloseCode::bad_payload);
+    }
+}
+
+void SocketConnection::take(const std::string& message) {
     if (!session_) {
         greet(parseHello(message));
     } else if (!session_->post(*this, parsePageMessage(message))) {
@@ -115,23 +110,25 @@ void SocketConnection::greet(const Hello& hello) {
 }
 
 void SocketConnection::send(std::string message) {
-    net::post(stream_.get_executor(), [self = shared_from_this(), message = std::move(message)]() mutable {
-        self->guarded([&] { self->enqueue(std::move(message)); });
-    });
+    net::post(stream_.get_executor(),
+              handler([self = shared_from_this(), message = std::move(message)]() mutable {
+                  self->enqueue(std::move(message));
+              }));
 }
 
 void SocketConnection::close() {
     net::post(stream_.get_executor(),
-              [self = shared_from_this()] { self->guarded([&] { self->closeWith(CloseCode::normal); }); });
+              handler([self = shared_from_this()] { self->closeWith(CloseCode::normal); }));
 }
 
 void SocketConnection::enqueue(std::string message) {
     if (closing_) return;
-    outgoingBytes_ += message.size();
-    if (outgoingBytes_ > mostOutgoingBytes) {
+    // One drawing may be as large as it is: it would be no smaller after a reconnection.
+    if (outgoingBytes_ > limits_.waitingBytes) {
         drop();
         return;
     }
+    outgoingBytes_ += message.size();
     outgoing_.push_back(std::move(message));
     write();
 }
@@ -141,20 +138,19 @@ void SocketConnection::write() {
     if (outgoing_.empty()) {
         if (!closing_) return;
         writing_ = true;
-        stream_.async_close(closeCode_, [self = shared_from_this()](Code) {});
+        stream_.async_close(closeCode_, handler([self = shared_from_this()](Code) {}));
         return;
     }
     writing_ = true;
     stream_.text(true);
-    stream_.async_write(net::buffer(outgoing_.front()), [self = shared_from_this()](Code error, std::size_t) {
-        if (error) return;
-        self->guarded([&self] {
-            self->writing_ = false;
-            self->outgoingBytes_ -= self->outgoing_.front().size();
-            self->outgoing_.pop_front();
-            self->write();
-        });
-    });
+    stream_.async_write(net::buffer(outgoing_.front()),
+                        handler([self = shared_from_this()](Code error, std::size_t) {
+                            if (error) return;
+                            self->writing_ = false;
+                            self->outgoingBytes_ -= self->outgoing_.front().size();
+                            self->outgoing_.pop_front();
+                            self->write();
+                        }));
 }
 
 void SocketConnection::closeWith(CloseCode code) {
@@ -165,7 +161,13 @@ void SocketConnection::closeWith(CloseCode code) {
 }
 
 void SocketConnection::drop() {
+    leaveSession();
     beast::get_lowest_layer(stream_).close();
+}
+
+void SocketConnection::leaveSession() {
+    greetingTimer_.cancel();
+    if (session_) session_->detach(*this);
 }
 
 } // namespace tellurix::workbench

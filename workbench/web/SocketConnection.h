@@ -1,5 +1,6 @@
 #pragma once
 
+#include "web/Places.h"
 #include "web/Session.h"
 #include "web/Sessions.h"
 
@@ -13,7 +14,6 @@
 
 #include <chrono>
 #include <deque>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -27,13 +27,13 @@ class SocketConnection final : public PageLink, public std::enable_shared_from_t
 public:
     using Request = boost::beast::http::request<boost::beast::http::string_body>;
     struct Limits {
-        std::size_t messageBytes;
+        std::size_t messageBytes; ///< of one message of the page
+        std::size_t
+            waitingBytes; ///< of drawings: more than this wait only for a page that has stopped reading
         std::chrono::milliseconds patience; ///< for the greeting
     };
 
-    /// @param place held as long as the connection lives, so that the living ones can be counted
-    SocketConnection(boost::beast::tcp_stream stream, Sessions& sessions, Limits limits,
-                     std::shared_ptr<void> place);
+    SocketConnection(boost::beast::tcp_stream stream, Sessions& sessions, Limits limits, Places::Place place);
 
     /// Accepts the upgrade that has been asked for.
     void start(const Request& request);
@@ -45,23 +45,28 @@ private:
     using Code = boost::beast::error_code;
     using CloseCode = boost::beast::websocket::close_code;
 
-    /// The boundary for everything that happens here: no exception leaves a socket's handler.
-    void guarded(const std::function<void()>& action);
+    /// Makes a handler that ends this connection when it fails.
+    template <typename Action>
+    auto handler(Action action);
+    void accepted();
     void read();
+    /// Hands on what has come.
     void received();
+    void take(const std::string& message);
     void greet(const Hello& hello);
     void enqueue(std::string message);
     void write();
     void closeWith(CloseCode code);
     /// Ends without the other side's help.
     void drop();
+    void leaveSession();
 
     boost::beast::websocket::stream<boost::beast::tcp_stream> stream_;
     boost::asio::steady_timer greetingTimer_;
     boost::beast::flat_buffer buffer_;
     Sessions& sessions_;
     const Limits limits_;
-    std::shared_ptr<void> place_;
+    Places::Place place_;
     std::shared_ptr<Session> session_;
     std::deque<std::string> outgoing_;
     std::size_t outgoingBytes_ = 0;
