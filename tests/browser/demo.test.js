@@ -240,6 +240,55 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await until(async () => (await value('txtWeek')) === '15', 'week');
   });
 
+  test('letters look for an item from the first one at each visit', async () => {
+    await control(page, 'cboType').focus();
+    await hasFocus('cboType');
+    await type('verkauf s');
+    await until(async () => (await value('cboType')) === 'Verkauf Schnittholz', 'by several letters');
+    await press('Tab', 'Shift+Tab', 'e');
+    await until(async () => (await value('cboType')) === 'Einkauf Rundholz' || value('cboType'), 'by a first letter');
+    await control(page, 'lstSorts').focus();
+    await hasFocus('lstSorts');
+    const sort = async () => control(page, 'lstSorts').locator('[aria-selected=true]').textContent();
+    await type('b');
+    await press('Tab', 'Shift+Tab');
+    await type('ei');
+    await until(async () => (await sort()) === 'Eiche TF' || sort(), 'a sort');
+  });
+
+  test('what is too long to be told is refused, and nothing else is lost', async () => {
+    await page.context().grantPermissions(['clipboard-read', 'clipboard-write']);
+    await type('Müller\t1.2.2024');
+    await page.evaluate(() => navigator.clipboard.writeText('ß1'.repeat(90_000)));
+    const banner = page.locator('#banner');
+    await control(page, 'txtKunde').focus();
+    await hasFocus('txtKunde');
+    await type('Säge');
+    for (const [name, typed] of [['txtKunde', 'werk'], ['txtDate', '3']]) {
+      await control(page, name).focus();
+      await hasFocus(name);
+      await press('End', 'Control+v');
+      await banner.getByText('zu lang').waitFor();
+      await banner.getByRole('button').click();
+      await type(typed);
+    }
+    await state('Müller|01.02.20243||Sägewerk');
+  });
+
+  test('a message that the session does not take is not repeated, and the user told', async () => {
+    await type('vor');
+    await page.evaluate(() => { window.spoilt = /"character":"7"|"text":"vorX"/; });
+    await type('X');
+    const banner = page.locator('#banner', { hasText: 'nicht angenommen' });
+    await banner.waitFor();
+    await until(async () => (await value('txtName')) === 'vor' || value('txtName'), 'as the session knows it');
+    await banner.getByRole('button').click();
+    await type('her\t37');
+    await banner.waitFor();
+    await type('.2.2024\t');
+    await state('vorher|3.2.2024||');
+  });
+
   test('controls have roles, names and states for screen readers', async () => {
     await page.getByRole('textbox', { name: 'Vertragsname:' }).waitFor();
     await page.getByRole('combobox', { name: 'Vertragsart:' }).waitFor();

@@ -195,6 +195,25 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await showsRow(500, 'Preis 500');
   });
 
+  test('a letter typed into a list chooses in it, right after one typed into the list before', async () => {
+    await openContract();
+    await press('Alt+p');
+    await top('F_VertragPreise');
+    for (const [letters, stored] of [[['r', 'Enter', 'c'], [2, false]], [['f', 'Enter', 'e'], [1, true]]]) {
+      await tabTo('cmdNeu');
+      await press('Enter');
+      await support.hasFocus(page, 'txtBEZEICHNUNG');
+      await tabTo('cboUnit');
+      await press(...letters);
+      await tabTo('txtHa');
+      await page.keyboard.type('FI');
+      await tabTo('cmdSpeichern');
+      await press('Enter');
+      await support.settled(page);
+      assert.deepEqual(sql('SELECT TOP 1 ID_WARENEINHEIT, EURO FROM VERTRAG_PREISE ORDER BY ID DESC'), [stored]);
+    }
+  });
+
   test('an interruption and a reload leave a cell open with what was typed', async () => {
     await openPrices();
     await goToPrice();

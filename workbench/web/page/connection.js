@@ -12,6 +12,13 @@ const slowAfter = 250;
 const noticeAfter = 400;
 const giveUpAfter = 150_000;
 const answerWithin = 5000;
+// How the session closes a connection over which something came that it does not take.
+const contentCodes = new Set([1003, 1007, 1009]);
+
+/** Half of a character that takes two code units cannot be told; it becomes a mark for one. */
+function asText(message) {
+  return JSON.stringify(message, (_, value) => (typeof value === 'string' ? value.replace(/\p{Surrogate}/gu, '\uFFFD') : value));
+}
 
 export class Connection {
   onDrawing = () => {};
@@ -25,6 +32,9 @@ export class Connection {
   #drawn = false; // the complete drawing has come, and so has nothing been missed
   #ended = false;
   #lastNumber = 0;
+  #messageBytes = Infinity; // the longest message that the session takes
+  #contentRefused = false; // the last connection was closed for what came over it
+  #dropped = false; // that has been given up, which the user has to know
   #awaited = [];
   #slowTimer = 0;
   #lostAt = 0;
@@ -60,25 +70,39 @@ export class Connection {
     socket.onmessage = (event) => {
       if (socket === this.#socket) this.#receive(JSON.parse(event.data));
     };
-    socket.onclose = () => {
-      if (socket === this.#socket) this.#lost();
+    socket.onclose = ({ code }) => {
+      if (socket !== this.#socket) return;
+      this.#contentRefused ||= contentCodes.has(code);
+      this.#lost();
     };
   }
 
-  /** Sends one event; it waits here if the line is interrupted. */
+  /**
+   * Sends one event; it waits here if the line is interrupted.
+   * @return whether it can be told: one that is too long is refused, and the user told so
+   */
   say(event) {
-    const message = { n: ++this.#lastNumber, ...event };
+    const message = { n: this.#lastNumber + 1, ...event };
+    if (!this.#fits(message)) {
+      this.#notices.tell('tooLong');
+      return false;
+    }
+    ++this.#lastNumber;
     this.#awaited.push(message);
     if (this.#drawn) this.#transmit(message);
     clearTimeout(this.#slowTimer);
     this.#slowTimer = setTimeout(() => document.body.classList.add('waiting'), slowAfter);
+    return true;
+  }
+
+  #fits(message) {
+    const text = asText(message);
+    // A code unit takes three bytes at most.
+    return text.length * 3 <= this.#messageBytes || new TextEncoder().encode(text).length <= this.#messageBytes;
   }
 
   #transmit(message) {
-    // Half of a character that takes two code units cannot be told; it becomes a mark for one.
-    const text = JSON.stringify(message, (_, value) =>
-      typeof value === 'string' && value.toWellFormed ? value.toWellFormed() : value);
-    if (this.#socket?.readyState === WebSocket.OPEN) this.#socket.send(text);
+    if (this.#socket?.readyState === WebSocket.OPEN) this.#socket.send(asText(message));
   }
 
   #receive(message) {
@@ -91,7 +115,8 @@ export class Connection {
     }
   }
 
-  #greeted({ session, received }) {
+  #greeted({ session, received, messageBytes }) {
+    this.#messageBytes = messageBytes;
     if (!this.#known) {
       if (this.#returning && session !== this.#session) this.#notices.tell('expired');
       this.#session = session;
@@ -100,6 +125,9 @@ export class Connection {
       this.#lastNumber = Math.max(this.#lastNumber, received);
     }
     this.#awaited = this.#awaited.filter((message) => message.n > received && message.type !== 'redraw');
+    // Repeated, the first one that did not get through would close the connection again, and for ever.
+    if (this.#contentRefused) this.#dropped = this.#awaited.shift() !== undefined;
+    this.#contentRefused = false;
     for (const message of this.#awaited) this.#transmit(message);
     const redraw = { n: ++this.#lastNumber, type: 'redraw' };
     this.#awaited.push(redraw);
@@ -110,6 +138,8 @@ export class Connection {
     if (message.complete) {
       this.#drawn = true;
       this.#found();
+      if (this.#dropped) this.#notices.tell('dropped');
+      this.#dropped = false;
     }
     if (message.ack !== undefined) {
       this.#awaited = this.#awaited.filter((awaited) => awaited.n > message.ack);

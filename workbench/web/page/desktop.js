@@ -73,8 +73,9 @@ export class Desktop {
     this.later(() => this.sayTo(window, event));
   }
 
+  /** @return whether it can be told */
   sayTo(window, event) {
-    this.#input.say({ window: window.id, ...event });
+    return this.#input.say({ window: window.id, ...event });
   }
 
   /** Does something in its turn. */

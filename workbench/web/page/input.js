@@ -29,8 +29,9 @@ export class Input {
     while (this.#waiting.length > 0 && this.#ready) this.#waiting.shift()();
   }
 
+  /** @return whether it can be told */
   say(event) {
-    this.#connection.say(event);
+    return this.#connection.say(event);
   }
 
   get #ready() {

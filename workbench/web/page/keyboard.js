@@ -1,16 +1,12 @@
 // Listens to the keyboard and the clipboard, and does each thing in its turn.
 import { codeOf, decide, describe, isComposed, isFunctionKey, isOverheard, isShortcut } from './keys.js';
 
-const searchPause = 1000;
-
 export class Keyboard {
   #desktop;
   #box;
   #input;
   #notices;
   #ctrlAlone = false;
-  #searched = '';
-  #searchedAt = 0;
 
   constructor(desktop, box, input, notices) {
     this.#desktop = desktop;
@@ -90,21 +86,8 @@ export class Keyboard {
     if (who === 'session') this.#desktop.sayKey(key);
     if (who === 'access') this.#desktop.say({ type: 'accessKey', character: key.name });
     if (who === 'character') this.#desktop.sayCharacter(key);
-    if (who === 'search') this.#search(view, key.text);
+    if (who === 'search') view.search(key.text);
     if (who === 'open') view.open?.();
-  }
-
-  #search(view, character) {
-    const now = Date.now();
-    if (now - this.#searchedAt > searchPause) this.#searched = '';
-    this.#searchedAt = now;
-    if (character === ' ' && this.#searched === '') {
-      view.open?.();
-      return;
-    }
-    this.#searched += character.toLocaleLowerCase();
-    const index = view.find(this.#searched);
-    if (index >= 0) this.#desktop.say({ type: 'select', control: view.state.id, index });
   }
 
   /** Whether the browser may edit the box by itself now. */

@@ -1,9 +1,34 @@
 // Lists of which one item is chosen: closed, and open.
 import { newElementId, View } from './view.js';
 
+const searchPause = 1000;
+
 class ItemView extends View {
+  #searched = ''; // what was typed in this visit, one letter soon after the other
+  #searchedAt = 0;
+
+  constructor(window, state, element) {
+    super(window, state, element, element);
+    // A list that is left forgets it: the first letter in the next one, or at the next visit, is a first one.
+    element.addEventListener('blur', () => { this.#searched = ''; });
+  }
+
+  /** Chooses the next item that begins with what is being typed. A blank that begins nothing opens the list. */
+  search(character) {
+    const now = Date.now();
+    if (now - this.#searchedAt > searchPause) this.#searched = '';
+    this.#searchedAt = now;
+    if (character === ' ' && this.#searched === '') {
+      this.open?.();
+      return;
+    }
+    this.#searched += character.toLocaleLowerCase();
+    const index = this.#find(this.#searched);
+    if (index >= 0) this.desktop.say({ type: 'select', control: this.state.id, index });
+  }
+
   /** Index of the next item that begins with a text, or -1. */
-  find(beginning) {
+  #find(beginning) {
     const { items, selected } = this.state;
     // The same letter again goes on to the next one, more letters stay as long as they fit.
     const repeated = [...beginning].every((letter) => letter === beginning[0]);
@@ -20,7 +45,7 @@ class ItemView extends View {
 export class ComboBox extends ItemView {
   constructor(window, state) {
     const select = document.createElement('select');
-    super(window, state, select, select);
+    super(window, state, select);
     select.addEventListener('mousedown', (event) => {
       if (!this.desktop.busy) return;
       event.preventDefault();
@@ -53,7 +78,7 @@ export class ComboBox extends ItemView {
 export class ListBox extends ItemView {
   constructor(window, state) {
     const list = document.createElement('div');
-    super(window, state, list, list);
+    super(window, state, list);
     list.classList.add('list', 'scrolls');
     list.tabIndex = 0;
     list.setAttribute('role', 'listbox');

@@ -67,9 +67,7 @@ export class TextBox extends View {
     const { start, length } = this.#toShow;
     this.#toShow = null;
     this.#known = { start, length };
-    const input = this.focusElement;
-    const from = unitOffset(this.state.text, start, this.#severalLines);
-    input.setSelectionRange(from, unitOffset(this.state.text, start + length, this.#severalLines));
+    this.#showSelection(start, length);
   }
 
   /** The selection, if the session does not know it yet. */
@@ -126,12 +124,28 @@ export class TextBox extends View {
   #say(value, selectionStart, selectionEnd) {
     const input = this.focusElement;
     const text = typeable(value);
-    if (text === lineEnds(this.state.text, this.#severalLines)) return;
+    const known = { text: this.state.text, ...this.#known };
+    if (text === lineEnds(known.text, this.#severalLines)) return;
     if (input.value !== text) input.value = text;
     if (this.hasFocus) input.setSelectionRange(selectionStart, selectionEnd);
     this.state.text = text;
     this.#known = this.#selection();
-    this.desktop.sayTo(this.window, { type: 'text', control: this.state.id, text, ...this.#known });
+    const event = { type: 'text', control: this.state.id, text, ...this.#known };
+    if (!this.desktop.sayTo(this.window, event)) this.#takeBack(known);
+  }
+
+  /** Shows again what the session knows. */
+  #takeBack({ text, start, length }) {
+    this.state.text = text;
+    this.#known = { start, length };
+    this.focusElement.value = lineEnds(text, this.#severalLines);
+    this.#showSelection(start, length);
+  }
+
+  #showSelection(start, length) {
+    const { text } = this.state;
+    const from = unitOffset(text, start, this.#severalLines);
+    this.focusElement.setSelectionRange(from, unitOffset(text, start + length, this.#severalLines));
   }
 
   #sayShown() {
