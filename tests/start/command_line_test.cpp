@@ -10,12 +10,14 @@ CommandLine parse(const std::vector<std::string>& arguments) {
 }
 
 TEST(CommandLineParsing, TakesEveryOption) {
-    const CommandLine serving =
-        parse({"--database", "a=b.db", "--port=8080", "--trace", "t", "--language", "en", "--site", "WVO",
-               "--currency", "USD", "--setting", "MESZAHL=1", "--access-level", "5", "--user", "Jörg"});
+    const CommandLine serving = parse({"--database", "a=b.db", "--port=8080", "--sessions", "12", "--trace",
+                                       "t", "--language", "en", "--site", "WVO", "--currency", "USD",
+                                       "--setting", "MESZAHL=1", "--access-level", "5", "--user", "Jörg"});
     EXPECT_EQ(serving.command, CommandLine::Command::serve);
     EXPECT_EQ(serving.database, "a=b.db");
     EXPECT_EQ(serving.port, 8080);
+    EXPECT_EQ(serving.sessions, 12U);
+    EXPECT_EQ(parse({}).sessions, 256U);
     EXPECT_EQ(serving.traceFile, "t");
     EXPECT_EQ(serving.language, "en");
     EXPECT_EQ(serving.site, "WVO");
@@ -44,6 +46,7 @@ TEST(CommandLineParsing, RefusesWhatMeansNothing) {
         {"a value where none belongs", {"sql", "--empty=1"}, "--empty"},
         {"a port that is no number", {"--port", "80x"}, "80x"},
         {"a port beyond the last", {"--port", "65536"}, "65535"},
+        {"no session", {"--sessions", "0"}, "1 to"},
         {"a negative access level", {"--access-level", "-1"}, "-1"},
         {"a language that is not there", {"--language", "fr"}, "fr"},
         {"a setting without a value", {"--setting", "MESZAHL"}, "NAME=VALUE"},

@@ -42,11 +42,11 @@ std::string describe(const Options& options) {
     return text;
 }
 
-int numberOf(std::string_view option, const std::string& value, int greatest) {
+int numberOf(std::string_view option, const std::string& value, int greatest, int least) {
     const auto number = common::wholeNumber<int>(value);
-    if (!number || *number < 0 || *number > greatest) {
-        throw UsageError{std::string{option} + " needs a number from 0 to " + std::to_string(greatest) +
-                         ", not \"" + value + "\""};
+    if (!number || *number < least || *number > greatest) {
+        throw UsageError{std::string{option} + " needs a number from " + std::to_string(least) + " to " +
+                         std::to_string(greatest) + ", not \"" + value + "\""};
     }
     return *number;
 }

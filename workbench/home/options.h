@@ -36,9 +36,9 @@ bool takeOption(const Options& known, std::span<const std::string> arguments, st
 /// What a help lists of them, one below the other.
 std::string describe(const Options& options);
 
-/// A value as a number from 0 to `greatest`, or one that is not empty.
+/// A value as a number from `least` to `greatest`, or one that is not empty.
 /// @throws UsageError when it is none
-int numberOf(std::string_view option, const std::string& value, int greatest);
+int numberOf(std::string_view option, const std::string& value, int greatest, int least = 0);
 std::string notEmpty(std::string_view option, const std::string& value);
 
 } // namespace tellurix::workbench

@@ -4,6 +4,12 @@
 
 namespace tellurix::workbench {
 
+namespace {
+
+constexpr int mostSessions = 10'000;
+
+} // namespace
+
 Options CommandLine::commonOptions() {
     return {
         databaseOption(),
@@ -14,12 +20,17 @@ Options CommandLine::commonOptions() {
 }
 
 Options CommandLine::servingOptions() {
-    Options options = sessionOptions();
-    options.insert(options.begin(), {"--port", "N", "the port on 127.0.0.1 (default: a free one)",
-                                     [this](const std::string& value) {
-                                         port = static_cast<std::uint16_t>(numberOf(
-                                             "--port", value, std::numeric_limits<std::uint16_t>::max()));
-                                     }});
+    Options options{{"--port", "N", "the port on 127.0.0.1 (default: a free one)",
+                     [this](const std::string& value) {
+                         port = static_cast<std::uint16_t>(
+                             numberOf("--port", value, std::numeric_limits<std::uint16_t>::max()));
+                     }},
+                    {"--sessions", "N", "how many sessions may be open at once (default: 256)",
+                     [this](const std::string& value) {
+                         sessions = static_cast<std::size_t>(numberOf("--sessions", value, mostSessions, 1));
+                     }}};
+    const Options others = sessionOptions();
+    options.insert(options.end(), others.begin(), others.end());
     return options;
 }
 

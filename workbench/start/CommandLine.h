@@ -2,6 +2,7 @@
 
 #include "home/SessionOptions.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -14,8 +15,9 @@ struct CommandLine : SessionOptions {
     enum class Command { serve, sql, help, version };
 
     Command command = Command::serve;
-    std::string traceFile;  ///< empty for none
-    std::uint16_t port = 0; ///< of the browser; 0 takes a free one
+    std::string traceFile;      ///< empty for none
+    std::uint16_t port = 0;     ///< of the browser; 0 takes a free one
+    std::size_t sessions = 256; ///< so many at once, at most
 
     // sql: where the texts come from; with neither file nor texts, from standard input.
     bool emptyDatabase = false; ///< a missing database is made without schema and sample data

@@ -2,9 +2,15 @@
 
 #include "home/database_file.h"
 
+#include <unistd.h>
+
+#include <cerrno>
 #include <stdexcept>
+#include <system_error>
 
 namespace tellurix::workbench {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -36,10 +42,32 @@ void requireDayFirst(common::Connection& connection) {
     }
 }
 
-std::filesystem::path databaseFile(const CommandLine& line, const common::Clock& clock) {
-    const std::filesystem::path file =
-        line.database.empty() ? defaultDatabaseFile() : std::filesystem::path{line.database};
-    createWhenMissing(file, line.emptyDatabase ? DatabaseContents::nothing : DatabaseContents::sample, clock);
+/// What is wrong with the place of a database, as a reason behind its name; empty for nothing.
+std::string obstacleTo(const fs::path& file) {
+    std::error_code ignored;
+    const fs::path folder = fs::absolute(file).parent_path();
+    if (fs::is_directory(file, ignored)) return "it is a folder";
+    if (!fs::exists(folder, ignored)) return "its folder " + folder.string() + " does not exist";
+    if (!fs::is_directory(folder, ignored)) return folder.string() + " is not a folder";
+    if (::access(file.c_str(), F_OK) == 0) {
+        return ::access(file.c_str(), R_OK) == 0 ? "" : "it may not be read by this user";
+    }
+    // Not by its rights alone: a file system can be read-only as a whole.
+    if (::access(folder.c_str(), W_OK | X_OK) == 0) return "";
+    return "it does not exist, and cannot be made in " + folder.string() + ": " +
+           std::generic_category().message(errno);
+}
+
+fs::path databaseFile(const CommandLine& line, const common::Clock& clock) {
+    const fs::path file = line.database.empty() ? defaultDatabaseFile() : fs::path{line.database};
+    if (const std::string obstacle = obstacleTo(file); !obstacle.empty())
+        throw std::runtime_error{"the database " + file.string() + " cannot be used: " + obstacle};
+    try {
+        createWhenMissing(file, line.emptyDatabase ? DatabaseContents::nothing : DatabaseContents::sample,
+                          clock);
+    } catch (const std::exception& error) {
+        throw std::runtime_error{"the database " + file.string() + " cannot be made: " + error.what()};
+    }
     return file;
 }
 

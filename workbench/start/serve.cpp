@@ -9,8 +9,10 @@
 
 #include <pwd.h>
 #include <signal.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <iostream>
 
 namespace tellurix::workbench {
@@ -41,6 +43,19 @@ public:
 private:
     sigset_t signals_{};
 };
+
+/// Lets the process have as many files open as so many sessions need, as far as the system allows that.
+void allowOpenFiles(std::size_t sessions) {
+    // A session has its socket, its database with log and index, and for a while the page's file requests.
+    constexpr rlim_t each = 8;
+    constexpr rlim_t besides = 256;
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+    const rlim_t needed = std::min<rlim_t>(sessions * each + besides, limit.rlim_max);
+    if (limit.rlim_cur >= needed) return;
+    limit.rlim_cur = needed;
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+}
 
 /// What all sessions share.
 struct Workbench {
@@ -108,6 +123,7 @@ void runSession(Workbench& workbench, BrowserDisplay& display) {
 
 int serve(const CommandLine& line, std::ostream& out) {
     const StopSignals signals;
+    allowOpenFiles(line.sessions);
     Workbench workbench{line};
     // A database that no session could use is told at once, and not to the first browser.
     workbench.database.connect();
@@ -115,7 +131,7 @@ int serve(const CommandLine& line, std::ostream& out) {
         std::cerr << "tellurix-workbench: warning: the database " << workbench.database.file().string()
                   << " is read-only; nothing can be saved\n";
     Server server{[&workbench](BrowserDisplay& display) { runSession(workbench, display); },
-                  {.port = line.port}};
+                  {.port = line.port, .sessions = line.sessions}};
     out << server.address() << std::endl;
     signals.wait();
     server.stop();
