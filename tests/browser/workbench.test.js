@@ -223,6 +223,7 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await interrupt();
     await editsCell('7');
     await page.keyboard.type('1,');
+    await editsCell('71,');
     await page.reload();
     await top('F_VertragPreise');
     await editsCell('71,');

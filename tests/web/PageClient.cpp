@@ -21,7 +21,7 @@ using nlohmann::json;
 
 namespace {
 
-constexpr std::chrono::seconds patience{5};
+constexpr std::chrono::seconds patience{20};
 
 tcp::endpoint endpointOf(std::uint16_t port) {
     return {net::ip::address_v4::loopback(), port};

@@ -294,7 +294,7 @@ TEST_F(ServerTest, DrawingsCountAsWaitingUntilThePageHasTakenThem) {
     page.redraw();
     EXPECT_TRUE(page.drawing.is_object()) << "nor for one drawing, which would be no smaller the next time";
     // Far more than the system keeps for a connection whose page does not read.
-    for (int i = 0; i < 60; ++i)
+    for (int i = 0; i < 25; ++i)
         page.sendText(json{{"type", "redraw"}, {"n", ++page.number}}.dump());
     ASSERT_TRUE(soon([&] {
         return PageClient(server.address()).sayHello(page.session, false, false).contains("session");

@@ -64,6 +64,9 @@ bool Session::attach(std::shared_ptr<PageLink> link, bool takeOver) {
         link_->send(nlohmann::json{{"ended", "takenOver"}}.dump());
         link_->close();
     }
+    // Whoever asked for whole drawings before is gone.
+    std::erase_if(queue_,
+                  [](const PageMessage& message) { return message.kind == PageMessage::Kind::redraw; });
     link_ = std::move(link);
     ++connection_;
     changed_.notify_all();
