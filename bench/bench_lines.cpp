@@ -39,6 +39,7 @@ constexpr const char* start = "F_Start";
 constexpr const char* editor = "F_Vertrag";
 constexpr const char* priceScreen = "F_VertragPreise";
 constexpr const char* quantityScreen = "F_VertragMengen";
+constexpr const char* explanation = "F_OffeneMenge";
 constexpr const char* grid = "MSFlexGrid1";
 
 std::vector<std::string> times(const Durations& measured) {
@@ -176,6 +177,40 @@ void measureSelecting() {
     report.print(std::cout);
 }
 
+/// Opens the explanation of one quantity line several times.
+Durations timesToExplain(const embedded::Database& database, int line) {
+    constexpr std::size_t visits = 4;
+    Durations measured;
+    for (int i = 0; i < sessions; ++i) {
+        const auto connection = database.connect();
+        WatchedSession session{*connection};
+        std::vector<bench::Step> script{bench::click(editor, "PosButton"),
+                                        bench::chooseRow(quantityScreen, grid, line - 1)};
+        for (std::size_t visit = 0; visit < visits; ++visit) {
+            script.push_back(bench::click(quantityScreen, "btnOffen"));
+            script.push_back(bench::click(explanation, "btnSchliessen"));
+        }
+        script.push_back(bench::click(quantityScreen, "cmdOk"));
+        script.push_back(bench::closeWindow(editor));
+        session.play(std::move(script));
+        for (std::size_t visit = 0; visit < visits; ++visit)
+            measured.add(session.step(2 + 2 * visit));
+    }
+    return measured;
+}
+
+void measureExplaining() {
+    bench::heading(std::cout, "Showing how the open quantity of a line comes about, in milliseconds");
+    bench::Report report{{"lines", "logs of the contract", "line", "median", "95 %", "longest"}};
+    const GeneratedFile file{{.lines = manyLines, .logs = 20'000, .booked = 20'000}};
+    const embedded::Database database{file.path(), bench::standingClock};
+    for (const int line : {2, 50, manyLines}) {
+        report.add(joined({std::to_string(manyLines), "20000", std::to_string(line)},
+                          times(timesToExplain(database, line))));
+    }
+    report.print(std::cout);
+}
+
 /// Types a price into a cell far down and commits it: Enter stays on the row, Up goes on.
 net::awaitable<void> editPrices(bench::PageClient& client, const bench::WorkbenchProcess& workbench,
                                 Durations& staying, Durations& goingOn) {
@@ -240,6 +275,7 @@ int main() {
     try {
         measureOpening();
         measureSelecting();
+        measureExplaining();
         measureCommits();
         return EXIT_SUCCESS;
     } catch (const workbench::SessionEnded&) {

@@ -31,15 +31,15 @@ void append(std::string& key, sqlite3_value* value) {
 
 void recalled(ScalarCall& call) {
     ConditionMemory* const memory = ConditionMemory::of(*call.values());
-    const bool* const known =
+    const std::int64_t* const known =
         memory->recall(static_cast<std::size_t>(call.integer(1)), call.count() - 2, call.values() + 2);
-    if (known != nullptr) call.answer(std::int64_t{*known});
+    if (known != nullptr) call.answer(*known);
 }
 
 void noted(ScalarCall& call) {
-    const std::int64_t holds = call.integer(2);
-    ConditionMemory::of(*call.values())->note(static_cast<std::size_t>(call.integer(1)), holds != 0);
-    call.answer(holds);
+    const std::int64_t result = call.integer(2);
+    ConditionMemory::of(*call.values())->note(static_cast<std::size_t>(call.integer(1)), result);
+    call.answer(result);
 }
 
 } // namespace
@@ -55,7 +55,7 @@ ConditionMemory* ConditionMemory::of(sqlite3_value* parameter) {
     return static_cast<ConditionMemory*>(sqlite3_value_pointer(parameter, pointerType));
 }
 
-const bool* ConditionMemory::recall(std::size_t number, int count, sqlite3_value** values) {
+const std::int64_t* ConditionMemory::recall(std::size_t number, int count, sqlite3_value** values) {
     if (conditions_.size() <= number) conditions_.resize(number + 1);
     Condition& condition = conditions_[number];
     condition.asked.clear();
@@ -65,11 +65,11 @@ const bool* ConditionMemory::recall(std::size_t number, int count, sqlite3_value
     return found == condition.results.end() ? nullptr : &found->second;
 }
 
-void ConditionMemory::note(std::size_t number, bool holds) {
+void ConditionMemory::note(std::size_t number, std::int64_t result) {
     Condition& condition = conditions_.at(number);
     // Where the values hardly ever come again, remembering must not take more and more room.
     constexpr std::size_t mostCombinations = 65'536;
-    if (condition.results.size() < mostCombinations) condition.results.emplace(condition.asked, holds);
+    if (condition.results.size() < mostCombinations) condition.results.emplace(condition.asked, result);
 }
 
 void registerConditionMemory(sqlite3* connection, Session& session) {

@@ -155,6 +155,8 @@ private:
     Fragment comparison(const Expression& expression);
     Fragment logical(const Expression& expression);
     std::string remembered(const std::vector<std::string>& columns, const std::string& condition);
+    /// The same for a whole number that is never NULL.
+    std::string rememberedNumber(const std::vector<std::string>& columns, const std::string& number);
     Fragment isNull(const Expression& expression);
     Fragment inList(const Expression& expression);
     Fragment inQuery(const Expression& expression);
@@ -207,6 +209,9 @@ private:
     const Variables& variables_;
     Scope* scope_ = nullptr;
     int sourceCount_ = 0;
+    /// Asking every row every condition takes long where both are many; the columns that some of the
+    /// conditions share have few different values. Below this number remembering costs more than asking.
+    static constexpr std::size_t worthRemembering = 8;
     int rememberedCount_ = 0;
     int depth_ = 0;
     int deepest_ = 0;

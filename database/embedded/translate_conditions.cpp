@@ -66,9 +66,6 @@ Fragment Translator::logical(const Expression& expression) {
             .push_back(std::move(fragment.sql));
     }
     const std::string_view joint = isAnd ? " AND " : " OR ";
-    // Asking every row every condition takes long where both are many; the columns that some of the
-    // conditions share have few different values. Below this number remembering costs more than asking.
-    constexpr std::size_t worthRemembering = 8;
     for (const auto& [columns, conditions] : byColumns) {
         std::string all = chained(conditions, joint);
         texts.push_back(conditions.size() < worthRemembering ? std::move(all) : remembered(columns, all));
@@ -78,13 +75,16 @@ Fragment Translator::logical(const Expression& expression) {
 
 /// The condition, asked once for each combination of the columns' values.
 std::string Translator::remembered(const std::vector<std::string>& columns, const std::string& condition) {
+    // As a value a chain would be worked out to its end, as a condition only until it is decided.
+    return rememberedNumber(columns, "CASE WHEN " + condition + " THEN 1 ELSE 0 END");
+}
+
+std::string Translator::rememberedNumber(const std::vector<std::string>& columns, const std::string& number) {
     const std::string place = parameter(Translation::memory) + "," + std::to_string(rememberedCount_++);
     std::string values;
     for (const std::string& column : columns)
         values += "," + column;
-    // As a value a chain would be worked out to its end, as a condition only until it is decided.
-    return "ifnull(ts_recalled(" + place + values + "),ts_noted(" + place + ",CASE WHEN " + condition +
-           " THEN 1 ELSE 0 END))";
+    return "ifnull(ts_recalled(" + place + values + "),ts_noted(" + place + "," + number + "))";
 }
 
 Fragment Translator::isNull(const Expression& expression) {

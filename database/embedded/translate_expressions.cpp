@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <ranges>
+#include <set>
 
 namespace tellurix::embedded {
 
@@ -373,7 +374,19 @@ Fragment Translator::caseWhen(const Expression& expression) {
         results.push_back(value(*expression.operands[2 * index + 1]));
     }
     if (expression.hasElse) results.push_back(value(*expression.operands.back()));
-    return caseText("CASE", std::move(conditions), std::move(results), expression.position);
+
+    // Which of many conditions on a row is the first to hold is remembered for the row's values.
+    std::set<std::string> columns;
+    bool remembers = conditions.size() >= worthRemembering && expression.hasElse;
+    for (const Fragment& asked : conditions) {
+        remembers = remembers && !asked.rowColumns.empty();
+        columns.insert(asked.rowColumns.begin(), asked.rowColumns.end());
+    }
+    for (const Fragment& result : results)
+        remembers = remembers && result.literal == Fragment::Literal::exact && result.type.isIntegral();
+    Fragment choice = caseText("CASE", std::move(conditions), std::move(results), expression.position);
+    if (remembers) choice.sql = rememberedNumber({columns.begin(), columns.end()}, choice.sql);
+    return choice;
 }
 
 Fragment Translator::simpleCase(const Expression& expression) {

@@ -165,12 +165,14 @@ std::vector<std::int64_t> DeliveredQuantity::claims(const std::vector<Line>& lin
             .number(i);
         if (condition.empty()) break; // none is left for those behind it
     }
-    query.fixed(" END) AS ZEILE FROM LOGS WHERE ")
+    query.fixed(" ELSE ")
+        .number(lines.size())
+        .fixed(" END) AS ZEILE FROM LOGS WHERE ")
         .fixed(bookedLogs().text())
         .fixed(") STAMM GROUP BY STAMM.ZEILE");
     for (auto claim = session_.connection->open(query.text()); !claim->atEnd(); claim->moveNext()) {
-        const std::int64_t index = claim->integer("ZEILE", -1);
-        if (index >= 0) taken.at(static_cast<std::size_t>(index)) = claim->integer("ANZAHL");
+        const auto index = static_cast<std::size_t>(claim->integer("ZEILE"));
+        if (index < taken.size()) taken[index] = claim->integer("ANZAHL");
     }
     return taken;
 }

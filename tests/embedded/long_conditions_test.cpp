@@ -89,6 +89,22 @@ TEST_F(LongConditions, AnswerLikeTheKeysTheySpeakOf) {
     }
 }
 
+TEST_F(LongConditions, TheFirstOfManyThatHoldsIsChosen) {
+    const auto statement = [](const std::string& keys, int count) {
+        std::string choice;
+        for (int i = 0; i < count; ++i)
+            choice += " WHEN X.ID IN (SELECT K.ID FROM " + keys + " K WHERE " + numbered(i) + ") THEN " +
+                      std::to_string(i);
+        return "SELECT SUM(C.FIRST),COUNT(*),MAX(C.FIRST) FROM (SELECT (CASE" + choice +
+               " ELSE 7777 END) AS FIRST FROM T X) C";
+    };
+    for (const int count : {3, 500}) {
+        const std::string expected = answer(*connection_, statement("(SELECT ID, A, N FROM T)", count));
+        EXPECT_EQ(answer(*connection_, statement("T", count)), expected) << count;
+        EXPECT_NE(expected.find("7777"), std::string::npos) << "some are taken by none";
+    }
+}
+
 TEST_F(LongConditions, EveryRunAsksAnew) {
     const std::string text =
         "SELECT COUNT(*) FROM T WHERE " + chainOf(" AND ", 20, [](int) {
