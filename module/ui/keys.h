@@ -25,6 +25,7 @@ enum class Key : int {
     insert = 45,
     del = 46,
     f1 = 112,
+    f2 = 113,
     f4 = 115
 };
 

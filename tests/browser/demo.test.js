@@ -212,6 +212,8 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await hasFocus('grdLines');
     await press('End', 'ArrowUp', 'Enter');
     await state('Zeile 599');
+    await press('F2');
+    await state('F2 in Zeile 599');
     assert.equal(await page.locator('.grid-row.current').getAttribute('aria-rowindex'), '600');
     await page.getByRole('gridcell', { name: '598', exact: true }).dblclick();
     await state('Zeile 598');

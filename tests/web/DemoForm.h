@@ -169,6 +169,10 @@ private:
         grdLines.onDoubleClick = [this] {
             txtState.setText("Zeile " + std::to_string(grdLines.currentRow() + 1));
         };
+        grdLines.onKeyDown = [this](ui::KeyDown& key) {
+            if (key.key == ui::Key::f2)
+                txtState.setText("F2 in Zeile " + std::to_string(grdLines.currentRow() + 1));
+        };
         grdLines.onCurrentChange = [this] { progress.setProgress(grdLines.currentRow(), 600); };
         chkClosed.onClick = [this] { frmTexts.setEnabled(!chkClosed.checked()); };
         updWeek.onUp = [this] { txtWeek.setText(std::to_string(std::stoi(txtWeek.text()) + 1)); };

@@ -1,11 +1,14 @@
 #include "screens/Keyboard.h"
 
+#include "ui/TextBox.h"
+
 namespace tellurix::windows {
 
 namespace {
 
 using ui::Key;
 using ui::KeyDown;
+using ui::KeyUse;
 
 bool isHeld(int code) {
     return (GetKeyState(code) & 0x8000) != 0;
@@ -28,10 +31,28 @@ KeyDown pressed(WPARAM code) {
     return key;
 }
 
-/// A key that is held down acts once where a second time would be an accident.
-bool actsOnce(const ControlView* view, Key key) {
-    if (key == Key::enter || key == Key::escape || key == Key::f4) return true;
-    return key == Key::space && view != nullptr && view->control().kind() != ui::ControlKind::textBox;
+const ui::Control* controlOf(const ControlView* view) {
+    return view == nullptr ? nullptr : &view->control();
+}
+
+/// @param unit of a character in UTF-16; Windows makes characters of some keys, too
+KeyUse useOfCharacter(const ui::Control& control, wchar_t unit) {
+    if (unit >= 32 && unit != 127) return ui::characterUse(control);
+    if (ui::as<ui::TextBox>(&control) == nullptr) return KeyUse::nobody;
+    switch (unit) {
+    case L'\b':
+        return ui::keyUse(ui::keyTraitsOf(&control), {.key = Key::backspace}) == KeyUse::rules
+                   ? KeyUse::nobody
+                   : KeyUse::native;
+    case L'\t':
+    case L'\r':
+    case L'\n':
+    case 27:
+    case 127:
+        return KeyUse::nobody;
+    default:
+        return KeyUse::native; // Ctrl with a letter: copying, undoing
+    }
 }
 
 } // namespace
@@ -39,7 +60,7 @@ bool actsOnce(const ControlView* view, Key key) {
 KeyUse Keyboard::useOf(const ControlView* view, const KeyDown& key) {
     // An open list gets all keys but the one that goes on.
     if (view != nullptr && view->hasOpenList() && key.key != Key::tab) return KeyUse::native;
-    return keyUseOf(view == nullptr ? nullptr : &view->control(), key);
+    return ui::keyUse(ui::keyTraitsOf(controlOf(view)), key);
 }
 
 bool Keyboard::handle(ControlView* view, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -76,11 +97,11 @@ bool Keyboard::down(ControlView* view, WPARAM code, LPARAM details) {
         return false;
     }
     ctrlAlone_ = false;
-    if (repeated && actsOnce(view, key.key)) return true;
+    if (repeated && ui::actsOnce(ui::keyTraitsOf(controlOf(view)), key.key)) return true;
     const KeyUse use = useOf(view, key);
-    if (use == KeyUse::session && view != nullptr && view->hasOpenList()) view->closeList();
-    if (use == KeyUse::session || use == KeyUse::overheard) tell_(view, ui::KeyDownEvent{key});
-    return use == KeyUse::session || use == KeyUse::nobody;
+    if (use == KeyUse::rules && view != nullptr && view->hasOpenList()) view->closeList();
+    if (use == KeyUse::rules || use == KeyUse::overheard) tell_(view, ui::KeyDownEvent{key});
+    return use == KeyUse::rules || use == KeyUse::nobody;
 }
 
 bool Keyboard::up(ControlView* view, WPARAM code) {
@@ -91,8 +112,8 @@ bool Keyboard::up(ControlView* view, WPARAM code) {
 }
 
 bool Keyboard::character(ControlView* view, wchar_t unit) {
-    const KeyUse use = view == nullptr ? KeyUse::nobody : characterUseOf(view->control(), unit);
-    if (use != KeyUse::session) return use == KeyUse::nobody;
+    const KeyUse use = view == nullptr ? KeyUse::nobody : useOfCharacter(view->control(), unit);
+    if (use != KeyUse::rules) return use == KeyUse::nobody;
     if (IS_HIGH_SURROGATE(unit)) {
         highSurrogate_ = unit;
         return true;

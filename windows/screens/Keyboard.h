@@ -1,7 +1,7 @@
 #pragma once
 
 #include "screens/ControlView.h"
-#include "screens/key_use.h"
+#include "ui/key_use.h"
 
 #include <functional>
 
@@ -27,7 +27,7 @@ private:
     bool down(ControlView* view, WPARAM code, LPARAM details);
     bool up(ControlView* view, WPARAM code);
     bool character(ControlView* view, wchar_t unit);
-    static KeyUse useOf(const ControlView* view, const ui::KeyDown& key);
+    static ui::KeyUse useOf(const ControlView* view, const ui::KeyDown& key);
 
     std::function<void(ControlView*, ui::Event)> tell_;
     bool ctrlAlone_ = false;

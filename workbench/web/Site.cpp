@@ -2,6 +2,7 @@
 
 #include "common/text.h"
 #include "page.h"
+#include "web/key_uses.h"
 #include "web/secrets.h"
 
 #include <array>
@@ -88,6 +89,7 @@ SiteReply Site::page(const SiteRequest& request) const {
     if (!name) return {403, contentTypeOf(refusal), std::string{page::file(refusal)}, {}};
     if (request.method != "GET" && request.method != "HEAD") return plain(405, "405\n");
     if (*name == connectionName) return plain(403, "403\n");
+    if (*name == "key_uses.js") return {200, contentTypeOf(*name), keyUsesModule(), {}};
     try {
         std::string body{page::file(*name)};
         if (*name == "index.html") body = common::replaceAll(std::move(body), "KEY", key_);

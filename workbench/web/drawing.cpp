@@ -1,6 +1,7 @@
 #include "web/drawing.h"
 
 #include "ui/visit.h"
+#include "web/key_uses.h"
 
 #include <nlohmann/json.hpp>
 
@@ -81,7 +82,6 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     out["kind"] = "grid";
     out["current"] = {grid.currentRow(), grid.currentColumn()};
     out["visibleRows"] = grid.visibleRows();
-    out["characters"] = static_cast<bool>(grid.onKeyPress);
     out["reveal"] = grid.reveals();
     out["editor"] = nullptr;
     if (const ui::TextBox* box = grid.cellEditor()) {
@@ -121,9 +121,13 @@ void draw(json& out, const ui::ProgressBar& bar, bool /*whole*/) {
 }
 
 json drawControl(const Control& control, bool whole) {
-    json out{{"id", control.id()},           {"name", control.name()},
-             {"enabled", control.enabled()}, {"visible", control.visible()},
-             {"tip", control.toolTip()},     {"keys", static_cast<bool>(control.onKeyDown)}};
+    json out{{"id", control.id()},
+             {"name", control.name()},
+             {"enabled", control.enabled()},
+             {"visible", control.visible()},
+             {"tip", control.toolTip()},
+             {"keys", keyUsesOf(ui::keyTraitsOf(&control))},
+             {"characters", nameOfUse(ui::characterUse(control))}};
     ui::visit(control, [&](const auto& visited) { draw(out, visited, whole); });
     return out;
 }

@@ -1,5 +1,6 @@
 // The windows that are open, drawn as the session says. The topmost one can be used; the session
 // says which of its controls has the focus.
+import { isOverheard } from './keys.js';
 import { buildLayout } from './layout.js';
 import { createView } from './controls/index.js';
 import { text } from './texts.js';
@@ -103,7 +104,7 @@ export class Desktop {
 
   sayCharacter(key) {
     this.#saySelection();
-    if (this.focused.state.keys) this.sayKey(key);
+    if (isOverheard(this.focused, key)) this.sayKey(key);
     this.say({ type: 'character', character: key.text });
   }
 

@@ -1,6 +1,7 @@
-// Which key goes where. The session owns the rules of input; the page only has to know which keys
-// the browser may handle by itself (typing and moving inside a box) and which ones the session has
-// to be asked about.
+// Which key goes where. The session owns the rules of input, and those about keys that the browser may
+// handle by itself (typing and moving inside a box) come from it as a table. What the page adds is how a
+// browser is kept from keys of its own, and what it does in place of a native list.
+import { keyUses } from './key_uses.js';
 
 const codes = {
   Backspace: 8, Tab: 9, Enter: 13, Shift: 16, Control: 17, Alt: 18, Escape: 27, ' ': 32,
@@ -34,12 +35,18 @@ export function describe(event) {
   };
 }
 
-const inBox = new Set(['Backspace', 'Delete', 'ArrowLeft', 'ArrowRight', 'Home', 'End']);
-const inLines = new Set(['ArrowUp', 'ArrowDown', 'PageUp', 'PageDown']);
-const inList = new Set([...inLines, 'Home', 'End']);
-const inGrid = new Set([...inList, 'ArrowLeft', 'ArrowRight', 'Delete', 'Insert', 'Backspace', ' ']);
+// These change the choice of a closed list; with Alt they open it.
+const opening = new Set(['ArrowUp', 'ArrowDown', 'PageUp', 'PageDown']);
 const awayFromPage = new Set(['ArrowLeft', 'ArrowRight', 'Home']);
-const pressing = new Set(['Enter', 'Escape', 'F4', ' ']);
+
+const nobodysKeys = '0';
+
+/** The session's answer, by its own rules. */
+function useOf(view, key) {
+  if (key.alt) return 'native';
+  const { uses } = keyUses[view?.state.keys ?? nobodysKeys];
+  return uses[`${key.ctrl ? 'ctrl+' : ''}${key.code}`] ?? 'native';
+}
 
 /**
  * Who deals with a key:
@@ -57,45 +64,24 @@ export function decide(view, key) {
   if (key.access) return key.repeat ? 'nobody' : 'access';
   // Browsers open their menu or go to another page.
   if (key.name === 'Alt' || (key.alt && awayFromPage.has(key.name))) return 'nobody';
+  if (key.repeat && keyUses[view?.state.keys ?? nobodysKeys].once.includes(key.code)) return 'nobody';
+  const use = useOf(view, key);
+  if (use === 'rules') return 'session';
+  if (use === 'nobody') return 'nobody';
   const kind = view?.state.kind;
-  // A key that is held down acts once where a second time would be an accident.
-  if (key.repeat && pressing.has(key.name) && !(key.text && kind === 'text')) return 'nobody';
-  if (key.name === 'F4' && kind === 'combo' && !key.alt) return 'open';
-  if (key.name === 'F4' || key.name === 'Enter' || key.name === 'Escape') return 'session';
-  if (key.name === 'Tab') return key.ctrl || key.alt ? 'browser' : 'session';
-  if (!view) return 'browser';
-  return byKind[kind]?.(view.state, key) ?? 'browser';
+  if (kind === 'combo' && (key.name === 'F4' || (key.alt && opening.has(key.name)))) return 'open';
+  return key.text && view ? characterUse(view.state) : 'browser';
 }
 
-const byKind = {
-  text(box, key) {
-    if (key.text) return box.filtered && !box.locked ? 'character' : 'browser';
-    if (box.keys && (key.name === 'Backspace' || key.name === 'Delete')) return key.ctrl ? 'browser' : 'session';
-    if (box.keys && inLines.has(key.name) && box.lines === 1) return 'session';
-    return 'browser';
-  },
-  combo(list, key) {
-    if (key.alt && inLines.has(key.name)) return 'open';
-    if (key.text) return 'search';
-    return inList.has(key.name) ? 'session' : 'browser';
-  },
-  list(list, key) {
-    if (key.text) return 'search';
-    return inList.has(key.name) ? 'session' : 'browser';
-  },
-  grid(grid, key) {
-    if (grid.characters && key.text) return 'character';
-    return inGrid.has(key.name) || (grid.keys && key.text) ? 'session' : 'browser';
-  },
-  button: (button, key) => (key.name === ' ' ? 'session' : 'browser'),
-  check: (check, key) => (key.name === ' ' ? 'session' : 'browser'),
-  tabs: (tabs, key) => (key.name === 'ArrowLeft' || key.name === 'ArrowRight' ? 'session' : 'browser'),
-  upDown: (upDown, key) => (key.name === 'ArrowUp' || key.name === 'ArrowDown' ? 'session' : 'browser'),
-};
+/** The browser knows how to type into a box, and the page how to look for an entry. */
+function characterUse({ kind, characters }) {
+  if (characters === 'rules') return 'character';
+  return characters === 'native' && kind !== 'text' ? 'search' : 'browser';
+}
 
 /** Whether the session is also told a key that the browser deals with: a screen listens to it. */
 export function isOverheard(view, key) {
-  return Boolean(view?.state.keys) && inBox.has(key.name) && view.state.kind === 'text';
+  return useOf(view, key) === 'overheard';
 }
 
 /** Keys of which the browser knows more than their name; they come again as text. */
