@@ -1,4 +1,5 @@
 #include "support/ContractTest.h"
+#include "support/EarlierVisit.h"
 
 namespace tellurix::tests {
 namespace {
@@ -65,6 +66,47 @@ TEST_F(ContractEditor, ShowsTheContract) {
         }
         user.close();
     });
+}
+
+TEST_F(ContractEditor, TheSummaryNamesEachFieldAndLeavesOutTheEmptyOnes) {
+    const auto shown = [](User& user) {
+        return user.items("List1") + user.text("txtAbschlag") + "|" + user.text("txtZusatz") + "|" +
+               user.text("txtZusatzText(0)") + "|" + user.text("txtZusatzText(1)") + "|" +
+               user.text("txtKunde");
+    };
+    edit(
+        fullContract,
+        [&](User& user) {
+            EXPECT_EQ(
+                shown(user),
+                "Vertragsdatum: 01.02.2024\nLieferzeitraum: 05.02.2024 – 06.12.2024\n"
+                "Text 3396: 02.02.2024\nText 3397: 03.02.2024\nText 3398: 04.02.2024\n"
+                "Lieferadresse: Holzplatz Judenburg\nText 3399: Stornorechnung für Käufer\n"
+                "Text 3400: Dienstleistung 20 %\nText 3401: CHF\nText 3385: Schlag Tannhof\n"
+                "Text 3386: Zahlung in drei Raten\nText 3387: Rinde beim Käufer\n"
+                "Text 3388: Auszeige durch den Förster\nText 3389: Rückegassen ausgesteckt\n"
+                "Text 3390: Bringung bei Frost\nText 3391: Waldort Abteilung 7\n"
+                "Text 3392: Schlagruhe im April\nText 3393: Reisig bleibt liegen\n"
+                "Text 3394: Haftung beim Käufer\nText 4172: 1,01\nText 4173: 20,02\nText 4174: 300,03\n"
+                "Text 4175: 4000,04\nText 4176: 50000,05\nText 4177: 6,06\nText 4178: 70,07\n"
+                "Text 4179: 800,08\nText 4180: 9000,09\nText 4181: 10000,10\n"
+                "Stockkauf Bauernwald|Stockkauf nach Hieb|Grenzen bezeichnet|Kaution hinterlegt|Zöhrer Karl");
+            user.close();
+        },
+        false, "A6");
+    edit(
+        sparseContract,
+        [&](User& user) {
+            EXPECT_EQ(shown(user),
+                      "Lieferzeitraum:  – 06.11.2024\nText 3345: 02.03.2024\nText 3347: 04.03.2024\n"
+                      "Lieferadresse: Heizwerk Wörgl\nText 3349: Frachterlöse\nText 3350: EUR\n"
+                      "Text 3334: Fracht nur tagsüber\nText 3336: Maut beim Auftraggeber\n"
+                      "Text 3338: Ladezeit eine Stunde\nText 3340: Anmeldung per Telefon\n"
+                      "Text 3342: Standgeld nach Tarif\nText 4142: 11,50\nText 4144: 13,25\n"
+                      "Text 4146: 15,75\nText 4148: 17,05\nText 4150: 19,95\n||Kette mitführen||");
+            user.close();
+        },
+        false, "A3");
 }
 
 TEST_F(ContractEditor, NullFlagsReadAsClearAndAContractWithoutCustomerIsEmpty) {

@@ -1,4 +1,5 @@
 #include "support/ContractTest.h"
+#include "support/EarlierVisit.h"
 #include "ui/Grid.h"
 
 #include <thread>
@@ -23,23 +24,47 @@ protected:
     }
 };
 
-TEST_F(ContractHeader, ShowsTheRow) {
-    editHeader(1, [&](User& user) {
-        EXPECT_EQ(user.text("txtDate1"), "07.01.2025");
-        EXPECT_EQ(user.text("txtDate2"), "10.01.2025");
-        EXPECT_EQ(user.text("txtDate4"), "") << "NULL is an empty box";
-        EXPECT_EQ(user.text("txtLieferBis"), "31.12.2025");
-        EXPECT_EQ(user.text("txtNumber(0)"), "12,50");
-        EXPECT_EQ(user.text("txtNumber(9)"), "");
-        EXPECT_EQ(user.text("txtKopf(0)"), "Lieferung frei Werk Wolfsberg, Tor 2");
-        EXPECT_EQ(user.tag("txtRechn"), "1");
-        EXPECT_EQ(user.text("txtWahrung"), "EUR");
-        EXPECT_EQ(user.tag("txtMandant(0)"), "1");
-        EXPECT_EQ(user.text("txtMandant(1)"),
-                  value("SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = 1"));
-        EXPECT_EQ(user.tag("txtLieferadresse(0)"), "50");
-        user.click("btnCancel");
-    });
+TEST_F(ContractHeader, EveryBoxShowsItsOwnColumnAndOkWritesItBack) {
+    struct Case {
+        std::int32_t contract;
+        const char* keys; ///< of invoice kind, booking kind, currency, client, delivery address
+        const char* boxes;
+    };
+    const Case cases[] = {
+        {fullContract, "5|4|0|2|53|",
+         "01.02.2024|02.02.2024|03.02.2024|04.02.2024|05.02.2024|06.12.2024|Stornorechnung für "
+         "Käufer|Dienstleistung 20 %|CHF|101|Holzkontor Ennsblick|6004|Holzplatz Judenburg|1,01|Schlag "
+         "Tannhof|20,02|Zahlung in drei Raten|300,03|Rinde beim Käufer|4000,04|Auszeige durch den "
+         "Förster|50000,05|Rückegassen ausgesteckt|6,06|Bringung bei Frost|70,07|Waldort Abteilung "
+         "7|800,08|Schlagruhe im April|9000,09|Reisig bleibt liegen|10000,10|Haftung beim Käufer|"},
+        {sparseContract, "|5|1||54|",
+         "|02.03.2024||04.03.2024||06.11.2024||Frachterlöse|EUR|||6005|Heizwerk Wörgl|11,50|Fracht nur "
+         "tagsüber|||13,25|Maut beim Auftraggeber|||15,75|Ladezeit eine Stunde|||17,05|Anmeldung per "
+         "Telefon|||19,95|Standgeld nach Tarif|||"},
+    };
+    for (const Case& c : cases) {
+        const std::string query = "SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(c.contract);
+        const std::string before = row(query);
+        editHeader(c.contract, [&](User& user) {
+            std::string keys;
+            for (const char* box :
+                 {"txtRechn", "txtBuchn", "txtWahrung", "txtMandant(0)", "txtLieferadresse(0)"})
+                keys += user.tag(box) + "|";
+            EXPECT_EQ(keys, c.keys);
+            std::string boxes;
+            for (const char* box : {"txtDate1", "txtDate2", "txtDate3", "txtDate4", "txtLieferVon",
+                                    "txtLieferBis", "txtRechn", "txtBuchn", "txtWahrung", "txtMandant(0)",
+                                    "txtMandant(1)", "txtLieferadresse(0)", "txtLieferadresse(1)"})
+                boxes += user.text(box) + "|";
+            for (int i = 0; i < 10; ++i) {
+                for (const char* box : {"txtNumber", "txtKopf"})
+                    boxes += user.text(box + ("(" + std::to_string(i) + ")")) + "|";
+            }
+            EXPECT_EQ(boxes, c.boxes);
+            user.click("btnOk");
+        });
+        EXPECT_EQ(row(query), before);
+    }
 }
 
 TEST_F(ContractHeader, CaptionsFollowTheContractType) {

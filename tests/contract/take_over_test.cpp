@@ -41,6 +41,26 @@ TEST_F(TakingLinesOver, AppendsCopiesBehindTheLinesThatAreThere) {
               "Faserholz übrige Baumarten | 83 NOT IN ('FI', 'KI') ; | 300.000 | 5");
 }
 
+TEST_F(TakingLinesOver, EveryFieldIsCopiedInTheOrderOfThePlaces) {
+    host.display.onMessage("hat die Vertragsart A6", Answer::yes);
+    host.display.onMessage("Es wurden 6 Zeilen übernommen.");
+    edit(17, [&](User& user) {
+        user.type("txtVertrag", "A6-2024-001 Stockkauf Obdach");
+        user.click("btnUbernehmen");
+    });
+    for (const char* line : {"PREISE", "MENGEN"}) {
+        const std::string columns =
+            line == std::string{"PREISE"}
+                ? "BEZEICHNUNG,SELEKTION_VALUE,PREIS,EURO,ID_WARENEINHEIT,PREIS_ABR2 FROM VERTRAG_PREISE"
+                : "BEZEICHNUNG,SELEKTION_VALUE,MENGE,ID_WARENEINHEIT FROM VERTRAG_MENGEN";
+        for (const char* place : {"1", "2", "3"}) {
+            const std::string query =
+                "SELECT " + columns + " WHERE ORDNUNG = " + place + " AND ID_VERTRAG = ";
+            EXPECT_EQ(row(query + "17"), row(query + "18"));
+        }
+    }
+}
+
 TEST_F(TakingLinesOver, WhatCannotBeASourceIsRefusedWithTheReason) {
     struct Case {
         const char* rule;

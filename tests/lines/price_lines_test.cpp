@@ -53,6 +53,50 @@ TEST_F(PriceLines, TheLayoutFollowsSettingSiteAndType) {
     }
 }
 
+TEST_F(PriceLines, EveryFieldGoesIntoItsOwnBoxAndBackAgain) {
+    host.session.site = "UELZEN";
+    host.settings["MESZAHL"] = "1";
+    struct Case {
+        std::int32_t contract;
+        int row;
+        const char* cells;
+        const char* boxes;
+    };
+    const Case cases[] = {
+        {fullContract, 0, "|Fichte am Hang|1,1|11,11|Rm|CHF",
+         "Fichte am Hang|1,1|11,11|11,22|FI|B|A|1b|4|Rm|CHF"},
+        {fullContract, 1, "|Lärche am Hang|2,2|22,22|Fm o.R.|CHF",
+         "Lärche am Hang|2,2|22,22|12,21|LA|L|B|2a|5|Fm o.R.|CHF"},
+        {fullContract, 2, "|Buche am Hang|3,3|33,33|atro-t|EUR",
+         "Buche am Hang|3,3|33,33|13,31|BU|BR|D|2b|1|atro-t|EUR"},
+        {sparseContract, 0, "|Fracht voll||9,99|SRm|CHF", "Fracht voll||9,99|||L||3a||SRm|CHF"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.boxes);
+        const std::string before = prices("*", c.contract);
+        editPrices(
+            c.contract,
+            [&](User& user) {
+                user.select("MSFlexGrid1", c.row, 1);
+                EXPECT_EQ(cells(user.grid("MSFlexGrid1"), c.row), c.cells);
+                std::string boxes;
+                for (const char* box : {"txtBEZEICHNUNG", "txtMsz", "txtPreis", "txtPreis_Abr2", "txtHa",
+                                        "txtHs", "txtGKL", "txtStkl", "txtLange"})
+                    boxes += user.text(box) + "|";
+                EXPECT_EQ(boxes + user.control<ui::ComboBox>("cboUnit").selectedText() + "|" +
+                              user.control<ui::ComboBox>("cboGeld").selectedText(),
+                          c.boxes);
+                user.click("btnPreiseAendern");
+                EXPECT_EQ(user.grid("grdVorschau").cell(c.row, 0), user.text("txtBEZEICHNUNG"));
+                user.click("cmdBearbeiten");
+                user.click("cmdSpeichern");
+                user.click("cmdOk");
+            },
+            "A6");
+        EXPECT_TRUE(c.contract != fullContract || prices("*", c.contract) == before);
+    }
+}
+
 TEST_F(PriceLines, LoadingShowsTheLinesAndPutsTheirPlacesInOrder) {
     host.session.site = "WVO";
     editPrices(16, [&](User& user) {

@@ -51,6 +51,9 @@ TEST_F(QuantityLines, DeliveredAndOpenInEveryUnit) {
         {"A1: 25 - 12.25", 8, 1, "A1", "12,75"},
         {"A6: 350 - 44.6", 13, 0, "A6", "305,40"},
         {"nothing is booked against the contract", 16, 0, "R", "900,00"},
+        {"Rm, of many measures: 10.25 - 12.6/0.7", 18, 0, "A6", "-7,75"},
+        {"atro: 200.125 - 13/2.6", 18, 1, "A6", "195,13"},
+        {"Stück: 30.5 - 23 direct", 18, 2, "A6", "7,50"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.rule);
