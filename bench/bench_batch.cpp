@@ -2,10 +2,10 @@
 // table variable with 13,149 days in a loop and looks its weeks up there. For a new connection, and sent
 // again by the same one.
 
-#include "SampleFile.h"
-#include "embedded/Database.h"
-#include "measure.h"
-#include "report.h"
+#include "bench/support/SampleFile.h"
+#include "bench/support/measure.h"
+#include "bench/support/report.h"
+#include "database/embedded/Database.h"
 
 #include <cstdlib>
 #include <exception>
@@ -33,7 +33,7 @@ const std::string weekList =
     "WVO_VERTAG_KALENDER.WOCHE AND  dtTable.YEAR_KW = WVO_VERTAG_KALENDER.JAHR)  AS DATUM FROM WVO_VERTAG_KALENDER "
     "ORDER BY 1";
 
-void readAll(common::Connection& connection) {
+void readAll(base::Connection& connection) {
     const auto rows = connection.open(weekList);
     for (; !rows->atEnd(); rows->moveNext())
         bench::keep(rows->field(1));

@@ -1,13 +1,13 @@
 // What the check of a typed key against a database column costs, on a table of ten rows and on one of
 // a million: it needs the column's type only, so the time must not grow with the table.
 
-#include "SampleFile.h"
-#include "common/M_Common.h"
-#include "embedded/Database.h"
-#include "measure.h"
-#include "report.h"
-#include "ui/Form.h"
-#include "ui/TextBox.h"
+#include "bench/support/SampleFile.h"
+#include "bench/support/measure.h"
+#include "bench/support/report.h"
+#include "database/embedded/Database.h"
+#include "module/parts/M_Common.h"
+#include "module/ui/Form.h"
+#include "module/ui/TextBox.h"
 
 #include <array>
 #include <cstdlib>
@@ -41,7 +41,7 @@ public:
     ui::TextBox box{*this, "box", 10};
 };
 
-void makeTable(common::Connection& connection, const std::string& name, std::int64_t rows) {
+void makeTable(base::Connection& connection, const std::string& name, std::int64_t rows) {
     connection.execute("CREATE TABLE " + name +
                        " (ID int NOT NULL PRIMARY KEY, WERT int NULL, TEXT nvarchar(60) NULL)");
     connection.execute("INSERT INTO " + name + " (ID,WERT,TEXT) VALUES (1,1,'eine Zeile wie jede andere')");
@@ -54,20 +54,20 @@ void makeTable(common::Connection& connection, const std::string& name, std::int
 }
 
 void check(const host::TlxVar& session, const KeyForm& form, const MeasuredTable& table) {
-    const common::Locale locale = common::Locale::german();
-    const std::int16_t taken = common::CheckKeyForColumn(session, form, '7', table.name, "WERT", locale);
-    const std::int16_t refused = common::CheckKeyForColumn(session, form, 'x', table.name, "WERT", locale);
+    const base::Locale locale = base::Locale::german();
+    const std::int16_t taken = parts::CheckKeyForColumn(session, form, '7', table.name, "WERT", locale);
+    const std::int16_t refused = parts::CheckKeyForColumn(session, form, 'x', table.name, "WERT", locale);
     if (taken != '7' || refused != 0) throw std::runtime_error{"the keys are not told apart"};
 }
 
 bench::Clock::duration timeOfCall(const host::TlxVar& session, const KeyForm& form,
                                   const MeasuredTable& table) {
-    const common::Locale locale = common::Locale::german();
+    const base::Locale locale = base::Locale::german();
     return bench::timeOf(
-        [&] { bench::keep(common::CheckKeyForColumn(session, form, '7', table.name, "WERT", locale)); });
+        [&] { bench::keep(parts::CheckKeyForColumn(session, form, '7', table.name, "WERT", locale)); });
 }
 
-host::TlxVar sessionOn(common::Connection& connection) {
+host::TlxVar sessionOn(base::Connection& connection) {
     host::TlxVar session;
     session.connection = &connection;
     return session;

@@ -3,14 +3,14 @@
 // in the grid. The first two are the server's time in this process, without a browser; the last goes
 // through the workbench in its own process and a socket, as the page does it.
 
-#include "ContractSession.h"
-#include "GeneratedFile.h"
-#include "PageClient.h"
-#include "SampleFile.h"
-#include "WorkbenchProcess.h"
-#include "embedded/Database.h"
-#include "report.h"
-#include "tracing/TracingConnection.h"
+#include "bench/support/ContractSession.h"
+#include "bench/support/GeneratedFile.h"
+#include "bench/support/PageClient.h"
+#include "bench/support/SampleFile.h"
+#include "bench/support/WorkbenchProcess.h"
+#include "bench/support/report.h"
+#include "database/embedded/Database.h"
+#include "database/tracing/TracingConnection.h"
 
 #include <boost/asio/co_spawn.hpp>
 
@@ -56,7 +56,7 @@ std::vector<std::string> joined(std::vector<std::string> row, const std::vector<
 /// been sent by then.
 class WatchedSession {
 public:
-    explicit WatchedSession(common::Connection& connection)
+    explicit WatchedSession(base::Connection& connection)
         : traced_(connection, [this](const tracing::Statement&) { ++sent_; }), session_(traced_, page_) {
         page_.onWait = [this] { waits_.push_back({Clock::now(), sent_}); };
     }
@@ -278,7 +278,7 @@ int main() {
         measureExplaining();
         measureCommits();
         return EXIT_SUCCESS;
-    } catch (const workbench::SessionEnded&) {
+    } catch (const standin::SessionEnded&) {
         return EXIT_FAILURE; // the page has told why
     } catch (const std::exception& error) {
         std::cerr << "bench_lines: " << error.what() << '\n';

@@ -3,13 +3,13 @@
 // as text. The workbench's own services, display and embedded database do the work; only the browser
 // is missing.
 
-#include "ContractSession.h"
-#include "SampleFile.h"
-#include "embedded/Database.h"
-#include "home/contract_list.h"
-#include "report.h"
-#include "statement_name.h"
-#include "tracing/TracingConnection.h"
+#include "bench/support/ContractSession.h"
+#include "bench/support/SampleFile.h"
+#include "bench/support/report.h"
+#include "bench/support/statement_name.h"
+#include "database/embedded/Database.h"
+#include "database/tracing/TracingConnection.h"
+#include "standin/home/contract_list.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -35,7 +35,7 @@ struct Contract {
     std::string type;
 };
 
-std::vector<Contract> contractsOf(common::Connection& connection) {
+std::vector<Contract> contractsOf(base::Connection& connection) {
     std::vector<Contract> contracts;
     const auto rows = connection.open("SELECT ID_VERTRAG,VER_TYPE FROM VERTRAEGE ORDER BY ID_VERTRAG");
     for (; !rows->atEnd(); rows->moveNext()) {
@@ -96,7 +96,7 @@ void measureOpening(const embedded::Database& database) {
 /// Counts the statements that a session sends between two of its waits for the user.
 class StatementCount {
 public:
-    explicit StatementCount(common::Connection& inner)
+    explicit StatementCount(base::Connection& inner)
         : traced_(inner, [this](const tracing::Statement& statement) { sent_.push_back(statement); }),
           session_(traced_, page_) {
         page_.onWait = [this] { waits_.push_back(sent_.size()); };
@@ -157,7 +157,7 @@ void countStatements(const embedded::Database& database) {
                 "Saving the header, and what the editor then shows",
                 "Saving the editor, and telling the host"});
 
-    const std::int32_t created = workbench::createContract(*connection, "Messung", "R");
+    const std::int32_t created = standin::createContract(*connection, "Messung", "R");
     count.play({created, "R"}, true, {bench::closeWindow(editor), bench::answer(ui::Answer::yes)},
                {"Opening a new contract", "", "Discarding a new contract"});
 }
@@ -171,7 +171,7 @@ int main() {
         measureOpening(database);
         countStatements(database);
         return EXIT_SUCCESS;
-    } catch (const workbench::SessionEnded&) {
+    } catch (const standin::SessionEnded&) {
         return EXIT_FAILURE; // the page has told why
     } catch (const std::exception& error) {
         std::cerr << "bench_open_contract: " << error.what() << '\n';

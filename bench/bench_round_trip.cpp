@@ -2,11 +2,11 @@
 // much memory a further session takes that waits for its user. The workbench runs as its own process;
 // the users are connections of this one, which type into the free numbers of a contract's header.
 
-#include "PageClient.h"
-#include "SampleFile.h"
-#include "WorkbenchProcess.h"
-#include "measure.h"
-#include "report.h"
+#include "bench/support/PageClient.h"
+#include "bench/support/SampleFile.h"
+#include "bench/support/WorkbenchProcess.h"
+#include "bench/support/measure.h"
+#include "bench/support/report.h"
 
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/steady_timer.hpp>

@@ -3,9 +3,9 @@
 // a year apart measure the same thing. Everything is made by the server's own set statements; not one
 // row travels from here.
 
+#include "database/embedded/Database.h"
+#include "database/embedded/script.h"
 #include "database_files.h"
-#include "embedded/Database.h"
-#include "embedded/script.h"
 
 #include <algorithm>
 #include <charconv>
@@ -24,7 +24,7 @@
 
 namespace {
 
-using tellurix::common::Connection;
+using tellurix::base::Connection;
 
 constexpr std::string_view usage = R"(generate_database FILE --contracts N --lines N --logs N [--booked N]
 
@@ -36,9 +36,9 @@ constexpr std::string_view usage = R"(generate_database FILE --contracts N --lin
 )";
 
 /// The time of generation is no part of the data.
-class Standstill : public tellurix::common::Clock {
+class Standstill : public tellurix::base::Clock {
 public:
-    tellurix::common::DateTime now() const override { return {}; }
+    tellurix::base::DateTime now() const override { return {}; }
 };
 
 struct Sizes {
@@ -204,7 +204,7 @@ bool makesIndexes(std::string_view batch) {
 
 void generate(const Sizes& sizes) {
     namespace embedded = tellurix::embedded;
-    namespace files = tellurix::workbench::database_files;
+    namespace files = tellurix::standin::database_files;
     if (std::filesystem::exists(sizes.file)) throw std::invalid_argument{sizes.file + " exists already"};
 
     const Standstill clock;

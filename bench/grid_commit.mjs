@@ -5,7 +5,7 @@
 //                              [--screenshot FILE]
 //
 // The build folder has the workbench and generate_database in it; build/bench by default. The browser's
-// driver is that of tests/browser (npm ci there). With --unpaced a frame begins as soon as there is
+// driver is that of tests/display/page (npm ci there). With --unpaced a frame begins as soon as there is
 // something to draw, instead of with the screen's next sixtieth of a second: what redrawing itself costs.
 import { execFileSync } from 'node:child_process';
 import { mkdtempSync, rmSync } from 'node:fs';
@@ -13,7 +13,7 @@ import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { parseArgs } from 'node:util';
-import { control, focused, open, serve, startBrowser, until } from '../tests/browser/support.js';
+import { control, focused, open, serve, startBrowser, until } from '../tests/display/page/support.js';
 
 const { values: options, positionals } = parseArgs({
   allowPositionals: true,
@@ -28,7 +28,7 @@ const lines = Number(options.lines);
 const commits = Number(options.commits);
 const unmeasured = 20; // the browser compiles what it runs often
 const build = positionals[0] ?? fileURLToPath(new URL('../build/bench', import.meta.url));
-const program = join(build, 'workbench/start/tellurix-workbench');
+const program = join(build, 'standin/workbench/tellurix-workbench');
 const grid = 'MSFlexGrid1';
 
 const pause = (milliseconds) => new Promise((resolve) => setTimeout(resolve, milliseconds));

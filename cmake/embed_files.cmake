@@ -1,41 +1,41 @@
-# tellurix_embed_files(<target> <namespace> <folder> <file>…)
+# tellurix_embed_files(<target> <namespace> <name> <folder> <file>…)
 #
 # Puts files into the executable, so that it runs from wherever it lies. Generates
-# "<namespace>.h" with
-#     namespace tellurix::workbench::<namespace> { std::string_view file(std::string_view name); }
+# "<name>.h" with
+#     namespace tellurix::<namespace>::<name> { std::string_view file(std::string_view name); }
 # which returns the bytes of a file by its name relative to <folder>, or throws std::out_of_range.
-function(tellurix_embed_files target namespace folder)
-  set(generated ${CMAKE_CURRENT_BINARY_DIR}/embedded_${namespace})
+function(tellurix_embed_files target namespace name folder)
+  set(generated ${CMAKE_CURRENT_BINARY_DIR}/embedded_${name})
   set(arrays "")
   set(cases "")
   set(index 0)
-  foreach(name IN LISTS ARGN)
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${folder}/${name})
-    file(READ ${folder}/${name} bytes HEX)
+  foreach(file IN LISTS ARGN)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${folder}/${file})
+    file(READ ${folder}/${file} bytes HEX)
     string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${bytes}")
     string(APPEND arrays "const unsigned char file${index}[] = {${bytes}0};\n")
-    string(APPEND cases "    if (name == \"${name}\") return view(file${index}, sizeof file${index} - 1);\n")
+    string(APPEND cases "    if (name == \"${file}\") return view(file${index}, sizeof file${index} - 1);\n")
     math(EXPR index "${index} + 1")
   endforeach()
-  file(CONFIGURE OUTPUT ${generated}/${namespace}.h CONTENT
+  file(CONFIGURE OUTPUT ${generated}/${name}.h CONTENT
 "#pragma once
 
 #include <string_view>
 
-namespace tellurix::workbench::${namespace} {
+namespace tellurix::${namespace}::${name} {
 
 /// The bytes of a file that was built in. Throws std::out_of_range for an unknown name.
 std::string_view file(std::string_view name);
 
-} // namespace tellurix::workbench::${namespace}
+} // namespace tellurix::${namespace}::${name}
 " @ONLY)
-  file(CONFIGURE OUTPUT ${generated}/${namespace}.cpp CONTENT
-"#include \"${namespace}.h\"
+  file(CONFIGURE OUTPUT ${generated}/${name}.cpp CONTENT
+"#include \"${name}.h\"
 
 #include <stdexcept>
 #include <string>
 
-namespace tellurix::workbench::${namespace} {
+namespace tellurix::${namespace}::${name} {
 
 namespace {
 
@@ -50,8 +50,8 @@ std::string_view file(std::string_view name) {
 ${cases}    throw std::out_of_range{\"no built-in file \" + std::string{name}};
 }
 
-} // namespace tellurix::workbench::${namespace}
+} // namespace tellurix::${namespace}::${name}
 " @ONLY)
-  target_sources(${target} PRIVATE ${generated}/${namespace}.cpp)
+  target_sources(${target} PRIVATE ${generated}/${name}.cpp)
   target_include_directories(${target} PUBLIC ${generated})
 endfunction()

@@ -1,11 +1,11 @@
 // How long a contract takes to come up through COM, and how much memory an open editor needs:
 //     bench_component DATABASE
 // Shown is what is painted: the moment at which the thread has nothing to do but wait for the user.
-#include "automation/AutomationError.h"
-#include "automation/wide.h"
-#include "host/ComContractOpener.h"
-#include "host/libraries.h"
-#include "measure.h"
+#include "bench/support/measure.h"
+#include "com/automation/AutomationError.h"
+#include "com/automation/wide.h"
+#include "standin/windows_host/ComContractOpener.h"
+#include "standin/windows_host/libraries.h"
 
 #include <psapi.h>
 

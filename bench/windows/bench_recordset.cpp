@@ -1,12 +1,12 @@
 // What a recordset of 1,000 rows costs through ADO's late-bound objects, beside the embedded adapter
 // that they stand on: every field of every row is read.
-#include "ado/AdoConnection.h"
-#include "ado/standin/embedded_connection.h"
-#include "automation/wide.h"
-#include "embedded/Database.h"
-#include "measure.h"
-#include "report.h"
-#include "services/SystemClock.h"
+#include "bench/support/measure.h"
+#include "bench/support/report.h"
+#include "com/automation/wide.h"
+#include "database/ado/AdoConnection.h"
+#include "database/embedded/Database.h"
+#include "standin/ado_objects/embedded_connection.h"
+#include "standin/services/values/SystemClock.h"
 
 #include <filesystem>
 #include <iostream>
@@ -17,7 +17,7 @@ namespace {
 constexpr int rowCount = 1000;
 constexpr int repetitions = 50;
 
-void fill(common::Connection& connection) {
+void fill(base::Connection& connection) {
     connection.execute(
         "CREATE TABLE T (ID int IDENTITY PRIMARY KEY, NAME nvarchar(50), HOLZART nvarchar(10), "
         "PREIS decimal(12,4), MENGE decimal(12,3), DATUM datetime, EURO bit, NUMMER smallint, "
@@ -28,7 +28,7 @@ void fill(common::Connection& connection) {
             std::to_string(row) + "','FI',98.7654,12.5,'05.06.2025',1,7,4.1)");
 }
 
-std::size_t readAll(common::Connection& connection, std::string_view query) {
+std::size_t readAll(base::Connection& connection, std::string_view query) {
     std::size_t values = 0;
     const auto rows = connection.open(query);
     for (; !rows->atEnd(); rows->moveNext())
@@ -39,7 +39,7 @@ std::size_t readAll(common::Connection& connection, std::string_view query) {
     return values;
 }
 
-double milliseconds(common::Connection& connection, std::string_view query) {
+double milliseconds(base::Connection& connection, std::string_view query) {
     Durations durations;
     for (int repetition = 0; repetition < repetitions; ++repetition)
         durations.add(timeOf([&] { readAll(connection, query); }));
@@ -47,7 +47,7 @@ double milliseconds(common::Connection& connection, std::string_view query) {
 }
 
 void measure(const std::filesystem::path& file) {
-    const workbench::SystemClock clock;
+    const standin::SystemClock clock;
     const embedded::Database database(file, clock, {.create = true});
     const auto direct = database.connect();
     fill(*direct);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/Clock.h"
-#include "common/database.h"
+#include "module/base/Clock.h"
+#include "module/base/database.h"
 
 #include <chrono>
 #include <filesystem>
@@ -25,10 +25,10 @@ public:
     };
 
     /// @param clock what GETDATE() answers; has to outlive the database and its connections
-    /// @throws common::DatabaseError when the file cannot be opened (connection), is not there (missing), is
+    /// @throws base::DatabaseError when the file cannot be opened (connection), is not there (missing), is
     ///         no database (damaged) or another program's, which is left unchanged (connection)
-    Database(std::filesystem::path file, const common::Clock& clock, Options options);
-    Database(std::filesystem::path file, const common::Clock& clock)
+    Database(std::filesystem::path file, const base::Clock& clock, Options options);
+    Database(std::filesystem::path file, const base::Clock& clock)
         : Database(std::move(file), clock, Options()) {}
 
     const std::filesystem::path& file() const { return file_; }
@@ -37,14 +37,14 @@ public:
 
     /// Brings everything that was written into the one file, and that onto the disk, so that it can be
     /// copied or moved. Nobody may be connected meanwhile.
-    /// @throws common::DatabaseError (storageFull, locked)
+    /// @throws base::DatabaseError (storageFull, locked)
     void moveLogIntoFile() const;
 
-    std::unique_ptr<common::Connection> connect() const;
+    std::unique_ptr<base::Connection> connect() const;
 
 private:
     std::filesystem::path file_;
-    const common::Clock& clock_;
+    const base::Clock& clock_;
     Options options_;
     bool readOnly_ = false;
 };

@@ -1,4 +1,4 @@
-#include "embedded/script.h"
+#include "database/embedded/script.h"
 
 namespace tellurix::embedded {
 
@@ -37,7 +37,7 @@ std::vector<std::string_view> splitBatches(std::string_view text) {
     return batches;
 }
 
-void runScript(common::Connection& connection, std::string_view text) {
+void runScript(base::Connection& connection, std::string_view text) {
     for (const std::string_view batch : splitBatches(text))
         connection.execute(batch);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/database.h"
+#include "module/base/database.h"
 
 #include <string_view>
 #include <vector>
@@ -12,7 +12,7 @@ namespace tellurix::embedded {
 std::vector<std::string_view> splitBatches(std::string_view text);
 
 /// Runs every batch of a file's text, in order.
-/// @throws common::DatabaseError of the first batch that fails
-void runScript(common::Connection& connection, std::string_view text);
+/// @throws base::DatabaseError of the first batch that fails
+void runScript(base::Connection& connection, std::string_view text);
 
 } // namespace tellurix::embedded

@@ -1,4 +1,4 @@
-#include "tracing/TracingConnection.h"
+#include "database/tracing/TracingConnection.h"
 
 #include <utility>
 
@@ -6,8 +6,8 @@ namespace tellurix::tracing {
 
 namespace {
 
-using common::ExecuteResult;
-using common::UpdatableRecordset;
+using base::ExecuteResult;
+using base::UpdatableRecordset;
 
 /// Runs one piece of work and tells the observer how it went.
 template <typename Work>
@@ -38,15 +38,15 @@ public:
 
     std::size_t fieldCount() const override { return inner_->fieldCount(); }
     std::string fieldName(std::size_t index) const override { return inner_->fieldName(index); }
-    common::FieldType fieldType(std::size_t index) const override { return inner_->fieldType(index); }
+    base::FieldType fieldType(std::size_t index) const override { return inner_->fieldType(index); }
     int textWidth(std::size_t index) const override { return inner_->textWidth(index); }
     bool atEnd() override { return inner_->atEnd(); }
     void moveNext() override {
         inner_->moveNext();
         changes_.clear();
     }
-    common::Value field(std::size_t index) override { return inner_->field(index); }
-    void setField(std::string_view name, common::Value value) override {
+    base::Value field(std::size_t index) override { return inner_->field(index); }
+    void setField(std::string_view name, base::Value value) override {
         inner_->setField(name, std::move(value));
         changes_ += (changes_.empty() ? "" : ", ") + std::string{name};
     }

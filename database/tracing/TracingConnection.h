@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/database.h"
+#include "module/base/database.h"
 
 #include <chrono>
 #include <functional>
@@ -19,19 +19,19 @@ struct Statement {
 
 /// A connection that lets another one do the work and tells an observer of every statement. The
 /// trace file, the tests and the measurements look at the module's statements through it.
-class TracingConnection final : public common::Connection {
+class TracingConnection final : public base::Connection {
 public:
     using Observer = std::function<void(const Statement&)>;
 
     /// @param inner does the work, and lives longer than this
-    TracingConnection(common::Connection& inner, Observer observer)
+    TracingConnection(base::Connection& inner, Observer observer)
         : inner_(inner), observer_(std::move(observer)) {}
 
-    common::ExecuteResult execute(std::string_view statement) override;
-    std::unique_ptr<common::UpdatableRecordset> openUpdatable(std::string_view query) override;
+    base::ExecuteResult execute(std::string_view statement) override;
+    std::unique_ptr<base::UpdatableRecordset> openUpdatable(std::string_view query) override;
 
 private:
-    common::Connection& inner_;
+    base::Connection& inner_;
     Observer observer_;
 };
 

@@ -1,20 +1,20 @@
-#include "contract/F_HeaderVertrag.h"
+#include "module/contract/F_HeaderVertrag.h"
 
-#include "common/M_Common.h"
-#include "common/StatementText.h"
-#include "common/field_text.h"
-#include "common/number_format.h"
-#include "common/text.h"
-#include "common/typed_text.h"
-#include "contract/contract_row.h"
-#include "contract/header_captions.h"
-#include "host/text_numbers.h"
-#include "ui/caption.h"
-#include "ui/date_box.h"
+#include "module/base/StatementText.h"
+#include "module/base/field_text.h"
+#include "module/base/number_format.h"
+#include "module/base/text.h"
+#include "module/contract/contract_row.h"
+#include "module/contract/header_captions.h"
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/typed_text.h"
+#include "module/ui/caption.h"
+#include "module/ui/date_box.h"
 
 namespace tellurix::contract {
 
-using common::StatementText;
+using base::StatementText;
 using ui::column;
 using ui::field;
 using ui::fields;
@@ -64,9 +64,9 @@ F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
 void F_HeaderVertrag::connectDates() {
     const auto connect = [this](ui::TextBox& box, std::function<std::string()> title) {
         ui::makeDateBox(box, [this] {
-            common::ShowMessage(services_.display,
-                                services_.localizer.text(host::textNumber::invalidEntry, session_),
-                                ui::box::exclamation);
+            parts::ShowMessage(services_.display,
+                               services_.localizer.text(host::textNumber::invalidEntry, session_),
+                               ui::box::exclamation);
         });
         box.onPick = [this, &box, title = std::move(title)] {
             box.setText(
@@ -180,12 +180,12 @@ void F_HeaderVertrag::LoadHeader() {
     const auto row = session_.connection->open(query.number(contract_).text());
     requireContract(*row);
 
-    txtDate1.setText(common::dateText(row->field("INVDATE")));
-    txtDate2.setText(common::dateText(row->field("DATE1")));
-    txtDate3.setText(common::dateText(row->field("DATE2")));
-    txtDate4.setText(common::dateText(row->field("DATE3")));
-    txtLieferVon.setText(common::dateText(row->field("LIEFERVON")));
-    txtLieferBis.setText(common::dateText(row->field("LIEFERBIS")));
+    txtDate1.setText(base::dateText(row->field("INVDATE")));
+    txtDate2.setText(base::dateText(row->field("DATE1")));
+    txtDate3.setText(base::dateText(row->field("DATE2")));
+    txtDate4.setText(base::dateText(row->field("DATE3")));
+    txtLieferVon.setText(base::dateText(row->field("LIEFERVON")));
+    txtLieferBis.setText(base::dateText(row->field("LIEFERBIS")));
     for (std::size_t i = 0; i < numbers_.size(); ++i) {
         numbers_[i].show(row->field(numbered("NUMM", i)));
         txtKopf[i].setText(row->text(numbered("KOPF", i)));
@@ -204,7 +204,7 @@ void F_HeaderVertrag::LoadHeader() {
 
 void F_HeaderVertrag::leaveCurrency() {
     const bool home =
-        txtWahrung.text().empty() || common::toUpper(txtWahrung.text()) == common::toUpper(homeCurrency_);
+        txtWahrung.text().empty() || base::toUpper(txtWahrung.text()) == base::toUpper(homeCurrency_);
     txtWahrung.setText(home ? homeCurrency_ : host::euro);
     txtWahrung.setTag(home ? "0" : "1");
 }
@@ -221,7 +221,7 @@ std::string F_HeaderVertrag::updateStatement() {
         isNumber ? statement.number(text) : statement.null();
     };
     const auto isNumeric = [this](const std::string& text) {
-        return common::isNumeric(text, services_.locale);
+        return base::isNumeric(text, services_.locale);
     };
 
     date("INVDATE = ", txtDate1);
@@ -235,7 +235,7 @@ std::string F_HeaderVertrag::updateStatement() {
         numberOrNull(numbered(",NUMM", i) + " = ", number.value_or(""), number.has_value());
     }
     for (std::size_t i = 0; i < txtKopf.size(); ++i) {
-        statement.fixed(numbered(",KOPF", i) + " = ").quotedAsItStandsOrNull(common::typedText(txtKopf[i]));
+        statement.fixed(numbered(",KOPF", i) + " = ").quotedAsItStandsOrNull(parts::typedText(txtKopf[i]));
     }
     numberOrNull(",RART_ID = ", rechnungsart_.key(), !rechnungsart_.key().empty());
     numberOrNull(",BUCHNR_ID = ", buchungsart_.key(), !buchungsart_.key().empty());

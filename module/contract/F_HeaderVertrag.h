@@ -1,13 +1,13 @@
 #pragma once
 
-#include "common/LookupBox.h"
-#include "common/NumberField.h"
-#include "common/PersonBox.h"
-#include "host/module_state.h"
-#include "host/services.h"
-#include "ui/Button.h"
-#include "ui/Form.h"
-#include "ui/TextBox.h"
+#include "module/host/module_state.h"
+#include "module/host/services.h"
+#include "module/parts/LookupBox.h"
+#include "module/parts/NumberField.h"
+#include "module/parts/PersonBox.h"
+#include "module/ui/Button.h"
+#include "module/ui/Form.h"
+#include "module/ui/TextBox.h"
 
 #include <array>
 #include <cstdint>
@@ -88,11 +88,11 @@ private:
     ui::Button btnOk{*this, "btnOk", "Ok"};
     ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};
 
-    std::vector<common::NumberField> numbers_; ///< NUMM1 to NUMM10
-    common::LookupBox rechnungsart_;
-    common::LookupBox buchungsart_;
-    common::PersonBox mandant_;
-    common::PersonBox lieferadresse_;
+    std::vector<parts::NumberField> numbers_; ///< NUMM1 to NUMM10
+    parts::LookupBox rechnungsart_;
+    parts::LookupBox buchungsart_;
+    parts::PersonBox mandant_;
+    parts::PersonBox lieferadresse_;
 };
 
 } // namespace tellurix::contract

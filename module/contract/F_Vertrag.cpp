@@ -1,23 +1,23 @@
-#include "contract/F_Vertrag.h"
+#include "module/contract/F_Vertrag.h"
 
-#include "common/M_Common.h"
-#include "common/StatementText.h"
-#include "common/date_format.h"
-#include "common/field_text.h"
-#include "common/own_text.h"
-#include "common/text.h"
-#include "common/typed_text.h"
-#include "contract/F_HeaderVertrag.h"
-#include "contract/contract_row.h"
-#include "contract/header_captions.h"
-#include "host/contract_type.h"
-#include "host/text_numbers.h"
-#include "ui/caption.h"
+#include "module/base/StatementText.h"
+#include "module/base/date_format.h"
+#include "module/base/field_text.h"
+#include "module/base/own_text.h"
+#include "module/base/text.h"
+#include "module/contract/F_HeaderVertrag.h"
+#include "module/contract/contract_row.h"
+#include "module/contract/header_captions.h"
+#include "module/host/contract_type.h"
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/typed_text.h"
+#include "module/ui/caption.h"
 
 namespace tellurix::contract {
 
-using common::OwnText;
-using common::StatementText;
+using base::OwnText;
+using base::StatementText;
 using ui::column;
 using ui::field;
 using ui::fields;
@@ -115,7 +115,7 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
                                            " ID_VERTRAG = " + std::to_string(id_));
     if (newContract_) {
-        SetContractField("INVDATE", common::dateText(services_.clock.today()), id_);
+        SetContractField("INVDATE", base::dateText(services_.clock.today()), id_);
     }
     loadContract();
     loadAdditionalTexts();
@@ -182,15 +182,15 @@ void F_Vertrag::ShowHeader() {
         if (!value.empty()) List1.add(ui::plainCaption(caption) + ": " + value);
     };
     const auto caption = [this](int number) { return services_.localizer.text(number, session_); };
-    const auto ownText = [this](OwnText text) { return common::ownText(text, session_.language); };
+    const auto ownText = [this](OwnText text) { return base::ownText(text, session_.language); };
     const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
 
-    add(ownText(OwnText::contractDate), common::dateText(header->field("INVDATE")));
-    const std::string from = common::dateText(header->field("LIEFERVON"));
-    const std::string to = common::dateText(header->field("LIEFERBIS"));
+    add(ownText(OwnText::contractDate), base::dateText(header->field("INVDATE")));
+    const std::string from = base::dateText(header->field("LIEFERVON"));
+    const std::string to = base::dateText(header->field("LIEFERBIS"));
     if (!from.empty() || !to.empty()) add(ownText(OwnText::deliveryPeriod), from + " – " + to);
     for (std::size_t i = 0; i < captions.dates.size(); ++i) {
-        add(caption(captions.dates[i]), common::dateText(header->field("DATE" + std::to_string(i + 1))));
+        add(caption(captions.dates[i]), base::dateText(header->field("DATE" + std::to_string(i + 1))));
     }
     add(ownText(OwnText::deliveryAddress), header->text("PLAKURZBEZEICHNUNG"));
     add(caption(captions.rechnungsart), header->text("RECHNUNGSART"));
@@ -200,8 +200,8 @@ void F_Vertrag::ShowHeader() {
         add(caption(captions.kopf[i]), header->text("KOPF" + std::to_string(i + 1)));
     }
     for (std::size_t i = 0; i < captions.numbers.size(); ++i) {
-        const common::Value number = header->field("NUMM" + std::to_string(i + 1));
-        add(caption(captions.numbers[i]), common::numberText(number, "0.00", services_.locale));
+        const base::Value number = header->field("NUMM" + std::to_string(i + 1));
+        add(caption(captions.numbers[i]), base::numberText(number, "0.00", services_.locale));
     }
 }
 
@@ -245,7 +245,7 @@ std::string F_Vertrag::GetAbschlagValue(const std::string& column) {
         .fixed(" FROM ABSCHLAG WHERE RECH_NAME = ")
         .quotedAsItStands(name_)
         .fixed(" AND VER_TYPE = ")
-        .quotedAsItStands(common::toUpper(host::moduleState().context.VerType));
+        .quotedAsItStands(base::toUpper(host::moduleState().context.VerType));
     const auto model = session_.connection->open(query.text());
     return model->atEnd() ? std::string{} : model->text(column);
 }
@@ -254,10 +254,10 @@ void F_Vertrag::showDeductionModel() {
     std::string reason;
     try {
         txtAbschlag.setText(GetAbschlagValue("ABS_MODEL"));
-    } catch (const common::StatementError&) {
+    } catch (const base::StatementError&) {
         // The name goes into the statement as it stands, and with an apostrophe in it there is none to send.
         txtAbschlag.setText("");
-        reason = common::ownText(OwnText::noDeductionModel, session_.language);
+        reason = base::ownText(OwnText::noDeductionModel, session_.language);
     }
     lblOhneAbschlag.setVisible(!reason.empty());
     lblOhneAbschlag.setCaption(std::move(reason));
@@ -275,14 +275,14 @@ void F_Vertrag::loadFlags() {
 }
 
 std::string F_Vertrag::GetRightsCode(const std::string& typeCode) {
-    const int type = host::contractTypeNumber(common::toUpper(typeCode));
+    const int type = host::contractTypeNumber(base::toUpper(typeCode));
     if (type < 0) return {};
     return type == 0 ? "2PVK" : "2PVA" + std::to_string(type);
 }
 
 void F_Vertrag::chooseCustomer() {
     host::HostContext& context = host::moduleState().context;
-    services_.moduleService.request(session_, "2PVK", common::toUpper(context.StrVer_Type),
+    services_.moduleService.request(session_, "2PVK", base::toUpper(context.StrVer_Type),
                                     context.strServiceOut1, context.strServiceOut2);
     const std::int32_t chosen = services_.personalPicker.choose(
         session_, GetRightsCode(context.StrVer_Type),
@@ -299,7 +299,7 @@ void F_Vertrag::removeCustomer() {
     StatementText query{"SELECT * FROM VERTRAEGE WHERE ID_VERTRAG = "};
     const auto contract = session_.connection->openUpdatable(query.number(id_).text());
     requireContract(*contract);
-    contract->setField("id_personal", common::Null{});
+    contract->setField("id_personal", base::Null{});
     contract->update();
     customer_ = 0;
     txtKunde.setText("");
@@ -316,12 +316,12 @@ void F_Vertrag::openHeader() {
 
 void F_Vertrag::toggleAdditionalTexts() {
     picZusatzText.setVisible(!picZusatzText.visible());
-    common::SafeSetFocus(picZusatzText.visible() ? static_cast<ui::Control&>(txtZusatz) : btnZusatz);
+    parts::SafeSetFocus(picZusatzText.visible() ? static_cast<ui::Control&>(txtZusatz) : btnZusatz);
 }
 
 void F_Vertrag::writeAdditionalText(AdditionalText& text) {
     if (text.box.text() == text.written) return;
-    SetContractField(text.column, common::typedText(text.box), id_);
+    SetContractField(text.column, parts::typedText(text.box), id_);
     text.written = text.box.text();
 }
 
@@ -335,14 +335,14 @@ bool F_Vertrag::keepsRefusedText() {
         }
     }
     if (refused == nullptr) return false;
-    const std::string question = common::ownText(OwnText::textNotSaved, session_.language);
-    if (common::ShowMessage(services_.display, question,
-                            ui::box::yesNo + ui::box::exclamation + ui::box::defaultButton2) ==
+    const std::string question = base::ownText(OwnText::textNotSaved, session_.language);
+    if (parts::ShowMessage(services_.display, question,
+                           ui::box::yesNo + ui::box::exclamation + ui::box::defaultButton2) ==
         ui::Answer::yes) {
         return false;
     }
     picZusatzText.setVisible(true);
-    common::SafeSetFocus(*refused);
+    parts::SafeSetFocus(*refused);
     return true;
 }
 
@@ -369,7 +369,7 @@ void F_Vertrag::save() {
 bool F_Vertrag::queryUnload() {
     if (newContract_ && notYetSaved_) {
         const std::string question = services_.localizer.text(host::textNumber::discardContract, session_);
-        if (common::ShowMessage(services_.display, question, ui::box::yesNo) != ui::Answer::yes) return false;
+        if (parts::ShowMessage(services_.display, question, ui::box::yesNo) != ui::Answer::yes) return false;
         discard();
         releaseLineScreens();
         return true;

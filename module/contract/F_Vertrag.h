@@ -1,16 +1,16 @@
 #pragma once
 
-#include "contract/TakeOverFrame.h"
-#include "host/module_state.h"
-#include "host/services.h"
-#include "lines/F_VertragMengen.h"
-#include "lines/F_VertragPreise.h"
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/Form.h"
-#include "ui/Grid.h"
-#include "ui/ListBox.h"
-#include "ui/TextBox.h"
+#include "module/contract/TakeOverFrame.h"
+#include "module/host/module_state.h"
+#include "module/host/services.h"
+#include "module/lines/F_VertragMengen.h"
+#include "module/lines/F_VertragPreise.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+#include "module/ui/Form.h"
+#include "module/ui/Grid.h"
+#include "module/ui/ListBox.h"
+#include "module/ui/TextBox.h"
 
 #include <array>
 #include <cstdint>

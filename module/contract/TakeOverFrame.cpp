@@ -1,20 +1,20 @@
-#include "contract/TakeOverFrame.h"
+#include "module/contract/TakeOverFrame.h"
 
-#include "common/M_Common.h"
-#include "common/Refused.h"
-#include "common/StatementText.h"
-#include "common/text.h"
-#include "common/whole_number.h"
-#include "host/module_state.h"
-#include "host/text_numbers.h"
-#include "ui/caption.h"
+#include "module/base/Refused.h"
+#include "module/base/StatementText.h"
+#include "module/base/text.h"
+#include "module/base/whole_number.h"
+#include "module/host/module_state.h"
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
+#include "module/ui/caption.h"
 
 #include <stdexcept>
 
 namespace tellurix::contract {
 
-using common::OwnText;
-using common::StatementText;
+using base::OwnText;
+using base::StatementText;
 
 namespace {
 
@@ -87,7 +87,7 @@ void TakeOverFrame::Choice::forget() {
 }
 
 std::string TakeOverFrame::words(OwnText text, const std::vector<std::string>& values) const {
-    return common::ownText(text, session_.language, values);
+    return base::ownText(text, session_.language, values);
 }
 
 void TakeOverFrame::pickType() {
@@ -97,7 +97,7 @@ void TakeOverFrame::pickType() {
 }
 
 void TakeOverFrame::pickSource() {
-    const auto key = common::wholeNumber<std::int32_t>(services_.keyedLists.choose(
+    const auto key = base::wholeNumber<std::int32_t>(services_.keyedLists.choose(
         session_, contractList, ui::plainCaption(lblVertrag.caption()), limits(), txtVertrag.text()));
     if (!key) return;
     if (*key == contract_) {
@@ -133,7 +133,7 @@ bool TakeOverFrame::resolveSource() {
     std::vector<std::string> keys;
     bool ofItself = nameOf(contract_) == name;
     for (const std::string& found : services_.keyedLists.find(session_, contractByName, name, limits())) {
-        const auto contract = common::wholeNumber<std::int32_t>(found);
+        const auto contract = base::wholeNumber<std::int32_t>(found);
         // A host's lists may know no limits.
         if (contract == contract_) ofItself = true;
         if (contract && contract != contract_ && isOfChosenType(*contract)) keys.push_back(found);
@@ -151,7 +151,7 @@ bool TakeOverFrame::resolveSource() {
 bool TakeOverFrame::isOfChosenType(std::int32_t contract) {
     if (type_.key.empty()) return true;
     const std::string type = services_.keyedLists.typeOf(session_, contract);
-    return type.empty() || common::toUpper(type) == common::toUpper(type_.key);
+    return type.empty() || base::toUpper(type) == base::toUpper(type_.key);
 }
 
 std::string TakeOverFrame::askWhich(const std::vector<std::string>& keys) {
@@ -172,18 +172,18 @@ std::optional<std::string> TakeOverFrame::nameOf(std::int32_t contract) {
 }
 
 bool TakeOverFrame::refuse(ui::TextBox& box, const std::string& why) {
-    common::ShowMessage(services_.display, why, ui::box::exclamation);
-    common::SafeSetFocus(box);
+    parts::ShowMessage(services_.display, why, ui::box::exclamation);
+    parts::SafeSetFocus(box);
     return false;
 }
 
 bool TakeOverFrame::acceptsTypeOf(std::int32_t source) {
     const std::string type = services_.keyedLists.typeOf(session_, source);
     const std::string& own = host::moduleState().context.StrVer_Type;
-    if (type.empty() || common::toUpper(type) == common::toUpper(own)) return true;
-    return common::ShowMessage(services_.display,
-                               words(OwnText::sourceOfOtherType, {txtVertrag.text(), type, own}),
-                               ui::box::yesNo + ui::box::question) == ui::Answer::yes;
+    if (type.empty() || base::toUpper(type) == base::toUpper(own)) return true;
+    return parts::ShowMessage(services_.display,
+                              words(OwnText::sourceOfOtherType, {txtVertrag.text(), type, own}),
+                              ui::box::yesNo + ui::box::question) == ui::Answer::yes;
 }
 
 void TakeOverFrame::takeOver() {
@@ -192,9 +192,9 @@ void TakeOverFrame::takeOver() {
         refuse(txtVertrag, services_.localizer.text(host::textNumber::invalidEntry, session_));
         return;
     }
-    if (!nameOf(contract_)) throw common::Refused{OwnText::contractIsGone};
+    if (!nameOf(contract_)) throw base::Refused{OwnText::contractIsGone};
     if (!resolveSource()) return;
-    const std::int32_t source = common::wholeNumber<std::int32_t>(source_.key).value();
+    const std::int32_t source = base::wholeNumber<std::int32_t>(source_.key).value();
     lines::TakeOver lines{*session_.connection, source, contract_};
     if (lines.total() == 0) {
         refuse(txtVertrag, words(OwnText::sourceWithoutLines, {name}));
@@ -207,10 +207,10 @@ void TakeOverFrame::takeOver() {
     tookOver_();
     if (lines.done() == lines.total()) {
         const std::string count = std::to_string(lines.done());
-        common::ShowMessage(services_.display,
-                            lines.done() == 1 ? words(OwnText::oneLineTakenOver)
-                                              : words(OwnText::linesTakenOver, {count}),
-                            ui::box::information);
+        parts::ShowMessage(services_.display,
+                           lines.done() == 1 ? words(OwnText::oneLineTakenOver)
+                                             : words(OwnText::linesTakenOver, {count}),
+                           ui::box::information);
     }
 }
 

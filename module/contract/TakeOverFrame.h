@@ -1,14 +1,14 @@
 #pragma once
 
-#include "common/own_text.h"
-#include "host/services.h"
-#include "lines/TakeOver.h"
-#include "ui/Button.h"
-#include "ui/Frame.h"
-#include "ui/Label.h"
-#include "ui/Layout.h"
-#include "ui/ProgressBar.h"
-#include "ui/TextBox.h"
+#include "module/base/own_text.h"
+#include "module/host/services.h"
+#include "module/lines/TakeOver.h"
+#include "module/ui/Button.h"
+#include "module/ui/Frame.h"
+#include "module/ui/Label.h"
+#include "module/ui/Layout.h"
+#include "module/ui/ProgressBar.h"
+#include "module/ui/TextBox.h"
 
 #include <cstdint>
 #include <functional>
@@ -60,7 +60,7 @@ private:
     /// Whether the source is of the contract's own type, or the user wants its lines all the same.
     bool acceptsTypeOf(std::int32_t source);
     void copy(lines::TakeOver& lines);
-    std::string words(common::OwnText text, const std::vector<std::string>& values = {}) const;
+    std::string words(base::OwnText text, const std::vector<std::string>& values = {}) const;
 
     host::HostServices& services_;
     const host::TlxVar& session_;

@@ -1,18 +1,18 @@
-#include "contract/contract_row.h"
+#include "module/contract/contract_row.h"
 
-#include "common/Refused.h"
+#include "module/base/Refused.h"
 
 namespace tellurix::contract {
 
-using common::OwnText;
-using common::Refused;
+using base::OwnText;
+using base::Refused;
 
-void updateContract(common::Connection& connection, const std::string& statement) {
+void updateContract(base::Connection& connection, const std::string& statement) {
     // A server that was told not to count answers -1: then there is nothing to be told.
     if (connection.execute(statement).rowsAffected == 0) throw Refused{OwnText::contractIsGone};
 }
 
-void requireContract(common::Recordset& contract) {
+void requireContract(base::Recordset& contract) {
     if (contract.atEnd()) throw Refused{OwnText::contractIsGone};
 }
 

@@ -1,7 +1,7 @@
-#include "contract/header_captions.h"
+#include "module/contract/header_captions.h"
 
-#include "common/text.h"
-#include "host/contract_type.h"
+#include "module/base/text.h"
+#include "module/host/contract_type.h"
 
 namespace tellurix::contract {
 
@@ -27,7 +27,7 @@ HeaderCaptions block(int base, int numberBase) {
 } // namespace
 
 HeaderCaptions headerCaptions(std::string_view typeCode) {
-    const int type = host::contractTypeNumber(common::toUpper(typeCode));
+    const int type = host::contractTypeNumber(base::toUpper(typeCode));
     if (type < 0) return block(0, 0);
     if (type > 0) return block(3300 + 17 * (type - 1), 4122 + 10 * (type - 1));
     // Sales contracts are older than the blocks; their tenth text took a number left free.

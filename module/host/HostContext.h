@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/boolean16.h"
+#include "module/host/boolean16.h"
 
 #include <cstdint>
 #include <memory>

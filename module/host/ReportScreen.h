@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/TlxVar.h"
-#include "host/module_state.h"
-#include "host/services.h"
+#include "module/host/TlxVar.h"
+#include "module/host/module_state.h"
+#include "module/host/services.h"
 
 #include <cstdint>
 #include <functional>

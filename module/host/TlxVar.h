@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/database.h"
+#include "module/base/database.h"
 
 #include <string>
 
@@ -14,7 +14,7 @@ inline constexpr const char* euro = "EUR";
 /// on to the host's services and to its child screens. The module never changes one.
 struct TlxVar {
     /// The open connection that every statement runs on. Day-first: 'dd.mm.yyyy' is a date on it.
-    common::Connection* connection = nullptr;
+    base::Connection* connection = nullptr;
     /// The user's access level; contracts without a level of their own use it.
     int accessLevel = 0;
     /// Short name of the home currency, the other one beside `euro`.

@@ -1,6 +1,6 @@
-#include "host/contract_type.h"
+#include "module/host/contract_type.h"
 
-#include "common/text.h"
+#include "module/base/text.h"
 
 namespace tellurix::host {
 
@@ -11,7 +11,7 @@ int contractTypeNumber(std::string_view code) {
 }
 
 std::string contractTypeOf(std::string_view code) {
-    const int number = contractTypeNumber(common::toUpper(code));
+    const int number = contractTypeNumber(base::toUpper(code));
     if (number < 0) return {};
     return number == 0 ? "V" : "V" + std::to_string(number);
 }

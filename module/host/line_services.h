@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/TlxVar.h"
-#include "ui/TextBox.h"
+#include "module/host/TlxVar.h"
+#include "module/ui/TextBox.h"
 
 #include <optional>
 #include <string>

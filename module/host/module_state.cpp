@@ -1,4 +1,4 @@
-#include "host/module_state.h"
+#include "module/host/module_state.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/HostContext.h"
+#include "module/host/HostContext.h"
 
 #include <memory>
 #include <string>

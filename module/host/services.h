@@ -1,13 +1,13 @@
 #pragma once
 
-#include "common/Clock.h"
-#include "common/Locale.h"
-#include "host/TlxVar.h"
-#include "host/boolean16.h"
-#include "host/line_services.h"
-#include "ui/Display.h"
-#include "ui/Grid.h"
-#include "ui/TextBox.h"
+#include "module/base/Clock.h"
+#include "module/base/Locale.h"
+#include "module/host/TlxVar.h"
+#include "module/host/boolean16.h"
+#include "module/host/line_services.h"
+#include "module/ui/Display.h"
+#include "module/ui/Grid.h"
+#include "module/ui/TextBox.h"
 
 #include <cstdint>
 #include <string>
@@ -191,8 +191,8 @@ public:
 struct HostServices {
     ui::Display& display;
     ui::ErrorHandling& errors;
-    const common::Clock& clock;
-    common::Locale locale;
+    const base::Clock& clock;
+    base::Locale locale;
     HostDataAccess& dataAccess;
     HostModuleService& moduleService;
     HostLocalizer& localizer;

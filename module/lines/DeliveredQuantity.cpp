@@ -1,14 +1,14 @@
-#include "lines/DeliveredQuantity.h"
+#include "module/lines/DeliveredQuantity.h"
 
-#include "common/Refused.h"
-#include "common/field_text.h"
-#include "common/text.h"
-#include "host/module_state.h"
+#include "module/base/Refused.h"
+#include "module/base/field_text.h"
+#include "module/base/text.h"
+#include "module/host/module_state.h"
 
 namespace tellurix::lines {
 
-using common::Decimal;
-using common::StatementText;
+using base::Decimal;
+using base::StatementText;
 
 namespace {
 
@@ -28,7 +28,7 @@ constexpr const char* airDryTonnes =
 // clang-format on
 
 /// How a log is counted in a unit: the first flag that is set decides.
-std::string expressionOf(common::Recordset& unit) {
+std::string expressionOf(base::Recordset& unit) {
     struct Measure {
         const char* flag;
         const char* expression;
@@ -63,8 +63,8 @@ OwnMeasure ownMeasure(std::int64_t wayOfMeasuring) {
 
 } // namespace
 
-Decimal quantityIn(const common::Value& field) {
-    const Decimal exact = common::numberIn(field).value_or(Decimal{});
+Decimal quantityIn(const base::Value& field) {
+    const Decimal exact = base::numberIn(field).value_or(Decimal{});
     return exact.scale() > quantityDecimals ? exact.rounded(quantityDecimals) : exact;
 }
 
@@ -111,8 +111,8 @@ std::string DeliveredQuantity::conditionOf(int place, const std::string& selecti
     if (selection.empty()) return {};
     try {
         return translator_.translate(session_, logsOfContract, logsOfContract, selection,
-                                     common::toUpper(host::moduleState().context.StrVer_Type), reference_);
-    } catch (const common::DatabaseError&) {
+                                     base::toUpper(host::moduleState().context.StrVer_Type), reference_);
+    } catch (const base::DatabaseError&) {
         throw;
     } catch (const std::exception& error) {
         // It may be another line than the one that the user looks at.
@@ -120,21 +120,21 @@ std::string DeliveredQuantity::conditionOf(int place, const std::string& selecti
         const auto line = session_.connection->open(
             query.number(place).fixed(" AND ID_VERTRAG = ").number(contract_).text());
         const std::string description = line->atEnd() ? std::string{} : line->text("BEZEICHNUNG");
-        std::vector<common::Refused::Sentence> message{
-            {common::OwnText::inLine, {std::to_string(place), description}}};
-        const auto* refused = dynamic_cast<const common::Refused*>(&error);
+        std::vector<base::Refused::Sentence> message{
+            {base::OwnText::inLine, {std::to_string(place), description}}};
+        const auto* refused = dynamic_cast<const base::Refused*>(&error);
         if (refused != nullptr && !refused->sentences().empty()) {
             message.insert(message.end(), refused->sentences().begin(), refused->sentences().end());
         } else {
-            message.push_back({common::OwnText::ofTheHost, {error.what()}});
+            message.push_back({base::OwnText::ofTheHost, {error.what()}});
         }
-        throw common::Refused{std::move(message)};
+        throw base::Refused{std::move(message)};
     }
 }
 
 StatementText DeliveredQuantity::bookedLogs() const {
     StatementText logs{" LOGS.ID_LOG IN (SELECT ID_LOG FROM LOGS_RECH WHERE "};
-    logs.identifier(common::toUpper(host::moduleState().context.StrVer_Type) + "_VERTRAG")
+    logs.identifier(base::toUpper(host::moduleState().context.StrVer_Type) + "_VERTRAG")
         .fixed(" = ")
         .quoted(reference_)
         .fixed(")");
@@ -191,7 +191,7 @@ DeliveredQuantity::Explanation DeliveredQuantity::explain(int place) const {
     const std::vector<Line> lines = linesUpTo(place);
     Explanation explanation;
     if (lines.empty() || lines.back().place != place) return explanation;
-    common::Connection& connection = *session_.connection;
+    base::Connection& connection = *session_.connection;
     const std::vector<Line> earlier{lines.begin(), lines.end() - 1};
     const std::vector<std::int64_t> taken = claims(earlier);
     for (std::size_t i = 0; i < earlier.size(); ++i)
@@ -204,11 +204,11 @@ DeliveredQuantity::Explanation DeliveredQuantity::explain(int place) const {
                                     lines.back().expression + " AS MENGE_EINHEIT FROM LOGS WHERE " + logs +
                                     " ORDER BY LOGS.DATUM,LOGS.NUMMER");
          !log->atEnd(); log->moveNext()) {
-        const common::Value date = log->field("DATUM");
+        const base::Value date = log->field("DATUM");
         const OwnMeasure measure = ownMeasure(log->integer("DSART"));
         explanation.logs.push_back({.number = log->text("NUMMER"),
-                                    .date = std::holds_alternative<common::DateTime>(date)
-                                                ? std::optional{std::get<common::DateTime>(date)}
+                                    .date = std::holds_alternative<base::DateTime>(date)
+                                                ? std::optional{std::get<base::DateTime>(date)}
                                                 : std::nullopt,
                                     .species = log->text("HA"),
                                     .sort = log->text("HS"),

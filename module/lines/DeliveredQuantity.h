@@ -1,9 +1,9 @@
 #pragma once
 
-#include "common/Decimal.h"
-#include "common/StatementText.h"
-#include "common/date_time.h"
-#include "host/services.h"
+#include "module/base/Decimal.h"
+#include "module/base/StatementText.h"
+#include "module/base/date_time.h"
+#include "module/host/services.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,7 +18,7 @@ inline constexpr int quantityDecimals = 6;
 
 /// A field as a quantity; 0 for NULL.
 /// @throws std::out_of_range when it has more than 12 digits before the point
-common::Decimal quantityIn(const common::Value& field);
+base::Decimal quantityIn(const base::Value& field);
 
 /// The quantity delivered against a quantity line: the sum, in the line's unit, over the logs that
 /// are booked against the contract and that the line's selection takes.
@@ -32,18 +32,18 @@ public:
                       std::string reference, std::int32_t contract);
 
     /// The delivered quantity of the line at a place; 0 for a unit in which logs have no measure.
-    /// @throws common::Refused naming the line whose selection cannot be translated
-    common::Decimal of(int place) const;
+    /// @throws base::Refused naming the line whose selection cannot be translated
+    base::Decimal of(int place) const;
 
     /// One log that counts for a line.
     struct CountedLog {
         std::string number;
-        std::optional<common::DateTime> date;
+        std::optional<base::DateTime> date;
         std::string species;
         std::string sort;
-        common::Decimal measured;    ///< as it was measured in the forest or at the mill
+        base::Decimal measured;      ///< as it was measured in the forest or at the mill
         const char* measuredIn = ""; ///< "Fm", "Rm", "Stk", "t atro"
-        common::Decimal quantity;    ///< in the line's unit
+        base::Decimal quantity;      ///< in the line's unit
     };
     /// How many logs of the contract another line has taken first.
     struct Claim {
@@ -67,10 +67,10 @@ private:
     };
 
     std::vector<Line> linesUpTo(int place) const;
-    /// @throws common::Refused naming the line
+    /// @throws base::Refused naming the line
     std::string conditionOf(int place, const std::string& selection) const;
     /// The condition on the logs of the contract.
-    common::StatementText bookedLogs() const;
+    base::StatementText bookedLogs() const;
     /// How many logs each of the lines takes, by its index.
     std::vector<std::int64_t> claims(const std::vector<Line>& lines) const;
     /// The condition on the logs that count for line `index`; empty when an earlier one takes all.

@@ -1,12 +1,12 @@
-#include "lines/F_OffeneMenge.h"
+#include "module/lines/F_OffeneMenge.h"
 
-#include "common/date_format.h"
-#include "common/number_format.h"
+#include "module/base/date_format.h"
+#include "module/base/number_format.h"
 
 namespace tellurix::lines {
 
-using common::Decimal;
-using common::OwnText;
+using base::Decimal;
+using base::OwnText;
 
 F_OffeneMenge::F_OffeneMenge(host::HostServices& services, const host::TlxVar& session)
     : Form("F_OffeneMenge"), services_(services), session_(session) {
@@ -17,11 +17,11 @@ F_OffeneMenge::F_OffeneMenge(host::HostServices& services, const host::TlxVar& s
 }
 
 std::string F_OffeneMenge::text(OwnText text, const std::vector<std::string>& values) const {
-    return common::ownText(text, session_.language, values);
+    return base::ownText(text, session_.language, values);
 }
 
 std::string F_OffeneMenge::number(const Decimal& value) const {
-    return common::formatNumber(value, "##,##0.00#", services_.locale);
+    return base::formatNumber(value, "##,##0.00#", services_.locale);
 }
 
 void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const std::string& description,
@@ -41,7 +41,7 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
     std::vector<ui::Grid::Row> rows;
     for (const DeliveredQuantity::CountedLog& log : explanation.logs) {
         sum = sum + log.quantity;
-        rows.push_back({log.number, log.date ? common::dateText(common::dayOf(*log.date)) : std::string{},
+        rows.push_back({log.number, log.date ? base::dateText(base::dayOf(*log.date)) : std::string{},
                         log.species, log.sort, number(log.measured) + " " + log.measuredIn,
                         number(log.quantity)});
     }

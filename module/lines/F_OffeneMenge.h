@@ -1,13 +1,13 @@
 #pragma once
 
-#include "common/own_text.h"
-#include "host/services.h"
-#include "lines/DeliveredQuantity.h"
-#include "ui/Button.h"
-#include "ui/Form.h"
-#include "ui/Grid.h"
-#include "ui/Label.h"
-#include "ui/ListBox.h"
+#include "module/base/own_text.h"
+#include "module/host/services.h"
+#include "module/lines/DeliveredQuantity.h"
+#include "module/ui/Button.h"
+#include "module/ui/Form.h"
+#include "module/ui/Grid.h"
+#include "module/ui/Label.h"
+#include "module/ui/ListBox.h"
 
 #include <string>
 
@@ -23,11 +23,11 @@ public:
     /// @param description, unit of the line
     /// @param agreed the line's quantity
     void Run(const DeliveredQuantity::Explanation& explanation, const std::string& description,
-             const std::string& unit, const common::Decimal& agreed);
+             const std::string& unit, const base::Decimal& agreed);
 
 private:
-    std::string number(const common::Decimal& value) const;
-    std::string text(common::OwnText text, const std::vector<std::string>& values = {}) const;
+    std::string number(const base::Decimal& value) const;
+    std::string text(base::OwnText text, const std::vector<std::string>& values = {}) const;
 
     host::HostServices& services_;
     const host::TlxVar& session_;

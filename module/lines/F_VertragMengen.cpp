@@ -1,14 +1,14 @@
-#include "lines/F_VertragMengen.h"
+#include "module/lines/F_VertragMengen.h"
 
-#include "common/StatementText.h"
-#include "common/field_text.h"
-#include "common/number_format.h"
-#include "common/own_text.h"
+#include "module/base/StatementText.h"
+#include "module/base/field_text.h"
+#include "module/base/number_format.h"
+#include "module/base/own_text.h"
 
 namespace tellurix::lines {
 
-using common::Decimal;
-using common::StatementText;
+using base::Decimal;
+using base::StatementText;
 
 namespace {
 
@@ -63,12 +63,12 @@ std::vector<ui::Grid::Column> F_VertragMengen::gridColumns() const {
             {.caption = lblUnit.caption(), .width = 10}};
 }
 
-ui::Grid::Row F_VertragMengen::FillGridRow(common::Recordset& record) const {
+ui::Grid::Row F_VertragMengen::FillGridRow(base::Recordset& record) const {
     return {"", record.text("BEZEICHNUNG"),
-            common::numberText(record.field("MENGE"), "##0.00", services_.locale), record.text("EINHEIT")};
+            base::numberText(record.field("MENGE"), "##0.00", services_.locale), record.text("EINHEIT")};
 }
 
-void F_VertragMengen::showFields(common::Recordset& line) {
+void F_VertragMengen::showFields(base::Recordset& line) {
     quantity_.show(line.field("MENGE"));
     agreed_ = quantityIn(line.field("MENGE"));
 }
@@ -79,7 +79,7 @@ void F_VertragMengen::showNoLine() {
 }
 
 void F_VertragMengen::emptyForNewLine() {
-    quantity_.show(common::Null{});
+    quantity_.show(base::Null{});
     showNoOpenQuantity();
 }
 
@@ -87,7 +87,7 @@ void F_VertragMengen::requireFields() {
     static_cast<void>(quantity_.value());
 }
 
-void F_VertragMengen::writeFields(common::UpdatableRecordset& line) {
+void F_VertragMengen::writeFields(base::UpdatableRecordset& line) {
     line.setField("Menge", quantity_.value());
 }
 
@@ -124,15 +124,15 @@ void F_VertragMengen::showNoOpenQuantity() {
 
 void F_VertragMengen::showOpenQuantity() {
     const Decimal quantity = delivered().of(place());
-    txtOffen.setText(common::formatNumber(agreed_ - quantity, "0.00", services_.locale));
+    txtOffen.setText(base::formatNumber(agreed_ - quantity, "0.00", services_.locale));
     const Decimal permitted =
         (agreed_ + (agreed_ * overDelivery_).dividedByTenTo(2)).rounded(quantityDecimals);
     if (quantity > permitted) {
         const auto number = [this](const Decimal& value) {
-            return common::formatNumber(value, "##,##0.00", services_.locale);
+            return base::formatNumber(value, "##,##0.00", services_.locale);
         };
-        txtOffen.setWarning(common::ownText(common::OwnText::overDelivery, session_.language,
-                                            {number(quantity), number(permitted)}));
+        txtOffen.setWarning(base::ownText(base::OwnText::overDelivery, session_.language,
+                                          {number(quantity), number(permitted)}));
     }
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "common/NumberField.h"
-#include "lines/DeliveredQuantity.h"
-#include "lines/F_OffeneMenge.h"
-#include "lines/LineEditor.h"
+#include "module/lines/DeliveredQuantity.h"
+#include "module/lines/F_OffeneMenge.h"
+#include "module/lines/LineEditor.h"
+#include "module/parts/NumberField.h"
 
 #include <string>
 
@@ -18,12 +18,12 @@ public:
 private:
     void prepare(bool shown) override;
     std::vector<ui::Grid::Column> gridColumns() const override;
-    ui::Grid::Row FillGridRow(common::Recordset& record) const override;
-    void showFields(common::Recordset& line) override;
+    ui::Grid::Row FillGridRow(base::Recordset& record) const override;
+    void showFields(base::Recordset& line) override;
     void showNoLine() override;
     void emptyForNewLine() override;
     void requireFields() override;
-    void writeFields(common::UpdatableRecordset& line) override;
+    void writeFields(base::UpdatableRecordset& line) override;
     void currentLineShown() override;
     void stateShown() override;
 
@@ -33,9 +33,9 @@ private:
     void explainOpenQuantity();
     DeliveredQuantity delivered() const;
 
-    std::string reference_;        ///< the contract's name
-    common::Decimal overDelivery_; ///< per cent that may be delivered above the quantity
-    common::Decimal agreed_;       ///< quantity of the current line
+    std::string reference_;      ///< the contract's name
+    base::Decimal overDelivery_; ///< per cent that may be delivered above the quantity
+    base::Decimal agreed_;       ///< quantity of the current line
 
     ui::Label lblMenge{*this, "lblMenge", "Menge"};
     ui::TextBox txtMenge{*this, "txtMenge", 14};
@@ -43,7 +43,7 @@ private:
     ui::TextBox txtOffen{*this, "txtOffen", 14};
     ui::Button btnOffen{*this, "btnOffen", "Nachweis"};
 
-    common::NumberField quantity_;
+    parts::NumberField quantity_;
     F_OffeneMenge offeneMenge_;
 };
 

@@ -1,17 +1,17 @@
-#include "lines/F_VertragPreise.h"
+#include "module/lines/F_VertragPreise.h"
 
-#include "common/Decimal.h"
-#include "common/M_Common.h"
-#include "common/Refused.h"
-#include "common/StatementText.h"
-#include "common/field_text.h"
-#include "common/number_format.h"
-#include "common/text.h"
-#include "ui/number_box.h"
+#include "module/base/Decimal.h"
+#include "module/base/Refused.h"
+#include "module/base/StatementText.h"
+#include "module/base/field_text.h"
+#include "module/base/number_format.h"
+#include "module/base/text.h"
+#include "module/parts/M_Common.h"
+#include "module/ui/number_box.h"
 
 namespace tellurix::lines {
 
-using common::StatementText;
+using base::StatementText;
 
 namespace {
 
@@ -41,7 +41,7 @@ const LineKind priceLines{
 // clang-format on
 
 /// The box with the key filter of a price; what leaving it does is the cell editor's.
-ui::TextBox& priceBox(ui::TextBox& box, const common::Locale& locale) {
+ui::TextBox& priceBox(ui::TextBox& box, const base::Locale& locale) {
     ui::makeNumberBox(box, priceMask, locale);
     return box;
 }
@@ -71,8 +71,8 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
 }
 
 void F_VertragPreise::prepare(bool /*shown*/) {
-    const auto setting = common::Decimal::parse(common::trim(services_.settings.text(session_, "MESZAHL")));
-    showsPercent_ = setting && *setting == common::Decimal{1};
+    const auto setting = base::Decimal::parse(base::trim(services_.settings.text(session_, "MESZAHL")));
+    showsPercent_ = setting && *setting == base::Decimal{1};
     site_ = Site::standard;
     if (session_.site == "WVO") site_ = Site::logistics;
     if (session_.site == "UELZEN" && host::moduleState().context.StrVer_Type == "A6") {
@@ -108,9 +108,9 @@ std::vector<ui::Grid::Column> F_VertragPreise::gridColumns() const {
     return columns;
 }
 
-ui::Grid::Row F_VertragPreise::FillGridRow(common::Recordset& record) const {
+ui::Grid::Row F_VertragPreise::FillGridRow(base::Recordset& record) const {
     const auto number = [&](const char* column, const char* mask) {
-        return common::numberText(record.field(column), mask, services_.locale);
+        return base::numberText(record.field(column), mask, services_.locale);
     };
     ui::Grid::Row row{"", record.text("BEZEICHNUNG")};
     if (showsPercent_) row.push_back(number("MSZ_PERCENT", "0.0"));
@@ -121,7 +121,7 @@ ui::Grid::Row F_VertragPreise::FillGridRow(common::Recordset& record) const {
     return row;
 }
 
-void F_VertragPreise::showFields(common::Recordset& line) {
+void F_VertragPreise::showFields(base::Recordset& line) {
     percent_.show(line.field("MSZ_PERCENT"));
     price_.show(line.field("PREIS"));
     secondPrice_.show(line.field("PREIS_ABR2"));
@@ -129,32 +129,32 @@ void F_VertragPreise::showFields(common::Recordset& line) {
 }
 
 void F_VertragPreise::showNoLine() {
-    percent_.show(common::Null{});
-    secondPrice_.show(common::Null{});
+    percent_.show(base::Null{});
+    secondPrice_.show(base::Null{});
     emptyForNewLine();
 }
 
 void F_VertragPreise::emptyForNewLine() {
-    price_.show(common::Null{});
+    price_.show(base::Null{});
     cboGeld.select(ui::ItemList::none);
     // A second price that nobody can see must not go over into the new line.
-    if (site_ == Site::standard) secondPrice_.show(common::Null{});
+    if (site_ == Site::standard) secondPrice_.show(base::Null{});
 }
 
 bool F_VertragPreise::confirmSave() {
-    if (txtPreis.text() != common::formatNumber(common::Decimal{}, "0.00", services_.locale)) return true;
+    if (txtPreis.text() != base::formatNumber(base::Decimal{}, "0.00", services_.locale)) return true;
     const std::string question =
         "Wollen Sie die Position mit dem Preis von " + txtPreis.text() + " Euro speichern?";
-    return common::ShowMessage(services_.display, question, ui::box::yesNo, "Vertrag Preise") ==
+    return parts::ShowMessage(services_.display, question, ui::box::yesNo, "Vertrag Preise") ==
            ui::Answer::yes;
 }
 
 void F_VertragPreise::requireFields() {
-    for (const common::NumberField* field : {&percent_, &price_, &secondPrice_})
+    for (const parts::NumberField* field : {&percent_, &price_, &secondPrice_})
         static_cast<void>(field->value());
 }
 
-void F_VertragPreise::writeFields(common::UpdatableRecordset& line) {
+void F_VertragPreise::writeFields(base::UpdatableRecordset& line) {
     line.setField("MSZ_PERCENT", percent_.value());
     line.setField("PREIS", price_.value());
     line.setField("Euro", cboGeld.selected() == euroEntry);
@@ -171,18 +171,18 @@ void F_VertragPreise::linesChanged() {
 }
 
 std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::string& typed) {
-    const bool fits = common::isNumeric(typed, services_.locale) &&
-                      common::fitsNumberMask(typed, priceMask, services_.locale);
-    if (!fits) txtEdit.setText(common::formatNumber(common::Decimal{}, "0.00", services_.locale));
+    const bool fits =
+        base::isNumeric(typed, services_.locale) && base::fitsNumberMask(typed, priceMask, services_.locale);
+    if (!fits) txtEdit.setText(base::formatNumber(base::Decimal{}, "0.00", services_.locale));
     try {
         openInPlace(row);
-    } catch (const common::Refused& moved) {
+    } catch (const base::Refused& moved) {
         // The cell belongs to another line now.
         cellEditor_.close();
-        common::SafeSetFocus(MSFlexGrid1);
-        std::vector<common::Refused::Sentence> message = moved.sentences();
-        message.push_back({common::OwnText::typedWas, {typed}});
-        throw common::Refused{std::move(message)};
+        parts::SafeSetFocus(MSFlexGrid1);
+        std::vector<base::Refused::Sentence> message = moved.sentences();
+        message.push_back({base::OwnText::typedWas, {typed}});
+        throw base::Refused{std::move(message)};
     }
     StatementText statement{"UPDATE VERTRAG_PREISE SET "};
     statement.fixed(column == editedPriceColumn ? "PREIS = " : "PREIS_ABR2 = ")

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "common/NumberField.h"
-#include "lines/LineEditor.h"
-#include "lines/PriceChange.h"
-#include "ui/GridEditor.h"
+#include "module/lines/LineEditor.h"
+#include "module/lines/PriceChange.h"
+#include "module/parts/NumberField.h"
+#include "module/ui/GridEditor.h"
 
 #include <string>
 
@@ -22,13 +22,13 @@ private:
 
     void prepare(bool shown) override;
     std::vector<ui::Grid::Column> gridColumns() const override;
-    ui::Grid::Row FillGridRow(common::Recordset& record) const override;
-    void showFields(common::Recordset& line) override;
+    ui::Grid::Row FillGridRow(base::Recordset& record) const override;
+    void showFields(base::Recordset& line) override;
     void showNoLine() override;
     void emptyForNewLine() override;
     bool confirmSave() override;
     void requireFields() override;
-    void writeFields(common::UpdatableRecordset& line) override;
+    void writeFields(base::UpdatableRecordset& line) override;
     void stateShown() override;
     void linesChanged() override;
 
@@ -49,9 +49,9 @@ private:
     ui::CheckBox chkEdit{*this, "chkEdit", "Edit"};
     ui::TextBox txtEdit{*this, "txtEdit", 14};
 
-    common::NumberField percent_;
-    common::NumberField price_;
-    common::NumberField secondPrice_;
+    parts::NumberField percent_;
+    parts::NumberField price_;
+    parts::NumberField secondPrice_;
     ui::GridEditor cellEditor_;
     PriceChange priceChange_;
 };

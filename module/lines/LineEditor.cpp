@@ -1,17 +1,17 @@
-#include "lines/LineEditor.h"
+#include "module/lines/LineEditor.h"
 
-#include "common/M_Common.h"
-#include "common/Refused.h"
-#include "common/StatementText.h"
-#include "common/text.h"
-#include "host/text_numbers.h"
+#include "module/base/Refused.h"
+#include "module/base/StatementText.h"
+#include "module/base/text.h"
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
 
 #include <algorithm>
 
 namespace tellurix::lines {
 
-using common::OwnText;
-using common::StatementText;
+using base::OwnText;
+using base::StatementText;
 
 namespace {
 
@@ -101,7 +101,7 @@ void LineEditor::LoadGrid() {
     std::vector<Line> lines;
     for (auto line = session_.connection->open(linesQuery()); !line->atEnd(); line->moveNext()) {
         std::optional<std::int64_t> place;
-        if (!std::holds_alternative<common::Null>(line->field("ORDNUNG"))) place = line->integer("ORDNUNG");
+        if (!std::holds_alternative<base::Null>(line->field("ORDNUNG"))) place = line->integer("ORDNUNG");
         lines.push_back({line->integer("ID"), place, FillGridRow(*line)});
     }
     // A line without a place is one that somebody else has just begun; it must not push the others aside.
@@ -143,7 +143,7 @@ void LineEditor::reloadLine(int row) {
     linesChanged();
 }
 
-std::unique_ptr<common::Recordset> LineEditor::openCurrent() {
+std::unique_ptr<base::Recordset> LineEditor::openCurrent() {
     const auto open = [this] { return session_.connection->open(statements_.lineAt(place())); };
     if (!hasLines()) return nullptr;
     if (auto line = open(); !line->atEnd() && line->integer("ID") == idOf(MSFlexGrid1.currentRow()))
@@ -151,32 +151,32 @@ std::unique_ptr<common::Recordset> LineEditor::openCurrent() {
     LoadGrid();
     enter(state_);
     // The next key may be meant for the line that was here.
-    services_.errors.report(common::Refused{OwnText::listWasOld});
+    services_.errors.report(base::Refused{OwnText::listWasOld});
     if (!hasLines()) return nullptr;
     auto line = open();
-    if (line->atEnd()) throw common::Refused{OwnText::lineIsGone};
+    if (line->atEnd()) throw base::Refused{OwnText::lineIsGone};
     return line;
 }
 
-std::unique_ptr<common::Recordset> LineEditor::openInPlace(int row) {
+std::unique_ptr<base::Recordset> LineEditor::openInPlace(int row) {
     auto line = session_.connection->open(statements_.keyAndSelectionAt(row + 1));
     if (!line->atEnd() && line->integer("ID") == idOf(row)) return line;
-    if (!viewing()) throw common::Refused{OwnText::lineIsGone};
+    if (!viewing()) throw base::Refused{OwnText::lineIsGone};
     LoadGrid();
     showCurrentLine();
     enter(State::view);
-    throw common::Refused{{{OwnText::listWasOld}, {OwnText::nothingWritten}}};
+    throw base::Refused{{{OwnText::listWasOld}, {OwnText::nothingWritten}}};
 }
 
-std::unique_ptr<common::Recordset> LineEditor::openLine(const std::string& query) {
+std::unique_ptr<base::Recordset> LineEditor::openLine(const std::string& query) {
     auto line = session_.connection->open(query);
-    if (line->atEnd()) throw common::Refused{OwnText::lineIsGone};
+    if (line->atEnd()) throw base::Refused{OwnText::lineIsGone};
     return line;
 }
 
-std::unique_ptr<common::UpdatableRecordset> LineEditor::openToEdit(const std::string& query) {
+std::unique_ptr<base::UpdatableRecordset> LineEditor::openToEdit(const std::string& query) {
     auto line = session_.connection->openUpdatable(query);
-    if (line->atEnd()) throw common::Refused{OwnText::lineIsGone};
+    if (line->atEnd()) throw base::Refused{OwnText::lineIsGone};
     return line;
 }
 
@@ -193,7 +193,7 @@ void LineEditor::showCurrentLine() {
     currentLineShown();
 }
 
-void LineEditor::showFieldsOf(common::Recordset& line) {
+void LineEditor::showFieldsOf(base::Recordset& line) {
     txtBEZEICHNUNG.setText(line.text("BEZEICHNUNG"));
     cboUnit.selectItemData(line.integer("ID_WARENEINHEIT"));
     unlistedUnit_ = line.field("ID_WARENEINHEIT");
@@ -223,21 +223,21 @@ void LineEditor::enter(State state) {
 
 void LineEditor::startNew() {
     newId_ = noRow;
-    unlistedUnit_ = common::Null{};
+    unlistedUnit_ = base::Null{};
     cboUnit.select(ui::ItemList::none);
     chkSelektion.setChecked(false);
     emptyForNewLine();
     rowBefore_ = MSFlexGrid1.currentRow();
     MSFlexGrid1.setCurrent(ui::Grid::none, MSFlexGrid1.currentColumn());
     enter(State::fresh);
-    common::SafeSetFocus(txtBEZEICHNUNG);
+    parts::SafeSetFocus(txtBEZEICHNUNG);
 }
 
 void LineEditor::startEdit() {
     const auto line = openInPlace(MSFlexGrid1.currentRow());
     ShowSelection(line->text("SELEKTION_VALUE"));
     enter(State::edit);
-    common::SafeSetFocus(txtBEZEICHNUNG);
+    parts::SafeSetFocus(txtBEZEICHNUNG);
 }
 
 std::int64_t LineEditor::createRow() {
@@ -260,7 +260,7 @@ bool LineEditor::lineHasSelection() {
     if (state_ == State::fresh && newId_ == noRow) return false;
     const auto line =
         openLine(state_ == State::fresh ? statements_.selectionOf(newId_) : statements_.selectionAt(place()));
-    return !common::trim(line->text("SELEKTION_VALUE")).empty();
+    return !base::trim(line->text("SELEKTION_VALUE")).empty();
 }
 
 void LineEditor::selectInDialog() {
@@ -272,10 +272,10 @@ void LineEditor::selectInDialog() {
     }
     const host::HostContext& context = host::moduleState().context;
     const auto chosen = services_.selectionDialog.select(session_, std::to_string(id) + kind_.dialogKey,
-                                                         common::toUpper(context.StrVer_Type),
+                                                         base::toUpper(context.StrVer_Type),
                                                          context.strServiceOut1, context.strServiceOut2);
     if (!chosen) return;
-    const std::string selection{common::trim(*chosen)};
+    const std::string selection{base::trim(*chosen)};
     session_.connection->execute(statements_.setDialogSelectionOf(selection, id));
     chkSelektion.setChecked(!selection.empty());
     quickSelection_.show({});
@@ -289,16 +289,16 @@ void LineEditor::save() {
     if (state_ == State::edit) openInPlace(MSFlexGrid1.currentRow());
     StoreSelection(selection);
     if (!lineHasSelection()) {
-        common::ShowMessage(services_.display,
-                            services_.localizer.text(host::textNumber::invalidEntry, session_),
-                            ui::box::exclamation);
+        parts::ShowMessage(services_.display,
+                           services_.localizer.text(host::textNumber::invalidEntry, session_),
+                           ui::box::exclamation);
         selectInDialog();
         return;
     }
     saveLine();
     enter(State::view);
     reloadLine(MSFlexGrid1.currentRow());
-    common::SafeSetFocus(MSFlexGrid1);
+    parts::SafeSetFocus(MSFlexGrid1);
 }
 
 void LineEditor::saveLine() {
@@ -307,12 +307,12 @@ void LineEditor::saveLine() {
     if (isNew) line->setField("Ordnung", static_cast<std::int64_t>(ids_.size()) + 1);
     line->setField("ID_Vertrag", std::int64_t{contract_});
     line->setField("BEZEICHNUNG",
-                   txtBEZEICHNUNG.text().empty() ? common::Value{} : common::Value{txtBEZEICHNUNG.text()});
+                   txtBEZEICHNUNG.text().empty() ? base::Value{} : base::Value{txtBEZEICHNUNG.text()});
     const int unit = cboUnit.selected();
     line->setField("ID_WARENEINHEIT",
                    unit == ui::ItemList::none
                        ? unlistedUnit_
-                       : common::Value{cboUnit.items()[static_cast<std::size_t>(unit)].itemData});
+                       : base::Value{cboUnit.items()[static_cast<std::size_t>(unit)].itemData});
     writeFields(*line);
     line->update();
     if (!isNew) return;
@@ -327,7 +327,7 @@ void LineEditor::cancel() {
     if (state_ == State::fresh) MSFlexGrid1.setCurrent(rowBefore_, MSFlexGrid1.currentColumn());
     showCurrentLine();
     enter(State::view);
-    common::SafeSetFocus(MSFlexGrid1);
+    parts::SafeSetFocus(MSFlexGrid1);
 }
 
 void LineEditor::discardNewRow() {
@@ -347,7 +347,7 @@ void LineEditor::removeLine() {
     LoadGrid();
     showCurrentLine();
     enter(State::view);
-    common::SafeSetFocus(hasLines() ? static_cast<ui::Control&>(MSFlexGrid1) : cmdNeu);
+    parts::SafeSetFocus(hasLines() ? static_cast<ui::Control&>(MSFlexGrid1) : cmdNeu);
 }
 
 void LineEditor::moveLine(int step) {
@@ -386,9 +386,9 @@ void LineEditor::moveLine(int step) {
 
 bool LineEditor::queryUnload() {
     // The close box during an edit would throw away what was typed, and the row of a line never saved.
-    if (!viewing() && common::ShowMessage(
-                          services_.display, common::ownText(OwnText::closeUnsaved, session_.language),
-                          ui::box::yesNo + ui::box::question + ui::box::defaultButton2) != ui::Answer::yes) {
+    if (!viewing() &&
+        parts::ShowMessage(services_.display, base::ownText(OwnText::closeUnsaved, session_.language),
+                           ui::box::yesNo + ui::box::question + ui::box::defaultButton2) != ui::Answer::yes) {
         return false;
     }
     discardNewRow();

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "host/module_state.h"
-#include "host/services.h"
-#include "lines/LineStatements.h"
-#include "lines/QuickSelectionBoxes.h"
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/ComboBox.h"
-#include "ui/Form.h"
-#include "ui/Grid.h"
-#include "ui/UpDown.h"
+#include "module/host/module_state.h"
+#include "module/host/services.h"
+#include "module/lines/LineStatements.h"
+#include "module/lines/QuickSelectionBoxes.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Form.h"
+#include "module/ui/Grid.h"
+#include "module/ui/UpDown.h"
 
 #include <cstdint>
 #include <string>
@@ -53,9 +53,9 @@ protected:
     virtual void prepare(bool shown) = 0;
     virtual std::vector<ui::Grid::Column> gridColumns() const = 0;
     /// The row that shows a record of the lines' statement.
-    virtual ui::Grid::Row FillGridRow(common::Recordset& record) const = 0;
+    virtual ui::Grid::Row FillGridRow(base::Recordset& record) const = 0;
     /// Shows the fields of a line that only this kind has.
-    virtual void showFields(common::Recordset& line) = 0;
+    virtual void showFields(base::Recordset& line) = 0;
     /// Empties these fields because the contract has no line.
     virtual void showNoLine() = 0;
     /// Empties those that a new line starts without; the others keep what they show.
@@ -66,7 +66,7 @@ protected:
     /// @throws ui::RefusedInput
     virtual void requireFields() = 0;
     /// Sets the fields that only this kind has.
-    virtual void writeFields(common::UpdatableRecordset& line) = 0;
+    virtual void writeFields(base::UpdatableRecordset& line) = 0;
     /// The current line, or the state, is another one.
     virtual void currentLineShown() {}
     virtual void stateShown() {}
@@ -86,9 +86,9 @@ protected:
     void LoadGrid();
     /// `ID` and `SELEKTION_VALUE` of the line in a row, read by its place: what writes by the place comes
     /// after it.
-    /// @throws common::Refused when somebody else has moved or deleted lines meanwhile; in the view state
+    /// @throws base::Refused when somebody else has moved or deleted lines meanwhile; in the view state
     ///         they have been loaded again
-    std::unique_ptr<common::Recordset> openInPlace(int row);
+    std::unique_ptr<base::Recordset> openInPlace(int row);
     /// Shows what the database has for one line: its row in the grid and, for the current line, the fields.
     void reloadLine(int row);
     void showCurrentLine();
@@ -112,10 +112,10 @@ private:
     std::int64_t createRow();
     std::int64_t idOf(int row) const { return ids_[static_cast<std::size_t>(row)]; }
     /// The current line, or null where the contract has none.
-    std::unique_ptr<common::Recordset> openCurrent();
+    std::unique_ptr<base::Recordset> openCurrent();
     /// One line that has to be there.
-    std::unique_ptr<common::Recordset> openLine(const std::string& query);
-    std::unique_ptr<common::UpdatableRecordset> openToEdit(const std::string& query);
+    std::unique_ptr<base::Recordset> openLine(const std::string& query);
+    std::unique_ptr<base::UpdatableRecordset> openToEdit(const std::string& query);
 
     void startNew();
     void startEdit();
@@ -129,7 +129,7 @@ private:
     bool lineHasSelection();
     void selectInDialog();
     void ShowSelection(const std::string& value);
-    void showFieldsOf(common::Recordset& line);
+    void showFieldsOf(base::Recordset& line);
     void enter(State state);
     bool queryUnload() override;
 
@@ -137,9 +137,9 @@ private:
     LineStatements statements_;
     std::vector<std::int64_t> ids_; ///< `ID` of each row of the grid
     State state_ = State::view;
-    std::int64_t newId_;         ///< `ID` of the new line, -1 while it has no row
-    int rowBefore_;              ///< row that was current when the new line was begun
-    common::Value unlistedUnit_; ///< the line's unit where the list does not offer it
+    std::int64_t newId_;       ///< `ID` of the new line, -1 while it has no row
+    int rowBefore_;            ///< row that was current when the new line was begun
+    base::Value unlistedUnit_; ///< the line's unit where the list does not offer it
 
     QuickSelectionBoxes quickSelection_{*this, services_, session_};
     ui::Button cmdSelect{*this, "cmdSelect", "Selection"};

@@ -1,10 +1,10 @@
-#include "lines/LineStatements.h"
+#include "module/lines/LineStatements.h"
 
-#include "common/StatementText.h"
+#include "module/base/StatementText.h"
 
 namespace tellurix::lines {
 
-using common::StatementText;
+using base::StatementText;
 
 namespace {
 

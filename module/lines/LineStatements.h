@@ -29,7 +29,7 @@ public:
     std::string selectionOf(std::int64_t id) const;
 
     /// Writes a selection value whose quotes are doubled already.
-    /// @throws common::StatementError when the value would end its literal
+    /// @throws base::StatementError when the value would end its literal
     std::string setSelectionAt(const std::string& literal, int place) const;
     std::string setSelectionOf(const std::string& literal, std::int64_t id) const;
     /// Writes the text of the selection dialog; an empty one as NULL.

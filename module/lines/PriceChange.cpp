@@ -1,19 +1,19 @@
-#include "lines/PriceChange.h"
+#include "module/lines/PriceChange.h"
 
-#include "common/M_Common.h"
-#include "common/StatementText.h"
-#include "common/field_text.h"
-#include "common/number_format.h"
-#include "common/own_text.h"
-#include "common/typed_text.h"
-#include "ui/number_box.h"
+#include "module/base/StatementText.h"
+#include "module/base/field_text.h"
+#include "module/base/number_format.h"
+#include "module/base/own_text.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/typed_text.h"
+#include "module/ui/number_box.h"
 
 #include <stdexcept>
 
 namespace tellurix::lines {
 
-using common::Decimal;
-using common::StatementText;
+using base::Decimal;
+using base::StatementText;
 
 namespace {
 
@@ -91,7 +91,7 @@ void PriceChange::linesChanged() {
 void PriceChange::show() {
     readLines();
     frmPreiseAendern.setVisible(true);
-    common::SafeSetFocus(txtWert);
+    parts::SafeSetFocus(txtWert);
     txtWert.selectAll();
 }
 
@@ -100,23 +100,22 @@ void PriceChange::readLines() {
     query.number(contract_).fixed(" ORDER BY ORDNUNG");
     lines_.clear();
     for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext())
-        lines_.push_back({line->text("BEZEICHNUNG"), common::numberIn(line->field("PREIS"))});
+        lines_.push_back({line->text("BEZEICHNUNG"), base::numberIn(line->field("PREIS"))});
     preview();
 }
 
 void PriceChange::preview() {
-    const auto by = common::parseNumber(txtWert.text(), services_.locale);
+    const auto by = base::parseNumber(txtWert.text(), services_.locale);
     std::vector<ui::Grid::Row> rows;
     for (const Line& line : lines_) {
         std::string before;
         std::string after;
-        if (line.price) before = common::formatNumber(*line.price, "0.00##", services_.locale);
+        if (line.price) before = base::formatNumber(*line.price, "0.00##", services_.locale);
         if (line.price && by) {
             try {
-                after =
-                    common::formatNumber(changedPrice(*line.price, *by, kind()), "0.00", services_.locale);
+                after = base::formatNumber(changedPrice(*line.price, *by, kind()), "0.00", services_.locale);
             } catch (const std::out_of_range&) {
-                after = common::ownText(common::OwnText::priceTooLarge, session_.language);
+                after = base::ownText(base::OwnText::priceTooLarge, session_.language);
             }
         }
         rows.push_back({line.description, std::move(before), std::move(after)});
@@ -125,7 +124,7 @@ void PriceChange::preview() {
 }
 
 std::string PriceChange::statement() {
-    const std::string amount = common::typedNumber(txtWert);
+    const std::string amount = parts::typedNumber(txtWert);
     StatementText text{"UPDATE VERTRAG_PREISE SET "};
     if (kind() == ChangeKind::percent) {
         text.fixed("PREIS = ROUND(PREIS * (100 + ").number(amount).fixed(") / 100,2)");
@@ -140,12 +139,12 @@ void PriceChange::change() {
     const std::string amount = txtWert.text();
     const std::string question = "Wollen Sie die Preise des Vertrages um " + amount +
                                  (kind() == ChangeKind::percent ? " Prozent" : "") + " verändern?";
-    if (common::ShowMessage(services_.display, question, ui::box::yesNo, "Vertrag Preisänderung") !=
+    if (parts::ShowMessage(services_.display, question, ui::box::yesNo, "Vertrag Preisänderung") !=
         ui::Answer::yes) {
         return;
     }
     // Leaving the box has made "0,00" of "0". Adding nothing would still round every price.
-    const auto by = common::parseNumber(amount, services_.locale);
+    const auto by = base::parseNumber(amount, services_.locale);
     if (amount.empty() || (by && *by == Decimal{})) return;
     session_.connection->execute(statement());
     hide();

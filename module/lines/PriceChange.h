@@ -1,14 +1,14 @@
 #pragma once
 
-#include "common/Decimal.h"
-#include "host/services.h"
-#include "ui/Button.h"
-#include "ui/ComboBox.h"
-#include "ui/Frame.h"
-#include "ui/Grid.h"
-#include "ui/Label.h"
-#include "ui/Layout.h"
-#include "ui/TextBox.h"
+#include "module/base/Decimal.h"
+#include "module/host/services.h"
+#include "module/ui/Button.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Frame.h"
+#include "module/ui/Grid.h"
+#include "module/ui/Label.h"
+#include "module/ui/Layout.h"
+#include "module/ui/TextBox.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,7 +23,7 @@ enum class ChangeKind { amount, percent };
 
 /// The price after a change, rounded to the cent as the database rounds it.
 /// @throws std::out_of_range when it has more than 18 digits
-common::Decimal changedPrice(const common::Decimal& price, const common::Decimal& by, ChangeKind kind);
+base::Decimal changedPrice(const base::Decimal& price, const base::Decimal& by, ChangeKind kind);
 
 /// Changes the price of every line of a contract in one step. The button first shows the frame, in
 /// which every line's old and new price can be seen while the amount is typed, and then asks and
@@ -46,7 +46,7 @@ public:
 private:
     struct Line {
         std::string description;
-        std::optional<common::Decimal> price;
+        std::optional<base::Decimal> price;
     };
 
     void press();

@@ -1,7 +1,7 @@
-#include "lines/QuickSelectionBoxes.h"
+#include "module/lines/QuickSelectionBoxes.h"
 
-#include "common/typed_text.h"
-#include "ui/caption.h"
+#include "module/parts/typed_text.h"
+#include "module/ui/caption.h"
 
 namespace tellurix::lines {
 
@@ -50,7 +50,7 @@ QuickSelection QuickSelectionBoxes::read() {
     lengths.setText(lengthsIn(lengths.text(), services_.locale));
     QuickSelection selection;
     for (std::size_t i = 0; i < attributeCount; ++i)
-        selection.lists[i] = common::typedCodes(boxes_[i]);
+        selection.lists[i] = parts::typedCodes(boxes_[i]);
     return selection;
 }
 

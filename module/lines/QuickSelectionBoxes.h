@@ -1,11 +1,11 @@
 #pragma once
 
-#include "host/services.h"
-#include "lines/selection_value.h"
-#include "ui/Frame.h"
-#include "ui/Label.h"
-#include "ui/Layout.h"
-#include "ui/TextBox.h"
+#include "module/host/services.h"
+#include "module/lines/selection_value.h"
+#include "module/ui/Frame.h"
+#include "module/ui/Label.h"
+#include "module/ui/Layout.h"
+#include "module/ui/TextBox.h"
 
 #include <array>
 

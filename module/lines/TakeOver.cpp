@@ -1,18 +1,18 @@
-#include "lines/TakeOver.h"
+#include "module/lines/TakeOver.h"
 
-#include "common/StatementText.h"
-#include "common/field_text.h"
+#include "module/base/StatementText.h"
+#include "module/base/field_text.h"
 
 namespace tellurix::lines {
 
-using common::StatementText;
-using common::Value;
+using base::StatementText;
+using base::Value;
 
 namespace {
 
 /// A field as a value of a statement: texts with doubled quotes, flags as 1 and 0.
 void append(StatementText& statement, const Value& field) {
-    if (const auto number = common::numberIn(field)) {
+    if (const auto number = base::numberIn(field)) {
         statement.number(number->toString());
     } else if (const auto* flag = std::get_if<bool>(&field)) {
         statement.fixed(*flag ? "1" : "0");
@@ -23,7 +23,7 @@ void append(StatementText& statement, const Value& field) {
     }
 }
 
-std::int64_t existingLines(common::Connection& connection, std::string_view query, std::int32_t contract) {
+std::int64_t existingLines(base::Connection& connection, std::string_view query, std::int32_t contract) {
     StatementText text{query};
     const auto count = connection.open(text.number(contract).text());
     return std::get<std::int64_t>(count->field(std::size_t{0}));
@@ -37,7 +37,7 @@ struct Copy {
     std::vector<const char*> columns;
 };
 
-std::vector<std::string> insertsFor(const Copy& copy, common::Connection& connection, std::int32_t source,
+std::vector<std::string> insertsFor(const Copy& copy, base::Connection& connection, std::int32_t source,
                                     std::int32_t target) {
     std::int64_t place = existingLines(connection, copy.count, target);
     std::vector<std::string> inserts;
@@ -68,7 +68,7 @@ const Copy copiedPrices{
 
 } // namespace
 
-TakeOver::TakeOver(common::Connection& connection, std::int32_t source, std::int32_t target)
+TakeOver::TakeOver(base::Connection& connection, std::int32_t source, std::int32_t target)
     : connection_(connection), inserts_(insertsFor(copiedQuantities, connection, source, target)) {
     std::vector<std::string> prices = insertsFor(copiedPrices, connection, source, target);
     inserts_.insert(inserts_.end(), std::make_move_iterator(prices.begin()),

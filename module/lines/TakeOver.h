@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/database.h"
+#include "module/base/database.h"
 
 #include <cstdint>
 #include <functional>
@@ -13,18 +13,18 @@ namespace tellurix::lines {
 /// price lines, each in their order and behind what the target has already.
 class TakeOver {
 public:
-    TakeOver(common::Connection& connection, std::int32_t source, std::int32_t target);
+    TakeOver(base::Connection& connection, std::int32_t source, std::int32_t target);
 
     /// How many lines the source has.
     int total() const { return static_cast<int>(inserts_.size()); }
     /// How many were taken over so far, also when `run` has thrown.
     int done() const { return done_; }
     /// @param progress called after each line
-    /// @throws common::DatabaseError when a line cannot be written; those before it stay
+    /// @throws base::DatabaseError when a line cannot be written; those before it stay
     void run(const std::function<void()>& progress);
 
 private:
-    common::Connection& connection_;
+    base::Connection& connection_;
     std::vector<std::string> inserts_; ///< the statement of each line
     int done_ = 0;
 };

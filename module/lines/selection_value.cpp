@@ -1,14 +1,14 @@
-#include "lines/selection_value.h"
+#include "module/lines/selection_value.h"
 
-#include "common/number_format.h"
-#include "common/text.h"
+#include "module/base/number_format.h"
+#include "module/base/text.h"
 
 #include <optional>
 #include <vector>
 
 namespace tellurix::lines {
 
-using common::replaceAll;
+using base::replaceAll;
 
 namespace {
 
@@ -41,18 +41,18 @@ std::optional<Attribute> attributeOf(std::string_view condition) {
 } // namespace
 
 std::string quoteList(std::string_view typed) {
-    std::string list{common::trim(typed)};
+    std::string list{base::trim(typed)};
     while (list.find(", ") != std::string::npos)
         list = replaceAll(std::move(list), ", ", ",");
     return "''" + replaceAll(std::move(list), ",", "'', ''") + "''";
 }
 
-std::string lengthsIn(std::string_view typed, const common::Locale& locale) {
+std::string lengthsIn(std::string_view typed, const base::Locale& locale) {
     std::string kept;
     for (const std::string_view piece : split(typed, ',')) {
         std::string number{piece};
         if (locale.decimal == ',') number = replaceAll(std::move(number), ".", ",");
-        if (!common::isNumeric(number, locale)) continue;
+        if (!base::isNumeric(number, locale)) continue;
         kept += (kept.empty() ? "" : ", ") + replaceAll(std::move(number), ",", ".");
     }
     return kept;
@@ -88,7 +88,7 @@ QuickSelection readSelection(std::string_view value) {
     for (const std::string_view piece : split(value, ';')) {
         if (const auto attribute = attributeOf(piece)) {
             selection[*attribute] = extractList(piece);
-        } else if (!common::trim(piece).empty()) {
+        } else if (!base::trim(piece).empty()) {
             return {};
         }
     }

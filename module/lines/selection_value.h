@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Locale.h"
+#include "module/base/Locale.h"
 
 #include <array>
 #include <cstddef>
@@ -44,7 +44,7 @@ std::string quoteList(std::string_view typed);
 /// What a typed list of lengths keeps: the numbers, with a point and ", " between them. The list
 /// is cut at every comma, so "4,5" is the two lengths 4 and 5 in every locale; decimals are typed
 /// with a point.
-std::string lengthsIn(std::string_view typed, const common::Locale& locale);
+std::string lengthsIn(std::string_view typed, const base::Locale& locale);
 
 /// The selection value of the five lists, with each quote doubled: what stands between the single
 /// quotes of a statement. A quote typed into an entry is not escaped; the statement refuses it.

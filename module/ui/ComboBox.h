@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/ItemList.h"
+#include "module/ui/ItemList.h"
 
 namespace tellurix::ui {
 

@@ -1,6 +1,6 @@
-#include "ui/Control.h"
+#include "module/ui/Control.h"
 
-#include "ui/Form.h"
+#include "module/ui/Form.h"
 
 namespace tellurix::ui {
 

@@ -1,16 +1,16 @@
-#include "ui/Desktop.h"
+#include "module/ui/Desktop.h"
 
-#include "common/text.h"
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/Grid.h"
-#include "ui/ListBox.h"
-#include "ui/RefusedInput.h"
-#include "ui/TextBox.h"
-#include "ui/UpDown.h"
-#include "ui/caption.h"
-#include "ui/control_caption.h"
-#include "ui/control_keys.h"
+#include "module/base/text.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+#include "module/ui/Grid.h"
+#include "module/ui/ListBox.h"
+#include "module/ui/RefusedInput.h"
+#include "module/ui/TextBox.h"
+#include "module/ui/UpDown.h"
+#include "module/ui/caption.h"
+#include "module/ui/control_caption.h"
+#include "module/ui/control_keys.h"
 
 #include <algorithm>
 
@@ -125,19 +125,19 @@ void Desktop::pick(Form& form, Control& control) {
 
 void Desktop::typeCharacter(TextBox& box, char32_t character) {
     if (box.onKeyPress) box.onKeyPress(character);
-    if (character != 0 && box.typeOver(common::encodeUtf8(character))) call(box.onChange);
+    if (character != 0 && box.typeOver(base::encodeUtf8(character))) call(box.onChange);
 }
 
 void Desktop::typeText(TextBox& box, const std::string& text) {
-    std::u32string characters = common::decodeUtf8(box.onPaste ? box.onPaste(text) : text);
+    std::u32string characters = base::decodeUtf8(box.onPaste ? box.onPaste(text) : text);
     std::erase_if(characters, [&box](char32_t character) { return !box.takes(character); });
     bool changed = false;
     if (!box.onKeyPress) {
-        changed = box.typeOver(common::encodeUtf8(characters));
+        changed = box.typeOver(base::encodeUtf8(characters));
     } else {
         for (char32_t character : characters) {
             box.onKeyPress(character);
-            if (character != 0 && box.typeOver(common::encodeUtf8(character))) changed = true;
+            if (character != 0 && box.typeOver(base::encodeUtf8(character))) changed = true;
         }
     }
     if (changed) call(box.onChange);
@@ -204,7 +204,7 @@ void Desktop::handle(Form& form, const KeyPressEvent& event) {
 }
 
 void Desktop::handle(Form& form, const AccessKeyEvent& event) {
-    const char32_t wanted = common::toUpper(event.character);
+    const char32_t wanted = base::toUpper(event.character);
     std::vector<Control*> targets;
     for (Control* control : form.controls()) {
         if (accessKeyOf(*control) != wanted) continue;

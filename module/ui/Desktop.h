@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/Display.h"
-#include "ui/events.h"
+#include "module/ui/Display.h"
+#include "module/ui/events.h"
 
 #include <functional>
 #include <vector>

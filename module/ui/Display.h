@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/Form.h"
-#include "ui/message_box.h"
+#include "module/ui/Form.h"
+#include "module/ui/message_box.h"
 
 #include <optional>
 #include <string>

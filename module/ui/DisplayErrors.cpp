@@ -1,4 +1,4 @@
-#include "ui/DisplayErrors.h"
+#include "module/ui/DisplayErrors.h"
 
 namespace tellurix::ui {
 

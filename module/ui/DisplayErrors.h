@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Display.h"
+#include "module/ui/Display.h"
 
 namespace tellurix::ui {
 

@@ -1,7 +1,7 @@
-#include "ui/Form.h"
+#include "module/ui/Form.h"
 
-#include "ui/Tabs.h"
-#include "ui/TextBox.h"
+#include "module/ui/Tabs.h"
+#include "module/ui/TextBox.h"
 
 #include <algorithm>
 

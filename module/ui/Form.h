@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Layout.h"
+#include "module/ui/Layout.h"
 
 #include <memory>
 #include <span>

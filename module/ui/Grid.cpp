@@ -1,4 +1,4 @@
-#include "ui/Grid.h"
+#include "module/ui/Grid.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/Control.h"
-#include "ui/TextBox.h"
+#include "module/ui/Control.h"
+#include "module/ui/TextBox.h"
 
 #include <set>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "ui/GridEditor.h"
+#include "module/ui/GridEditor.h"
 
-#include "common/text.h"
-#include "ui/Form.h"
+#include "module/base/text.h"
+#include "module/ui/Form.h"
 
 namespace tellurix::ui {
 
@@ -42,7 +42,7 @@ void GridEditor::openWith(char32_t character) {
     if (box_.onKeyPress) box_.onKeyPress(character);
     if (character == 0) return;
     showOver(row, column, "");
-    box_.typeOver(common::encodeUtf8(character));
+    box_.typeOver(base::encodeUtf8(character));
 }
 
 void GridEditor::showOver(int row, int column, const std::string& text) {

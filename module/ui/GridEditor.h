@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Grid.h"
+#include "module/ui/Grid.h"
 
 #include <functional>
 #include <string>

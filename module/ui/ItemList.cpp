@@ -1,4 +1,4 @@
-#include "ui/ItemList.h"
+#include "module/ui/ItemList.h"
 
 namespace tellurix::ui {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Control.h"
+#include "module/ui/Control.h"
 
 namespace tellurix::ui {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/Frame.h"
-#include "ui/Label.h"
-#include "ui/Tabs.h"
+#include "module/ui/Frame.h"
+#include "module/ui/Label.h"
+#include "module/ui/Tabs.h"
 
 #include <vector>
 

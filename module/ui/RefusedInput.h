@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Refused.h"
+#include "module/base/Refused.h"
 
 #include <utility>
 #include <vector>
@@ -11,10 +11,10 @@ class Control;
 
 /// What stands in a control cannot be taken as it is. The message names the control by its label; the
 /// user is told, and then finds the focus there.
-class RefusedInput : public common::Refused {
+class RefusedInput : public base::Refused {
 public:
     RefusedInput(Control& control, std::vector<Sentence> message)
-        : common::Refused(std::move(message)), control_(&control) {}
+        : base::Refused(std::move(message)), control_(&control) {}
 
     Control& control() const { return *control_; }
 

@@ -1,13 +1,13 @@
-#include "ui/TextBox.h"
+#include "module/ui/TextBox.h"
 
-#include "common/text.h"
+#include "module/base/text.h"
 
 #include <algorithm>
 
 namespace tellurix::ui {
 
-using common::decodeUtf8;
-using common::encodeUtf8;
+using base::decodeUtf8;
+using base::encodeUtf8;
 
 namespace {
 

@@ -1,14 +1,14 @@
-#include "ui/caption.h"
+#include "module/ui/caption.h"
 
-#include "common/text.h"
+#include "module/base/text.h"
 
 namespace tellurix::ui {
 
 char32_t accessKeyOf(std::string_view caption) {
-    const std::u32string characters = common::decodeUtf8(caption);
+    const std::u32string characters = base::decodeUtf8(caption);
     for (std::size_t i = 0; i + 1 < characters.size(); ++i) {
         if (characters[i] != U'&') continue;
-        if (characters[i + 1] != U'&') return common::toUpper(characters[i + 1]);
+        if (characters[i + 1] != U'&') return base::toUpper(characters[i + 1]);
         ++i;
     }
     return 0;

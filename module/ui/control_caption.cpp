@@ -1,6 +1,6 @@
-#include "ui/control_caption.h"
+#include "module/ui/control_caption.h"
 
-#include "ui/visit.h"
+#include "module/ui/visit.h"
 
 #include <vector>
 

@@ -1,11 +1,11 @@
-#include "ui/control_keys.h"
+#include "module/ui/control_keys.h"
 
-#include "ui/ComboBox.h"
-#include "ui/Grid.h"
-#include "ui/ListBox.h"
-#include "ui/Tabs.h"
-#include "ui/TextBox.h"
-#include "ui/UpDown.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Grid.h"
+#include "module/ui/ListBox.h"
+#include "module/ui/Tabs.h"
+#include "module/ui/TextBox.h"
+#include "module/ui/UpDown.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "ui/date_box.h"
+#include "module/ui/date_box.h"
 
-#include "common/date_format.h"
-#include "common/text.h"
+#include "module/base/date_format.h"
+#include "module/base/text.h"
 
 namespace tellurix::ui {
 
@@ -13,16 +13,16 @@ void makeDateBox(TextBox& box, std::function<void()> showInvalid) {
         if (!digit && key != U'.' && key != U'-' && key != U'/') key = 0;
     };
     box.onLeave = [&box, showInvalid = std::move(showInvalid)] {
-        if (common::trim(box.text()).empty()) {
+        if (base::trim(box.text()).empty()) {
             box.setText("");
             return true;
         }
-        const auto date = common::parseDate(box.text());
+        const auto date = base::parseDate(box.text());
         if (!date) {
             showInvalid();
             return false;
         }
-        box.setText(common::dateText(*date));
+        box.setText(base::dateText(*date));
         return true;
     };
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/TextBox.h"
+#include "module/ui/TextBox.h"
 
 namespace tellurix::ui {
 

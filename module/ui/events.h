@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/keys.h"
+#include "module/ui/keys.h"
 
 #include <string>
 #include <variant>

@@ -1,9 +1,9 @@
-#include "ui/key_use.h"
+#include "module/ui/key_use.h"
 
-#include "ui/ComboBox.h"
-#include "ui/Grid.h"
-#include "ui/ListBox.h"
-#include "ui/TextBox.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Grid.h"
+#include "module/ui/ListBox.h"
+#include "module/ui/TextBox.h"
 
 #include <algorithm>
 #include <array>

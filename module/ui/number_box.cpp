@@ -1,7 +1,7 @@
-#include "ui/number_box.h"
+#include "module/ui/number_box.h"
 
-#include "common/number_format.h"
-#include "common/text.h"
+#include "module/base/number_format.h"
+#include "module/base/text.h"
 
 #include <utility>
 
@@ -12,14 +12,14 @@ namespace {
 /// Decides about the characters typed into a number box.
 class NumberKeys {
 public:
-    NumberKeys(TextBox& box, std::string mask, const common::Locale& locale)
+    NumberKeys(TextBox& box, std::string mask, const base::Locale& locale)
         : box_(box), mask_(std::move(mask)), locale_(locale) {}
 
     void operator()(char32_t& key) {
         const bool point = key == U'.' && locale_.decimal != '.';
         if (point) key = static_cast<char32_t>(locale_.decimal);
         const bool behindPoint = !withPoint_.empty() && box_.text() == withPoint_;
-        const std::string typed = box_.textAfterTyping(common::encodeUtf8(key));
+        const std::string typed = box_.textAfterTyping(base::encodeUtf8(key));
         if (fits(typed)) {
             withPoint_ = point || behindPoint ? typed : std::string{};
         } else if (!behindPoint || !takePointOut(typed)) {
@@ -28,13 +28,13 @@ public:
     }
 
 private:
-    bool fits(const std::string& text) const { return common::fitsNumberMask(text, mask_, locale_); }
+    bool fits(const std::string& text) const { return base::fitsNumberMask(text, mask_, locale_); }
 
     /// With its third digit a point turns out to have been one between thousands: "1.234".
     bool takePointOut(const std::string& typed) {
         const std::size_t groupBegin = typed.find(locale_.decimal) + 1;
         if (typed.size() - groupBegin != 3 || !typed.starts_with(withPoint_)) return false;
-        const std::string whole = common::replaceAll(withPoint_, std::string{locale_.decimal}, "");
+        const std::string whole = base::replaceAll(withPoint_, std::string{locale_.decimal}, "");
         if (!fits(whole + typed.back())) return false;
         box_.setText(whole);
         return true;
@@ -42,24 +42,24 @@ private:
 
     TextBox& box_;
     std::string mask_;
-    common::Locale locale_;
+    base::Locale locale_;
     std::string withPoint_; ///< the text since a point was typed as its decimal character
 };
 
 } // namespace
 
-void makeNumberBox(TextBox& box, std::string mask, const common::Locale& locale) {
+void makeNumberBox(TextBox& box, std::string mask, const base::Locale& locale) {
     box.setRightAligned(true);
-    box.setMaxLength(common::longestInMask(mask));
+    box.setMaxLength(base::longestInMask(mask));
     box.onKeyPress = NumberKeys{box, mask, locale};
     box.onPaste = [locale](const std::string& pasted) {
         // The thousands of a number copied from a list must not be taken for its decimals.
-        const auto number = common::parseNumber(pasted, locale);
+        const auto number = base::parseNumber(pasted, locale);
         if (!number) return pasted;
-        return common::replaceAll(number->toString(), ".", std::string{locale.decimal});
+        return base::replaceAll(number->toString(), ".", std::string{locale.decimal});
     };
     box.onLeave = [&box, mask, locale] {
-        box.setText(common::reformatNumber(box.text(), mask, locale));
+        box.setText(base::reformatNumber(box.text(), mask, locale));
         return true;
     };
 }

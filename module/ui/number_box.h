@@ -1,14 +1,14 @@
 #pragma once
 
-#include "common/Locale.h"
-#include "ui/TextBox.h"
+#include "module/base/Locale.h"
+#include "module/ui/TextBox.h"
 
 namespace tellurix::ui {
 
 /// Makes a box a number box: only what the mask can show is typed in it, with the locale's decimal
 /// character or the point, and on leaving a number is shown in the mask. A point with three digits
 /// behind it was one between thousands and is taken out. Another text stays as it is.
-void makeNumberBox(TextBox& box, std::string mask, const common::Locale& locale);
+void makeNumberBox(TextBox& box, std::string mask, const base::Locale& locale);
 
 /// Lets only digits be typed into a box, as for a person's number.
 void makeDigitBox(TextBox& box);

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/ComboBox.h"
-#include "ui/Frame.h"
-#include "ui/Grid.h"
-#include "ui/Label.h"
-#include "ui/ListBox.h"
-#include "ui/ProgressBar.h"
-#include "ui/Tabs.h"
-#include "ui/TextBox.h"
-#include "ui/UpDown.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Frame.h"
+#include "module/ui/Grid.h"
+#include "module/ui/Label.h"
+#include "module/ui/ListBox.h"
+#include "module/ui/ProgressBar.h"
+#include "module/ui/Tabs.h"
+#include "module/ui/TextBox.h"
+#include "module/ui/UpDown.h"
 
 #include <type_traits>
 

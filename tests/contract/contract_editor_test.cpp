@@ -1,5 +1,5 @@
-#include "support/ContractTest.h"
-#include "support/EarlierVisit.h"
+#include "tests/support/ContractTest.h"
+#include "tests/support/EarlierVisit.h"
 
 namespace tellurix::tests {
 namespace {
@@ -17,7 +17,7 @@ protected:
 
     /// Creates a contract with rows in all its tables, as the host and earlier work would.
     std::int32_t newContract() {
-        common::Connection& db = host.database;
+        base::Connection& db = host.database;
         db.execute("INSERT INTO VERTRAEGE (VERTRAG_NAME,VER_TYPE) VALUES ('Neu','R')");
         const std::string id = value("SELECT MAX(ID_VERTRAG) FROM VERTRAEGE");
         db.execute("INSERT INTO VERTRAG_PREISE (ID_VERTRAG,ORDNUNG) VALUES (" + id + ",1)");
@@ -247,7 +247,7 @@ TEST_F(ContractEditor, AFailingSaveKeepsTheEditorOpenAndTheContractUnsaved) {
 
 TEST_F(ContractEditor, AFailureWhileOpeningFailsTheCallAndNotifiesNobody) {
     host.database.failOn("ZUSATZTEXT_1");
-    EXPECT_THROW(host.openContract(1), common::DatabaseError);
+    EXPECT_THROW(host.openContract(1), base::DatabaseError);
     EXPECT_TRUE(host.requests.empty());
     EXPECT_TRUE(host.display.errors().empty());
 }

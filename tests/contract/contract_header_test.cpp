@@ -1,6 +1,6 @@
-#include "support/ContractTest.h"
-#include "support/EarlierVisit.h"
-#include "ui/Grid.h"
+#include "module/ui/Grid.h"
+#include "tests/support/ContractTest.h"
+#include "tests/support/EarlierVisit.h"
 
 #include <thread>
 

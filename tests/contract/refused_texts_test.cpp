@@ -1,4 +1,4 @@
-#include "support/ContractTest.h"
+#include "tests/support/ContractTest.h"
 
 namespace tellurix::tests {
 namespace {

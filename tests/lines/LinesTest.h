@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/ContractTest.h"
-#include "support/EarlierVisit.h"
+#include "tests/support/ContractTest.h"
+#include "tests/support/EarlierVisit.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "lines/LinesTest.h"
+#include "tests/lines/LinesTest.h"
 
 namespace tellurix::tests {
 namespace {

@@ -1,12 +1,12 @@
-#include "lines/PriceChange.h"
+#include "module/lines/PriceChange.h"
 
-#include "common/text.h"
-#include "lines/LinesTest.h"
+#include "module/base/text.h"
+#include "tests/lines/LinesTest.h"
 
 namespace tellurix::tests {
 namespace {
 
-using common::Decimal;
+using base::Decimal;
 using lines::ChangeKind;
 using ui::Answer;
 
@@ -52,7 +52,7 @@ TEST_F(PriceChangeOfAContract, PreviewAndDatabaseAgreeToTheCent) {
         });
         std::string stored = value("SELECT PREIS FROM VERTRAG_PREISE WHERE ID = 14");
         EXPECT_EQ(Decimal::parse(stored).value(),
-                  Decimal::parse(common::replaceAll(c.after, ",", ".")).value());
+                  Decimal::parse(base::replaceAll(c.after, ",", ".")).value());
         EXPECT_EQ(row("SELECT PREIS_ABR2,MSZ_PERCENT FROM VERTRAG_PREISE WHERE ID = 14"), "3.0000 | 1.75");
     }
 }

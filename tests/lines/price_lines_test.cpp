@@ -1,5 +1,5 @@
-#include "lines/LinesTest.h"
-#include "ui/ComboBox.h"
+#include "module/ui/ComboBox.h"
+#include "tests/lines/LinesTest.h"
 
 namespace tellurix::tests {
 namespace {

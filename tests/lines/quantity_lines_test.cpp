@@ -1,6 +1,6 @@
-#include "lines/LinesTest.h"
-#include "ui/ComboBox.h"
-#include "ui/Label.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Label.h"
+#include "tests/lines/LinesTest.h"
 
 namespace tellurix::tests {
 namespace {

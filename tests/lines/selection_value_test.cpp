@@ -1,4 +1,4 @@
-#include "lines/selection_value.h"
+#include "module/lines/selection_value.h"
 
 #include <gtest/gtest.h>
 
@@ -44,8 +44,8 @@ TEST(SelectionValue, LengthsKeepTheNumbers) {
         {"a hexadecimal number or an exponent is none", "0x10,1e2,3", "3", "3"},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(lengthsIn(c.typed, common::Locale::german()), c.german) << c.rule;
-        EXPECT_EQ(lengthsIn(c.typed, common::Locale::english()), c.english) << c.rule;
+        EXPECT_EQ(lengthsIn(c.typed, base::Locale::german()), c.german) << c.rule;
+        EXPECT_EQ(lengthsIn(c.typed, base::Locale::english()), c.english) << c.rule;
     }
 }
 

@@ -1,11 +1,11 @@
-#include "scenarios/HeadlessDisplay.h"
+#include "tests/scenarios/HeadlessDisplay.h"
 
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/ItemList.h"
-#include "ui/Label.h"
-#include "ui/TextBox.h"
-#include "ui/caption.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+#include "module/ui/ItemList.h"
+#include "module/ui/Label.h"
+#include "module/ui/TextBox.h"
+#include "module/ui/caption.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "scenarios/Scenario.h"
-#include "support/ScriptedDisplay.h"
+#include "tests/scenarios/Scenario.h"
+#include "tests/support/ScriptedDisplay.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "scenarios/Scenario.h"
+#include "tests/scenarios/Scenario.h"
 
 #include <cctype>
 #include <charconv>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/keys.h"
-#include "ui/message_box.h"
+#include "module/ui/keys.h"
+#include "module/ui/message_box.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -1,10 +1,10 @@
 // Prints every row of every table of a workbench's database, in an order that only depends on what is
 // in it, so that two databases can be compared line by line:
 //     dump_database FILE
-#include "common/StatementText.h"
-#include "embedded/Database.h"
-#include "services/SystemClock.h"
-#include "support/SampleDatabase.h"
+#include "database/embedded/Database.h"
+#include "module/base/StatementText.h"
+#include "standin/services/values/SystemClock.h"
+#include "tests/support/SampleDatabase.h"
 
 #include <iostream>
 #include <set>
@@ -12,8 +12,8 @@
 namespace tellurix::tests {
 namespace {
 
-void dump(common::Connection& connection, const std::string& table) {
-    common::StatementText query{"SELECT * FROM "};
+void dump(base::Connection& connection, const std::string& table) {
+    base::StatementText query{"SELECT * FROM "};
     std::multiset<std::string> lines;
     for (auto row = connection.open(query.identifier(table).text()); !row->atEnd(); row->moveNext()) {
         lines.insert(literalRow(*row));
@@ -34,7 +34,7 @@ int main(int count, char** arguments) {
         return 2;
     }
     try {
-        const tellurix::workbench::SystemClock clock;
+        const tellurix::standin::SystemClock clock;
         const auto connection = tellurix::embedded::Database{arguments[1], clock}.connect();
         for (const std::string& table : tellurix::tests::tableNames())
             tellurix::tests::dump(*connection, table);

@@ -1,10 +1,10 @@
 // Plays a scenario on the workbench's start page without any display:
 //     play_headless SCENARIO DATABASE
-#include "embedded/Database.h"
-#include "home/F_Start.h"
-#include "home/ModuleOpener.h"
-#include "host/module_state.h"
-#include "scenarios/HeadlessDisplay.h"
+#include "database/embedded/Database.h"
+#include "module/host/module_state.h"
+#include "standin/home/F_Start.h"
+#include "standin/home/ModuleOpener.h"
+#include "tests/scenarios/HeadlessDisplay.h"
 
 #include <gtest/gtest.h>
 
@@ -20,17 +20,17 @@ struct ModuleUnloading {
 
 /// @return what went wrong, empty for nothing
 std::string play(const std::filesystem::path& scenario, const std::filesystem::path& file) {
-    const workbench::SystemClock clock;
+    const standin::SystemClock clock;
     const embedded::Database database{file, clock};
     const auto connection = database.connect();
-    const auto catalogue = workbench::TextCatalogue::builtIn();
+    const auto catalogue = standin::TextCatalogue::builtIn();
     HeadlessDisplay display{readScenario(scenario)};
     host::TlxVar session{.connection = connection.get(), .homeCurrency = "CHF", .site = {}, .user = "test"};
-    workbench::WorkbenchServices services{display, session, catalogue};
+    standin::WorkbenchServices services{display, session, catalogue};
     display.setErrorHandling(&services.host().errors);
     const ModuleUnloading unloading;
-    workbench::ModuleOpener opener{services, session};
-    workbench::F_Start start{services, session, opener};
+    standin::ModuleOpener opener{services, session};
+    standin::F_Start start{services, session, opener};
     try {
         start.Run();
     } catch (const HeadlessDisplay::Over&) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/SampleDatabase.h"
-#include "support/TestHost.h"
+#include "tests/support/SampleDatabase.h"
+#include "tests/support/TestHost.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace tellurix::tests {
 class ContractTest : public testing::Test {
 private:
     SampleDatabase database_;
-    std::unique_ptr<common::Connection> connection_ = database_.connect();
+    std::unique_ptr<base::Connection> connection_ = database_.connect();
 
 protected:
     void TearDown() override { EXPECT_EQ(database_.changesBeside(host.contracts, ownTables), ""); }

@@ -1,4 +1,4 @@
-#include "support/EarlierVisit.h"
+#include "tests/support/EarlierVisit.h"
 
 namespace tellurix::tests {
 

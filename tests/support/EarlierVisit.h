@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/ScriptedDisplay.h"
+#include "tests/support/ScriptedDisplay.h"
 
 #include <cstdint>
 

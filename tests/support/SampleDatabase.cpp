@@ -1,8 +1,8 @@
-#include "support/SampleDatabase.h"
+#include "tests/support/SampleDatabase.h"
 
-#include "common/date_format.h"
-#include "embedded/script.h"
-#include "support/StandingClock.h"
+#include "database/embedded/script.h"
+#include "module/base/date_format.h"
+#include "tests/support/StandingClock.h"
 
 #include <algorithm>
 #include <fstream>
@@ -39,7 +39,7 @@ struct Row {
 /// Knows which contract a row belongs to, by the column that names it.
 class Owners {
 public:
-    explicit Owners(common::Connection& connection) {
+    explicit Owners(base::Connection& connection) {
         for (auto row = connection.open("SELECT ID_VERTRAG,VERTRAG_NAME FROM VERTRAEGE"); !row->atEnd();
              row->moveNext())
             byName_[row->text("VERTRAG_NAME")] = row->integer("ID_VERTRAG");
@@ -47,7 +47,7 @@ public:
              row->moveNext())
             byLogistics_[row->integer("ID")] = row->integer("ID_VERTRAEGE");
     }
-    std::int64_t of(common::Recordset& row) const {
+    std::int64_t of(base::Recordset& row) const {
         for (std::size_t i = 0; i < row.fieldCount(); ++i) {
             const std::string column = row.fieldName(i);
             if (column == "ID_VERTRAG" || column == "ID_VERTRAEGE") return row.integer(column);
@@ -68,7 +68,7 @@ private:
     std::map<std::int64_t, std::int64_t> byLogistics_;
 };
 
-std::multiset<Row> contentsOf(common::Connection& connection) {
+std::multiset<Row> contentsOf(base::Connection& connection) {
     static const std::set<std::string> tables = tableNames();
     const Owners owners{connection};
     std::multiset<Row> contents;
@@ -135,38 +135,38 @@ std::set<std::string> tableNames() {
     return names;
 }
 
-std::string literalRow(common::Recordset& row) {
+std::string literalRow(base::Recordset& row) {
     std::string line;
     for (std::size_t i = 0; i < row.fieldCount(); ++i) {
-        const common::Value field = row.field(i);
+        const base::Value field = row.field(i);
         const bool text = std::holds_alternative<std::string>(field);
         line += " | " + (text ? "'" + written(field) + "'" : written(field));
     }
     return line;
 }
 
-std::string written(const common::Value& field) {
+std::string written(const base::Value& field) {
     struct Writer {
-        std::string operator()(common::Null) const { return "NULL"; }
+        std::string operator()(base::Null) const { return "NULL"; }
         std::string operator()(bool flag) const { return flag ? "true" : "false"; }
         std::string operator()(std::int64_t number) const { return std::to_string(number); }
-        std::string operator()(const common::Decimal& number) const { return number.toString(); }
+        std::string operator()(const base::Decimal& number) const { return number.toString(); }
         std::string operator()(double number) const {
             std::ostringstream text;
             text << number;
             return text.str();
         }
         std::string operator()(const std::string& text) const { return text; }
-        std::string operator()(common::DateTime moment) const {
-            const bool midnight = moment == common::startOf(common::dayOf(moment));
-            return common::formatDate(moment, midnight ? "yyyy-mm-dd" : "yyyy-mm-dd hh:mm:ss",
-                                      common::Locale::german());
+        std::string operator()(base::DateTime moment) const {
+            const bool midnight = moment == base::startOf(base::dayOf(moment));
+            return base::formatDate(moment, midnight ? "yyyy-mm-dd" : "yyyy-mm-dd hh:mm:ss",
+                                    base::Locale::german());
         }
     };
     return std::visit(Writer{}, field);
 }
 
-std::string firstRow(common::Connection& connection, const std::string& query) {
+std::string firstRow(base::Connection& connection, const std::string& query) {
     const auto rows = connection.open(query);
     if (rows->atEnd()) return "no row";
     std::string text;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "embedded/Database.h"
-#include "support/TestFolder.h"
+#include "database/embedded/Database.h"
+#include "tests/support/TestFolder.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -18,7 +18,7 @@ public:
     SampleDatabase();
 
     const std::filesystem::path& file() const { return file_; }
-    std::unique_ptr<common::Connection> connect() const { return database_->connect(); }
+    std::unique_ptr<base::Connection> connect() const { return database_->connect(); }
 
     /// The rows that are others than in the sample, one a line: "- " before those that are gone, "+ "
     /// before those that came. The rows of the given contracts and tables are left out.
@@ -34,11 +34,11 @@ private:
 /// All tables of the schema.
 std::set<std::string> tableNames();
 /// A row with the kinds of its values told apart: 1, '1' and NULL.
-std::string literalRow(common::Recordset& row);
+std::string literalRow(base::Recordset& row);
 
 /// A field as the texts of the tests write it: NULL, true, 12.50, 2025-06-05, or the text itself.
-std::string written(const common::Value& field);
+std::string written(const base::Value& field);
 /// The first row of a query, its fields separated by " | "; "no row" when there is none.
-std::string firstRow(common::Connection& connection, const std::string& query);
+std::string firstRow(base::Connection& connection, const std::string& query);
 
 } // namespace tellurix::tests

@@ -1,10 +1,10 @@
-#include "support/ScriptedDisplay.h"
+#include "tests/support/ScriptedDisplay.h"
 
-#include "common/text.h"
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/ItemList.h"
-#include "ui/TextBox.h"
+#include "module/base/text.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+#include "module/ui/ItemList.h"
+#include "module/ui/TextBox.h"
 
 #include <gtest/gtest.h>
 
@@ -46,8 +46,8 @@ void User::type(std::string_view control, std::string_view text) {
 }
 
 void User::type(std::string_view text) {
-    for (const char32_t character : common::decodeUtf8(text)) {
-        const char32_t capital = common::toUpper(character);
+    for (const char32_t character : base::decodeUtf8(text)) {
+        const char32_t capital = base::toUpper(character);
         const bool named = (capital >= U'A' && capital <= U'Z') || (capital >= U'0' && capital <= U'9');
         desktop_.dispatch(ui::KeyDownEvent{{.key = named ? static_cast<ui::Key>(capital) : ui::Key::none}});
         desktop_.dispatch(ui::KeyPressEvent{character});

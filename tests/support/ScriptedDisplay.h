@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/Desktop.h"
-#include "ui/Grid.h"
+#include "module/ui/Desktop.h"
+#include "module/ui/Grid.h"
 
 #include <deque>
 #include <functional>

@@ -1,10 +1,10 @@
-#include "support/TestHost.h"
+#include "tests/support/TestHost.h"
 
-#include "common/date_format.h"
-#include "common/text.h"
-#include "support/EarlierVisit.h"
-#include "support/SampleDatabase.h"
-#include "ui/caption.h"
+#include "module/base/date_format.h"
+#include "module/base/text.h"
+#include "module/ui/caption.h"
+#include "tests/support/EarlierVisit.h"
+#include "tests/support/SampleDatabase.h"
 
 #include <gtest/gtest.h>
 
@@ -24,26 +24,26 @@ constexpr std::int16_t standardClient = 77;
 
 void FaultyConnection::check(std::string_view statement) const {
     if (part_.empty() || statement.find(part_) == std::string_view::npos) return;
-    throw common::DatabaseError{common::DatabaseErrorCategory::connection, "connection lost",
-                                std::string{statement}};
+    throw base::DatabaseError{base::DatabaseErrorCategory::connection, "connection lost",
+                              std::string{statement}};
 }
 
-common::ExecuteResult FaultyConnection::execute(std::string_view statement) {
+base::ExecuteResult FaultyConnection::execute(std::string_view statement) {
     check(statement);
     return inner_.execute(statement);
 }
 
-std::unique_ptr<common::UpdatableRecordset> FaultyConnection::openUpdatable(std::string_view query) {
+std::unique_ptr<base::UpdatableRecordset> FaultyConnection::openUpdatable(std::string_view query) {
     check(query);
     return inner_.openUpdatable(query);
 }
 
-TestHost::TestHost(common::Connection& inner)
+TestHost::TestHost(base::Connection& inner)
     : database(inner),
       services{.display = display,
                .errors = display,
                .clock = testClock(),
-               .locale = common::Locale::german(),
+               .locale = base::Locale::german(),
                .dataAccess = *this,
                .moduleService = *this,
                .localizer = *this,
@@ -142,7 +142,7 @@ void TestHost::expectOwn(const host::TlxVar& with) const {
 }
 
 void TestHost::expectUpperType(const std::string& type) const {
-    EXPECT_EQ(type, common::toUpper(call_->type));
+    EXPECT_EQ(type, base::toUpper(call_->type));
 }
 
 ui::TextBox& TestHost::focusedBox() const {
@@ -240,7 +240,7 @@ std::vector<std::string> TestHost::find(const host::TlxVar& with, const std::str
     const bool types = list == "TYPEOFVERTRAG_VALID";
     std::string query = types ? "SELECT DISTINCT VER_TYPE AS K FROM VERTRAEGE WHERE VER_TYPE = '"
                               : "SELECT ID_VERTRAG AS K FROM VERTRAEGE WHERE VERTRAG_NAME = '";
-    query += common::replaceAll(text, "'", "''") + "'";
+    query += base::replaceAll(text, "'", "''") + "'";
     if (listsKnowLimits && !types) query += " AND ID_VERTRAG <> " + std::to_string(limits.contract);
     if (listsKnowLimits && !types && !limits.type.empty()) query += " AND VER_TYPE = '" + limits.type + "'";
     std::vector<std::string> keys;
@@ -283,7 +283,7 @@ std::string TestHost::build(const host::TlxVar& with, const std::string& table, 
 
 std::string TestHost::toSql(const std::string& text, const host::TlxVar& with) {
     expectOwn(with);
-    return common::formatDate(common::parseDate(text).value(), "yyyymmdd", common::Locale::german());
+    return base::formatDate(base::parseDate(text).value(), "yyyymmdd", base::Locale::german());
 }
 
 std::string TestHost::text(const host::TlxVar& with, const std::string& name) {
@@ -293,7 +293,7 @@ std::string TestHost::text(const host::TlxVar& with, const std::string& name) {
 
 int TestHost::of(const host::TlxVar& with, const std::string& table, const std::string& column) {
     expectOwn(with);
-    EXPECT_EQ(inner_.open("SELECT " + column + " FROM " + table)->fieldType(0), common::FieldType::text);
+    EXPECT_EQ(inner_.open("SELECT " + column + " FROM " + table)->fieldType(0), base::FieldType::text);
     const auto width = columnWidths.find(table + "." + column);
     return width == columnWidths.end() ? 0 : width->second;
 }

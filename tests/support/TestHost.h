@@ -1,10 +1,10 @@
 #pragma once
 
-#include "host/clsVertrag.h"
-#include "host/services.h"
-#include "support/ScriptedDisplay.h"
-#include "support/StandingClock.h"
-#include "tracing/TracingConnection.h"
+#include "database/tracing/TracingConnection.h"
+#include "module/entry/clsVertrag.h"
+#include "module/host/services.h"
+#include "tests/support/ScriptedDisplay.h"
+#include "tests/support/StandingClock.h"
 
 #include <functional>
 #include <map>
@@ -16,20 +16,20 @@
 namespace tellurix::tests {
 
 /// A connection on which a chosen statement fails, as when the server goes away in between.
-class FaultyConnection final : public common::Connection {
+class FaultyConnection final : public base::Connection {
 public:
-    explicit FaultyConnection(common::Connection& inner) : inner_(inner) {}
+    explicit FaultyConnection(base::Connection& inner) : inner_(inner) {}
 
     /// Every statement with this text in it fails from now on; empty for none.
     void failOn(std::string part) { part_ = std::move(part); }
 
-    common::ExecuteResult execute(std::string_view statement) override;
-    std::unique_ptr<common::UpdatableRecordset> openUpdatable(std::string_view query) override;
+    base::ExecuteResult execute(std::string_view statement) override;
+    std::unique_ptr<base::UpdatableRecordset> openUpdatable(std::string_view query) override;
 
 private:
     void check(std::string_view statement) const;
 
-    common::Connection& inner_;
+    base::Connection& inner_;
     std::string part_;
 };
 
@@ -60,7 +60,7 @@ class TestHost final : host::HostDataAccess,
                        host::SelectionTranslator,
                        host::HostMainWindow {
 public:
-    explicit TestHost(common::Connection& database);
+    explicit TestHost(base::Connection& database);
     ~TestHost() override;
 
     /// The way the host calls the module for a contract of the given type.
@@ -168,7 +168,7 @@ private:
                           const std::string& formValue) override;
     bool IsArtikel() override { return articles; }
 
-    common::Connection& inner_;
+    base::Connection& inner_;
     tracing::TracingConnection traced_;
     tracing::TracingConnection formerlyTraced_;
     host::clsVertrag module_;

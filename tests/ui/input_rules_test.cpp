@@ -1,13 +1,13 @@
-#include "common/text.h"
-#include "support/ScriptedDisplay.h"
-#include "ui/Button.h"
-#include "ui/CheckBox.h"
-#include "ui/ComboBox.h"
-#include "ui/ListBox.h"
-#include "ui/RefusedInput.h"
-#include "ui/TextBox.h"
-#include "ui/date_box.h"
-#include "ui/number_box.h"
+#include "module/base/text.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/ListBox.h"
+#include "module/ui/RefusedInput.h"
+#include "module/ui/TextBox.h"
+#include "module/ui/date_box.h"
+#include "module/ui/number_box.h"
+#include "tests/support/ScriptedDisplay.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ class Order final : public ui::Form {
 public:
     Order() : Form("Order", "Bestellung") {
         ui::makeDateBox(txtDatum, [this] { ++invalidDates; });
-        ui::makeNumberBox(txtMenge, "#####0.00", common::Locale::german());
+        ui::makeNumberBox(txtMenge, "#####0.00", base::Locale::german());
         txtKunde.onPick = [this] {
             ++picks;
             txtKunde.setText("Maier");
@@ -29,7 +29,7 @@ public:
         txtGesperrt.setLocked(true);
         btnOk.onClick = [this] { unload(); };
         btnFail.onClick = [] { throw std::runtime_error{"der Server ist weg"}; };
-        btnRefuse.onClick = [this] { throw ui::RefusedInput{txtMenge, {{common::OwnText::numberMissing}}}; };
+        btnRefuse.onClick = [this] { throw ui::RefusedInput{txtMenge, {{base::OwnText::numberMissing}}}; };
         btnKunden.onClick = [this] { ++customersOpened; };
         btnCancel.onClick = [this] { unload(); };
         btnCancel.setCausesValidation(false);
@@ -282,7 +282,7 @@ TEST_F(InputRules, WhatADisplayEditedByItselfIsWhatCouldHaveBeenTyped) {
             c.box.setText(c.before);
             desktop.dispatch(ui::TextEditedEvent{&c.box, c.edited, 99, 9});
             EXPECT_EQ(c.box.text(), c.shown);
-            const int length = static_cast<int>(common::decodeUtf8(c.shown).size());
+            const int length = static_cast<int>(base::decodeUtf8(c.shown).size());
             EXPECT_EQ(c.box.selectionStart(), length) << "the caret stands within the text";
             EXPECT_EQ(c.box.selectionLength(), 0);
         }

@@ -1,4 +1,4 @@
-#include "ui/key_use.h"
+#include "module/ui/key_use.h"
 
 #include <gtest/gtest.h>
 

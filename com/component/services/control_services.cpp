@@ -1,0 +1,61 @@
+#include "com/component/services/control_services.h"
+
+#include "com/component/controls/BoxObject.h"
+#include "com/component/controls/FormObject.h"
+#include "com/component/controls/GridObject.h"
+
+namespace tellurix::windows {
+
+void LateLocalizer::localize(const host::TlxVar& session, ui::Form& form) {
+    SessionRecord record(session);
+    const Lent<FormObject> lent(form);
+    object_.call(L"Localize", {record.argument(), lent.argument()});
+}
+
+std::string LateLocalizer::text(int number, const host::TlxVar& session) {
+    SessionRecord record(session);
+    TextInOut text;
+    object_.call(L"Text", {number, record.argument(), text.argument()});
+    return text.value();
+}
+
+bool LateLookupValidation::resolve(const host::TlxVar& session, std::int32_t option, const std::string& query,
+                                   ui::TextBox& box, ui::TextBox* shown, const std::string& displayColumn,
+                                   ui::TextBox* third, const std::string& text) {
+    SessionRecord record(session);
+    const Lent<BoxObject> lentBox(box);
+    std::optional<Lent<BoxObject>> lentShown;
+    std::optional<Lent<BoxObject>> lentThird;
+    const auto lend = [](std::optional<Lent<BoxObject>>& lent, ui::TextBox* other) {
+        if (other == nullptr) return Variant(ComPtr<IDispatch>());
+        lent.emplace(*other);
+        return lent->argument();
+    };
+    const Variant second = lend(lentShown, shown);
+    return object_
+        .call(L"Resolve", {record.argument(), option, query, lentBox.argument(), second, displayColumn,
+                           lend(lentThird, third), text})
+        .flag();
+}
+
+void LateGridLayoutStore::save(const host::TlxVar& session, const ui::Grid& grid, const std::string& key) {
+    SessionRecord record(session);
+    // The library only reads what it saves; the object over a grid is the same for both ways.
+    const Lent<GridObject> lent(const_cast<ui::Grid&>(grid));
+    object_.call(L"Save", {record.argument(), lent.argument(), key});
+}
+
+void LateGridLayoutStore::restore(const host::TlxVar& session, ui::Grid& grid, const std::string& key) {
+    SessionRecord record(session);
+    const Lent<GridObject> lent(grid);
+    object_.call(L"Restore", {record.argument(), lent.argument(), key});
+}
+
+void LateTypeAhead::bind(const host::TlxVar& session, ui::TextBox& box, const std::string& query,
+                         const std::string& displayColumn) {
+    SessionRecord record(session);
+    const Lent<BoxObject> lent(box);
+    object_.call(L"Bind", {record.argument(), lent.argument(), query, displayColumn});
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "database/ado/AdoConnection.h"
+#include "module/host/TlxVar.h"
+
+#include <Tellurix_Loc.h>
+
+namespace tellurix::windows {
+
+/// A session record that came from the host, as our code uses it. It keeps the connection.
+class Session {
+public:
+    /// @throws AutomationError when the record has no connection
+    explicit Session(const ::TlxVar& record);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    host::TlxVar& values() { return values_; }
+    const host::TlxVar& values() const { return values_; }
+
+private:
+    ado::AdoConnection connection_;
+    host::TlxVar values_;
+};
+
+/// The record among the arguments of a late-bound call.
+/// @param name the parameter's, for the error text
+/// @throws AutomationError when the argument is none
+::TlxVar& recordIn(VARIANT& argument, const char* name);
+
+} // namespace tellurix::windows

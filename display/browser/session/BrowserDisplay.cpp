@@ -1,0 +1,161 @@
+#include "display/browser/session/BrowserDisplay.h"
+
+#include "display/browser/session/drawing.h"
+#include "display/browser/session/page_event.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace tellurix::browser {
+
+using nlohmann::json;
+
+BrowserDisplay::BrowserDisplay(PageChannel& page) : page_(page) {}
+
+void BrowserDisplay::setLanguage(std::string language) {
+    if (language == language_) return;
+    language_ = std::move(language);
+    languageDrawn_ = false;
+}
+
+void BrowserDisplay::showModal(ui::Form& form) {
+    struct Shown {
+        Shown(BrowserDisplay& display, ui::Form& form) : display_(display) {
+            display_.windows_.push_back({++display_.lastId_, &form});
+        }
+        ~Shown() {
+            if (display_.windows_.back().drawn) display_.closed_.push_back(display_.windows_.back().id);
+            display_.windows_.pop_back();
+        }
+        Shown(const Shown&) = delete;
+        Shown& operator=(const Shown&) = delete;
+        BrowserDisplay& display_;
+    } shown{*this, form};
+    desktop_.runModal(form, [this] { return nextEvent(); });
+}
+
+ui::Event BrowserDisplay::nextEvent() {
+    for (;;) {
+        const PageMessage message = wait();
+        const Window& top = windows_.back();
+        if (message.window != top.id) continue;
+        if (auto event = toEvent(message, *top.form)) return *event;
+    }
+}
+
+ui::Answer BrowserDisplay::messageBox(const std::string& text, int flags, const std::string& title) {
+    struct Asking {
+        Asking(BrowserDisplay& display, Question question) : display_(display) {
+            display_.question_ = std::move(question);
+            display_.questionDrawn_ = false;
+        }
+        ~Asking() {
+            display_.question_.reset();
+            display_.questionDrawn_ = false;
+        }
+        Asking(const Asking&) = delete;
+        Asking& operator=(const Asking&) = delete;
+        BrowserDisplay& display_;
+    } asking{*this, {++lastId_, text, flags, title}};
+
+    const std::vector<ui::Answer> answers = answersOf(flags);
+    for (;;) {
+        const PageMessage message = wait();
+        if (message.kind != PageMessage::Kind::answer || message.window != question_->id) continue;
+        const auto answer = static_cast<ui::Answer>(message.answer);
+        if (std::ranges::find(answers, answer) != answers.end()) return answer;
+    }
+}
+
+std::optional<std::string> BrowserDisplay::openFile(const std::string& title, const std::string&) {
+    messageBox(language_ == "en" ? "Files cannot be opened in the browser."
+                                 : "Im Browser können keine Dateien geöffnet werden.",
+               ui::box::ok | ui::box::information, title);
+    return std::nullopt;
+}
+
+void BrowserDisplay::setBusy(bool busy) {
+    busy_ = busy;
+    // The end of being busy shows with the next drawing; the hourglass is for the time until then.
+    if (busy) draw(false);
+}
+
+void BrowserDisplay::refresh() {
+    draw(false);
+}
+
+PageMessage BrowserDisplay::wait() {
+    draw(true);
+    PageMessage message = page_.next();
+    handled_ = message.number;
+    if (message.kind == PageMessage::Kind::redraw) redraw_ = message;
+    return message;
+}
+
+void BrowserDisplay::drawWindows(json& message, bool complete) {
+    json opened = json::array();
+    json changed = json::array();
+    for (Window& window : windows_) {
+        if (complete || !window.drawn) {
+            opened.push_back(drawWindow(window.id, *window.form));
+            window.drawn = true;
+            continue;
+        }
+        json change = json::object();
+        if (window.form->titleDirty()) {
+            change["title"] = window.form->title();
+            window.form->titleDrawn();
+        }
+        if (json controls = drawChanges(*window.form); !controls.empty()) {
+            change["controls"] = std::move(controls);
+        }
+        if (change.empty()) continue;
+        change["id"] = window.id;
+        changed.push_back(std::move(change));
+    }
+    if (!opened.empty()) message["opened"] = std::move(opened);
+    if (!changed.empty()) message["changed"] = std::move(changed);
+    if (!closed_.empty()) message["closed"] = std::exchange(closed_, {});
+}
+
+void BrowserDisplay::draw(bool acknowledge) {
+    const bool complete = acknowledge && redraw_.has_value();
+    json message = json::object();
+    drawWindows(message, complete);
+    if (complete || !questionDrawn_) {
+        message["box"] = question_ ? drawMessageBox(question_->id, question_->text, question_->flags,
+                                                    question_->title, language_)
+                                   : json();
+        questionDrawn_ = true;
+    }
+    if (complete || busy_ != busyDrawn_) {
+        message["busy"] = busy_;
+        busyDrawn_ = busy_;
+    }
+    if (complete || !languageDrawn_) {
+        message["language"] = language_;
+        languageDrawn_ = true;
+    }
+    if (message.empty() && (!acknowledge || acknowledged_ == handled_)) return;
+    if (!windows_.empty()) {
+        const Window& top = windows_.back();
+        message["focus"] = {{"window", top.id}};
+        if (const ui::Control* focused = top.form->focused(); focused != nullptr && focused->usable()) {
+            message["focus"]["control"] = focused->id();
+        }
+    }
+    if (acknowledge) {
+        message["ack"] = handled_;
+        acknowledged_ = handled_;
+    }
+    if (complete) {
+        message["complete"] = true;
+        page_.sendComplete(toText(message), *redraw_);
+        redraw_.reset();
+    } else {
+        page_.send(toText(message));
+    }
+}
+
+} // namespace tellurix::browser

@@ -1,0 +1,114 @@
+#include "display/win32/Win32Display.h"
+
+#include "com/automation/wide.h"
+#include "display/win32/WindowFrame.h"
+#include "display/win32/native/endings.h"
+#include "display/win32/native/file_dialog.h"
+
+#include <stdexcept>
+
+namespace tellurix::windows {
+
+Win32Display::Win32Display(HWND owner) : owner_(owner) {}
+
+Win32Display::~Win32Display() = default;
+
+void Win32Display::Errors::report(const std::exception& error) {
+    throwIfEnded(display.topWindow());
+    display.told_.report(error);
+}
+
+HWND Win32Display::topWindow() const {
+    const bool lost = windows_.empty() ? owner_ != nullptr && !IsWindow(owner_) : windows_.back()->lost();
+    if (lost) throw OwnerClosed{};
+    if (!windows_.empty()) return windows_.back()->window();
+    return owner_ == nullptr ? nullptr : GetAncestor(owner_, GA_ROOT);
+}
+
+void Win32Display::showModal(ui::Form& form) {
+    struct Shown {
+        explicit Shown(Win32Display& on, ui::Form& form) : display(on) {
+            const SystemLook look;
+            display.windows_.push_back(
+                std::make_unique<WindowFrame>(form, display.topWindow(), display.state_));
+        }
+        ~Shown() { display.windows_.pop_back(); }
+        Shown(const Shown&) = delete;
+        Shown& operator=(const Shown&) = delete;
+        Win32Display& display;
+    };
+    const Shown shown{*this, form};
+    desktop_.runModal(form, [this] { return nextEvent(); });
+}
+
+ui::Event Win32Display::nextEvent() {
+    draw();
+    WindowFrame& top = *windows_.back();
+    if (top.lost()) throw OwnerClosed{};
+    struct Listening {
+        explicit Listening(WindowFrame& listener) : frame(listener) { frame.listen(true); }
+        ~Listening() { frame.listen(false); }
+        Listening(const Listening&) = delete;
+        Listening& operator=(const Listening&) = delete;
+        WindowFrame& frame;
+    };
+    while (!top.hasEvent()) {
+        // A native control may have taken the focus without anything having come of it.
+        if (GetCapture() == nullptr) top.placeFocus();
+        MSG message{};
+        {
+            const Listening listening{top};
+            if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+                PostQuitMessage(static_cast<int>(message.wParam));
+                throw MessageLoopEnded{};
+            }
+            top.fetched(message.message);
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        if (top.lost()) throw OwnerClosed{};
+        top.throwFailure();
+    }
+    return top.takeEvent();
+}
+
+void Win32Display::draw() {
+    for (const auto& window : windows_)
+        window->draw();
+    if (!windows_.empty()) windows_.back()->placeFocus();
+}
+
+ui::Answer Win32Display::messageBox(const std::string& text, int flags, const std::string& title) {
+    draw();
+    const SystemLook look;
+    HWND owner = topWindow();
+    const UINT style = static_cast<UINT>(flags) | (owner == nullptr ? MB_TASKMODAL : 0U);
+    const int pressed = MessageBoxW(owner, widen(text).c_str(), widen(title).c_str(), style);
+    // WM_QUIT passes for an answer, and the end of the owner for one or for a failure.
+    throwIfEnded(owner);
+    if (pressed == 0) throw std::runtime_error{"Windows could not show the message: " + text};
+    return static_cast<ui::Answer>(pressed);
+}
+
+std::optional<std::string> Win32Display::openFile(const std::string& title, const std::string& filter) {
+    draw();
+    HWND owner = topWindow();
+    auto chosen = chooseFile(owner, title, filter);
+    throwIfEnded(owner);
+    return chosen;
+}
+
+void Win32Display::setBusy(bool busy) {
+    state_.busy += busy ? 1 : -1;
+    SetCursor(LoadCursorW(nullptr, state_.busy > 0 ? IDC_WAIT : IDC_ARROW));
+    if (busy) refresh();
+}
+
+void Win32Display::refresh() {
+    draw();
+    for (const auto& window : windows_)
+        if (!window->lost())
+            RedrawWindow(window->window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+} // namespace tellurix::windows

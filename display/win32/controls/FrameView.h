@@ -1,0 +1,27 @@
+#pragma once
+
+#include "display/win32/controls/ControlView.h"
+#include "module/ui/Frame.h"
+
+namespace tellurix::windows {
+
+/// A border with a caption. The controls inside are windows beside it, so it lies below them and
+/// paints the ground they stand on.
+class FrameView final : public ControlView {
+public:
+    FrameView(ViewHost& host, ui::Frame& frame);
+
+    /// What the border takes at least; its content is the arrangement's.
+    Room measure() const override;
+    /// The space between the border and the content.
+    RECT padding() const;
+
+private:
+    void draw() override;
+    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void paint(HDC dc) const;
+
+    ui::Frame& frame_;
+};
+
+} // namespace tellurix::windows

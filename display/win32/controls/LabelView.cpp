@@ -1,0 +1,27 @@
+#include "display/win32/controls/LabelView.h"
+
+#include "com/automation/wide.h"
+
+#include <algorithm>
+
+namespace tellurix::windows {
+
+LabelView::LabelView(ViewHost& host, ui::Label& label) : ControlView(host, label), label_(label) {
+    create(L"STATIC", SS_LEFT);
+}
+
+Room LabelView::measure() const {
+    const SIZE size = theme().textSize(label_.caption(), true, wrapAt());
+    const int height = std::max(static_cast<int>(size.cy), theme().lineHeight());
+    return {Extent::fixed(size.cx + theme().scaled(2)), Extent::fixed(height)};
+}
+
+void LabelView::draw() {
+    // One line stands at the height of the text in the box beside it.
+    const bool oneLine = theme().textSize(label_.caption(), true, wrapAt()).cy < 2 * theme().textHeight();
+    const LONG_PTR style = GetWindowLongPtrW(handle(), GWL_STYLE) & ~LONG_PTR{SS_CENTERIMAGE};
+    SetWindowLongPtrW(handle(), GWL_STYLE, oneLine ? style | SS_CENTERIMAGE : style);
+    showText(widen(label_.caption()));
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,149 @@
+#include "display/win32/layout/Boxes.h"
+
+#include <algorithm>
+
+namespace tellurix::windows {
+
+namespace {
+
+Extent larger(const Extent& a, const Extent& b) {
+    return {std::max(a.minimum, b.minimum), std::max(a.preferred, b.preferred)};
+}
+
+bool anyPresent(const Parts& parts) {
+    return std::ranges::any_of(parts, [](const auto& part) { return part->present(); });
+}
+
+/// Length of the gaps between the parts that are shown.
+int gapsBetween(const Parts& parts, int gap) {
+    int sum = -gap;
+    for (const auto& part : parts)
+        if (part->present()) sum += gap + part->leading();
+    return std::max(sum, 0);
+}
+
+/// Adds up the parts along one direction and takes the largest across.
+Room roomOf(const Parts& parts, int gap, Extent Room::*along, Extent Room::*across) {
+    Room sum;
+    sum.*along = Extent::fixed(gapsBetween(parts, gap));
+    for (const auto& part : parts) {
+        if (!part->present()) continue;
+        const Room room = part->room();
+        sum.*along = sum.*along + room.*along;
+        sum.*across = larger(sum.*across, room.*across);
+    }
+    return sum;
+}
+
+/// The lengths of the parts along one direction, 0 for those that are not shown.
+std::vector<int> lengthsOf(const Parts& parts, int length, int gap, Extent Room::*along) {
+    std::vector<Share> shares;
+    for (const auto& part : parts) {
+        shares.push_back(part->present() ? Share{part->room().*along, part->grows()} : Share{});
+    }
+    return divide(length - gapsBetween(parts, gap), shares);
+}
+
+} // namespace
+
+std::vector<int> divide(int length, const std::vector<Share>& shares) {
+    int preferred = 0;
+    int canGive = 0;
+    int growing = 0;
+    for (const Share& share : shares) {
+        preferred += share.extent.preferred;
+        canGive += share.extent.preferred - share.extent.minimum;
+        growing += share.grows ? 1 : 0;
+    }
+    int spare = std::max(length - preferred, 0);
+    int missing = std::clamp(preferred - length, 0, canGive);
+    std::vector<int> lengths;
+    for (const Share& share : shares) {
+        int own = share.extent.preferred;
+        if (share.grows && spare > 0) {
+            own += spare / growing;
+            spare -= spare / growing--;
+        }
+        if (missing > 0) {
+            // Rounding gives each its part of what is still missing, so that nothing is left over.
+            const int gives = share.extent.preferred - share.extent.minimum;
+            const int given = canGive > 0 ? MulDiv(missing, gives, canGive) : 0;
+            own -= given;
+            missing -= given;
+            canGive -= gives;
+        }
+        lengths.push_back(own);
+    }
+    return lengths;
+}
+
+bool RowPart::present() const {
+    return anyPresent(children_);
+}
+
+Room RowPart::room() const {
+    return roomOf(children_, gap_, &Room::width, &Room::height);
+}
+
+bool RowPart::fills() const {
+    return std::ranges::any_of(children_, [](const auto& part) { return part->present() && part->fills(); });
+}
+
+void RowPart::place(const RECT& rect) {
+    const std::vector<int> widths = lengthsOf(children_, widthOf(rect), gap_, &Room::width);
+    int x = rect.left;
+    for (std::size_t i = 0; i < children_.size(); ++i) {
+        Part& part = *children_[i];
+        if (!part.present()) continue;
+        const bool whole = part.grows() || part.fills();
+        const int height = whole ? heightOf(rect) : std::min(part.room().height.preferred, heightOf(rect));
+        x += part.leading();
+        part.place({x, rect.top, x + widths[i], rect.top + height});
+        x += widths[i] + gap_;
+    }
+}
+
+bool ColumnPart::present() const {
+    return anyPresent(children_);
+}
+
+Room ColumnPart::room() const {
+    return roomOf(children_, gap_, &Room::height, &Room::width);
+}
+
+void ColumnPart::place(const RECT& rect) {
+    const std::vector<int> heights = lengthsOf(children_, heightOf(rect), gap_, &Room::height);
+    int y = rect.top;
+    for (std::size_t i = 0; i < children_.size(); ++i) {
+        Part& part = *children_[i];
+        if (!part.present()) continue;
+        const bool whole = part.grows() || part.fills();
+        const int width = whole ? widthOf(rect) : std::min(part.room().width.preferred, widthOf(rect));
+        part.place({rect.left, y, rect.left + width, y + heights[i]});
+        y += heights[i] + gap_;
+    }
+}
+
+Room ContainerPart::room() const {
+    Room inside;
+    for (const auto& page : pages_) {
+        if (!page->present()) continue;
+        const Room room = page->room();
+        inside = {larger(inside.width, room.width), larger(inside.height, room.height)};
+    }
+    const Extent sides = Extent::fixed(padding_.left + padding_.right);
+    const Extent ends = Extent::fixed(padding_.top + padding_.bottom);
+    // The border's own caption has to fit as well.
+    return {larger(inside.width + sides, view_.room().width), inside.height + ends};
+}
+
+void ContainerPart::place(const RECT& rect) {
+    view_.place(rect);
+    const RECT inside{rect.left + padding_.left, rect.top + padding_.top, rect.right - padding_.right,
+                      rect.bottom - padding_.bottom};
+    for (const auto& page : pages_) {
+        if (page->present()) page->place(inside);
+    }
+}
+
+} // namespace tellurix::windows

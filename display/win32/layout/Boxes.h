@@ -1,0 +1,66 @@
+#pragma once
+
+#include "display/win32/layout/Part.h"
+
+namespace tellurix::windows {
+
+/// One control.
+class ControlPart final : public Part {
+public:
+    explicit ControlPart(ControlView& view) : view_(view) {}
+
+    bool present() const override { return view_.control().visible(); }
+    Room room() const override { return view_.room(); }
+    void place(const RECT& rect) override { view_.place(rect); }
+    bool fills() const override { return view_.control().kind() == ui::ControlKind::grid; }
+
+private:
+    ControlView& view_;
+};
+
+/// Parts side by side. Those that neither grow nor fill keep their height.
+class RowPart final : public Part {
+public:
+    RowPart(Parts children, int gap) : children_(std::move(children)), gap_(gap) {}
+
+    bool present() const override;
+    Room room() const override;
+    void place(const RECT& rect) override;
+    bool fills() const override;
+
+private:
+    Parts children_;
+    int gap_;
+};
+
+/// Parts one below the other. Those that neither grow nor fill keep their width.
+class ColumnPart final : public Part {
+public:
+    ColumnPart(Parts children, int gap) : children_(std::move(children)), gap_(gap) {}
+
+    bool present() const override;
+    Room room() const override;
+    void place(const RECT& rect) override;
+
+private:
+    Parts children_;
+    int gap_;
+};
+
+/// A column inside the border of a frame, or the pages behind a row of tabs.
+class ContainerPart final : public Part {
+public:
+    ContainerPart(ControlView& view, RECT padding, Parts pages)
+        : view_(view), padding_(padding), pages_(std::move(pages)) {}
+
+    bool present() const override { return view_.control().visible(); }
+    Room room() const override;
+    void place(const RECT& rect) override;
+
+private:
+    ControlView& view_;
+    RECT padding_;
+    Parts pages_;
+};
+
+} // namespace tellurix::windows

@@ -1,0 +1,78 @@
+#include "display/win32/controls/FrameView.h"
+#include "display/win32/controls/TabsView.h"
+#include "display/win32/layout/Boxes.h"
+#include "display/win32/layout/Part.h"
+
+namespace tellurix::windows {
+
+namespace {
+
+using ui::Layout;
+
+/// A label and what it names, outside a table.
+std::unique_ptr<Part> makeField(const Layout& layout, ViewHost& host) {
+    Parts parts;
+    parts.push_back(std::make_unique<ControlPart>(host.viewOf(*layout.control)));
+    for (auto& part : makeParts(layout.children, host)) {
+        if (layout.grows) part->setGrowing(true);
+        parts.push_back(std::move(part));
+    }
+    return std::make_unique<RowPart>(std::move(parts), host.theme().gap());
+}
+
+std::unique_ptr<Part> makeRow(const Layout& layout, ViewHost& host) {
+    Parts parts = makeParts(layout.children, host);
+    // A label stands closer to its own box than to the box before it.
+    for (std::size_t i = 1; i < parts.size(); ++i)
+        if (layout.children[i].kind == Layout::Kind::field) parts[i]->setLeading(host.theme().gap());
+    return std::make_unique<RowPart>(std::move(parts), host.theme().gap());
+}
+
+std::unique_ptr<Part> makeFrame(const Layout& layout, ViewHost& host) {
+    auto& view = static_cast<FrameView&>(host.viewOf(*layout.control));
+    Parts content;
+    content.push_back(std::make_unique<ColumnPart>(makeParts(layout.children, host), host.theme().gap()));
+    return std::make_unique<ContainerPart>(view, view.padding(), std::move(content));
+}
+
+std::unique_ptr<Part> makeTabs(const Layout& layout, ViewHost& host) {
+    auto& view = static_cast<TabsView&>(host.viewOf(*layout.control));
+    return std::make_unique<ContainerPart>(view, view.padding(), makeParts(layout.children, host));
+}
+
+std::unique_ptr<Part> make(const Layout& layout, ViewHost& host) {
+    switch (layout.kind) {
+    case Layout::Kind::control:
+        return std::make_unique<ControlPart>(host.viewOf(*layout.control));
+    case Layout::Kind::field:
+        return makeField(layout, host);
+    case Layout::Kind::row:
+        return makeRow(layout, host);
+    case Layout::Kind::fields:
+        return makeFieldTable(layout, host);
+    case Layout::Kind::frame:
+        return makeFrame(layout, host);
+    case Layout::Kind::tabs:
+        return makeTabs(layout, host);
+    case Layout::Kind::column:
+        break;
+    }
+    return std::make_unique<ColumnPart>(makeParts(layout.children, host), host.theme().gap());
+}
+
+} // namespace
+
+std::unique_ptr<Part> makePart(const Layout& layout, ViewHost& host) {
+    auto part = make(layout, host);
+    part->setGrowing(layout.grows);
+    return part;
+}
+
+Parts makeParts(const std::vector<Layout>& layouts, ViewHost& host) {
+    Parts parts;
+    for (const Layout& layout : layouts)
+        parts.push_back(makePart(layout, host));
+    return parts;
+}
+
+} // namespace tellurix::windows

@@ -1,0 +1,25 @@
+#include "module/base/field_text.h"
+
+#include "module/base/date_format.h"
+#include "module/base/number_format.h"
+
+namespace tellurix::base {
+
+std::string dateText(const Value& field) {
+    const auto* moment = std::get_if<DateTime>(&field);
+    return moment == nullptr ? std::string{} : dateText(dayOf(*moment));
+}
+
+std::optional<Decimal> numberIn(const Value& field) {
+    if (const auto* exact = std::get_if<Decimal>(&field)) return *exact;
+    if (const auto* integer = std::get_if<std::int64_t>(&field)) return Decimal{*integer};
+    if (const auto* floating = std::get_if<double>(&field)) return Decimal::fromDouble(*floating);
+    return std::nullopt;
+}
+
+std::string numberText(const Value& field, std::string_view mask, const Locale& locale) {
+    const auto number = numberIn(field);
+    return number ? formatNumber(*number, mask, locale) : std::string{};
+}
+
+} // namespace tellurix::base

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "module/base/Decimal.h"
+#include "module/base/Locale.h"
+#include "module/base/database.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tellurix::base {
+
+/// How fields of a row are shown on a screen. NULL is always the empty text.
+
+/// A date field as "dd.mm.yyyy".
+std::string dateText(const Value& field);
+/// A number field through a number mask.
+std::string numberText(const Value& field, std::string_view mask, const Locale& locale);
+/// A field of any numeric type as an exact number; nothing for NULL and for what is no number.
+std::optional<Decimal> numberIn(const Value& field);
+
+} // namespace tellurix::base

@@ -1,0 +1,181 @@
+#include "module/base/own_text.h"
+
+#include "module/base/text.h"
+
+namespace tellurix::base {
+
+namespace {
+
+struct Words {
+    const char* german;
+    const char* english;
+};
+
+// A switch, so that the compiler misses a text that has no words.
+constexpr Words wordsOf(OwnText text) {
+    switch (text) {
+    case OwnText::contractDate:
+        return {"Vertragsdatum", "Contract date"};
+    case OwnText::deliveryPeriod:
+        return {"Lieferzeitraum", "Delivery period"};
+    case OwnText::deliveryAddress:
+        return {"Lieferadresse", "Delivery address"};
+
+    case OwnText::textNotSaved:
+        return {"Der Text konnte nicht gespeichert werden. Verwerfen?",
+                "The text could not be saved. Discard it?"};
+    case OwnText::contractIsGone:
+        return {"Diesen Vertrag gibt es nicht mehr. Jemand anderer hat ihn inzwischen gelöscht. "
+                "Es wurde nichts gespeichert.",
+                "This contract is no longer there. Someone else has deleted it in the meantime. "
+                "Nothing was saved."};
+    case OwnText::noDeductionModel:
+        return {
+            "Das Abschlagsmodell kann nicht gelesen werden: Im Namen des Vertrags steht ein "
+            "Apostroph (').",
+            "The deduction model cannot be read: there is an apostrophe (') in the name of the contract."};
+
+    case OwnText::sourceUnknown:
+        return {"Den Vertrag „{}“ gibt es nicht.", "There is no contract \"{}\"."};
+    case OwnText::sourceIsItself:
+        return {"Ein Vertrag kann nicht aus sich selbst übernehmen.",
+                "A contract cannot take over from itself."};
+    case OwnText::sourceWithoutLines:
+        return {"Der Vertrag „{}“ hat keine Preise und keine Mengen.",
+                "The contract \"{}\" has no prices and no quantities."};
+    case OwnText::sourceOfOtherType:
+        return {"Der Vertrag „{}“ hat die Vertragsart {}, dieser Vertrag die Vertragsart {}. "
+                "Sollen die Zeilen trotzdem übernommen werden?",
+                "The contract \"{}\" is of type {}, this contract of type {}. Take its lines over all the "
+                "same?"};
+    case OwnText::whichSource:
+        return {"Welcher Vertrag „{}“?", "Which contract \"{}\"?"};
+    case OwnText::oneLineTakenOver:
+        return {"Es wurde 1 Zeile übernommen.", "1 line was taken over."};
+    case OwnText::linesTakenOver:
+        return {"Es wurden {} Zeilen übernommen.", "{} lines were taken over."};
+    case OwnText::someTakenOver:
+        return {"Es wurden nur {} von {} Zeilen übernommen.", "Only {} of {} lines were taken over."};
+
+    case OwnText::lineIsGone:
+        return {"Diese Zeile wurde inzwischen von jemand anderem verschoben oder gelöscht. "
+                "Nach „Bearb. Abbr.“ zeigt die Liste den neuen Stand.",
+                "Someone else has moved or deleted this line in the meantime. "
+                "After the edit is cancelled the list shows how things are now."};
+    case OwnText::listWasOld:
+        return {"Die Zeilen wurden inzwischen von jemand anderem verschoben oder gelöscht. "
+                "Die Liste zeigt jetzt den neuen Stand.",
+                "Someone else has moved or deleted lines in the meantime. "
+                "The list now shows how things are."};
+    case OwnText::nothingWritten:
+        return {"Es wurde nichts geschrieben.", "Nothing was written."};
+    case OwnText::typedWas:
+        return {"Eingegeben war „{}“.", "What was typed: \"{}\"."};
+    case OwnText::closeUnsaved:
+        return {"Die Zeile ist noch nicht gespeichert. Ohne Speichern schließen?",
+                "The line has not been saved yet. Close without saving?"};
+    case OwnText::priceTooLarge:
+        return {"zu groß", "too large"};
+
+    case OwnText::overDelivery:
+        return {"Überlieferung: geliefert wurden {}, zulässig sind {}",
+                "Over-delivery: {} delivered, {} permitted"};
+    case OwnText::openQuantity:
+        return {"Offene Menge", "Open quantity"};
+    case OwnText::logNumber:
+        return {"Nummer", "Number"};
+    case OwnText::logDate:
+        return {"Datum", "Date"};
+    case OwnText::logSpecies:
+        return {"Ha", "Species"};
+    case OwnText::logSort:
+        return {"Hs", "Assortment"};
+    case OwnText::logMeasure:
+        return {"Maß", "Measure"};
+    case OwnText::logQuantity:
+        return {"Menge", "Quantity"};
+    case OwnText::claimedEarlier:
+        return {"Von früheren Zeilen beansprucht", "Claimed by earlier lines"};
+    case OwnText::close:
+        return {"Schließen", "Close"};
+    case OwnText::deliveredOf:
+        return {"Geliefert {} von {}, offen {}", "Delivered {} of {}, open {}"};
+    case OwnText::noMeasureInUnit:
+        return {"In dieser Einheit haben Stämme kein Maß, deshalb zählt keiner.",
+                "Logs have no measure in this unit, so none is counted."};
+    case OwnText::oneLogClaimed:
+        return {"Zeile {}: 1 Stamm", "Line {}: 1 log"};
+    case OwnText::logsClaimed:
+        return {"Zeile {}: {} Stämme", "Line {}: {} logs"};
+
+    case OwnText::refusedValue:
+        return {"„{}“:", "\"{}\":"};
+    case OwnText::refusedInField:
+        return {"{} „{}“:", "{} \"{}\":"};
+    case OwnText::emptyField:
+        return {"{}:", "{}:"};
+    case OwnText::numberMissing:
+        return {"Hier fehlt eine Zahl. Bitte eine Zahl eingeben, zum Beispiel 12,5.",
+                "A number is missing here. Please type a number, such as 12.5."};
+    case OwnText::noPlainNumber:
+        return {"Das ist keine Zahl, die gespeichert werden kann. Bitte nur Ziffern und ein Komma eingeben, "
+                "ohne Punkte zwischen den Tausendern, zum Beispiel 1250,5.",
+                "This is no number that can be saved. Please type digits and one decimal character only, "
+                "nothing between the thousands."};
+    case OwnText::textWithApostrophe:
+        return {"Der Text enthält einen Apostroph ('), den dieses Feld nicht speichern kann. Bitte den "
+                "Apostroph weglassen oder durch ´ ersetzen.",
+                "The text holds an apostrophe ('), which this field cannot save. Please leave it out or type "
+                "´ instead."};
+    case OwnText::noName:
+        return {
+            "Das ist kein Name einer Tabelle oder Spalte. Bitte die Betreuung der Anwendung verständigen.",
+            "This is no name of a table or column. Please tell the support of the application."};
+    case OwnText::nothingSent:
+        return {"Die Anweisung wurde nicht an die Datenbank gesendet.",
+                "The statement was not sent to the database."};
+
+    case OwnText::inLine:
+        return {"Zeile {} „{}“:", "Line {} \"{}\":"};
+    case OwnText::ofTheHost:
+        return {"{}", "{}"};
+    case OwnText::selectionUnreadable:
+        return {"Die Selektion kann nicht gelesen werden: „{}“.", "The selection cannot be read: \"{}\"."};
+    case OwnText::orWithoutCondition:
+        return {"Vor OR fehlt eine Bedingung", "There is no condition before OR"};
+    case OwnText::semicolonMissing:
+        return {"Hinter der Bedingung fehlt der Strichpunkt",
+                "The semicolon behind the condition is missing"};
+    case OwnText::pieceMissing:
+        return {"Hier fehlt {}", "{} is missing here"};
+    case OwnText::attributeMissing:
+        return {"Er beginnt nicht mit der Nummer eines Merkmals (83, 87, 90, 93, 94)",
+                "It does not begin with the number of an attribute (83, 87, 90, 93, 94)"};
+    case OwnText::comparisonMissing:
+        return {"Hinter dem Merkmal fehlt IN, NOT IN, BETWEEN, >= oder <=",
+                "IN, NOT IN, BETWEEN, >= or <= is missing behind the attribute"};
+    case OwnText::comparedInOrder:
+        return {"Nach der Größe können nur Stärkeklassen und Längen verglichen werden",
+                "Only strength classes and lengths can be compared by size"};
+    case OwnText::selectionNumberMissing:
+        return {"Hier fehlt eine Zahl (höchstens 18 Stellen, mit Dezimalpunkt)",
+                "A number is missing here (18 digits at most, with a decimal point)"};
+    case OwnText::selectionTextMissing:
+        return {"Hier fehlt ein Wert zwischen einfachen Hochkommas",
+                "A value between single quotes is missing here"};
+    case OwnText::atTheEnd:
+        return {"(am Ende).", "(at the end)."};
+    case OwnText::atText:
+        return {"(bei „{}“).", "(at \"{}\")."};
+    }
+    return {"", ""};
+}
+
+} // namespace
+
+std::string ownText(OwnText text, std::string_view language, const std::vector<std::string>& values) {
+    const Words words = wordsOf(text);
+    return filled(language == "en" ? words.english : words.german, values);
+}
+
+} // namespace tellurix::base

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tellurix::base {
+
+/// The words that the module adds to those of its interface, in one table and in both languages.
+///
+/// What the interface names stays where it is used: texts by number come from the host's catalogue,
+/// captions are translated by the host, and the German questions of the line screens are given.
+enum class OwnText {
+    // The summary of the head data
+    contractDate,
+    deliveryPeriod,
+    deliveryAddress,
+    // The contract editor
+    textNotSaved, ///< a question
+    contractIsGone,
+    noDeductionModel,
+    // Taking lines over: {} is the name of the source
+    sourceUnknown,
+    sourceIsItself,
+    sourceWithoutLines,
+    sourceOfOtherType, ///< a question: name, its type, the contract's own type
+    whichSource,       ///< title of the list of contracts with the same name
+    oneLineTakenOver,
+    linesTakenOver, ///< how many
+    someTakenOver,  ///< how many, of how many
+    // Contract lines
+    lineIsGone,
+    listWasOld,
+    nothingWritten,
+    typedWas,     ///< what was typed
+    closeUnsaved, ///< a question
+    priceTooLarge,
+    // The open quantity and how it comes about
+    overDelivery, ///< what was delivered, what is permitted
+    openQuantity,
+    logNumber,
+    logDate,
+    logSpecies,
+    logSort,
+    logMeasure,
+    logQuantity,
+    claimedEarlier,
+    close,
+    deliveredOf, ///< delivered, agreed and open quantity, each with its unit
+    noMeasureInUnit,
+    oneLogClaimed, ///< line
+    logsClaimed,   ///< line, how many
+    // Values that no statement can carry
+    refusedValue,   ///< begins the message: the value
+    refusedInField, ///< begins the message: the field's label, the value
+    emptyField,     ///< begins the message: the field's label
+    numberMissing,
+    noPlainNumber,
+    textWithApostrophe,
+    noName,
+    nothingSent,
+    // Selection values that cannot be read: the line, the message, the reason, the place
+    inLine,              ///< its number, its description
+    ofTheHost,           ///< a message of the host's own
+    selectionUnreadable, ///< the condition
+    orWithoutCondition,
+    semicolonMissing,
+    pieceMissing, ///< which
+    attributeMissing,
+    comparisonMissing,
+    comparedInOrder,
+    selectionNumberMissing,
+    selectionTextMissing,
+    atTheEnd,
+    atText, ///< the rest of the condition
+};
+
+/// @param language of the session: "en"; any other is German
+/// @param values take the places of the "{}" in the text, from left to right
+std::string ownText(OwnText text, std::string_view language, const std::vector<std::string>& values = {});
+
+} // namespace tellurix::base

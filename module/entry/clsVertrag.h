@@ -1,0 +1,60 @@
+#pragma once
+
+#include "module/host/ReportScreen.h"
+#include "module/host/variant.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace tellurix::host {
+
+/// The module's entry class. The host calls one operation at a time on its own thread; each shows
+/// its screen modally and returns when the user has closed it.
+///
+/// No operation reports an error of its own: whatever fails while a screen is being opened is thrown
+/// to the host. What fails inside an open screen goes to the host's error handling instead.
+class clsVertrag {
+public:
+    /// @param services live as long as the calling thread's module state
+    /// @param provisionReport, quantityReport make the two report screens. Without one, its
+    ///        operation throws NotAvailable.
+    explicit clsVertrag(HostServices& services, ReportScreenFactory provisionReport = {},
+                        ReportScreenFactory quantityReport = {});
+
+    /// Opens the weekly provision reports. Every call gets a fresh screen.
+    void F_Bereitstellung_WVO_Run(TlxVar& session, std::int16_t modul);
+
+    /// Opens the quantity reports. The screen is kept and finds its members as the previous call
+    /// left them; it is the provision-report screen that is released afterwards.
+    void F_VertragMengenmeldung_WVO_Run(TlxVar& session, std::int16_t modul);
+
+    /// Opens the contract editor, and notifies the host after it was closed.
+    /// @param id the contract, `VERTRAEGE.ID_VERTRAG`
+    /// @param name not shown; the editor reads the contract's name itself
+    /// @param StrVer_Type_dll the host's contract-type code, "R" or "A1" … "A8"
+    /// @param rechName_dll ignored
+    /// @param blnOK_dll in and out: whether the last dialog was confirmed
+    /// @param bolEuroChange_dll in and out, unchanged
+    /// @param newVertrag the host has just created the row: closing without saving deletes it
+    /// @param strCaption what the window title starts with
+    void Vertrag_Run(TlxVar& session, std::int32_t id, const std::string& name,
+                     const std::string& StrVer_Type_dll, const std::string& strThousantSep_dll,
+                     const std::string& strDecimalSep_dll, const std::string& rechName_dll,
+                     Variant& blnOK_dll, Boolean16& bolEuroChange_dll,
+                     std::shared_ptr<HostMainWindow> F_Main_dll, std::int16_t g_intStandardMandanten_dll,
+                     bool newVertrag, const std::string& strCaption, bool enableKLR);
+
+    /// "V" for "R", "V1" … "V8" for "A1" … "A8", whatever the case of the letters; else empty.
+    std::string GetVertragType(const std::string& strVerType) const;
+
+private:
+    ReportScreen& reportScreen(const std::string& name, const ReportScreenFactory& create);
+    void notifyHost(const TlxVar& session);
+
+    HostServices& services_;
+    ReportScreenFactory provisionReport_;
+    ReportScreenFactory quantityReport_;
+};
+
+} // namespace tellurix::host

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "module/host/services.h"
+#include "module/ui/TextBox.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace tellurix::parts {
+
+/// Makes a box a lookup box: its picker lists what can be chosen, leaving it resolves the typed
+/// text to a database key, and the key is kept in the box's `tag` (empty for no value).
+///
+/// A text that nobody touched is not looked up again: a value that is no longer offered must stay
+/// in the contracts that already have it. A text that was not found leaves no key behind, and nothing is
+/// known then but that: the former text typed again is looked up like any other.
+class LookupBox {
+public:
+    /// What one lookup box asks the database.
+    struct Lookup {
+        std::string listQuery; ///< all choices, in a column named SHORT
+        std::string keyQuery;  ///< the choice of a text, up to the quote that opens the text
+    };
+
+    /// @param session the screen's own copy of the session record
+    /// @param title of the picker, asked for when it opens
+    LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
+              std::function<std::string()> title, Lookup lookup);
+
+    /// Shows a value as it was read: its text and its key.
+    void show(const std::string& text, const std::string& key);
+    /// The key, empty for no value.
+    const std::string& key() const { return box_.tag(); }
+
+private:
+    bool leave();
+
+    ui::TextBox& box_;
+    host::HostServices& services_;
+    const host::TlxVar& session_;
+    std::string keyQuery_;
+    std::optional<std::string> resolvedText_; ///< what the key belongs to
+};
+
+} // namespace tellurix::parts

@@ -1,0 +1,62 @@
+#include "module/parts/PersonBox.h"
+
+#include "module/base/StatementText.h"
+#include "module/base/number_format.h"
+#include "module/base/whole_number.h"
+#include "module/host/module_state.h"
+#include "module/ui/number_box.h"
+
+namespace tellurix::parts {
+
+std::optional<std::string> personNumber(base::Connection& connection, std::int32_t person) {
+    base::StatementText query{"SELECT NUMMER FROM PERSONAL WHERE ID_PERSONAL = "};
+    const auto row = connection.open(query.number(person).text());
+    return row->atEnd() ? std::nullopt : std::optional{row->text("NUMMER")};
+}
+
+PersonBox::PersonBox(ui::TextBox& number, ui::TextBox& shortName, host::HostServices& services,
+                     const host::TlxVar& session, Choice choice)
+    : number_(number),
+      shortName_(shortName),
+      services_(services),
+      session_(session),
+      choice_(std::move(choice)) {
+    shortName_.setLocked(true);
+    ui::makeDigitBox(number_);
+    number_.onPick = [this] { pick(); };
+    number_.onLeave = [this] { return leave(); };
+}
+
+void PersonBox::show(const std::string& key, const std::string& number, const std::string& shortName) {
+    number_.setTag(key);
+    number_.setText(number);
+    shortName_.setText(shortName);
+    resolvedNumber_ = number;
+}
+
+void PersonBox::pick() {
+    host::HostContext& context = host::moduleState().context;
+    const std::int32_t person = services_.personalPicker.choose(
+        session_, choice_.pickerMode, choice_.accessLevel(), context.g_intStandardMandanten,
+        base::wholeNumber<std::int32_t>(number_.tag()).value_or(0), context.blnOK);
+    if (person <= 0) return;
+    if (const auto number = personNumber(*session_.connection, person)) number_.setText(*number);
+}
+
+bool PersonBox::leave() {
+    if (number_.text() == resolvedNumber_) return true;
+    resolvedNumber_.reset();
+    number_.setTag("");
+    shortName_.setText("");
+    if (!base::isNumeric(number_.text(), services_.locale)) number_.setText("");
+    const std::string query = number_.text().empty()
+                                  ? std::string{}
+                                  : services_.personQuery.build(session_, "PERSONAL", number_.text(),
+                                                                choice_.accessLevel(), choice_.validFilter);
+    if (!services_.lookupValidation.resolve(session_, query, number_, &shortName_, "KURZBEZEICHNUNG"))
+        return false;
+    resolvedNumber_ = number_.text();
+    return true;
+}
+
+} // namespace tellurix::parts

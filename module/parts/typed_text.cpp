@@ -1,0 +1,39 @@
+#include "module/parts/typed_text.h"
+
+#include "module/base/StatementText.h"
+#include "module/ui/Form.h"
+#include "module/ui/Label.h"
+#include "module/ui/RefusedInput.h"
+#include "module/ui/caption.h"
+
+namespace tellurix::parts {
+
+namespace {
+
+std::string composed(ui::TextBox& box, const base::StatementText& piece) {
+    try {
+        return piece.text();
+    } catch (const base::StatementError& error) {
+        const ui::Label* label = box.form().labelOf(box);
+        std::vector<base::Refused::Sentence> message =
+            base::refusedValue(error.value(), label == nullptr ? "" : ui::plainCaption(label->caption()));
+        message.push_back({error.reason()});
+        throw ui::RefusedInput{box, std::move(message)};
+    }
+}
+
+} // namespace
+
+std::string typedText(ui::TextBox& box) {
+    return composed(box, base::StatementText{}.insideLiteral(box.text()));
+}
+
+std::string typedCodes(ui::TextBox& box) {
+    return composed(box, base::StatementText{}.insideInnerLiteral(box.text()));
+}
+
+std::string typedNumber(ui::TextBox& box) {
+    return composed(box, base::StatementText{}.number(box.text()));
+}
+
+} // namespace tellurix::parts

@@ -1,0 +1,234 @@
+#include "standin/home/F_Start.h"
+
+#include "module/base/date_format.h"
+#include "module/base/field_text.h"
+#include "module/base/whole_number.h"
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
+#include "module/ui/date_box.h"
+#include "standin/home/contract_types.h"
+#include "standin/services/pickers/search_keys.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tellurix::standin {
+
+using ui::column;
+using ui::field;
+using ui::row;
+
+namespace {
+
+constexpr std::int64_t allTypes = -1;
+constexpr std::array<const char*, 2> languages{"de", "en"};
+
+/// The host's standard client, from the settings of the installation; 0 for none.
+std::int16_t standardClient(host::NamedSettings& settings, const host::TlxVar& session) {
+    return base::wholeNumber<std::int16_t>(settings.text(session, "STANDARDMANDANT")).value_or(0);
+}
+
+} // namespace
+
+F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpener& opener,
+                 std::function<void(const std::string&)> languageChanged, Closing closing)
+    : Form("F_Start", "Verträge"),
+      services_(services),
+      session_(session),
+      opener_(opener),
+      languageChanged_(std::move(languageChanged)),
+      closing_(closing),
+      newContract_(services, session) {
+    grdContracts.setColumns({{.caption = "Vertrag", .width = 34},
+                             {.caption = "Vertragsart", .width = 18},
+                             {.caption = "Kunde", .width = 26},
+                             {.caption = "Lieferung von", .width = 14},
+                             {.caption = "bis", .width = 11},
+                             {.caption = "Status", .width = 13},
+                             {.caption = "Preise", .width = 7, .rightAligned = true},
+                             {.caption = "Mengen", .width = 8, .rightAligned = true}});
+    grdNotifications.setColumns({{.caption = "Zeit", .width = 9},
+                                 {.caption = "Code", .width = 9},
+                                 {.caption = "Vertragsart", .width = 18}});
+    cboLanguage.add("Deutsch");
+    cboLanguage.add("English");
+    limitSearch(txtSearch);
+    connect();
+    arrange();
+}
+
+F_Start::~F_Start() {
+    services_.moduleService().onNotification = {};
+}
+
+void F_Start::connect() {
+    txtSearch.onChange = [this] { reload(); };
+    connectSearch(txtSearch, grdContracts, [this] { openCurrent(); });
+    cboType.onChange = [this] { reload(); };
+    cboClosed.onChange = [this] { reload(); };
+    connectPeriod(txtFrom);
+    connectPeriod(txtTo);
+    cboLanguage.onChange = [this] { changeLanguage(); };
+    btnOpen.onClick = [this] { openCurrent(); };
+    btnNew.onClick = [this] { create(); };
+    services_.moduleService().onNotification = [this](const Notification&) { showNotifications(); };
+}
+
+void F_Start::connectPeriod(ui::TextBox& box) {
+    ui::makeDateBox(box, [this] {
+        parts::ShowMessage(services_.host().display,
+                           services_.host().localizer.text(host::textNumber::invalidEntry, session_),
+                           ui::box::exclamation);
+    });
+    box.onLeave = [this, leaveDate = std::move(box.onLeave)] {
+        if (!leaveDate()) return false;
+        reload();
+        return true;
+    };
+    box.onPick = [this, &box] {
+        box.setText(services_.host().listPicker.choose(session_, host::ListPicker::calendar,
+                                                       named("start.period"), box.text()));
+        reload();
+    };
+}
+
+void F_Start::arrange() {
+    setLayout(column({
+        row({field(lblSearch, txtSearch), field(lblType, cboType), field(lblClosed, cboClosed),
+             field(lblFrom, txtFrom), field(lblTo, txtTo), field(lblLanguage, cboLanguage)}),
+        ui::Layout{grdContracts}.growing(),
+        row({btnOpen, btnNew, lblCount}),
+        ui::frame(frmNotifications, {grdNotifications}),
+    }));
+}
+
+void F_Start::Run() {
+    fillLists();
+    services_.localizer().localize(session_, *this);
+    reload();
+    showNotifications();
+    services_.host().display.showModal(*this);
+}
+
+void F_Start::fillLists() {
+    const int type = std::max(cboType.selected(), 0);
+    cboType.clear();
+    cboType.add(named("start.all"), allTypes);
+    addContractTypes(cboType, services_.localizer(), session_);
+    cboType.select(type);
+
+    const int closed = cboClosed.selected();
+    cboClosed.clear();
+    cboClosed.add(named("start.all"));
+    cboClosed.add(named("start.open"));
+    cboClosed.add(named("start.closed"));
+    cboClosed.select(closed == ui::ItemList::none ? static_cast<int>(ContractFilter::Closed::open) : closed);
+
+    const auto language = std::ranges::find(languages, session_.language);
+    cboLanguage.select(language == languages.end() ? 0 : static_cast<int>(language - languages.begin()));
+}
+
+void F_Start::changeLanguage() {
+    session_.language = languages[static_cast<std::size_t>(std::max(cboLanguage.selected(), 0))];
+    fillLists();
+    services_.localizer().localize(session_, *this);
+    showContracts();
+    showCount();
+    showNotifications();
+    if (languageChanged_) languageChanged_(session_.language);
+}
+
+std::string F_Start::chosenType() const {
+    if (cboType.selected() == ui::ItemList::none) return {};
+    const std::int64_t index = cboType.items()[static_cast<std::size_t>(cboType.selected())].itemData;
+    return index == allTypes ? std::string{} : std::string{contractTypes[static_cast<std::size_t>(index)]};
+}
+
+ContractFilter F_Start::filter() const {
+    return {.search = txtSearch.text(),
+            .type = chosenType(),
+            .closed = static_cast<ContractFilter::Closed>(std::max(cboClosed.selected(), 0)),
+            .from = base::parseDate(txtFrom.text()),
+            .to = base::parseDate(txtTo.text())};
+}
+
+void F_Start::reload() {
+    const int row = grdContracts.currentRow();
+    reload(row == ui::Grid::none ? 0 : list_.contracts[static_cast<std::size_t>(row)].id);
+}
+
+void F_Start::reload(std::int32_t current) {
+    const int row = std::max(grdContracts.currentRow(), 0);
+    list_ = readContracts(*session_.connection, filter(), listedAtMost);
+    showContracts();
+    showCount();
+    const auto found = std::ranges::find(list_.contracts, current, &ListedContract::id);
+    const int last = static_cast<int>(list_.contracts.size()) - 1;
+    grdContracts.setCurrent(found == list_.contracts.end()
+                                ? std::min(row, last)
+                                : static_cast<int>(found - list_.contracts.begin()));
+    btnOpen.setEnabled(last >= 0);
+}
+
+void F_Start::showContracts() {
+    std::vector<ui::Grid::Row> rows;
+    for (const ListedContract& contract : list_.contracts) {
+        rows.push_back({contract.name, contractTypeText(contract.type, services_.localizer(), session_),
+                        contract.customer, base::dateText(contract.deliveryFrom),
+                        base::dateText(contract.deliveryTo),
+                        named(contract.closed ? "start.isClosed" : "start.isOpen"),
+                        std::to_string(contract.priceLines), std::to_string(contract.quantityLines)});
+    }
+    grdContracts.setRows(std::move(rows));
+}
+
+void F_Start::showCount() {
+    const std::string count = std::to_string(list_.contracts.size());
+    lblCount.setCaption(list_.more                    ? filled(named("start.more"), {count, count})
+                        : list_.contracts.size() == 1 ? named("start.countOne")
+                                                      : filled(named("start.count"), {count}));
+}
+
+void F_Start::showNotifications() {
+    std::vector<ui::Grid::Row> rows;
+    for (const Notification& notification : services_.moduleService().notifications()) {
+        rows.push_back({base::formatDate(notification.time, "hh:mm:ss", services_.host().locale),
+                        notification.code,
+                        contractTypeText(notification.type, services_.localizer(), session_)});
+    }
+    // The newest on top, where it is seen.
+    std::ranges::reverse(rows);
+    grdNotifications.setRows(std::move(rows));
+}
+
+void F_Start::openCurrent() {
+    const int row = grdContracts.currentRow();
+    if (row == ui::Grid::none) return;
+    const ListedContract contract = list_.contracts[static_cast<std::size_t>(row)];
+    if (!contractExists(*session_.connection, contract.id)) {
+        parts::ShowMessage(services_.host().display, named("start.gone"), ui::box::information);
+        reload();
+        return;
+    }
+    open(contract.id, contract.name, contract.type, false);
+}
+
+void F_Start::create() {
+    const auto created = newContract_.Run(chosenType());
+    if (!created) return;
+    // Listed before it is opened: should opening fail, the row is there to be seen.
+    reload(created->id);
+    open(created->id, created->name, created->type, true);
+}
+
+void F_Start::open(std::int32_t id, const std::string& name, const std::string& type, bool newContract) {
+    opener_.open({.id = id,
+                  .name = name,
+                  .type = type,
+                  .isNew = newContract,
+                  .caption = named("start.caption"),
+                  .standardClient = standardClient(services_.host().settings, session_)});
+    reload(id);
+}
+
+} // namespace tellurix::standin

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "module/ui/Button.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Form.h"
+#include "module/ui/Frame.h"
+#include "module/ui/Grid.h"
+#include "module/ui/TextBox.h"
+#include "standin/home/ContractOpener.h"
+#include "standin/home/F_NewContract.h"
+#include "standin/home/contract_list.h"
+#include "standin/services/WorkbenchServices.h"
+
+#include <functional>
+#include <string>
+
+namespace tellurix::standin {
+
+/// The workbench's main window: the contracts, found by name, customer, type, delivery period and
+/// state, and the way into the contract module. What the module told the host in return is listed
+/// below them.
+class F_Start final : public ui::Form {
+public:
+    /// How many contracts are listed at once; more can be reached by narrowing.
+    static constexpr std::size_t listedAtMost = 500;
+
+    /// Whether the user can close it. In a browser it is the root window of its session and goes with
+    /// the session; in a program with windows of its own closing it ends the program.
+    enum class Closing { never, allowed };
+
+    /// @param session the language in it changes when the user chooses another one
+    /// @param languageChanged told of the user's choice, "de" or "en"; may be empty
+    F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpener& opener,
+            std::function<void(const std::string&)> languageChanged = {}, Closing closing = Closing::never);
+    ~F_Start() override;
+
+    /// Shows the contracts; returns when the window was closed.
+    void Run();
+
+private:
+    bool queryUnload() override { return closing_ == Closing::allowed; }
+    void connect();
+    void connectPeriod(ui::TextBox& box);
+    void arrange();
+    /// Puts everything that is no control's caption into the session's language.
+    void fillLists();
+    void changeLanguage();
+
+    ContractFilter filter() const;
+    /// Reads the contracts, with the current one kept current where it is still there.
+    void reload();
+    void reload(std::int32_t current);
+    void showContracts();
+    void showCount();
+    void showNotifications();
+    std::string named(std::string_view key) const { return services_.localizer().named(key, session_); }
+    std::string chosenType() const;
+
+    void openCurrent();
+    void create();
+    void open(std::int32_t id, const std::string& name, const std::string& type, bool newContract);
+
+    WorkbenchServices& services_;
+    host::TlxVar& session_;
+    ContractOpener& opener_;
+    std::function<void(const std::string&)> languageChanged_;
+    Closing closing_;
+    F_NewContract newContract_;
+    ContractList list_; ///< its contracts stand beside the rows of the table
+
+    ui::Label lblSearch{*this, "lblSearch", "&Suche"};
+    ui::TextBox txtSearch{*this, "txtSearch", 20};
+    ui::Label lblType{*this, "lblType", "Vertrags&art"};
+    ui::ComboBox cboType{*this, "cboType", 15};
+    ui::Label lblClosed{*this, "lblClosed", "S&tatus"};
+    ui::ComboBox cboClosed{*this, "cboClosed", 12};
+    ui::Label lblFrom{*this, "lblFrom", "Lieferung &von"};
+    ui::TextBox txtFrom{*this, "txtFrom", 11};
+    ui::Label lblTo{*this, "lblTo", "&bis"};
+    ui::TextBox txtTo{*this, "txtTo", 11};
+    ui::Label lblLanguage{*this, "lblLanguage", "S&prache"};
+    ui::ComboBox cboLanguage{*this, "cboLanguage", 8};
+
+    ui::Grid grdContracts{*this, "grdContracts", 15};
+    ui::Label lblCount{*this, "lblCount"};
+    ui::Button btnOpen{*this, "btnOpen", "Ö&ffnen"};
+    ui::Button btnNew{*this, "btnNew", "&Neu"};
+
+    ui::Frame frmNotifications{*this, "frmNotifications", "Meldungen an den Host"};
+    ui::Grid grdNotifications{*this, "grdNotifications", 4};
+};
+
+} // namespace tellurix::standin

@@ -1,0 +1,107 @@
+#include "com/session/error_kind.h"
+#include "standin/library/ServiceObject.h"
+#include "standin/library/service_classes.h"
+
+namespace tellurix::windows {
+
+namespace {
+
+using Given = const CallArguments&;
+
+Variant choosePerson(ServiceObject& service, Given given) {
+    auto call = callOf(service, given);
+    auto confirmed = static_cast<host::Boolean16>(given[5].as(VT_BOOL).boolVal);
+    const std::int32_t chosen =
+        call.services().personalPicker.choose(call.session(), given[1].text(), given[2].integer(),
+                                              given[3].as(VT_I2).iVal, given[4].integer(), confirmed);
+    given.write(5, host::isTrue(confirmed));
+    return chosen;
+}
+
+void showError(ServiceObject& service, Given given) {
+    auto call = callOf(service, given);
+    try {
+        std::rethrow_exception(errorOfKind(given[1].text(), given[2].text()));
+    } catch (const std::exception& error) {
+        call.services().errors.report(error);
+    }
+}
+
+} // namespace
+
+const ServiceClass& hostPersonalPicker() {
+    static const ServiceClass served{"Tellurix_Loc.HostPersonalPicker",
+                                     DispatchTable().method<ServiceObject>(L"Choose", choosePerson)};
+    return served;
+}
+
+const ServiceClass& listPicker() {
+    static const ServiceClass served{
+        "Tellurix_Loc.ListPicker",
+        DispatchTable().method<ServiceObject>(L"Choose", [](ServiceObject& service, Given given) {
+            auto call = callOf(service, given);
+            return Variant(call.services().listPicker.choose(call.session(), given[1].text(), given[2].text(),
+                                                             given[3].text(), given[4].text()));
+        })};
+    return served;
+}
+
+const ServiceClass& keyedLists() {
+    static const ServiceClass served{
+        "Tellurix_Loc.KeyedLists",
+        DispatchTable()
+            .method<ServiceObject>(L"Choose",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       return Variant(call.services().keyedLists.choose(
+                                           call.session(), given[1].text(), given[2].text(),
+                                           {given[3].text(), given[4].integer()}, given[5].text()));
+                                   })
+            .method<ServiceObject>(L"Find",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       std::string keys;
+                                       for (const std::string& key : call.services().keyedLists.find(
+                                                call.session(), given[1].text(), given[2].text(),
+                                                {given[3].text(), given[4].integer()}))
+                                           keys += (keys.empty() ? "" : ",") + key;
+                                       return Variant(keys);
+                                   })
+            .method<ServiceObject>(L"TypeOf", [](ServiceObject& service, Given given) {
+                auto call = callOf(service, given);
+                return Variant(call.services().keyedLists.typeOf(call.session(), given[1].integer()));
+            })};
+    return served;
+}
+
+const ServiceClass& selectionDialog() {
+    static const ServiceClass served{
+        "Tellurix_Loc.SelectionDialog",
+        DispatchTable().method<ServiceObject>(L"Select", [](ServiceObject& service, Given given) {
+            auto call = callOf(service, given);
+            const auto selected = call.services().selectionDialog.select(
+                call.session(), given[1].text(), given[2].text(), given[3].text(), given[4].text());
+            return selected ? Variant(*selected) : Variant();
+        })};
+    return served;
+}
+
+const ServiceClass& lookupGridDialog() {
+    static const ServiceClass served{
+        "Tellurix_Loc.LookupGridDialog",
+        DispatchTable().method<ServiceObject>(L"Choose", [](ServiceObject& service, Given given) {
+            auto call = callOf(service, given);
+            return Variant(call.services().lookupGridDialog.choose(call.session(), given[1].text(),
+                                                                   given[2].text(), given[3].text(),
+                                                                   given[4].text(), given[5].text()));
+        })};
+    return served;
+}
+
+const ServiceClass& hostErrorReport() {
+    static const ServiceClass served{"Tellurix_Loc.HostErrorReport",
+                                     DispatchTable().method<ServiceObject>(L"Show", showError)};
+    return served;
+}
+
+} // namespace tellurix::windows

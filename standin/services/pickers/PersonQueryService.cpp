@@ -1,0 +1,28 @@
+#include "standin/services/pickers/PersonQueryService.h"
+
+#include "module/base/number_format.h"
+#include "standin/services/pickers/person_conditions.h"
+
+#include <stdexcept>
+
+namespace tellurix::standin {
+
+std::string PersonQueryService::build(const host::TlxVar& /*session*/, const std::string& table,
+                                      const std::string& number, int accessLevel, const std::string& filter) {
+    const bool clientsOnly = filter == "PERSONAL_VALID_MANDANTEN";
+    if (!clientsOnly && filter != "PERSONAL_VALID") {
+        throw std::invalid_argument("Die Personensuche kennt den Filter „" + filter + "“ nicht.");
+    }
+    // A number typed with its thousands apart is the same number.
+    const auto typed = base::parseNumber(number, locale_);
+    base::StatementText query{"SELECT ID_PERSONAL,NUMMER,KURZBEZEICHNUNG FROM "};
+    query.identifier(table)
+        .fixed(" WHERE NUMMER = ")
+        .number(typed ? typed->toString() : number)
+        .fixed(" AND");
+    allowedPersons(query, accessLevel);
+    if (clientsOnly) query.fixed(" AND MANDANT = 1");
+    return query.text();
+}
+
+} // namespace tellurix::standin

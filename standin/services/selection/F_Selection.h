@@ -1,0 +1,94 @@
+#pragma once
+
+#include "module/ui/Button.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Display.h"
+#include "module/ui/Form.h"
+#include "module/ui/TextBox.h"
+#include "standin/services/pickers/ChoiceList.h"
+#include "standin/services/selection/selection_words.h"
+
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace tellurix::standin {
+
+/// Lets the user put a selection together: a list of conditions joined by "and" and "or", below it
+/// the condition that is current in the list, and the whole selection as a sentence. What is changed
+/// below shows in the list and in the sentence at once; nothing is answered before "Übernehmen".
+class F_Selection final : public ui::Form {
+public:
+    using Choices = std::map<TimberAttribute, std::vector<Choice>>;
+
+    F_Selection(ui::Display& display, const SelectionWords& words, Choices choices,
+                SelectionExpression expression);
+
+    /// The answer, nothing when the user cancelled.
+    const std::optional<SelectionExpression>& chosen() const { return chosen_; }
+
+private:
+    void connect();
+    void arrange();
+    void add();
+    void remove();
+    void takeOver();
+    /// Shows the current condition in the fields below the list.
+    void showCondition();
+    void showAnother();
+    void showValues();
+    void showFieldsInUse();
+    /// Takes what the user did in one of the fields into the current condition.
+    void changeJoiner();
+    void changeAttribute();
+    void changeComparison();
+    void changeValues();
+    /// What the fields held for an attribute and comparison comes back when the user does.
+    void keepValues(const SelectionCondition& condition);
+    void restoreValues(SelectionCondition& condition) const;
+    void drawConditions();
+
+    SelectionTerm* current();
+    std::vector<SelectionOperator> comparisonsOf(TimberAttribute attribute) const;
+    /// Why the condition cannot be taken over, empty when it can.
+    std::string problemOf(const SelectionCondition& condition) const;
+    std::string storedLength(const std::string& typed) const;
+    std::vector<std::string> storedLengths(const std::string& typed) const;
+
+    ui::Display& display_;
+    const SelectionWords& words_;
+    Choices choices_;
+    SelectionExpression expression_;
+    std::optional<SelectionExpression> chosen_;
+    /// What the current condition had as values, by attribute and number of limits: the arrow keys
+    /// lead through attributes and comparisons that are not meant.
+    std::map<std::pair<TimberAttribute, std::size_t>, std::vector<std::string>> drafts_;
+
+    ui::Button btnAdd{*this, "btnAdd", "&Neue Bedingung"};
+    ui::Button btnRemove{*this, "btnRemove", "Bedingung &entfernen"};
+    ui::Grid grdConditions{*this, "grdConditions", 6};
+    ui::Frame frmCondition{*this, "frmCondition", "Bedingung"};
+    ui::Label lblJoiner{*this, "lblJoiner", "&Verknüpfung"};
+    ui::ComboBox cboJoiner{*this, "cboJoiner", 8};
+    ui::Label lblAttribute{*this, "lblAttribute", "&Merkmal"};
+    ui::ComboBox cboAttribute{*this, "cboAttribute", 16};
+    ui::Label lblComparison{*this, "lblComparison", "Ver&gleich"};
+    ui::ComboBox cboComparison{*this, "cboComparison", 16};
+    ui::Label lblValues{*this, "lblValues", "&Werte"};
+    ui::Grid grdValues{*this, "grdValues", 7};
+    ui::Label lblLengths{*this, "lblLengths", "&Längen"};
+    ui::TextBox txtLengths{*this, "txtLengths", 40};
+    ui::Label lblFrom{*this, "lblFrom", "&Ab"};
+    ui::TextBox txtFrom{*this, "txtFrom", 8};
+    ui::ComboBox cboFrom{*this, "cboFrom", 10};
+    ui::Label lblTo{*this, "lblTo", "Bi&s"};
+    ui::TextBox txtTo{*this, "txtTo", 8};
+    ui::ComboBox cboTo{*this, "cboTo", 10};
+    ui::Label lblSentence{*this, "lblSentence", "Vo&rschau"};
+    ui::TextBox txtSentence{*this, "txtSentence", 70};
+    ui::Button btnOk{*this, "btnOk", "Ü&bernehmen"};
+    ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};
+    ChoiceList values_;
+};
+
+} // namespace tellurix::standin

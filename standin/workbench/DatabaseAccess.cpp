@@ -1,0 +1,87 @@
+#include "standin/workbench/DatabaseAccess.h"
+
+#include "standin/home/database_file.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <stdexcept>
+#include <system_error>
+
+namespace tellurix::standin {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A connection together with the trace of its statements.
+class TracedConnection final : public base::Connection {
+public:
+    TracedConnection(std::unique_ptr<base::Connection> connection, TraceFile& trace)
+        : connection_(std::move(connection)),
+          tracing_(*connection_, [&trace](const tracing::Statement& statement) { trace.write(statement); }) {}
+
+    base::ExecuteResult execute(std::string_view statement) override { return tracing_.execute(statement); }
+    std::unique_ptr<base::UpdatableRecordset> openUpdatable(std::string_view query) override {
+        return tracing_.openUpdatable(query);
+    }
+
+private:
+    std::unique_ptr<base::Connection> connection_;
+    tracing::TracingConnection tracing_;
+};
+
+void requireDayFirst(base::Connection& connection) {
+    using namespace std::chrono_literals;
+    const auto row = connection.open("Declare @d datetime = '05.06.2025'\r\nSELECT @d AS D");
+    const base::Value read = row->field("D");
+    const auto* moment = std::get_if<base::DateTime>(&read);
+    if (moment == nullptr || base::dayOf(*moment) != 2025y / 6 / 5) {
+        throw std::runtime_error{"The database reads '05.06.2025' as another day than 5 June 2025. The "
+                                 "connection must read dates with the day first."};
+    }
+}
+
+/// What is wrong with the place of a database, as a reason behind its name; empty for nothing.
+std::string obstacleTo(const fs::path& file) {
+    std::error_code ignored;
+    const fs::path folder = fs::absolute(file).parent_path();
+    if (fs::is_directory(file, ignored)) return "it is a folder";
+    if (!fs::exists(folder, ignored)) return "its folder " + folder.string() + " does not exist";
+    if (!fs::is_directory(folder, ignored)) return folder.string() + " is not a folder";
+    if (::access(file.c_str(), F_OK) == 0) {
+        return ::access(file.c_str(), R_OK) == 0 ? "" : "it may not be read by this user";
+    }
+    // Not by its rights alone: a file system can be read-only as a whole.
+    if (::access(folder.c_str(), W_OK | X_OK) == 0) return "";
+    return "it does not exist, and cannot be made in " + folder.string() + ": " +
+           std::generic_category().message(errno);
+}
+
+fs::path databaseFile(const CommandLine& line, const base::Clock& clock) {
+    const fs::path file = line.database.empty() ? defaultDatabaseFile() : fs::path{line.database};
+    if (const std::string obstacle = obstacleTo(file); !obstacle.empty())
+        throw std::runtime_error{"the database " + file.string() + " cannot be used: " + obstacle};
+    try {
+        createWhenMissing(file, line.emptyDatabase ? DatabaseContents::nothing : DatabaseContents::sample,
+                          clock);
+    } catch (const std::exception& error) {
+        throw std::runtime_error{"the database " + file.string() + " cannot be made: " + error.what()};
+    }
+    return file;
+}
+
+} // namespace
+
+DatabaseAccess::DatabaseAccess(const CommandLine& line) : database_(databaseFile(line, clock_), clock_) {
+    if (!line.traceFile.empty()) trace_.emplace(line.traceFile);
+}
+
+std::unique_ptr<base::Connection> DatabaseAccess::connect() {
+    auto connection = database_.connect();
+    requireDayFirst(*connection);
+    if (!trace_) return connection;
+    return std::make_unique<TracedConnection>(std::move(connection), *trace_);
+}
+
+} // namespace tellurix::standin

@@ -1,0 +1,11 @@
+#include "tests/database/embedded/EmbeddedTest.h"
+
+namespace tellurix::embedded {
+
+const bool EmbeddedTest::tellsPositions = true;
+
+std::unique_ptr<base::Connection> EmbeddedTest::connect() const {
+    return database().connect();
+}
+
+} // namespace tellurix::embedded

@@ -1,0 +1,85 @@
+#include "standin/home/database_file.h"
+
+#include "database/embedded/Database.h"
+#include "tests/support/StandingClock.h"
+#include "tests/support/TestFolder.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tellurix::tests {
+namespace {
+
+namespace fs = std::filesystem;
+using standin::DatabaseContents;
+
+class DatabaseFile : public testing::Test {
+protected:
+    void create() { createWhenMissing(file_, DatabaseContents::sample, clock_); }
+    std::int64_t contracts() const {
+        return embedded::Database(file_, clock_)
+            .connect()
+            ->open("SELECT COUNT(*) AS N FROM VERTRAEGE")
+            ->integer("N");
+    }
+
+    const base::Clock& clock_ = testClock();
+    TestFolder folder_;
+    fs::path file_ = folder_ / "tellurix.db";
+};
+
+/// Stands for a full disk: no file of the process may grow beyond this.
+void limitFiles(std::uintmax_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+TEST_F(DatabaseFile, OnAFullDiskThereIsNoFileOrAWholeOne) {
+    create();
+    const std::uintmax_t whole = fs::file_size(file_);
+    const std::int64_t all = contracts();
+    ASSERT_GT(all, 0);
+    for (const int percent : {10, 60, 90, 99}) {
+        SCOPED_TRACE(percent);
+        fs::remove(file_);
+        const pid_t child = fork();
+        if (child == 0) {
+            limitFiles(whole * static_cast<std::uintmax_t>(percent) / 100);
+            try {
+                create();
+            } catch (const base::DatabaseError& error) {
+                ::_exit(error.category() == base::DatabaseErrorCategory::storageFull ? 1 : 2);
+            }
+            ::_exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(WEXITSTATUS(status), 1);
+        EXPECT_EQ(folder_.files(), std::set<std::string>{});
+    }
+}
+
+TEST_F(DatabaseFile, WhatAKilledStartLeftBehindIsRemoved) {
+    const pid_t child = fork();
+    if (child == 0) ::_exit(0);
+    waitpid(child, nullptr, 0);
+    const std::string dead = "tellurix.db.new-" + std::to_string(child);
+    const std::string atWork = "tellurix.db.new-" + std::to_string(::getppid());
+    const std::string others = "other.db.new-" + std::to_string(child);
+    for (const std::string& name : {atWork, others})
+        folder_.write(name, "half");
+    for (const bool exists : {false, true}) {
+        SCOPED_TRACE(exists);
+        folder_.write(dead, "half");
+        folder_.write(dead + "-wal", "half");
+        create();
+        EXPECT_EQ(folder_.files(), (std::set<std::string>{"tellurix.db", atWork, others}));
+    }
+}
+
+} // namespace
+} // namespace tellurix::tests

@@ -1,0 +1,115 @@
+#include "module/base/StatementText.h"
+#include "module/base/date_format.h"
+#include "module/ui/Form.h"
+#include "tests/standin/services/ServicesTest.h"
+
+namespace tellurix::tests {
+namespace {
+
+ui::Grid::Column wide(int width) {
+    return {.caption = "Spalte", .width = width};
+}
+
+ui::Grid::Column hidden(int width) {
+    return {.caption = "Spalte", .width = width, .visible = false};
+}
+
+class StoredValues : public ServicesTest {
+protected:
+    struct GridForm final : ui::Form {
+        explicit GridForm(int columns) : Form("GridForm") {
+            grid.setColumns(std::vector<ui::Grid::Column>(static_cast<std::size_t>(columns)));
+        }
+        ui::Grid grid{*this, "grid"};
+    };
+
+    std::string widths(int columns, const std::string& key = "F_TEST") {
+        GridForm form{columns};
+        host.gridLayouts.restore(session, form.grid, key);
+        std::string text;
+        for (const ui::Grid::Column& column : form.grid.columns())
+            text += std::to_string(column.width) + (column.visible ? " " : "h ");
+        return text;
+    }
+};
+
+TEST_F(StoredValues, GridLayoutsAreKeptByUserAndKey) {
+    GridForm form{3};
+    const auto save = [&](std::vector<ui::Grid::Column> columns) {
+        form.grid.setColumns(std::move(columns));
+        host.gridLayouts.save(session, form.grid, "F_TEST");
+    };
+    EXPECT_EQ(widths(3), "10 10 10 ") << "nothing saved yet";
+    save({wide(12), hidden(30), wide(7)});
+    EXPECT_EQ(widths(3), "12 30h 7 ");
+    save({wide(13), wide(31), wide(8)});
+    EXPECT_EQ(widths(3), "13 31 8 ") << "saving again replaces";
+    EXPECT_EQ(widths(3, "F_OTHER"), "10 10 10 ");
+    EXPECT_EQ(widths(2), "10 10 ") << "a layout of more columns is from another version";
+    EXPECT_EQ(widths(4), "10 10 10 10 ") << "as is one of fewer";
+    session.user = "d'Artagnan";
+    EXPECT_EQ(widths(3), "10 10 10 ") << "another user's own";
+    save({wide(5), wide(5), wide(5)});
+    EXPECT_EQ(widths(3), "5 5 5 ");
+}
+
+TEST_F(StoredValues, SettingsAndSingleValuesAreRead) {
+    EXPECT_EQ(host.settings.text(session, "PATHOFWVOWEBVERTRAEGE"), "vertragsdokumente");
+    EXPECT_EQ(host.settings.text(session, "d'oh"), "") << "a setting that does not exist";
+    EXPECT_EQ(host.columnWidth.of(session, "VERTRAEGE", "KOPF1"), 255);
+    EXPECT_EQ(host.columnWidth.of(session, "VERTRAEGE", "ZUSATZTEXT"), 0) << "no limit";
+    EXPECT_EQ(host.columnWidth.of(session, "VERTRAEGE", "NUMM1"), 0) << "no text";
+    EXPECT_FALSE(services.mainWindow()->IsArtikel());
+    session.connection->execute("UPDATE WORKBENCH_SETTING SET VALUE = '1' WHERE NAME = 'ARTIKEL'");
+    EXPECT_TRUE(services.mainWindow()->IsArtikel());
+
+    const auto name = [&](const char* column, const char* id) {
+        return host.dataAccess.readValue(session, column, "VERTRAEGE", std::string{" ID_VERTRAG = "} + id);
+    };
+    EXPECT_EQ(name("VERTRAG_NAME", "13"), "A6-2025-001 Stockkauf Gußwerk");
+    EXPECT_EQ(name("KOPF3", "7"), "") << "NULL";
+    EXPECT_EQ(name("VERTRAG_NAME", "999"), "") << "no row";
+    EXPECT_THROW(name("VERTRAG_NAME, KOPF1", "1"), base::StatementError);
+}
+
+TEST_F(StoredValues, AColumnIsSetForTheRowsOfACondition) {
+    const auto set = [&](const std::string& written) {
+        host.columnUpdate.set(session, "VERTRAEGE", "KOPF4", written, "ID_VERTRAG = 1");
+        return value("SELECT KOPF4 FROM VERTRAEGE WHERE ID_VERTRAG = 1");
+    };
+    EXPECT_EQ(set("nach O'Neill"), "nach O'Neill");
+    EXPECT_EQ(set(""), "NULL") << "an empty value";
+    set("nach O'Neill");
+    EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAEGE WHERE KOPF4 = 'nach O''Neill'"), "1")
+        << "in one row only";
+    EXPECT_THROW(host.columnUpdate.set(session, "VERTRAEGE", "KOPF4 = 'x', KOPF5", "y", "ID_VERTRAG = 1"),
+                 base::StatementError);
+}
+
+TEST_F(StoredValues, DatesBecomeTheLiteralThatEveryLoginReadsAlike) {
+    EXPECT_EQ(host.dateConverter.toSql("05.06.2025", session), "20250605");
+    EXPECT_EQ(host.dateConverter.toSql("5.6.25", session), "20250605");
+    EXPECT_THROW(host.dateConverter.toSql("31.02.2025", session), std::invalid_argument);
+    EXPECT_THROW(host.dateConverter.toSql("", session), std::invalid_argument);
+}
+
+TEST_F(StoredValues, NotificationsAreKeptWithTheirTime) {
+    std::string heard;
+    services.moduleService().onNotification = [&](const standin::Notification& n) { heard += n.code + " "; };
+    std::string out1 = "one";
+    std::string out2;
+    host.moduleService.request(session, "2PVK", "R", out1, out2);
+    host.moduleService.request(session, "2VABR3", "A3", out1, out2);
+    EXPECT_EQ(heard, "2PVK 2VABR3 ");
+    EXPECT_EQ(out1, "one");
+    const auto& last = services.moduleService().notifications().back();
+    EXPECT_EQ(last.type, "A3");
+    EXPECT_EQ(base::formatDate(last.time, "dd.mm.yyyy hh:mm", base::Locale::german()), "09.03.2026 08:00");
+    for (std::size_t i = 0; i < standin::ModuleService::kept; ++i)
+        host.moduleService.request(session, "1VVM", "R", out1, out2);
+    EXPECT_EQ(services.moduleService().notifications().size(), standin::ModuleService::kept);
+    EXPECT_EQ(services.moduleService().notifications().front().code, "1VVM") << "the oldest go";
+}
+
+} // namespace
+} // namespace tellurix::tests
