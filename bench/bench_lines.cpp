@@ -5,7 +5,7 @@
 
 #include "bench/support/ContractSession.h"
 #include "bench/support/GeneratedFile.h"
-#include "bench/support/PageClient.h"
+#include "bench/support/MeasuredPage.h"
 #include "bench/support/SampleFile.h"
 #include "bench/support/WorkbenchProcess.h"
 #include "bench/support/report.h"
@@ -212,7 +212,7 @@ void measureExplaining() {
 }
 
 /// Types a price into a cell far down and commits it: Enter stays on the row, Up goes on.
-net::awaitable<void> editPrices(bench::PageClient& client, const bench::WorkbenchProcess& workbench,
+net::awaitable<void> editPrices(bench::MeasuredPage& client, const bench::WorkbenchProcess& workbench,
                                 Durations& staying, Durations& goingOn) {
     constexpr int priceColumn = 2;
     constexpr int enterKey = 13;
@@ -248,7 +248,7 @@ void measureCommits() {
     {
         const bench::WorkbenchProcess workbench{file.path()};
         net::io_context context{1};
-        bench::PageClient client{context};
+        bench::MeasuredPage client{context};
         std::exception_ptr failure;
         // Through a function object: inlined here, the coroutine's memory confuses the compiler's check of
         // new against delete.

@@ -2,7 +2,7 @@
 // much memory a further session takes that waits for its user. The workbench runs as its own process;
 // the users are connections of this one, which type into the free numbers of a contract's header.
 
-#include "bench/support/PageClient.h"
+#include "bench/support/MeasuredPage.h"
 #include "bench/support/SampleFile.h"
 #include "bench/support/WorkbenchProcess.h"
 #include "bench/support/measure.h"
@@ -28,7 +28,7 @@ using namespace tellurix;
 namespace net = boost::asio;
 using bench::Clock;
 using bench::Durations;
-using bench::PageClient;
+using bench::MeasuredPage;
 
 constexpr int users = 50;
 constexpr int keysEach = 200;
@@ -40,8 +40,8 @@ constexpr const char* start = "F_Start";
 constexpr const char* editor = "F_Vertrag";
 constexpr const char* header = "F_HeaderVertrag";
 
-using Clients = std::vector<std::unique_ptr<PageClient>>;
-using Work = std::function<net::awaitable<void>(PageClient&, int)>;
+using Clients = std::vector<std::unique_ptr<MeasuredPage>>;
+using Work = std::function<net::awaitable<void>(MeasuredPage&, int)>;
 
 /// Has clients work at the same time and waits for all.
 /// @param from the first of them
@@ -58,7 +58,7 @@ void together(net::io_context& context, Clients& clients, std::size_t from, cons
     if (failure) std::rethrow_exception(failure);
 }
 
-net::awaitable<void> openContract(PageClient& client, int number) {
+net::awaitable<void> openContract(MeasuredPage& client, int number) {
     // The contracts in turn; there are a dozen open ones at least.
     co_await client.perform(start, "grdContracts", bench::rowChosen(number % 12));
     co_await client.perform(start, "btnOpen", bench::clicked());
@@ -81,7 +81,7 @@ struct Pace {
 };
 
 /// Types 12,5 and Tab into one number box after the other, round and round.
-net::awaitable<void> typeNumbers(net::io_context& context, PageClient& client, int number, const Pace& pace,
+net::awaitable<void> typeNumbers(net::io_context& context, MeasuredPage& client, int number, const Pace& pace,
                                  Durations& answers) {
     static constexpr std::string_view text = "12,5\t";
     constexpr int boxes = 10;
@@ -109,8 +109,8 @@ void connect(net::io_context& context, Clients& clients, const bench::WorkbenchP
              std::size_t count) {
     const std::size_t before = clients.size();
     while (clients.size() < count)
-        clients.push_back(std::make_unique<PageClient>(context));
-    together(context, clients, before, [&workbench](PageClient& client, int) {
+        clients.push_back(std::make_unique<MeasuredPage>(context));
+    together(context, clients, before, [&workbench](MeasuredPage& client, int) {
         return client.connect(workbench.port(), workbench.key());
     });
 }
@@ -126,7 +126,7 @@ void measureRoundTrips() {
     Clients clients;
     connect(context, clients, workbench, users);
     together(context, clients, 0, openContract);
-    together(context, clients, 0, [](PageClient& client, int) -> net::awaitable<void> {
+    together(context, clients, 0, [](MeasuredPage& client, int) -> net::awaitable<void> {
         co_await client.perform(editor, "btnHeader", bench::clicked());
         client.state().top(header);
     });
@@ -137,7 +137,7 @@ void measureRoundTrips() {
         Durations answers;
         const double usedBefore = workbench.processorSeconds();
         const Clock::duration time = bench::timeOf([&] {
-            together(context, clients, 0, [&](PageClient& client, int number) {
+            together(context, clients, 0, [&](MeasuredPage& client, int number) {
                 return typeNumbers(context, client, number, pace, answers);
             });
         });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/embedded/sqlite/Session.h"
+#include "database/embedded/sqlite/SqlSession.h"
 #include "database/embedded/sqlite/SqliteStatement.h"
 #include "database/embedded/sqlite/cell.h"
 #include "database/embedded/syntax/ast.h"

@@ -15,7 +15,7 @@ namespace {
 /// While a translated statement takes its first step SQLite must not compile it anew by itself.
 class CompilingRefused {
 public:
-    explicit CompilingRefused(Session& session) : session_(session) {
+    explicit CompilingRefused(SqlSession& session) : session_(session) {
         session_.refusesCompiling = true;
         session_.compilingRefused = false;
     }
@@ -27,7 +27,7 @@ public:
     CompilingRefused& operator=(const CompilingRefused&) = delete;
 
 private:
-    Session& session_;
+    SqlSession& session_;
 };
 
 } // namespace

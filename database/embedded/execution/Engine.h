@@ -44,7 +44,7 @@ public:
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
 
-    Session& session() { return connection_.session(); }
+    SqlSession& session() { return connection_.session(); }
     SqliteConnection& connection() { return connection_; }
     Catalogue& catalogue() { return catalogue_; }
 

@@ -178,7 +178,7 @@ void Interpreter::run(const WhileStatement& loop) {
 }
 
 void Interpreter::run(const SetOption& set) {
-    Session& session = engine_->session();
+    SqlSession& session = engine_->session();
     switch (set.option) {
     case Option::noCount:
         session.options.noCount = set.on;

@@ -72,7 +72,7 @@ void ConditionMemory::note(std::size_t number, std::int64_t result) {
     if (condition.results.size() < mostCombinations) condition.results.emplace(condition.asked, result);
 }
 
-void registerConditionMemory(sqlite3* connection, Session& session) {
+void registerConditionMemory(sqlite3* connection, SqlSession& session) {
     // Their results change from call to call, unlike those of all other functions.
     sqlite3_create_function_v2(connection, "ts_recalled", -1, SQLITE_UTF8, &session, runScalar<recalled, 0>,
                                nullptr, nullptr, nullptr);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/embedded/sqlite/Session.h"
+#include "database/embedded/sqlite/SqlSession.h"
 #include "database/embedded/sqlite/SqliteStatement.h"
 
 #include <sqlite3.h>
@@ -38,6 +38,6 @@ private:
     std::vector<Condition> conditions_;
 };
 
-void registerConditionMemory(sqlite3* connection, Session& session);
+void registerConditionMemory(sqlite3* connection, SqlSession& session);
 
 } // namespace tellurix::embedded

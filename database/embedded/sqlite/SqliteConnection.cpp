@@ -18,9 +18,9 @@ int compareTexts(void* collation, int leftSize, const void* left, int rightSize,
         {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
 }
 
-/// SQLite compiles a statement anew by itself when the schema has changed; see Session.
+/// SQLite compiles a statement anew by itself when the schema has changed; see SqlSession.
 int allowCompiling(void* session, int, const char*, const char*, const char*, const char*) noexcept {
-    auto& refusing = *static_cast<Session*>(session);
+    auto& refusing = *static_cast<SqlSession*>(session);
     if (!refusing.refusesCompiling) return SQLITE_OK;
     // The error that SQLite makes of this depends on what was refused, so it is noted here.
     refusing.compilingRefused = true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/embedded/sqlite/Session.h"
+#include "database/embedded/sqlite/SqlSession.h"
 #include "database/embedded/sqlite/SqliteStatement.h"
 #include "database/embedded/sqlite/file_origin.h"
 
@@ -29,7 +29,7 @@ public:
     SqliteConnection(const std::filesystem::path& file, bool create, std::chrono::milliseconds patience,
                      const base::Clock& clock);
 
-    Session& session() { return session_; }
+    SqlSession& session() { return session_; }
     sqlite3* handle() { return handle_.get(); }
 
     /// @param lasting it will be run many times
@@ -60,7 +60,7 @@ private:
     std::int64_t number(std::string_view query);
     void rebuildAfterNewCollation();
 
-    Session session_;
+    SqlSession session_;
     std::chrono::milliseconds patience_;
     std::string name_; ///< of the file
     std::unique_ptr<sqlite3, Close> handle_;

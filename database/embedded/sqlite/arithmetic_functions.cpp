@@ -133,7 +133,7 @@ void absolute(ScalarCall& call) {
 
 } // namespace
 
-void registerArithmetic(sqlite3* connection, Session& session) {
+void registerArithmetic(sqlite3* connection, SqlSession& session) {
     registerScalar<integerArithmetic<Operator::add>, 2>(connection, "ts_add", 4, session);
     registerScalar<integerArithmetic<Operator::subtract>, 2>(connection, "ts_sub", 4, session);
     registerScalar<integerArithmetic<Operator::multiply>, 2>(connection, "ts_mul", 4, session);

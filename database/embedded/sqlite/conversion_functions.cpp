@@ -277,7 +277,7 @@ std::string excerpt(std::string_view text) {
     return std::string(utf16Prefix(text, longest)) + "…";
 }
 
-void registerConversions(sqlite3* connection, Session& session) {
+void registerConversions(sqlite3* connection, SqlSession& session) {
     constexpr int withOrWithoutLabel = -1;
     registerScalar<textToInteger, 1>(connection, "ts_text_int", withOrWithoutLabel, session);
     registerScalar<textToBit, 1>(connection, "ts_text_bit", withOrWithoutLabel, session);

@@ -64,7 +64,7 @@ void day(ScalarCall& call) {
 
 } // namespace
 
-void registerDateFunctions(sqlite3* connection, Session& session) {
+void registerDateFunctions(sqlite3* connection, SqlSession& session) {
     registerScalar<datePart, 2>(connection, "ts_datepart", 2, session);
     registerScalar<dateName, 2>(connection, "ts_datename", 2, session);
     registerScalar<shiftDate, 2>(connection, "ts_shift", 4, session);

@@ -15,7 +15,7 @@ void takeRow(sqlite3_context* context, int, sqlite3_value** values) noexcept {
     if (row == nullptr) return sqlite3_result_error_nomem(context);
     if (row->seen) {
         constexpr const char* message = "The subquery gives more than one row where one value is needed";
-        auto& session = *static_cast<Session*>(sqlite3_user_data(context));
+        auto& session = *static_cast<SqlSession*>(sqlite3_user_data(context));
         session.failure = Fault(base::DatabaseErrorCategory::other, message,
                                 static_cast<std::size_t>(sqlite3_value_int64(values[1])));
         return sqlite3_result_error(context, message, -1);
@@ -33,7 +33,7 @@ void answerRow(sqlite3_context* context) noexcept {
 
 } // namespace
 
-void registerOnlyAggregate(sqlite3* connection, Session& session) {
+void registerOnlyAggregate(sqlite3* connection, SqlSession& session) {
     sqlite3_create_function_v2(connection, "ts_only", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, &session,
                                nullptr, takeRow, answerRow, nullptr);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/embedded/sqlite/Session.h"
+#include "database/embedded/sqlite/SqlSession.h"
 
 #include <sqlite3.h>
 
@@ -19,7 +19,7 @@ public:
     ScalarCall(sqlite3_context* context, int count, sqlite3_value** values)
         : context_(context), count_(count), values_(values) {}
 
-    Session& session() const { return *static_cast<Session*>(sqlite3_user_data(context_)); }
+    SqlSession& session() const { return *static_cast<SqlSession*>(sqlite3_user_data(context_)); }
     int count() const { return count_; }
     sqlite3_value** values() const { return values_; }
     bool isNull(int index) const { return sqlite3_value_type(values_[index]) == SQLITE_NULL; }
@@ -70,15 +70,15 @@ void runScalar(sqlite3_context* context, int count, sqlite3_value** values) noex
 /// Makes a function known to one connection. These give the same result for the same
 /// arguments within one statement, which lets SQLite compute constants once.
 template <ScalarBody body, int nullable>
-void registerScalar(sqlite3* connection, const char* name, int arguments, Session& session) {
+void registerScalar(sqlite3* connection, const char* name, int arguments, SqlSession& session) {
     sqlite3_create_function_v2(connection, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC, &session,
                                runScalar<body, nullable>, nullptr, nullptr, nullptr);
 }
 
-void registerArithmetic(sqlite3* connection, Session& session);
-void registerConversions(sqlite3* connection, Session& session);
-void registerTextFunctions(sqlite3* connection, Session& session);
-void registerDateFunctions(sqlite3* connection, Session& session);
+void registerArithmetic(sqlite3* connection, SqlSession& session);
+void registerConversions(sqlite3* connection, SqlSession& session);
+void registerTextFunctions(sqlite3* connection, SqlSession& session);
+void registerDateFunctions(sqlite3* connection, SqlSession& session);
 
 /// A text for an error message, cut when it is long.
 std::string excerpt(std::string_view text);

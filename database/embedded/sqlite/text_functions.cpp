@@ -125,7 +125,7 @@ void changeCase(ScalarCall& call) {
 
 } // namespace
 
-void registerTextFunctions(sqlite3* connection, Session& session) {
+void registerTextFunctions(sqlite3* connection, SqlSession& session) {
     registerScalar<like, 2>(connection, "ts_like", 2, session);
     registerScalar<like, 3>(connection, "ts_like", 4, session);
     registerScalar<right, 2>(connection, "ts_right", 3, session);

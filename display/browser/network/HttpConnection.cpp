@@ -35,7 +35,7 @@ SiteRequest neutral(const SocketConnection::Request& request) {
 
 } // namespace
 
-HttpConnection::HttpConnection(boost::asio::ip::tcp::socket socket, const Site& site, Sessions& sessions,
+HttpConnection::HttpConnection(boost::asio::ip::tcp::socket socket, const Site& site, PageSessions& sessions,
                                Places& places, Limits limits)
     : stream_(std::move(socket)), site_(site), sessions_(sessions), places_(places), limits_(limits) {}
 

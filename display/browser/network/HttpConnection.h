@@ -3,7 +3,7 @@
 #include "display/browser/network/Places.h"
 #include "display/browser/network/Site.h"
 #include "display/browser/network/SocketConnection.h"
-#include "display/browser/session/Sessions.h"
+#include "display/browser/session/PageSessions.h"
 
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
@@ -26,8 +26,8 @@ public:
         SocketConnection::Limits known;              ///< from then on
     };
 
-    HttpConnection(boost::asio::ip::tcp::socket socket, const Site& site, Sessions& sessions, Places& places,
-                   Limits limits);
+    HttpConnection(boost::asio::ip::tcp::socket socket, const Site& site, PageSessions& sessions,
+                   Places& places, Limits limits);
 
     /// Waits for the first request.
     void start();
@@ -48,7 +48,7 @@ private:
     boost::beast::flat_buffer buffer_;
     std::optional<boost::beast::http::request_parser<boost::beast::http::string_body>> parser_;
     const Site& site_;
-    Sessions& sessions_;
+    PageSessions& sessions_;
     Places& places_;
     const Limits limits_;
     Places::Place place_;

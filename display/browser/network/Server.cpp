@@ -5,7 +5,7 @@
 #include "display/browser/network/Site.h"
 #include "display/browser/network/guarded.h"
 #include "display/browser/network/secrets.h"
-#include "display/browser/session/Sessions.h"
+#include "display/browser/session/PageSessions.h"
 
 #include <boost/asio/executor_work_guard.hpp>
 #include <boost/asio/io_context.hpp>
@@ -128,7 +128,7 @@ struct Server::Network {
     net::steady_timer pause{context};
     net::steady_timer finishBy{context};
     Site site;
-    Sessions sessions;
+    PageSessions sessions;
     std::thread thread;
 };
 

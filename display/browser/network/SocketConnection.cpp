@@ -23,7 +23,7 @@ std::string ended(const char* reason) {
 
 } // namespace
 
-SocketConnection::SocketConnection(beast::tcp_stream stream, Sessions& sessions, Limits limits,
+SocketConnection::SocketConnection(beast::tcp_stream stream, PageSessions& sessions, Limits limits,
                                    Places::Place place)
     : stream_(std::move(stream)),
       greetingTimer_(stream_.get_executor()),

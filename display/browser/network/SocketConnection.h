@@ -1,8 +1,8 @@
 #pragma once
 
 #include "display/browser/network/Places.h"
-#include "display/browser/session/Session.h"
-#include "display/browser/session/Sessions.h"
+#include "display/browser/session/PageSession.h"
+#include "display/browser/session/PageSessions.h"
 
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/steady_timer.hpp>
@@ -33,7 +33,8 @@ public:
         std::chrono::milliseconds patience; ///< for the greeting
     };
 
-    SocketConnection(boost::beast::tcp_stream stream, Sessions& sessions, Limits limits, Places::Place place);
+    SocketConnection(boost::beast::tcp_stream stream, PageSessions& sessions, Limits limits,
+                     Places::Place place);
 
     /// Accepts the upgrade that has been asked for.
     void start(const Request& request);
@@ -64,10 +65,10 @@ private:
     boost::beast::websocket::stream<boost::beast::tcp_stream> stream_;
     boost::asio::steady_timer greetingTimer_;
     boost::beast::flat_buffer buffer_;
-    Sessions& sessions_;
+    PageSessions& sessions_;
     const Limits limits_;
     Places::Place place_;
-    std::shared_ptr<Session> session_;
+    std::shared_ptr<PageSession> session_;
     std::deque<std::string> outgoing_;
     std::size_t outgoingBytes_ = 0;
     bool writing_ = false;

@@ -1,5 +1,5 @@
 #include "display/browser/network/Server.h"
-#include "tests/display/browser/PageClient.h"
+#include "tests/display/browser/RawPage.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -23,7 +23,7 @@ TEST(Allocation, OneThatFailsEndsAConnectionAndNothingElse) {
     for (int succeed = 0; reached && succeed < 1000; ++succeed) {
         left = succeed;
         request(server.port(), asking);
-        PageClient{server.address()};
+        RawPage{server.address()};
         reached = left.exchange(-1) < 0;
         ASSERT_EQ(request(server.port(), asking).status, 200)
             << "after the failure of allocation " << succeed;

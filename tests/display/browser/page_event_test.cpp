@@ -1,7 +1,7 @@
 #include "display/browser/session/page_event.h"
 
-#include "tests/display/browser/DemoForm.h"
 #include "tests/display/browser/NoDisplay.h"
+#include "tests/support/DemoForm.h"
 
 #include <variant>
 
@@ -17,7 +17,7 @@ PageMessage messageFor(const ui::Form& form, const std::string& control, const s
 
 TEST(PageEvent, OnlyWhatAUserCouldDoReachesTheScreen) {
     NoDisplay display;
-    DemoForm form{display};
+    tests::DemoForm form{display};
     form.load();
     form.btnFail.setVisible(false);
     struct Row {

@@ -1,7 +1,7 @@
 #include "display/browser/network/Server.h"
 
-#include "tests/display/browser/DemoForm.h"
-#include "tests/display/browser/PageClient.h"
+#include "tests/display/browser/RawPage.h"
+#include "tests/support/DemoForm.h"
 
 #include <netinet/in.h>
 #include <sys/resource.h>
@@ -22,7 +22,7 @@ protected:
     Server& start(ServerOptions options = {.grace = 400ms}) {
         server_ = std::make_unique<Server>(
             [this](BrowserDisplay& display) {
-                DemoForm form{display};
+                tests::DemoForm form{display};
                 const Ended ended{*this};
                 display.showModal(form);
             },
@@ -40,20 +40,20 @@ protected:
         return false;
     }
 
-    static int idOf(const PageClient& page, const std::string& control) {
+    static int idOf(const RawPage& page, const std::string& control) {
         for (const json& window : page.drawing["opened"])
             for (const json& drawn : window["controls"])
                 if (drawn["name"] == control) return drawn["id"];
         return -1;
     }
-    static std::string textOf(const PageClient& page, const std::string& control) {
+    static std::string textOf(const RawPage& page, const std::string& control) {
         return page.drawing["opened"]
             .front()["controls"][static_cast<std::size_t>(idOf(page, control))]["text"];
     }
-    static json clicking(const PageClient& page, const std::string& control) {
+    static json clicking(const RawPage& page, const std::string& control) {
         return {{"type", "click"}, {"window", 1}, {"control", idOf(page, control)}};
     }
-    static json typing(PageClient& page, const std::string& control, const std::string& text) {
+    static json typing(RawPage& page, const std::string& control, const std::string& text) {
         return {{"type", "text"}, {"window", 1}, {"control", idOf(page, control)},
                 {"text", text},   {"start", 0},  {"length", 0}};
     }
@@ -126,9 +126,9 @@ TEST_F(ServerTest, SilentTowardsStrangersAndMalformedRequests) {
          }) {
         EXPECT_EQ(request(server.port(), row.bytes).status, row.status) << row.rule;
     }
-    EXPECT_FALSE(PageClient(server.address(), "http://evil.example").connected());
-    EXPECT_FALSE(PageClient(server.address() + "0").connected());
-    PageClient silent{server.address()};
+    EXPECT_FALSE(RawPage(server.address(), "http://evil.example").connected());
+    EXPECT_FALSE(RawPage(server.address() + "0").connected());
+    RawPage silent{server.address()};
     ASSERT_TRUE(silent.connected());
     EXPECT_TRUE(silent.receive().is_null()) << "a page that does not greet is not waited for";
     EXPECT_EQ(server.sessionCount(), 0U);
@@ -152,7 +152,7 @@ TEST_F(ServerTest, MalformedMessagesCloseTheConnectionAndSpareTheSession) {
              {"binary", "{}", true, 1003},
              {"too long", std::string(100'001, ' '), false, 1009},
          }) {
-        PageClient page{server.address()};
+        RawPage page{server.address()};
         EXPECT_EQ(page.greet(session, true)["messageBytes"], 100'000);
         if (session.empty()) page.say(typing(page, "txtName", "bleibt"));
         EXPECT_EQ(textOf(page, "txtName"), session.empty() ? "" : "bleibt") << row.rule;
@@ -169,7 +169,7 @@ TEST_F(ServerTest, MalformedMessagesCloseTheConnectionAndSpareTheSession) {
 
 TEST_F(ServerTest, AcknowledgesAnEventWhenItHasHadItsEffect) {
     Server& server = start();
-    PageClient page{server.address()};
+    RawPage page{server.address()};
     page.greet();
     EXPECT_EQ(page.drawing["focus"]["control"], idOf(page, "txtName"));
     const std::string changed = page.say(typing(page, "txtName", "Bär"))["changed"].dump();
@@ -192,7 +192,7 @@ TEST_F(ServerTest, AcknowledgesAnEventWhenItHasHadItsEffect) {
 
 TEST_F(ServerTest, EventsForWindowsThatAreNotOnTopAreDropped) {
     Server& server = start();
-    PageClient page{server.address()};
+    RawPage page{server.address()};
     page.greet();
     const json opened =
         page.say({{"type", "click"}, {"window", 1}, {"control", idOf(page, "btnOpen")}})["opened"].front();
@@ -207,15 +207,15 @@ TEST_F(ServerTest, APageThatComesBackFindsEverythingAndRepeatsWhatGotLost) {
     Server& server = start({.grace = 10s});
     std::string session;
     {
-        PageClient page{server.address()};
+        RawPage page{server.address()};
         page.greet();
         session = page.session;
         page.say(typing(page, "txtName", "offen"));
         page.say({{"type", "click"}, {"window", 1}, {"control", idOf(page, "btnQuestion")}});
     }
-    PageClient back{server.address()};
+    RawPage back{server.address()};
     ASSERT_TRUE(
-        soon([&] { return PageClient(server.address()).greet(session, false, false).contains("session"); }));
+        soon([&] { return RawPage(server.address()).greet(session, false, false).contains("session"); }));
     const json greeting = back.greet(session, true);
     EXPECT_EQ(greeting["session"], session);
     EXPECT_EQ(textOf(back, "txtName"), "offen");
@@ -231,12 +231,12 @@ TEST_F(ServerTest, APageThatComesBackFindsEverythingAndRepeatsWhatGotLost) {
 
 TEST_F(ServerTest, ALivePageKeepsItsSessionUnlessItIsKnownToBeGone) {
     Server& server = start();
-    PageClient first{server.address()};
+    RawPage first{server.address()};
     first.greet();
-    PageClient copy{server.address()};
+    RawPage copy{server.address()};
     copy.greet(first.session);
     EXPECT_NE(copy.session, first.session);
-    PageClient reloaded{server.address()};
+    RawPage reloaded{server.address()};
     reloaded.greet(first.session, true);
     EXPECT_EQ(reloaded.session, first.session);
     EXPECT_EQ(first.receive()["ended"], "takenOver");
@@ -245,9 +245,9 @@ TEST_F(ServerTest, ALivePageKeepsItsSessionUnlessItIsKnownToBeGone) {
 
 TEST_F(ServerTest, AnOldPagesEndLeavesTheNewOneConnected) {
     Server& server = start();
-    PageClient old{server.address()};
+    RawPage old{server.address()};
     old.greet();
-    PageClient fresh{server.address()};
+    RawPage fresh{server.address()};
     fresh.greet(old.session, true);
     old.vanish();
     // Longer than the session would wait for a page that is gone.
@@ -260,7 +260,7 @@ TEST_F(ServerTest, APageIsToldNothingBeforeItHasTheWholeDrawing) {
     Server& server = start({.grace = 10s});
     std::string session;
     {
-        PageClient page{server.address()};
+        RawPage page{server.address()};
         page.greet();
         session = page.session;
         page.sendText(
@@ -269,7 +269,7 @@ TEST_F(ServerTest, APageIsToldNothingBeforeItHasTheWholeDrawing) {
             clicking(page, "btnSlow").patch(R"([{"op":"add","path":"/n","value":51}])"_json).dump());
         EXPECT_TRUE(page.receive().is_object());
     }
-    PageClient back{server.address()};
+    RawPage back{server.address()};
     ASSERT_TRUE(back.sayHello(session, true).contains("session"));
     // Meanwhile the slow handler comes to its end, and what it changed is drawn.
     std::this_thread::sleep_for(600ms);
@@ -281,7 +281,7 @@ TEST_F(ServerTest, APageIsToldNothingBeforeItHasTheWholeDrawing) {
 TEST_F(ServerTest, DrawingsCountAsWaitingUntilThePageHasTakenThem) {
     // One whole drawing is half of that.
     Server& server = start({.grace = 10s, .messageBytes = 500'000, .waitingBytes = 100'000});
-    PageClient page{server.address()};
+    RawPage page{server.address()};
     page.greet();
     ASSERT_GT(page.drawing.dump().size(), 40'000U);
     for (int i = 0; i < 6; ++i)
@@ -297,19 +297,19 @@ TEST_F(ServerTest, DrawingsCountAsWaitingUntilThePageHasTakenThem) {
     for (int i = 0; i < 25; ++i)
         page.sendText(json{{"type", "redraw"}, {"n", ++page.number}}.dump());
     ASSERT_TRUE(soon([&] {
-        return PageClient(server.address()).sayHello(page.session, false, false).contains("session");
+        return RawPage(server.address()).sayHello(page.session, false, false).contains("session");
     })) << "it has been cut off";
-    PageClient back{server.address()};
+    RawPage back{server.address()};
     back.greet(page.session, true);
     EXPECT_EQ(textOf(back, "txtKunde"), longText);
 }
 
 TEST_F(ServerTest, AnAbandonedSessionEndsWithoutAskingItsScreens) {
     Server& server = start();
-    const int asked = DemoForm::queriedUnloads;
+    const int asked = tests::DemoForm::queriedUnloads;
     std::string session;
     {
-        PageClient page{server.address()};
+        RawPage page{server.address()};
         page.greet();
         session = page.session;
         page.say(typing(page, "txtName", "offen"));
@@ -317,44 +317,44 @@ TEST_F(ServerTest, AnAbandonedSessionEndsWithoutAskingItsScreens) {
     }
     EXPECT_TRUE(soon([&] { return server.sessionCount() == 0; }));
     EXPECT_EQ(ended_, 1);
-    EXPECT_EQ(DemoForm::queriedUnloads, asked);
-    PageClient late{server.address()};
+    EXPECT_EQ(tests::DemoForm::queriedUnloads, asked);
+    RawPage late{server.address()};
     EXPECT_EQ(late.greet(session, true, false)["ended"], "gone");
 }
 
 TEST_F(ServerTest, OneSessionTooManyIsToldSo) {
     Server& server = start({.sessions = 3});
-    std::vector<std::unique_ptr<PageClient>> pages;
+    std::vector<std::unique_ptr<RawPage>> pages;
     for (int i = 0; i < 3; ++i) {
-        pages.push_back(std::make_unique<PageClient>(server.address()));
+        pages.push_back(std::make_unique<RawPage>(server.address()));
         pages.back()->greet();
     }
-    PageClient tooMany{server.address()};
+    RawPage tooMany{server.address()};
     EXPECT_EQ(tooMany.greet()["ended"], "full");
     // Closing one makes room.
     EXPECT_EQ(pages.front()->say({{"type", "close"}, {"window", 1}})["ended"], "closed");
-    EXPECT_TRUE(soon([&] { return PageClient(server.address()).greet().contains("session"); }));
+    EXPECT_TRUE(soon([&] { return RawPage(server.address()).greet().contains("session"); }));
 }
 
 TEST_F(ServerTest, WhenAllAreTakenASessionInWhichNothingWasDoneGivesItsPlace) {
     Server& server = start({.sessions = 3, .grace = 10s});
-    PageClient watched{server.address()};
+    RawPage watched{server.address()};
     watched.greet();
     std::string untouched;
     std::string worked;
     {
-        PageClient onlyLooked{server.address()};
+        RawPage onlyLooked{server.address()};
         onlyLooked.greet();
         untouched = onlyLooked.session;
-        PageClient typed{server.address()};
+        RawPage typed{server.address()};
         typed.greet();
         typed.say(typing(typed, "txtName", "getippt"));
         worked = typed.session;
     }
-    PageClient next{server.address()};
-    ASSERT_TRUE(soon([&] { return PageClient(server.address()).greet().contains("session"); }));
-    EXPECT_EQ(PageClient(server.address()).greet(untouched, false, false)["ended"], "gone");
-    PageClient back{server.address()};
+    RawPage next{server.address()};
+    ASSERT_TRUE(soon([&] { return RawPage(server.address()).greet().contains("session"); }));
+    EXPECT_EQ(RawPage(server.address()).greet(untouched, false, false)["ended"], "gone");
+    RawPage back{server.address()};
     EXPECT_EQ(back.greet(worked)["session"], worked);
     EXPECT_EQ(textOf(back, "txtName"), "getippt");
     EXPECT_FALSE(watched.say(typing(watched, "txtName", "noch da"))["changed"].empty());
@@ -368,7 +368,7 @@ TEST_F(ServerTest, WhoHasNoKeyNeitherWaitsLongNorKeepsOthersOut) {
         ASSERT_TRUE(strangers.back()->connect(server));
         strangers.back()->send("GET / HTTP/1.1\r\nHost: ");
     }
-    PageClient page{server.address()};
+    RawPage page{server.address()};
     EXPECT_TRUE(page.greet().contains("session"));
     const auto before = std::chrono::steady_clock::now();
     for (const auto& stranger : strangers)
@@ -399,7 +399,7 @@ TEST_F(ServerTest, WithoutAFileLeftItPausesAndGoesOnWhenThereIsOneAgain) {
 
 TEST_F(ServerTest, AnErrorInAnEventIsShownAndTheSessionGoesOn) {
     Server& server = start();
-    PageClient page{server.address()};
+    RawPage page{server.address()};
     page.greet();
     const json failed = page.say({{"type", "click"}, {"window", 1}, {"control", idOf(page, "btnFail")}});
     EXPECT_EQ(failed["box"]["text"], "Die Anweisung ist fehlgeschlagen.");
@@ -410,16 +410,16 @@ TEST_F(ServerTest, AnErrorInAnEventIsShownAndTheSessionGoesOn) {
 
 TEST_F(ServerTest, StoppingEndsAllSessionsAndTellsTheirPages) {
     Server& server = start({.grace = 10s});
-    const int asked = DemoForm::queriedUnloads;
-    PageClient page{server.address()};
+    const int asked = tests::DemoForm::queriedUnloads;
+    RawPage page{server.address()};
     page.greet();
     page.say(typing(page, "txtName", "offen"));
-    PageClient asking{server.address()};
+    RawPage asking{server.address()};
     asking.greet();
     asking.say({{"type", "click"}, {"window", 1}, {"control", idOf(asking, "btnQuestion")}});
     server.stop();
     EXPECT_EQ(ended_, 2);
-    EXPECT_EQ(DemoForm::queriedUnloads, asked);
+    EXPECT_EQ(tests::DemoForm::queriedUnloads, asked);
     EXPECT_EQ(page.receive()["ended"], "stopped");
     EXPECT_EQ(asking.receive()["ended"], "stopped");
 }

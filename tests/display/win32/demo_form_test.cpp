@@ -1,8 +1,8 @@
 // The rules of input that depend on the platform: what Windows and its native controls do by
 // themselves, on a screen with every kind of control.
 
-#include "tests/display/browser/DemoForm.h"
 #include "tests/display/win32/ScreenTest.h"
+#include "tests/support/DemoForm.h"
 
 #include "com/automation/wide.h"
 #include "module/ui/caption.h"
@@ -15,7 +15,6 @@ namespace tellurix::tests {
 
 namespace {
 
-using standin::DemoForm;
 using ui::Key;
 
 class DemoFormOnWindows : public ::testing::Test {

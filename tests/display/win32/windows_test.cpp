@@ -1,8 +1,8 @@
 // Windows as the host sees them: they go as they came, whatever ends them.
 
 #include "module/ui/GridEditor.h"
-#include "tests/display/browser/DemoForm.h"
 #include "tests/display/win32/ScreenTest.h"
+#include "tests/support/DemoForm.h"
 
 #include <gtest/gtest.h>
 
@@ -92,7 +92,7 @@ TEST(WindowsOfScreens, LeaveNothingBehind) {
     Held after;
     HostThread host{[&](windows::Win32Display& display) {
         const auto openAndClose = [&display] {
-            standin::DemoForm form{display};
+            DemoForm form{display};
             form.txtName.onFocus = [&] {
                 display.refresh();
                 PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
@@ -158,7 +158,7 @@ TEST(WindowsOfScreens, EndWithTheirOwnerOrTheThreadWhateverIsOpen) {
             SCOPED_TRACE(std::string{row.open} + (byOwner ? ", owner" : ", thread"));
             std::string state;
             HostThread host{[&](windows::Win32Display& display) {
-                standin::DemoForm form{display};
+                DemoForm form{display};
                 try {
                     display.showModal(form);
                 } catch (...) {
@@ -198,7 +198,7 @@ TEST(WindowsOfScreens, HaveTheResolutionOfTheMainScreenWhateverTheHostsThreadHas
     HANDLE after = nullptr;
     HostThread host{[&](windows::Win32Display& display) {
         setOfThread(ofEachScreen);
-        standin::DemoForm form{display};
+        DemoForm form{display};
         display.showModal(form);
         after = setOfThread(ofEachScreen);
     }};

@@ -2,7 +2,7 @@
 //   web_demo [milliseconds that a session waits for a browser that went away]
 
 #include "display/browser/network/Server.h"
-#include "tests/display/browser/DemoForm.h"
+#include "tests/support/DemoForm.h"
 
 #include <signal.h>
 
@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     ServerOptions options;
     if (argc > 1) options.grace = std::chrono::milliseconds{std::stoi(argv[1])};
     Server server{[](BrowserDisplay& display) {
-                      DemoForm form{display};
+                      tellurix::tests::DemoForm form{display};
                       display.showModal(form);
                   },
                   options};

@@ -32,7 +32,7 @@ public:
 /// blocks the thread throws SessionEnded.
 ///
 /// `next` and `send…` belong to the session's own thread, everything else to any.
-class Session final : public PageChannel {
+class PageSession final : public PageChannel {
 public:
     using Program = std::function<void(BrowserDisplay&)>;
     struct Limits {
@@ -42,7 +42,7 @@ public:
         std::size_t messageBytes; ///< of one message; told to the page
     };
 
-    Session(std::string id, Limits limits);
+    PageSession(std::string id, Limits limits);
 
     const std::string& id() const { return id_; }
     /// Starts the thread.

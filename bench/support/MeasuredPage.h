@@ -29,9 +29,9 @@ nlohmann::json caretMoved(int to);
 
 /// What a browser does for one user, without the drawing: speaks with the workbench through a socket
 /// as the page does, one thing at a time.
-class PageClient {
+class MeasuredPage {
 public:
-    explicit PageClient(boost::asio::io_context& context) : stream_(context) {}
+    explicit MeasuredPage(boost::asio::io_context& context) : stream_(context) {}
 
     /// Connects to a workbench on this machine and begins a session.
     boost::asio::awaitable<void> connect(std::uint16_t port, std::string key);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "display/browser/session/Session.h"
+#include "display/browser/session/PageSession.h"
 
 #include <functional>
 #include <map>
@@ -12,20 +12,20 @@
 namespace tellurix::browser {
 
 /// All sessions of the workbench, by their ids. To be called from any thread.
-class Sessions {
+class PageSessions {
 public:
-    Sessions(Session::Program program, Session::Limits limits, std::size_t atMost);
+    PageSessions(PageSession::Program program, PageSession::Limits limits, std::size_t atMost);
     /// Ends and joins all.
-    ~Sessions();
-    Sessions(const Sessions&) = delete;
-    Sessions& operator=(const Sessions&) = delete;
+    ~PageSessions();
+    PageSessions(const PageSessions&) = delete;
+    PageSessions& operator=(const PageSessions&) = delete;
 
     /// The session of that id, or null.
-    std::shared_ptr<Session> find(const std::string& id);
+    std::shared_ptr<PageSession> find(const std::string& id);
     /// Starts a new one, or returns null when there are as many as allowed. Before that, a session
     /// whose page went away without having done anything gives its place.
     /// @throws std::exception when the system has no means for another one
-    std::shared_ptr<Session> create();
+    std::shared_ptr<PageSession> create();
     /// How many are at work.
     std::size_t count();
     std::size_t atMost() const { return atMost_; }
@@ -40,12 +40,12 @@ private:
     /// Sends away the session that has been left longest of those in which nothing was done.
     void makeRoom();
 
-    const Session::Program program_;
-    const Session::Limits limits_;
+    const PageSession::Program program_;
+    const PageSession::Limits limits_;
     const std::size_t atMost_;
     std::mutex mutex_;
-    std::map<std::string, std::shared_ptr<Session>> sessions_;
-    std::vector<std::shared_ptr<Session>> sentAway_; ///< on their way to their end
+    std::map<std::string, std::shared_ptr<PageSession>> sessions_;
+    std::vector<std::shared_ptr<PageSession>> sentAway_; ///< on their way to their end
     bool stopped_ = false;
 };
 

@@ -1,4 +1,4 @@
-#include "display/browser/session/Session.h"
+#include "display/browser/session/PageSession.h"
 
 #include "display/browser/network/guarded.h"
 
@@ -9,9 +9,9 @@
 
 namespace tellurix::browser {
 
-Session::Session(std::string id, Limits limits) : id_(std::move(id)), limits_(limits) {}
+PageSession::PageSession(std::string id, Limits limits) : id_(std::move(id)), limits_(limits) {}
 
-void Session::start(const Program& program, std::function<void()> onFinished) {
+void PageSession::start(const Program& program, std::function<void()> onFinished) {
     thread_.start(limits_.stackBytes, [this, program, onFinished = std::move(onFinished)] {
         run(program);
         guarded([this] { sayGoodbye(); })();
@@ -19,7 +19,7 @@ void Session::start(const Program& program, std::function<void()> onFinished) {
     });
 }
 
-void Session::run(const Program& program) {
+void PageSession::run(const Program& program) {
     std::string reason = "closed";
     try {
         BrowserDisplay display{*this};
@@ -33,7 +33,7 @@ void Session::run(const Program& program) {
     if (!reason.empty()) end(reason);
 }
 
-void Session::sayGoodbye() {
+void PageSession::sayGoodbye() {
     const std::lock_guard lock{mutex_};
     finished_ = true;
     if (!link_) return;
@@ -42,18 +42,18 @@ void Session::sayGoodbye() {
     link_.reset();
 }
 
-bool Session::finished() const {
+bool PageSession::finished() const {
     const std::lock_guard lock{mutex_};
     return finished_;
 }
 
-std::optional<Session::Clock::time_point> Session::leftUntouchedAt() const {
+std::optional<PageSession::Clock::time_point> PageSession::leftUntouchedAt() const {
     const std::lock_guard lock{mutex_};
     if (link_ || connection_ == 0 || touched_) return std::nullopt;
     return detachedAt_;
 }
 
-bool Session::attach(std::shared_ptr<PageLink> link, bool takeOver) {
+bool PageSession::attach(std::shared_ptr<PageLink> link, bool takeOver) {
     const std::lock_guard lock{mutex_};
     if (finished_ || ending_ || (link_ && !takeOver)) return false;
     if (!link_ && connection_ > 0 && Clock::now() >= detachedAt_ + limits_.grace) return false;
@@ -73,7 +73,7 @@ bool Session::attach(std::shared_ptr<PageLink> link, bool takeOver) {
     return true;
 }
 
-void Session::detach(const PageLink& link) {
+void PageSession::detach(const PageLink& link) {
     const std::lock_guard lock{mutex_};
     if (link_.get() != &link) return;
     link_.reset();
@@ -81,7 +81,7 @@ void Session::detach(const PageLink& link) {
     changed_.notify_all();
 }
 
-bool Session::post(const PageLink& link, PageMessage message) {
+bool PageSession::post(const PageLink& link, PageMessage message) {
     const std::lock_guard lock{mutex_};
     if (link_.get() != &link || message.number <= received_) return true;
     if (queue_.size() >= limits_.queuedMessages) return false;
@@ -93,13 +93,13 @@ bool Session::post(const PageLink& link, PageMessage message) {
     return true;
 }
 
-void Session::end(std::string reason) {
+void PageSession::end(std::string reason) {
     const std::lock_guard lock{mutex_};
     if (!ending_) ending_ = std::move(reason);
     changed_.notify_all();
 }
 
-PageMessage Session::next() {
+PageMessage PageSession::next() {
     std::unique_lock lock{mutex_};
     for (;;) {
         if (ending_) throw SessionEnded{};
@@ -121,12 +121,12 @@ PageMessage Session::next() {
     }
 }
 
-void Session::send(std::string drawing) {
+void PageSession::send(std::string drawing) {
     const std::lock_guard lock{mutex_};
     if (link_ && drawnConnection_ == connection_) link_->send(std::move(drawing));
 }
 
-void Session::sendComplete(std::string drawing, const PageMessage& redraw) {
+void PageSession::sendComplete(std::string drawing, const PageMessage& redraw) {
     const std::lock_guard lock{mutex_};
     // A page that has come since then will ask for itself.
     if (redraw.connection != connection_) return;

@@ -8,14 +8,14 @@
 namespace tellurix::browser {
 
 /// Plays the page's part over a real connection.
-class PageClient {
+class RawPage {
 public:
     /// Connects to "http://HOST/?key=KEY".
     /// @param origin the page's own when empty
-    explicit PageClient(const std::string& address, const std::string& origin = {});
-    ~PageClient();
-    PageClient(const PageClient&) = delete;
-    PageClient& operator=(const PageClient&) = delete;
+    explicit RawPage(const std::string& address, const std::string& origin = {});
+    ~RawPage();
+    RawPage(const RawPage&) = delete;
+    RawPage& operator=(const RawPage&) = delete;
 
     /// The upgrade was accepted.
     bool connected() const { return connected_; }

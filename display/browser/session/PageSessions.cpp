@@ -1,4 +1,4 @@
-#include "display/browser/session/Sessions.h"
+#include "display/browser/session/PageSessions.h"
 
 #include "display/browser/network/secrets.h"
 
@@ -7,25 +7,25 @@
 
 namespace tellurix::browser {
 
-Sessions::Sessions(Session::Program program, Session::Limits limits, std::size_t atMost)
+PageSessions::PageSessions(PageSession::Program program, PageSession::Limits limits, std::size_t atMost)
     : program_(std::move(program)), limits_(limits), atMost_(atMost) {}
 
-Sessions::~Sessions() {
+PageSessions::~PageSessions() {
     stop();
 }
 
-std::shared_ptr<Session> Sessions::find(const std::string& id) {
+std::shared_ptr<PageSession> PageSessions::find(const std::string& id) {
     const std::lock_guard lock{mutex_};
     const auto found = sessions_.find(id);
     return found == sessions_.end() ? nullptr : found->second;
 }
 
-std::shared_ptr<Session> Sessions::create() {
+std::shared_ptr<PageSession> PageSessions::create() {
     sweep();
     const std::lock_guard lock{mutex_};
     if (sessions_.size() >= atMost_) makeRoom();
     if (stopped_ || sessions_.size() >= atMost_) return nullptr;
-    auto session = std::make_shared<Session>(randomKey(), limits_);
+    auto session = std::make_shared<PageSession>(randomKey(), limits_);
     session->start(program_, [this] {
         if (onFinished) onFinished();
     });
@@ -33,7 +33,7 @@ std::shared_ptr<Session> Sessions::create() {
     return session;
 }
 
-void Sessions::makeRoom() {
+void PageSessions::makeRoom() {
     auto longest = sessions_.end();
     std::optional<std::chrono::steady_clock::time_point> since;
     for (auto at = sessions_.begin(); at != sessions_.end(); ++at) {
@@ -48,14 +48,14 @@ void Sessions::makeRoom() {
     sessions_.erase(longest);
 }
 
-std::size_t Sessions::count() {
+std::size_t PageSessions::count() {
     sweep();
     const std::lock_guard lock{mutex_};
     return sessions_.size();
 }
 
-void Sessions::sweep() {
-    std::vector<std::shared_ptr<Session>> gone;
+void PageSessions::sweep() {
+    std::vector<std::shared_ptr<PageSession>> gone;
     {
         const std::lock_guard lock{mutex_};
         for (auto at = sessions_.begin(); at != sessions_.end();) {
@@ -74,8 +74,8 @@ void Sessions::sweep() {
         session->join();
 }
 
-void Sessions::stop() {
-    std::vector<std::shared_ptr<Session>> all;
+void PageSessions::stop() {
+    std::vector<std::shared_ptr<PageSession>> all;
     {
         const std::lock_guard lock{mutex_};
         stopped_ = true;

@@ -16,7 +16,7 @@
 #include <chrono>
 #include <thread>
 
-namespace tellurix::browser {
+namespace tellurix::tests {
 
 /// A small window above the demo form: chooses one of a few names.
 class DemoPicker final : public ui::Form {
@@ -217,4 +217,4 @@ private:
     ui::Display& display_;
 };
 
-} // namespace tellurix::browser
+} // namespace tellurix::tests

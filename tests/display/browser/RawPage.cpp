@@ -1,4 +1,4 @@
-#include "tests/display/browser/PageClient.h"
+#include "tests/display/browser/RawPage.h"
 
 #include <boost/asio/connect.hpp>
 #include <boost/asio/io_context.hpp>
@@ -29,7 +29,7 @@ tcp::endpoint endpointOf(std::uint16_t port) {
 
 } // namespace
 
-struct PageClient::Connection {
+struct RawPage::Connection {
     net::io_context context;
     websocket::stream<tcp::socket> stream{context};
 
@@ -44,7 +44,7 @@ struct PageClient::Connection {
     }
 };
 
-PageClient::PageClient(const std::string& address, const std::string& origin)
+RawPage::RawPage(const std::string& address, const std::string& origin)
     : connection_(std::make_unique<Connection>()) {
     const std::string host = address.substr(7, address.find('/', 7) - 7);
     const std::string key = address.substr(address.find('=') + 1);
@@ -59,17 +59,17 @@ PageClient::PageClient(const std::string& address, const std::string& origin)
     connection_->finish();
 }
 
-PageClient::~PageClient() {
+RawPage::~RawPage() {
     vanish();
 }
 
-void PageClient::sendText(const std::string& text, bool binary) {
+void RawPage::sendText(const std::string& text, bool binary) {
     connection_->stream.binary(binary);
     beast::error_code error;
     connection_->stream.write(net::buffer(text), error);
 }
 
-json PageClient::receive() {
+json RawPage::receive() {
     beast::flat_buffer buffer;
     beast::error_code failure;
     connection_->stream.async_read(buffer,
@@ -79,7 +79,7 @@ json PageClient::receive() {
     return json::parse(beast::buffers_to_string(buffer.data()));
 }
 
-json PageClient::sayHello(const std::string& known, bool takeOver, bool orNew) {
+json RawPage::sayHello(const std::string& known, bool takeOver, bool orNew) {
     sendText(json{{"type", "hello"}, {"session", known}, {"takeOver", takeOver}, {"orNew", orNew}}.dump());
     json greeting = receive();
     if (!greeting.is_object() || !greeting.contains("session")) return greeting;
@@ -88,20 +88,20 @@ json PageClient::sayHello(const std::string& known, bool takeOver, bool orNew) {
     return greeting;
 }
 
-void PageClient::redraw() {
+void RawPage::redraw() {
     sendText(json{{"type", "redraw"}, {"n", ++number}}.dump());
     do {
         drawing = receive();
     } while (drawing.is_object() && !drawing.contains("complete"));
 }
 
-json PageClient::greet(const std::string& known, bool takeOver, bool orNew) {
+json RawPage::greet(const std::string& known, bool takeOver, bool orNew) {
     json greeting = sayHello(known, takeOver, orNew);
     if (greeting.is_object() && greeting.contains("session")) redraw();
     return greeting;
 }
 
-json PageClient::say(json event) {
+json RawPage::say(json event) {
     event["n"] = ++number;
     sendText(event.dump());
     json all = {{"changed", json::array()}, {"opened", json::array()}, {"closed", json::array()}};
@@ -119,11 +119,11 @@ json PageClient::say(json event) {
     }
 }
 
-int PageClient::closeCode() const {
+int RawPage::closeCode() const {
     return connection_->stream.reason().code;
 }
 
-void PageClient::vanish() {
+void RawPage::vanish() {
     beast::error_code ignored;
     connection_->stream.next_layer().close(ignored);
 }

@@ -23,8 +23,8 @@ struct SessionOptions {
 
 /// What a connection remembers between statements: the options set by SET, and the place where a
 /// function that runs inside SQLite leaves its error, because only a bare text passes through.
-struct Session {
-    explicit Session(const base::Clock& sessionClock) : clock(sessionClock) {}
+struct SqlSession {
+    explicit SqlSession(const base::Clock& sessionClock) : clock(sessionClock) {}
 
     const base::Clock& clock;
     const Collation collation;

@@ -1,4 +1,4 @@
-#include "bench/support/PageClient.h"
+#include "bench/support/MeasuredPage.h"
 
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/use_awaitable.hpp>
@@ -56,7 +56,7 @@ json caretMoved(int to) {
     return {{"type", "selection"}, {"start", to}, {"length", 0}};
 }
 
-net::awaitable<void> PageClient::connect(std::uint16_t port, std::string key) {
+net::awaitable<void> MeasuredPage::connect(std::uint16_t port, std::string key) {
     const net::ip::tcp::endpoint server{net::ip::address_v4::loopback(), port};
     co_await beast::get_lowest_layer(stream_).async_connect(server, net::use_awaitable);
     // As browsers do: what is typed goes out at once.
@@ -74,7 +74,7 @@ net::awaitable<void> PageClient::connect(std::uint16_t port, std::string key) {
     co_await perform(redraw());
 }
 
-net::awaitable<Clock::duration> PageClient::perform(json event) {
+net::awaitable<Clock::duration> MeasuredPage::perform(json event) {
     event["n"] = ++number_;
     const Clock::time_point start = Clock::now();
     co_await write(event);
@@ -87,29 +87,29 @@ net::awaitable<Clock::duration> PageClient::perform(json event) {
     }
 }
 
-net::awaitable<Clock::duration> PageClient::perform(std::string form, std::string control, json event) {
+net::awaitable<Clock::duration> MeasuredPage::perform(std::string form, std::string control, json event) {
     co_return co_await perform(addressed(form, control, std::move(event)));
 }
 
-net::awaitable<void> PageClient::tell(std::string form, std::string control, json event) {
+net::awaitable<void> MeasuredPage::tell(std::string form, std::string control, json event) {
     json message = addressed(form, control, std::move(event));
     message["n"] = ++number_;
     co_await write(message);
 }
 
-json PageClient::addressed(const std::string& form, const std::string& control, json event) const {
+json MeasuredPage::addressed(const std::string& form, const std::string& control, json event) const {
     const PageState::Window& window = state_.top(form);
     event["window"] = window.id;
     if (!control.empty()) event["control"] = window.controls.at(control);
     return event;
 }
 
-net::awaitable<void> PageClient::write(const json& message) {
+net::awaitable<void> MeasuredPage::write(const json& message) {
     const std::string text = message.dump();
     co_await stream_.async_write(net::buffer(text), net::use_awaitable);
 }
 
-net::awaitable<json> PageClient::read() {
+net::awaitable<json> MeasuredPage::read() {
     buffer_.clear();
     co_await stream_.async_read(buffer_, net::use_awaitable);
     co_return json::parse(textOf(buffer_));
