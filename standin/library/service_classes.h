@@ -11,7 +11,7 @@ struct ServiceClass {
     DispatchTable members;
 };
 
-// Values: data_services.cpp
+// Values: value_services.cpp
 const ServiceClass& hostDataAccess();
 const ServiceClass& hostModuleService();
 const ServiceClass& personQueryBuilder();

@@ -3,7 +3,7 @@
 #include "com/component/WindowsClock.h"
 #include "com/component/services/ErrorReport.h"
 #include "com/component/services/control_services.h"
-#include "com/component/services/data_services.h"
+#include "com/component/services/value_services.h"
 #include "com/component/services/dialog_services.h"
 
 namespace tellurix::windows {

@@ -1,4 +1,4 @@
-#include "com/component/services/data_services.h"
+#include "com/component/services/value_services.h"
 
 namespace tellurix::windows {
 
