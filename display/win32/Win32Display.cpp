@@ -6,6 +6,7 @@
 #include "display/win32/native/file_dialog.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace tellurix::windows {
 
@@ -27,15 +28,21 @@ HWND Win32Display::topWindow() const {
 
 void Win32Display::showModal(ui::Form& form) {
     struct Shown {
-        explicit Shown(Win32Display& on, ui::Form& form) : display(on) {
+        // A window that opens in the middle of a long operation is not busy itself.
+        explicit Shown(Win32Display& on, ui::Form& form)
+            : display(on), busyBelow(std::exchange(on.state_.busy, 0)) {
             const SystemLook look;
             display.windows_.push_back(
                 std::make_unique<WindowFrame>(form, display.topWindow(), display.state_));
         }
-        ~Shown() { display.windows_.pop_back(); }
+        ~Shown() {
+            display.windows_.pop_back();
+            display.state_.busy = busyBelow;
+        }
         Shown(const Shown&) = delete;
         Shown& operator=(const Shown&) = delete;
         Win32Display& display;
+        int busyBelow;
     };
     const Shown shown{*this, form};
     desktop_.runModal(form, [this] { return nextEvent(); });

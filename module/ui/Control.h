@@ -54,6 +54,12 @@ public:
     void setVisible(bool visible) { change(visible_, visible); }
     const std::string& toolTip() const { return toolTip_; }
     void setToolTip(std::string text) { change(toolTip_, std::move(text)); }
+    /// Not empty: it is shown in a warning colour, and this is what screen readers say about it.
+    const std::string& warning() const { return warning_; }
+    void setWarning(std::string text) { change(warning_, std::move(text)); }
+    /// Drawn faintly, as something that is not in use yet; it can be used all the same.
+    bool quiet() const { return quiet_; }
+    void setQuiet(bool quiet) { change(quiet_, quiet); }
 
     /// Enabled and visible together with every frame and tab page around it: usable by the user.
     bool usable() const;
@@ -90,11 +96,13 @@ private:
     std::string name_;
     std::size_t id_;
     std::string toolTip_;
+    std::string warning_;
     /// The frame or tab page around this control, as the layout says it; null at the top.
     Control* container_ = nullptr;
     int page_ = -1; ///< within tabs: the page it stands on
     bool enabled_ = true;
     bool visible_ = true;
+    bool quiet_ = false;
     bool dirty_ = true;
 };
 

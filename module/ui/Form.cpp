@@ -27,6 +27,21 @@ const Layout* findField(const Layout& layout, const Predicate& matches) {
     return nullptr;
 }
 
+/// The label over the column of a table that a control stands in, or null.
+Label* columnLabel(const Layout& layout, const Control& control) {
+    if (layout.kind == Layout::Kind::table) {
+        const auto cell = std::ranges::find_if(
+            layout.children, [&control](const Layout& child) { return child.control == &control; });
+        const auto columns = static_cast<std::ptrdiff_t>(layout.columns);
+        if (cell != layout.children.end() && cell - layout.children.begin() >= columns)
+            return as<Label>((layout.children.begin() + (cell - layout.children.begin()) % columns)->control);
+    }
+    for (const Layout& child : layout.children) {
+        if (Label* found = columnLabel(child, control)) return found;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 Form::Form(std::string name, std::string title) : name_(std::move(name)), title_(std::move(title)) {}
@@ -84,7 +99,7 @@ Label* Form::labelOf(const Control& control) const {
         return std::ranges::any_of(node.children,
                                    [&control](const Layout& c) { return c.control == &control; });
     });
-    return field == nullptr ? nullptr : as<Label>(field->control);
+    return field == nullptr ? columnLabel(layout_, control) : as<Label>(field->control);
 }
 
 bool Form::setFocus(Control& control) {

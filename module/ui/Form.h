@@ -37,7 +37,7 @@ public:
     std::vector<Control*> tabOrder() const;
     /// The control that the layout puts with a label, or null.
     Control* labelled(const Label& label) const;
-    /// The label that the layout puts with a control, or null.
+    /// The label that the layout puts with a control, in a table that of its column; or null.
     Label* labelOf(const Control& control) const;
 
     /// The control that gets what the user types, or null.

@@ -18,9 +18,13 @@ public:
 
     const std::string& caption() const { return caption_; }
     void setCaption(std::string caption) { change(caption_, std::move(caption)); }
+    /// Stands out among labels of its kind.
+    bool highlighted() const { return highlighted_; }
+    void setHighlighted(bool highlighted) { change(highlighted_, highlighted); }
 
 private:
     std::string caption_;
+    bool highlighted_ = false;
 };
 
 } // namespace tellurix::ui

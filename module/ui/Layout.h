@@ -24,6 +24,8 @@ public:
         column,  ///< one below the other
         fields,  ///< fields in a table of `columns` columns, labels and boxes aligned, filled by rows;
                  ///< a growing one has a row of its own
+        table,   ///< cells in `columns` columns, filled by rows; the first row are the columns' labels, and
+                 ///< the label that a row begins with names its other cells, too
         frame,   ///< a column inside the border of `control`, a Frame
         tabs     ///< one child a page of `control`, a Tabs
     };
@@ -62,6 +64,13 @@ Layout field(Label& label, Controls&... controls) {
 
 inline Layout fields(int columns, std::vector<Layout> children) {
     Layout layout{Layout::Kind::fields, nullptr, std::move(children)};
+    layout.columns = columns;
+    return layout;
+}
+
+/// @param cells row by row; an empty `row({})` is an empty cell
+inline Layout table(int columns, std::vector<Layout> cells) {
+    Layout layout{Layout::Kind::table, nullptr, std::move(cells)};
     layout.columns = columns;
     return layout;
 }

@@ -45,10 +45,6 @@ public:
     bool rightAligned() const { return rightAligned_; }
     void setRightAligned(bool right) { change(rightAligned_, right); }
 
-    /// Not empty: the text is shown in a warning colour, and this is what screen readers say about it.
-    const std::string& warning() const { return warning_; }
-    void setWarning(std::string text) { change(warning_, std::move(text)); }
-
     int selectionStart() const { return selectionStart_; }
     int selectionLength() const { return selectionLength_; }
     void select(int start, int length);
@@ -94,7 +90,6 @@ private:
     mutable std::string text_;
     mutable bool textIsOld_ = false;
     std::string tag_;
-    std::string warning_;
     int width_;
     int lines_ = 1;
     int maxLength_ = 0;

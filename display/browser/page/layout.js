@@ -10,6 +10,12 @@ const builders = {
     table.style.setProperty('--columns', node.columns);
     return table;
   },
+  table(node, views) {
+    const table = box('table', node.children.map((child) => box('cell', [build(child, views)])));
+    table.style.setProperty('--columns', node.columns);
+    nameCells(node, views);
+    return table;
+  },
   frame(node, views) {
     const frame = viewOf(node, views);
     frame.content.append(...node.children.map((child) => build(child, views)));
@@ -53,6 +59,15 @@ function labelOf(node, views) {
 
 function fieldContent(node, views) {
   return box('field-content', node.children.map((child) => build(child, views)));
+}
+
+/** The cells of a table are named by the label over their column and the one that their row begins with. */
+function nameCells({ children, columns }, views) {
+  children.slice(columns).forEach((child, i) => {
+    const labels = [children[i % columns], children[columns + i - (i % columns)]];
+    const names = labels.filter((label) => label !== child).map((label) => views.get(label.control));
+    views.get(child.control)?.labelledByAll(names.filter((label) => label?.state.kind === 'label'));
+  });
 }
 
 /**

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <utility>
 
 namespace tellurix::browser {
 
@@ -21,16 +22,20 @@ void BrowserDisplay::setLanguage(std::string language) {
 
 void BrowserDisplay::showModal(ui::Form& form) {
     struct Shown {
-        Shown(BrowserDisplay& display, ui::Form& form) : display_(display) {
+        // A window that opens in the middle of a long operation is not busy itself.
+        Shown(BrowserDisplay& display, ui::Form& form)
+            : display_(display), busyBelow_(std::exchange(display.busy_, false)) {
             display_.windows_.push_back({++display_.lastId_, &form});
         }
         ~Shown() {
             if (display_.windows_.back().drawn) display_.closed_.push_back(display_.windows_.back().id);
             display_.windows_.pop_back();
+            display_.busy_ = busyBelow_;
         }
         Shown(const Shown&) = delete;
         Shown& operator=(const Shown&) = delete;
         BrowserDisplay& display_;
+        bool busyBelow_;
     } shown{*this, form};
     desktop_.runModal(form, [this] { return nextEvent(); });
 }

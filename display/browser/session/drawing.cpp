@@ -17,6 +17,7 @@ using ui::Layout;
 void draw(json& out, const ui::Label& label, bool /*whole*/) {
     out["kind"] = "label";
     out["caption"] = label.caption();
+    out["highlighted"] = label.highlighted();
 }
 
 void draw(json& out, const ui::TextBox& box, bool /*whole*/) {
@@ -31,7 +32,6 @@ void draw(json& out, const ui::TextBox& box, bool /*whole*/) {
     out["picks"] = static_cast<bool>(box.onPick);
     // What decides about single keys can only be asked here; everything else the browser edits.
     out["filtered"] = box.filtered();
-    out["warning"] = box.warning();
 }
 
 void draw(json& out, const ui::Button& button, bool /*whole*/) {
@@ -127,7 +127,9 @@ json drawControl(const Control& control, bool whole) {
              {"visible", control.visible()},
              {"tip", control.toolTip()},
              {"keys", keyUsesOf(ui::keyTraitsOf(&control))},
-             {"characters", nameOfUse(ui::characterUse(control))}};
+             {"characters", nameOfUse(ui::characterUse(control))},
+             {"warning", control.warning()},
+             {"quiet", control.quiet()}};
     ui::visit(control, [&](const auto& visited) { draw(out, visited, whole); });
     return out;
 }
@@ -144,6 +146,8 @@ const char* nameOf(Layout::Kind kind) {
         return "column";
     case Layout::Kind::fields:
         return "fields";
+    case Layout::Kind::table:
+        return "table";
     case Layout::Kind::frame:
         return "frame";
     case Layout::Kind::tabs:
@@ -156,7 +160,8 @@ json drawLayout(const Layout& layout) {
     json out{{"kind", nameOf(layout.kind)}};
     if (layout.control != nullptr) out["control"] = layout.control->id();
     if (layout.grows) out["grows"] = true;
-    if (layout.kind == Layout::Kind::fields) out["columns"] = layout.columns;
+    if (layout.kind == Layout::Kind::fields || layout.kind == Layout::Kind::table)
+        out["columns"] = layout.columns;
     if (!layout.children.empty()) {
         json children = json::array();
         for (const Layout& child : layout.children)

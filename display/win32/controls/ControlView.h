@@ -109,8 +109,10 @@ protected:
     /// Makes a native window that belongs to this view beside the main one.
     HWND createPart(const wchar_t* windowClass, DWORD style, DWORD extendedStyle, const std::wstring& text);
     virtual Room measure() const = 0;
-    /// What is shown while the pointer rests over it.
-    virtual std::string tip() const { return control_.toolTip(); }
+    /// What is shown while the pointer rests over it; a warning before anything else.
+    virtual std::string tip() const {
+        return control_.warning().empty() ? control_.toolTip() : control_.warning();
+    }
     /// Shows what is particular to this kind of control.
     virtual void draw() = 0;
     /// Nothing has been drawn so far: everything has to be, not only what changed in the form.

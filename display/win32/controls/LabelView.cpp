@@ -16,12 +16,25 @@ Room LabelView::measure() const {
     return {Extent::fixed(size.cx + theme().scaled(2)), Extent::fixed(height)};
 }
 
+HBRUSH LabelView::colour(HDC dc) const {
+    const HBRUSH background = ControlView::colour(dc);
+    if (!label_.warning().empty()) {
+        SetTextColor(dc, theme().warningColour());
+    } else if (label_.highlighted()) {
+        SetTextColor(dc, GetSysColor(COLOR_BTNHIGHLIGHT));
+    } else if (label_.quiet()) {
+        SetTextColor(dc, GetSysColor(COLOR_GRAYTEXT));
+    }
+    return background;
+}
+
 void LabelView::draw() {
     // One line stands at the height of the text in the box beside it.
     const bool oneLine = theme().textSize(label_.caption(), true, wrapAt()).cy < 2 * theme().textHeight();
     const LONG_PTR style = GetWindowLongPtrW(handle(), GWL_STYLE) & ~LONG_PTR{SS_CENTERIMAGE};
     SetWindowLongPtrW(handle(), GWL_STYLE, oneLine ? style | SS_CENTERIMAGE : style);
     showText(widen(label_.caption()));
+    InvalidateRect(handle(), nullptr, TRUE); // its colour may be another one
 }
 
 } // namespace tellurix::windows

@@ -11,6 +11,7 @@ public:
     LabelView(ViewHost& host, ui::Label& label);
 
     Room measure() const override;
+    HBRUSH colour(HDC dc) const override;
 
 private:
     void draw() override;

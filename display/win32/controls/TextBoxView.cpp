@@ -118,11 +118,6 @@ void TextBoxView::enable(bool visible, bool enabled) {
     host().setToolTip(pick_, host().display().language == "en" ? "Choose (F4)" : "Auswählen (F4)");
 }
 
-/// A warning is seen as a colour, and read where the pointer rests.
-std::string TextBoxView::tip() const {
-    return box_.warning().empty() ? box_.toolTip() : box_.warning();
-}
-
 TextBoxView::Selection TextBoxView::selection() const {
     DWORD start = 0;
     DWORD end = 0;

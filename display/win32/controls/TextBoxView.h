@@ -29,7 +29,6 @@ private:
     void make();
     DWORD wantedStyle() const;
     void draw() override;
-    std::string tip() const override;
     void drawPick();
     void showSelection();
     void enable(bool visible, bool enabled) override;

@@ -51,5 +51,7 @@ Parts makeParts(const std::vector<ui::Layout>& layouts, ViewHost& host);
 
 /// A table of fields, labels and boxes in line (see FieldTable.cpp).
 std::unique_ptr<Part> makeFieldTable(const ui::Layout& layout, ViewHost& host);
+/// A table of cells (see CellTable.cpp).
+std::unique_ptr<Part> makeTable(const ui::Layout& layout, ViewHost& host);
 
 } // namespace tellurix::windows

@@ -50,6 +50,8 @@ std::unique_ptr<Part> make(const Layout& layout, ViewHost& host) {
         return makeRow(layout, host);
     case Layout::Kind::fields:
         return makeFieldTable(layout, host);
+    case Layout::Kind::table:
+        return makeTable(layout, host);
     case Layout::Kind::frame:
         return makeFrame(layout, host);
     case Layout::Kind::tabs:

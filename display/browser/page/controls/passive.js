@@ -19,6 +19,7 @@ export class Label extends View {
   draw() {
     showCaption(this.element, this.state.caption);
     this.element.classList.toggle('disabled', !this.state.enabled);
+    this.element.classList.toggle('highlighted', Boolean(this.state.highlighted));
   }
 }
 

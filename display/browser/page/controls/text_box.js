@@ -45,7 +45,6 @@ export class TextBox extends View {
     if (maxLength > 0) input.maxLength = maxLength;
     else input.removeAttribute('maxlength');
     input.classList.toggle('right', right);
-    this.#drawWarning(this.state.warning);
     this.element.style.setProperty('--width', width);
     if (lines > 1) input.rows = lines;
     this.#drawPick(picks);
@@ -170,14 +169,6 @@ export class TextBox extends View {
     input.value = before.value;
     input.setSelectionRange(before.selectionStart, before.selectionEnd);
     this.desktop.later(() => this.desktop.insert(text));
-  }
-
-  /** A warning is seen as a colour, and read as the description of the box. */
-  #drawWarning(warning) {
-    this.element.classList.toggle('warns', Boolean(warning));
-    if (warning) this.focusElement.setAttribute('aria-description', warning);
-    else this.focusElement.removeAttribute('aria-description');
-    if (warning) this.focusElement.title = warning;
   }
 
   #drawPick(picks) {

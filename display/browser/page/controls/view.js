@@ -35,6 +35,15 @@ export class View {
     const target = this.focusElement ?? this.element;
     if (this.state.tip) target.title = this.state.tip;
     else target.removeAttribute('title');
+    // A warning is seen as a colour, and read as the description.
+    this.element.classList.toggle('warns', Boolean(this.state.warning));
+    this.element.classList.toggle('quiet', this.state.quiet);
+    if (this.state.warning) {
+      target.title = this.state.warning;
+      target.setAttribute('aria-description', this.state.warning);
+    } else {
+      target.removeAttribute('aria-description');
+    }
     if ('disabled' in target) target.disabled = !this.state.enabled;
     else if (this.focusElement) target.setAttribute('aria-disabled', !this.state.enabled);
     this.draw(changes, before);
@@ -45,6 +54,14 @@ export class View {
   labelledBy(label) {
     this.focusElement?.setAttribute('aria-labelledby', label.element.id);
     label.names(this);
+  }
+
+  /** Named by the labels around it, and by its own words, where it has some. */
+  labelledByAll(labels) {
+    const target = this.focusElement;
+    if (!target) return;
+    const own = this.state.caption ? [target.id] : [];
+    target.setAttribute('aria-labelledby', [...labels.map((label) => label.element.id), ...own].join(' '));
   }
 
   /** Whether it can be used, the frames around it considered. */
