@@ -1,6 +1,8 @@
 #pragma once
 
+#include "module/host/CalculationForm.h"
 #include "module/host/TlxVar.h"
+#include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
 #include "module/ui/Grid.h"
 #include "module/ui/TextBox.h"
@@ -62,6 +64,23 @@ public:
     /// @param displayColumn the column that holds their texts
     virtual void bind(const TlxVar& session, ui::TextBox& box, const std::string& query,
                       const std::string& displayColumn) = 0;
+};
+
+/// Keeps named models by their category: "ABSCHLAG", "ABSCHLAG1" … "ABSCHLAG8". Where the host works on
+/// articles, "_A" stands behind the category of a model that is copied.
+class ModelService {
+public:
+    virtual ~ModelService() = default;
+    /// Fills a list with the names of the category's models, each with its key as item data.
+    virtual void fill(const TlxVar& session, ui::ComboBox& list, const std::string& category) = 0;
+    /// Replaces the lines by those of a model.
+    /// @param model the item data of the list
+    virtual void copy(const TlxVar& session, const std::string& category, std::int32_t model,
+                      CalculationForm& form) = 0;
+    /// Lets the user see, save, rename and delete models. Fills the list again; the model that the
+    /// present lines were saved under is selected then.
+    virtual void manage(const TlxVar& session, const std::string& category, CalculationForm& form,
+                        ui::ComboBox& list) = 0;
 };
 
 } // namespace tellurix::host

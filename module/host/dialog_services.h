@@ -85,6 +85,11 @@ public:
     virtual std::optional<std::string> select(const TlxVar& session, const std::string& key,
                                               const std::string& upperType, const std::string& out1,
                                               const std::string& out2) = 0;
+    /// The same for a selection that no contract line holds yet.
+    /// @param value the present selection value, may be empty
+    virtual std::optional<std::string> edit(const TlxVar& session, const std::string& value,
+                                            const std::string& upperType, const std::string& out1,
+                                            const std::string& out2) = 0;
 };
 
 /// A list from which several codes can be chosen.
@@ -107,6 +112,18 @@ public:
     virtual std::string choose(const TlxVar& session, const std::string& layout, const std::string& title,
                                const std::string& text, const std::string& mode,
                                const std::string& current) = 0;
+};
+
+/// Lets the user choose an article of the catalogue.
+class CatalogueSelection {
+public:
+    virtual ~CatalogueSelection() = default;
+    /// @param mode what is offered: "WAREN"
+    /// @param upperType contract-type code in capital letters
+    /// @param current `ART_ID` of the article chosen so far, 0 for none
+    /// @return `ART_ID` of the chosen article, 0 or less for none
+    virtual std::int32_t choose(const TlxVar& session, const std::string& mode, const std::string& upperType,
+                                std::int32_t current) = 0;
 };
 
 } // namespace tellurix::host

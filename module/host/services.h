@@ -38,6 +38,8 @@ struct HostServices {
     LookupGridDialog& lookupGridDialog;
     TypeAhead& typeAhead;
     SelectionTranslator& selectionTranslator;
+    ModelService& models;
+    CatalogueSelection& catalogue;
 };
 
 } // namespace tellurix::host

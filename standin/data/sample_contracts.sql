@@ -155,7 +155,9 @@ INSERT INTO LOGS_RECH (ID_LOG, R_VERTRAG, A1_VERTRAG, A2_VERTRAG, A6_VERTRAG, A2
 GO
 
 -- Surcharge and deduction lines. STATISTIK is the place in the list of statistics; the reference
--- lines are numbered as the user sees them, from 1.
+-- lines are numbered as the user sees them, from 1. One contract has all sixteen lines. The last one has
+-- what the screen does not let be saved: a line without a value, one without a statistic, and a gap; its
+-- model is no longer kept.
 INSERT INTO ABSCHLAG (RECH_NAME, VER_TYPE, LINE_NUM, ABS_MODEL, STATISTIK, BEZEICH, WERT_TEXT, WERT_LINE, SUBSET_DEF, ART_ID) VALUES
 ('R-2025-001 Fichte Wolfsberg', 'V', 0, 'Sägewerk Standard', 2, 'Rindenabzug Fichte', '-10', NULL, '83 IN (''FI'') ;', 2),
 ('R-2025-001 Fichte Wolfsberg', 'V', 1, 'Sägewerk Standard', 3, 'Käferholzabschlag', '-25,75', '1', '90 IN (''CX'') ;', 3),
@@ -164,5 +166,25 @@ INSERT INTO ABSCHLAG (RECH_NAME, VER_TYPE, LINE_NUM, ABS_MODEL, STATISTIK, BEZEI
 ('A1-2025-001 Einkauf Breitenau', 'V1', 0, 'Einkauf Kleinwald', 11, 'Verbandsbeitrag', '-0,4', NULL, NULL, 4),
 ('A1-2025-001 Einkauf Breitenau', 'V1', 1, 'Einkauf Kleinwald', 7, 'Wegebenützung', '-1,2', '1', NULL, NULL),
 ('A6-2024-001 Stockkauf Obdach', 'V', 0, 'Sägewerk Altbestand', 2, 'Rindenabzug Fichte', '-10', NULL, NULL, 2),
-('A6-2024-001 Stockkauf Obdach', 'V6', 0, 'Stockkauf Bauernwald', 12, 'Vermessung je Stück', '1,235', NULL, '83 IN (''BU'') ;', 5)
+('A6-2024-001 Stockkauf Obdach', 'V6', 0, 'Stockkauf Bauernwald', 12, 'Vermessung je Stück', '1,235', NULL, '83 IN (''BU'') ;', 5),
+('R-2025-005 Schleifholz Amstetten', 'V', 0, NULL, 1, 'Mengenstaffel', '1,50', NULL, NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 1, NULL, 2, 'Rindenabzug', '-10', '1', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 2, NULL, 3, 'Güteabschlag', '-3,25', '1,2', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 3, NULL, 4, 'Zuschlag zertifiziert', '2', '2,3', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 4, NULL, 5, 'Fracht', '8,50', '3,4', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 5, NULL, 6, 'Manipulation', '-1,20', '4,5', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 6, NULL, 7, 'Wegebenützung', '-0,75', '5,6', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 7, NULL, 8, 'Rabatt', '-1', '6,7', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 8, NULL, 9, 'Bonus', '0,50', '7,8', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 9, NULL, 10, 'Provision', '-2', '8,9', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 10, NULL, 11, 'Verbandsbeitrag', '-0,40', '9,10', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 11, NULL, 12, 'Vermessung', '-1,24', '10,11', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 12, NULL, 13, 'Skonto', '-2', '11,12', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 13, NULL, 14, 'Rundung', '0,01', '12,13', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 14, NULL, 1, 'Mengenstaffel Nachtrag', '1', '13,14', NULL, NULL),
+('R-2025-005 Schleifholz Amstetten', 'V', 15, NULL, 2, 'Rindenabzug Nachtrag', '-0,50', '14,15', NULL, NULL),
+('R-2026-001 Stangen Passau', 'V', 0, 'Stangen alt', 4, 'Zuschlag für zertifiziertes Rundholz, Reviere Nord', '1.50', NULL, NULL, 6),
+('R-2026-001 Stangen Passau', 'V', 1, 'Stangen alt', 3, 'Güteabschlag', NULL, '1', '90 IN (''C'') ;', NULL),
+('R-2026-001 Stangen Passau', 'V', 2, 'Stangen alt', NULL, 'Abzug ohne Statistik', '-5,00', '1,3', NULL, NULL),
+('R-2026-001 Stangen Passau', 'V', 15, 'Stangen alt', 14, 'Rundung', '0,01', '1', NULL, NULL)
 GO

@@ -163,8 +163,36 @@ INSERT INTO WARENKATALOG (ART_ID, BEZEICH1, ID_FORMULA, EINHPREIS, SUBSET_DEF) V
 (2, 'Rindenabzug Fichte', 1, -10, '83 IN (''FI'') ;'),
 (3, 'Käferholzabschlag', 1, -25.75, '83 IN (''FI'', ''KI'') ;90 IN (''CX'') ;'),
 (4, 'Verbandsbeitrag', 3, 0.4, NULL),
-(5, 'Vermessung je Stück', 4, 1.235, NULL)
+(5, 'Vermessung je Stück', 4, 1.235, NULL),
+(6, 'Zuschlag für zertifiziertes Rundholz aus bäuerlichem Wald', 1, 2.5, '87 IN (''L'') ;')
+INSERT INTO WARENKATALOG (ART_ID, BEZEICH1, ID_FORMULA, EINHPREIS, SUBSET_DEF, VER_TYPE, ID_ACCESS_LEVELS, [DISABLE]) VALUES
+(7, 'Dieselzuschlag', 2, 0.35, NULL, 'A3', NULL, NULL),
+(8, 'Mautersatz bis 2023', 2, 1.1, NULL, NULL, NULL, 1),
+(9, 'Vertriebsprovision', 3, 1.75, NULL, NULL, 5, 0)
 SET IDENTITY_INSERT WARENKATALOG OFF
+GO
+
+-- Models of surcharge and deduction lines.
+SET IDENTITY_INSERT WORKBENCH_MODEL ON
+INSERT INTO WORKBENCH_MODEL (ID_MODEL, CATEGORY, MODEL) VALUES
+(1, 'ABSCHLAG', 'Sägewerk Standard'),
+(2, 'ABSCHLAG', 'Industrieholz frei Werk'),
+(3, 'ABSCHLAG1', 'Einkauf Kleinwald'),
+(4, 'ABSCHLAG1', 'Einkauf Großwald'),
+(5, 'ABSCHLAG3', 'Fracht mit Dieselzuschlag')
+SET IDENTITY_INSERT WORKBENCH_MODEL OFF
+INSERT INTO WORKBENCH_MODEL_LINE (ID_MODEL, LINE_NUM, STATISTIK, BEZEICH, WERT_TEXT, WERT_LINE, SUBSET_DEF, ART_ID) VALUES
+(1, 0, 2, 'Rindenabzug Fichte', '-10,00', NULL, '83 IN (''FI'') ;', 2),
+(1, 1, 3, 'Käferholzabschlag', '-25,75', '1', '90 IN (''CX'') ;', 3),
+(1, 2, 13, 'Skonto', '-2,00', '1,2', NULL, NULL),
+(2, 0, 5, 'Frachtkostenersatz', '8,50', NULL, NULL, 1),
+(2, 1, 6, 'Manipulation am Werksplatz', '-1,20', NULL, '87 IN (''F'', ''S'') ;', NULL),
+(3, 0, 11, 'Verbandsbeitrag', '-0,40', NULL, NULL, 4),
+(3, 1, 7, 'Wegebenützung', '-1,20', '1', NULL, NULL),
+(4, 0, 1, 'Mengenstaffel ab 500 Fm', '1,50', NULL, NULL, NULL),
+(4, 1, 4, 'Zuschlag zertifiziert', '2,00', NULL, '87 IN (''L'') ;', NULL),
+(4, 2, 12, 'Vermessung je Stück', '-1,24', '1,2', NULL, 5),
+(5, 0, 5, 'Dieselzuschlag', '0,35', NULL, NULL, 7)
 GO
 
 -- The lookup lists of the logistics settings. Weekdays count from 1 = Sunday.

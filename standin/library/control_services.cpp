@@ -97,6 +97,37 @@ const ServiceClass& gridLayoutStore() {
     return served;
 }
 
+const ServiceClass& modelService() {
+    static const ServiceClass served{
+        "Tellurix_Loc.ModelService",
+        DispatchTable()
+            .method<ServiceObject>(L"Fill",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       Dispatch list(given[1]);
+                                       ListMirror mirror(list);
+                                       call.services().models.fill(call.session(), mirror.list,
+                                                                   given[2].text());
+                                       mirror.write(list);
+                                   })
+            .method<ServiceObject>(L"Copy",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       LinesMirror lines(Dispatch{given[3]});
+                                       call.services().models.copy(call.session(), given[1].text(),
+                                                                   given[2].integer(), lines);
+                                   })
+            .method<ServiceObject>(L"Manage", [](ServiceObject& service, Given given) {
+                auto call = callOf(service, given);
+                LinesMirror lines(Dispatch{given[2]});
+                Dispatch list(given[3]);
+                ListMirror mirror(list);
+                call.services().models.manage(call.session(), given[1].text(), lines, mirror.list);
+                mirror.write(list);
+            })};
+    return served;
+}
+
 const ServiceClass& typeAhead() {
     static const ServiceClass served{"Tellurix_Loc.TypeAhead",
                                      DispatchTable().method<ServiceObject>(L"Bind", bind)};

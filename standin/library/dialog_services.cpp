@@ -18,6 +18,11 @@ Variant choosePerson(ServiceObject& service, Given given) {
     return chosen;
 }
 
+/// Empty for a dialog that was cancelled.
+Variant selected(const std::optional<std::string>& answer) {
+    return answer ? Variant(*answer) : Variant();
+}
+
 void showError(ServiceObject& service, Given given) {
     auto call = callOf(service, given);
     try {
@@ -77,11 +82,29 @@ const ServiceClass& keyedLists() {
 const ServiceClass& selectionDialog() {
     static const ServiceClass served{
         "Tellurix_Loc.SelectionDialog",
-        DispatchTable().method<ServiceObject>(L"Select", [](ServiceObject& service, Given given) {
+        DispatchTable()
+            .method<ServiceObject>(L"Select",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       return selected(call.services().selectionDialog.select(
+                                           call.session(), given[1].text(), given[2].text(), given[3].text(),
+                                           given[4].text()));
+                                   })
+            .method<ServiceObject>(L"Edit", [](ServiceObject& service, Given given) {
+                auto call = callOf(service, given);
+                return selected(call.services().selectionDialog.edit(
+                    call.session(), given[1].text(), given[2].text(), given[3].text(), given[4].text()));
+            })};
+    return served;
+}
+
+const ServiceClass& catalogueSelection() {
+    static const ServiceClass served{
+        "Tellurix_Loc.CatalogueSelection",
+        DispatchTable().method<ServiceObject>(L"Choose", [](ServiceObject& service, Given given) {
             auto call = callOf(service, given);
-            const auto selected = call.services().selectionDialog.select(
-                call.session(), given[1].text(), given[2].text(), given[3].text(), given[4].text());
-            return selected ? Variant(*selected) : Variant();
+            return Variant(call.services().catalogue.choose(call.session(), given[1].text(), given[2].text(),
+                                                            given[3].integer()));
         })};
     return served;
 }

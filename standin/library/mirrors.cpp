@@ -44,4 +44,38 @@ void GridMirror::write(Dispatch& original) const {
         original.call(L"SetColumn", {i++, column.width, column.visible});
 }
 
+ListMirror::ListMirror(Dispatch& original) : Form("mirror") {
+    for (std::int32_t i = 0, count = original.get(L"Count").integer(); i < count; ++i)
+        list.add(original.get(L"Text", {i}).text(), original.get(L"ItemData", {i}).integer());
+    list.select(original.get(L"ListIndex").integer());
+}
+
+void ListMirror::write(Dispatch& original) const {
+    original.call(L"Clear", {});
+    for (const ui::ItemList::Item& item : list.items())
+        original.call(L"AddItem", {item.text, static_cast<std::int32_t>(item.itemData)});
+    original.put(L"ListIndex", std::int32_t{list.selected()});
+}
+
+host::CalculationLines LinesMirror::lines() const {
+    host::CalculationLines lines;
+    for (std::size_t number = 0; number < lines.size(); ++number) {
+        const auto i = static_cast<std::int32_t>(number);
+        lines[number] = {.statistic = original_.get(L"Statistic", {i}).integer(),
+                         .designation = original_.get(L"Designation", {i}).text(),
+                         .value = original_.get(L"Value", {i}).text(),
+                         .references = original_.get(L"References", {i}).text(),
+                         .subset = original_.get(L"Subset", {i}).text(),
+                         .article = original_.get(L"Article", {i}).integer()};
+    }
+    return lines;
+}
+
+void LinesMirror::setLines(const host::CalculationLines& lines) {
+    std::int32_t i = 0;
+    for (const host::CalculationLine& line : lines)
+        original_.call(L"SetLine", {i++, std::int32_t{line.statistic}, line.designation, line.value,
+                                    line.references, line.subset, line.article});
+}
+
 } // namespace tellurix::windows

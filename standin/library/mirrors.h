@@ -1,6 +1,7 @@
 #pragma once
 
 #include "com/automation/Dispatch.h"
+#include "module/host/CalculationForm.h"
 #include "module/ui/Form.h"
 #include "module/ui/Grid.h"
 #include "module/ui/TextBox.h"
@@ -35,6 +36,27 @@ public:
     ui::Grid grid{*this, "grid"};
 
     void write(Dispatch& original) const;
+};
+
+class ListMirror final : public ui::Form {
+public:
+    explicit ListMirror(Dispatch& original);
+
+    ui::ComboBox list{*this, "list"};
+
+    void write(Dispatch& original) const;
+};
+
+/// The caller's surcharge and deduction lines.
+class LinesMirror final : public host::CalculationForm {
+public:
+    explicit LinesMirror(Dispatch original) : original_(std::move(original)) {}
+
+    host::CalculationLines lines() const override;
+    void setLines(const host::CalculationLines& lines) override;
+
+private:
+    mutable Dispatch original_;
 };
 
 } // namespace tellurix::windows

@@ -45,6 +45,8 @@ std::span<const ServedClass> servedClasses() {
         ServedClass{__uuidof(LookupGridDialog), service<_LookupGridDialog, lookupGridDialog>},
         ServedClass{__uuidof(TypeAhead), service<_TypeAhead, typeAhead>},
         ServedClass{__uuidof(SelectionTranslator), service<_SelectionTranslator, selectionTranslator>},
+        ServedClass{__uuidof(ModelService), service<_ModelService, modelService>},
+        ServedClass{__uuidof(CatalogueSelection), service<_CatalogueSelection, catalogueSelection>},
         ServedClass{__uuidof(HostErrorReport), service<_HostErrorReport, hostErrorReport>},
         ServedClass{__uuidof(EmbeddedConnection), embeddedConnection},
     };

@@ -26,6 +26,7 @@ const ServiceClass& hostPersonalPicker();
 const ServiceClass& listPicker();
 const ServiceClass& keyedLists();
 const ServiceClass& selectionDialog();
+const ServiceClass& catalogueSelection();
 const ServiceClass& lookupGridDialog();
 const ServiceClass& hostErrorReport();
 
@@ -34,5 +35,6 @@ const ServiceClass& hostLocalizer();
 const ServiceClass& lookupValidation();
 const ServiceClass& gridLayoutStore();
 const ServiceClass& typeAhead();
+const ServiceClass& modelService();
 
 } // namespace tellurix::windows

@@ -16,6 +16,8 @@ WorkbenchServices::WorkbenchServices(ui::Display& display, const host::TlxVar& s
       personQuery_(locale),
       selectionDialog_(display, localizer_, locale),
       lookupGridDialog_(display, localizer_, locale),
+      models_(display, localizer_),
+      catalogueSelection_(display, localizer_, locale),
       mainWindow_(std::make_shared<MainWindow>(settings_, session)),
       host_{.display = display,
             .errors = errors_,
@@ -37,6 +39,8 @@ WorkbenchServices::WorkbenchServices(ui::Display& display, const host::TlxVar& s
             .selectionDialog = selectionDialog_,
             .lookupGridDialog = lookupGridDialog_,
             .typeAhead = typeAhead_,
-            .selectionTranslator = selectionTranslator_} {}
+            .selectionTranslator = selectionTranslator_,
+            .models = models_,
+            .catalogue = catalogueSelection_} {}
 
 } // namespace tellurix::standin

@@ -3,6 +3,8 @@
 #include "standin/services/ErrorReporter.h"
 #include "standin/services/MainWindow.h"
 #include "standin/services/ModuleService.h"
+#include "standin/services/models/ModelsService.h"
+#include "standin/services/pickers/CatalogueSelectionService.h"
 #include "standin/services/pickers/KeyedListsService.h"
 #include "standin/services/pickers/ListPickerService.h"
 #include "standin/services/pickers/LookupGridDialogService.h"
@@ -64,6 +66,8 @@ private:
     LookupGridDialogService lookupGridDialog_;
     TypeAheadService typeAhead_;
     SelectionTranslatorService selectionTranslator_;
+    ModelsService models_;
+    CatalogueSelectionService catalogueSelection_;
     std::shared_ptr<host::HostMainWindow> mainWindow_;
     host::HostServices host_;
 };

@@ -60,7 +60,9 @@ TestHost::TestHost(base::Connection& inner)
                .selectionDialog = *this,
                .lookupGridDialog = *this,
                .typeAhead = *this,
-               .selectionTranslator = *this},
+               .selectionTranslator = *this,
+               .models = *this,
+               .catalogue = *this},
       inner_(inner),
       traced_(database, [this](const tracing::Statement& statement) { remember(statement); }),
       formerlyTraced_(inner,
@@ -81,6 +83,7 @@ void TestHost::remember(const tracing::Statement& statement) {
     // Those that are meant for all lines of a contract, or for all that a contract has.
     const bool many = statement.text.starts_with("DELETE FROM") ||
                       statement.text.starts_with("UPDATE VERTRAG_PREISE SET PREIS = ROUND(") ||
+                      statement.text.starts_with("UPDATE ABSCHLAG SET ABS_MODEL") ||
                       statement.text.find(" SET ORDNUNG = ORDNUNG - 1 ") != std::string::npos;
     if (!many && !statement.text.starts_with("SELECT")) {
         EXPECT_LE(statement.rowsAffected, 1) << statement.text;
@@ -179,7 +182,8 @@ std::string TestHost::readValue(const host::TlxVar& with, const std::string& col
 void TestHost::request(const host::TlxVar& with, const std::string& code, const std::string& type,
                        std::string& out1, std::string& out2) {
     expectOwn(with);
-    expectUpperType(type);
+    // After an article was chosen the host is told what for, instead of the type.
+    if (code != "1LV") expectUpperType(type);
     EXPECT_EQ(&out1, &host::moduleState().context.strServiceOut1);
     EXPECT_EQ(&out2, &host::moduleState().context.strServiceOut2);
     requests.push_back(code + "/" + type);
@@ -315,6 +319,52 @@ std::optional<std::string> TestHost::select(const host::TlxVar& with, const std:
         << "the line of the selection dialog";
     selections.push_back(key + "/" + upperType);
     return onSelectionDialog ? onSelectionDialog(key) : std::nullopt;
+}
+
+void TestHost::set(const host::TlxVar& with, const std::string& table, const std::string& column,
+                   const std::string& value, const std::string& condition) {
+    expectOwn(with);
+    const std::string written = value.empty() ? "NULL" : "'" + base::replaceAll(value, "'", "''") + "'";
+    with.connection->execute("UPDATE " + table + " SET " + column + " = " + written + " WHERE " + condition);
+}
+
+std::optional<std::string> TestHost::edit(const host::TlxVar& with, const std::string& value,
+                                          const std::string& upperType, const std::string&,
+                                          const std::string&) {
+    expectOwn(with);
+    expectUpperType(upperType);
+    edits.push_back(value + "/" + upperType);
+    return onSelectionEdit ? onSelectionEdit(value) : std::nullopt;
+}
+
+void TestHost::fill(const host::TlxVar& with, ui::ComboBox& list, const std::string& category) {
+    expectOwn(with);
+    modelCalls.push_back("fill/" + category);
+    list.clear();
+    for (const std::string& model : models)
+        list.add(model, static_cast<std::int64_t>(list.items().size()) + 1);
+}
+
+void TestHost::copy(const host::TlxVar& with, const std::string& category, std::int32_t model,
+                    host::CalculationForm& form) {
+    expectOwn(with);
+    modelCalls.push_back("copy/" + category + "/" + std::to_string(model));
+    form.setLines(modelLines);
+}
+
+void TestHost::manage(const host::TlxVar& with, const std::string& category, host::CalculationForm& form,
+                      ui::ComboBox& list) {
+    expectOwn(with);
+    modelCalls.push_back("manage/" + category);
+    if (onManage) onManage(form, list);
+}
+
+std::int32_t TestHost::choose(const host::TlxVar& with, const std::string& mode, const std::string& upperType,
+                              std::int32_t current) {
+    expectOwn(with);
+    expectUpperType(upperType);
+    picks.push_back(mode + "/" + upperType + "/" + std::to_string(current));
+    return pickedArticle;
 }
 
 std::string TestHost::choose(const host::TlxVar& with, const std::string& layout, const std::string& title,

@@ -58,6 +58,8 @@ class TestHost final : host::HostDataAccess,
                        host::LookupGridDialog,
                        host::TypeAhead,
                        host::SelectionTranslator,
+                       host::ModelService,
+                       host::CatalogueSelection,
                        host::HostMainWindow {
 public:
     explicit TestHost(base::Connection& database);
@@ -96,8 +98,17 @@ public:
     std::function<std::optional<std::string>(const std::string& key)> onSelectionDialog;
     std::map<std::string, int> columnWidths; ///< of the text columns that have a limit: "TABLE.COLUMN"
     std::vector<std::string> selections;     ///< selection dialogs opened: "key/type"
-    std::vector<std::string> translations;   ///< selection values translated
-    std::vector<std::string> typeAheads;     ///< boxes bound: "box/column/query"
+    std::vector<std::string> edits;          ///< selection values edited: "value/type"
+    /// What the selection dialog makes of a value that no line holds; nothing is a cancelled dialog.
+    std::function<std::optional<std::string>(const std::string& value)> onSelectionEdit;
+    std::vector<std::string> models{"Eins", "Zwei"}; ///< of every category, with the keys 1, 2, …
+    host::CalculationLines modelLines;               ///< of every model
+    std::vector<std::string> modelCalls; ///< "fill/category", "copy/category/key", "manage/category"
+    /// What the user does in the management of models.
+    std::function<void(host::CalculationForm& form, ui::ComboBox& list)> onManage;
+    std::int32_t pickedArticle = 0;        ///< what the catalogue answers next
+    std::vector<std::string> translations; ///< selection values translated
+    std::vector<std::string> typeAheads;   ///< boxes bound: "box/column/query"
 
 private:
     /// What the host handed over when it called the module.
@@ -152,10 +163,8 @@ private:
     void save(const host::TlxVar& with, const ui::Grid&, const std::string&) override { expectOwn(with); }
     void restore(const host::TlxVar& with, ui::Grid&, const std::string&) override { expectOwn(with); }
     int of(const host::TlxVar&, const std::string& table, const std::string& column) override;
-    void set(const host::TlxVar& with, const std::string&, const std::string&, const std::string&,
-             const std::string&) override {
-        expectOwn(with);
-    }
+    void set(const host::TlxVar&, const std::string& table, const std::string& column,
+             const std::string& value, const std::string& condition) override;
     std::optional<std::string> select(const host::TlxVar&, const std::string& key,
                                       const std::string& upperType, const std::string& out1,
                                       const std::string& out2) override;
@@ -166,6 +175,16 @@ private:
     std::string translate(const host::TlxVar&, const std::string& kind, const std::string& sameKind,
                           const std::string& value, const std::string& upperType,
                           const std::string& formValue) override;
+    std::optional<std::string> edit(const host::TlxVar&, const std::string& value,
+                                    const std::string& upperType, const std::string&,
+                                    const std::string&) override;
+    void fill(const host::TlxVar&, ui::ComboBox& list, const std::string& category) override;
+    void copy(const host::TlxVar&, const std::string& category, std::int32_t model,
+              host::CalculationForm& form) override;
+    void manage(const host::TlxVar&, const std::string& category, host::CalculationForm& form,
+                ui::ComboBox& list) override;
+    std::int32_t choose(const host::TlxVar&, const std::string& mode, const std::string& upperType,
+                        std::int32_t current) override;
     bool IsArtikel() override { return articles; }
 
     base::Connection& inner_;

@@ -24,6 +24,8 @@ LateServices::LateServices(ui::Display& display)
             .selectionDialog = selectionDialog_,
             .lookupGridDialog = lookupGridDialog_,
             .typeAhead = typeAhead_,
-            .selectionTranslator = selectionTranslator_} {}
+            .selectionTranslator = selectionTranslator_,
+            .models = models_,
+            .catalogue = catalogueSelection_} {}
 
 } // namespace tellurix::windows

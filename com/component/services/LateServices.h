@@ -39,6 +39,8 @@ private:
     LateLookupGridDialog lookupGridDialog_;
     LateTypeAhead typeAhead_;
     LateSelectionTranslator selectionTranslator_;
+    LateModelService models_;
+    LateCatalogueSelection catalogueSelection_;
     host::HostServices host_;
 };
 

@@ -3,6 +3,8 @@
 #include "com/component/controls/BoxObject.h"
 #include "com/component/controls/FormObject.h"
 #include "com/component/controls/GridObject.h"
+#include "com/component/controls/LinesObject.h"
+#include "com/component/controls/ListObject.h"
 
 namespace tellurix::windows {
 
@@ -49,6 +51,27 @@ void LateGridLayoutStore::restore(const host::TlxVar& session, ui::Grid& grid, c
     SessionRecord record(session);
     const Lent<GridObject> lent(grid);
     object_.call(L"Restore", {record.argument(), lent.argument(), key});
+}
+
+void LateModelService::fill(const host::TlxVar& session, ui::ComboBox& list, const std::string& category) {
+    SessionRecord record(session);
+    const Lent<ListObject> lent(list);
+    object_.call(L"Fill", {record.argument(), lent.argument(), category});
+}
+
+void LateModelService::copy(const host::TlxVar& session, const std::string& category, std::int32_t model,
+                            host::CalculationForm& form) {
+    SessionRecord record(session);
+    const Lent<LinesObject> lent(form);
+    object_.call(L"Copy", {record.argument(), category, model, lent.argument()});
+}
+
+void LateModelService::manage(const host::TlxVar& session, const std::string& category,
+                              host::CalculationForm& form, ui::ComboBox& list) {
+    SessionRecord record(session);
+    const Lent<LinesObject> lentForm(form);
+    const Lent<ListObject> lentList(list);
+    object_.call(L"Manage", {record.argument(), category, lentForm.argument(), lentList.argument()});
 }
 
 void LateTypeAhead::bind(const host::TlxVar& session, ui::TextBox& box, const std::string& query,

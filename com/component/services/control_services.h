@@ -36,6 +36,18 @@ private:
     HostClass object_{"GridLayoutStore"};
 };
 
+class LateModelService final : public host::ModelService {
+public:
+    void fill(const host::TlxVar& session, ui::ComboBox& list, const std::string& category) override;
+    void copy(const host::TlxVar& session, const std::string& category, std::int32_t model,
+              host::CalculationForm& form) override;
+    void manage(const host::TlxVar& session, const std::string& category, host::CalculationForm& form,
+                ui::ComboBox& list) override;
+
+private:
+    HostClass object_{"ModelService"};
+};
+
 class LateTypeAhead final : public host::TypeAhead {
 public:
     void bind(const host::TlxVar& session, ui::TextBox& box, const std::string& query,

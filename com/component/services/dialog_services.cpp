@@ -58,6 +58,21 @@ std::optional<std::string> LateSelectionDialog::select(const host::TlxVar& sessi
     return selected.text();
 }
 
+std::optional<std::string> LateSelectionDialog::edit(const host::TlxVar& session, const std::string& value,
+                                                     const std::string& upperType, const std::string& out1,
+                                                     const std::string& out2) {
+    SessionRecord record(session);
+    const Variant edited = object_.call(L"Edit", {record.argument(), value, upperType, out1, out2});
+    if (edited.isEmpty()) return std::nullopt;
+    return edited.text();
+}
+
+std::int32_t LateCatalogueSelection::choose(const host::TlxVar& session, const std::string& mode,
+                                            const std::string& upperType, std::int32_t current) {
+    SessionRecord record(session);
+    return object_.call(L"Choose", {record.argument(), mode, upperType, current}).integer();
+}
+
 std::string LateLookupGridDialog::choose(const host::TlxVar& session, const std::string& layout,
                                          const std::string& title, const std::string& text,
                                          const std::string& mode, const std::string& current) {

@@ -43,9 +43,21 @@ public:
     std::optional<std::string> select(const host::TlxVar& session, const std::string& key,
                                       const std::string& upperType, const std::string& out1,
                                       const std::string& out2) override;
+    std::optional<std::string> edit(const host::TlxVar& session, const std::string& value,
+                                    const std::string& upperType, const std::string& out1,
+                                    const std::string& out2) override;
 
 private:
     HostClass object_{"SelectionDialog"};
+};
+
+class LateCatalogueSelection final : public host::CatalogueSelection {
+public:
+    std::int32_t choose(const host::TlxVar& session, const std::string& mode, const std::string& upperType,
+                        std::int32_t current) override;
+
+private:
+    HostClass object_{"CatalogueSelection"};
 };
 
 class LateLookupGridDialog final : public host::LookupGridDialog {

@@ -30,13 +30,14 @@ std::string presentValue(const host::TlxVar& session, const std::string& key) {
 } // namespace
 
 std::optional<std::string> SelectionDialogService::select(const host::TlxVar& session, const std::string& key,
-                                                          const std::string&, const std::string&,
-                                                          const std::string&) {
-    return edit(session, presentValue(session, key));
+                                                          const std::string& upperType,
+                                                          const std::string& out1, const std::string& out2) {
+    return edit(session, presentValue(session, key), upperType, out1, out2);
 }
 
-std::optional<std::string> SelectionDialogService::edit(const host::TlxVar& session,
-                                                        const std::string& value) {
+std::optional<std::string> SelectionDialogService::edit(const host::TlxVar& session, const std::string& value,
+                                                        const std::string&, const std::string&,
+                                                        const std::string&) {
     const SelectionWords words{localizer_, session, locale_};
     SelectionExpression present;
     try {

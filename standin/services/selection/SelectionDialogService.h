@@ -20,10 +20,11 @@ public:
     std::optional<std::string> select(const host::TlxVar& session, const std::string& key,
                                       const std::string& upperType, const std::string& out1,
                                       const std::string& out2) override;
+    std::optional<std::string> edit(const host::TlxVar& session, const std::string& value,
+                                    const std::string& upperType, const std::string& out1,
+                                    const std::string& out2) override;
 
 private:
-    std::optional<std::string> edit(const host::TlxVar& session, const std::string& value);
-
     ui::Display& display_;
     Localizer& localizer_;
     base::Locale locale_;

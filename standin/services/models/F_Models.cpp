@@ -1,0 +1,124 @@
+#include "standin/services/models/F_Models.h"
+
+#include "module/base/Refused.h"
+#include "module/base/text.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/typed_text.h"
+
+#include <algorithm>
+
+namespace tellurix::standin {
+
+namespace {
+
+constexpr int longestName = 60;
+
+} // namespace
+
+F_Models::F_Models(ui::Display& display, ModelStore store, std::vector<std::string> statistics,
+                   host::CalculationLines present, Texts texts, const std::string& current)
+    : Form("F_Models", "Modelle"),
+      display_(display),
+      store_(std::move(store)),
+      statistics_(std::move(statistics)),
+      present_(std::move(present)),
+      texts_(std::move(texts)) {
+    grdModels.setColumns({{.caption = "Modell", .width = 32}});
+    grdLines.setColumns({{.caption = "Nr.", .width = 4, .rightAligned = true},
+                         {.caption = "Statistik", .width = 20},
+                         {.caption = "Bezeichnung", .width = 30},
+                         {.caption = "Wert", .width = 10, .rightAligned = true},
+                         {.caption = "Bezugszeile(n)", .width = 12},
+                         {.caption = "Subset", .width = 24}});
+    connect();
+    setLayout(ui::column({ui::row({grdModels, ui::Layout{grdLines}.growing()}).growing(),
+                          ui::row({ui::field(lblName, txtName), btnSave, btnRename, btnDelete}),
+                          ui::row({btnClose})}));
+    load(current);
+}
+
+void F_Models::connect() {
+    txtName.setMaxLength(longestName);
+    grdModels.onCurrentChange = [this] { showModel(); };
+    btnSave.onClick = [this] { save(); };
+    btnRename.onClick = [this] { rename(); };
+    btnDelete.onClick = [this] { remove(); };
+    btnClose.onClick = [this] { unload(); };
+    setCancelButton(btnClose);
+}
+
+void F_Models::load(const std::string& name) {
+    models_ = store_.models();
+    std::vector<ui::Grid::Row> rows;
+    for (const ModelStore::Model& model : models_)
+        rows.push_back({model.name});
+    grdModels.setRows(std::move(rows));
+    const auto found = std::ranges::find(models_, name, &ModelStore::Model::name);
+    grdModels.setCurrent(found == models_.end() ? 0 : static_cast<int>(found - models_.begin()));
+    showModel();
+}
+
+const ModelStore::Model* F_Models::current() const {
+    const int row = grdModels.currentRow();
+    return row == ui::Grid::none ? nullptr : &models_[static_cast<std::size_t>(row)];
+}
+
+void F_Models::showModel() {
+    const ModelStore::Model* model = current();
+    txtName.setText(model == nullptr ? "" : model->name);
+    for (ui::Button* button : {&btnRename, &btnDelete})
+        button->setEnabled(model != nullptr);
+    std::vector<ui::Grid::Row> rows;
+    const host::CalculationLines lines =
+        model == nullptr ? host::CalculationLines{} : store_.lines(model->id);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i] == host::CalculationLine{}) continue;
+        const auto position = static_cast<std::size_t>(lines[i].statistic);
+        rows.push_back({std::to_string(i + 1), position < statistics_.size() ? statistics_[position] : "",
+                        lines[i].designation, lines[i].value, lines[i].references, lines[i].subset});
+    }
+    grdLines.setRows(std::move(rows));
+}
+
+std::string F_Models::typedName() {
+    // The name goes into a statement as it stands, on the lines of every calculation that takes the model.
+    std::string name{base::trim(parts::typedCodes(txtName))};
+    if (name.empty()) {
+        parts::ShowMessage(display_, texts_("models.nameMissing"), ui::box::exclamation);
+        setFocus(txtName);
+    }
+    return name;
+}
+
+void F_Models::save() {
+    const std::string name = typedName();
+    if (name.empty() || (store_.find(name) && !confirmed("models.replace", name))) return;
+    saved_ = store_.save(name, present_);
+    load(name);
+}
+
+void F_Models::rename() {
+    const ModelStore::Model* model = current();
+    const std::string name = typedName();
+    if (model == nullptr || name.empty()) return;
+    if (const auto other = store_.find(name); other && *other != model->id)
+        throw base::Refused{base::filled(texts_("models.nameTaken"), {name})};
+    store_.rename(model->id, name);
+    load(name);
+}
+
+void F_Models::remove() {
+    const ModelStore::Model* model = current();
+    if (model == nullptr || !confirmed("models.delete", model->name)) return;
+    if (model->id == saved_) saved_ = 0;
+    store_.remove(model->id);
+    load("");
+}
+
+bool F_Models::confirmed(std::string_view key, const std::string& name) {
+    return parts::ShowMessage(display_, base::filled(texts_(key), {name}),
+                              ui::box::yesNo + ui::box::question + ui::box::defaultButton2) ==
+           ui::Answer::yes;
+}
+
+} // namespace tellurix::standin
