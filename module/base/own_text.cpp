@@ -108,6 +108,32 @@ constexpr Words wordsOf(OwnText text) {
     case OwnText::logsClaimed:
         return {"Zeile {}: {} Stämme", "Line {}: {} logs"};
 
+    case OwnText::statisticMissing:
+        return {"In dieser Zeile fehlt die Statistik.", "This line has no statistic."};
+    case OwnText::valueMissing:
+        return {"In dieser Zeile fehlt der Wert.", "This line has no value."};
+    case OwnText::refersToItself:
+        return {"Zeile {} bezieht sich auf sich selbst.", "Line {} refers to itself."};
+    case OwnText::refersToLater:
+        return {"Zeile {} steht erst darunter.", "Line {} only comes below."};
+    case OwnText::refersToEmpty:
+        return {"Zeile {} ist leer.", "Line {} is empty."};
+    case OwnText::refersToNone:
+        return {"Eine Zeile {} gibt es nicht.", "There is no line {}."};
+    case OwnText::someLinesSaved:
+        return {"Gespeichert sind {} von {} Zeilen. Alle Eingaben sind noch da: „Ok“ speichert sie "
+                "vollständig.",
+                "{} of {} lines are saved. Everything typed is still there: \"OK\" saves all of it."};
+    case OwnText::closeChanged:
+        return {"Die Änderungen sind noch nicht gespeichert. Ohne Speichern schließen?",
+                "The changes have not been saved yet. Close without saving?"};
+    case OwnText::closePartlySaved:
+        return {"Gespeichert sind nur {} von {} Zeilen. Trotzdem schließen?",
+                "Only {} of {} lines are saved. Close all the same?"};
+    case OwnText::replaceByModel:
+        return {"Sollen die eingegebenen Zeilen durch das Modell „{}“ ersetzt werden?",
+                "Replace the lines that were typed by the model \"{}\"?"};
+
     case OwnText::refusedValue:
         return {"„{}“:", "\"{}\":"};
     case OwnText::refusedInField:

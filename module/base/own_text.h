@@ -50,6 +50,17 @@ enum class OwnText {
     noMeasureInUnit,
     oneLogClaimed, ///< line
     logsClaimed,   ///< line, how many
+    // Surcharges and deductions
+    statisticMissing,
+    valueMissing,
+    refersToItself, ///< the line
+    refersToLater,
+    refersToEmpty,
+    refersToNone,
+    someLinesSaved,   ///< how many, of how many
+    closeChanged,     ///< a question
+    closePartlySaved, ///< a question: how many, of how many
+    replaceByModel,   ///< a question: the model's name
     // Values that no statement can carry
     refusedValue,   ///< begins the message: the value
     refusedInField, ///< begins the message: the field's label, the value

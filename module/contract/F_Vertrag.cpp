@@ -8,6 +8,7 @@
 #include "module/contract/F_HeaderVertrag.h"
 #include "module/contract/contract_row.h"
 #include "module/contract/header_captions.h"
+#include "module/deductions/F_Abschlag.h"
 #include "module/host/contract_type.h"
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
@@ -28,6 +29,8 @@ namespace {
 
 constexpr const char* priceScreen = "F_VertragPreise";
 constexpr const char* quantityScreen = "F_VertragMengen";
+/// What the host is told that an article was chosen for: a contract.
+constexpr std::int16_t deductionsOfContract = 0;
 
 } // namespace
 
@@ -44,7 +47,7 @@ F_Vertrag::F_Vertrag(host::HostServices& services)
     picZusatzText.setVisible(false);
     txtMessage.setVisible(false);
     // Their screens are not part of the module yet.
-    const std::initializer_list<ui::Control*> later{&btnAbschlag, &btnLieferprofil_WVO, &btnWord};
+    const std::initializer_list<ui::Control*> later{&btnLieferprofil_WVO, &btnWord};
     for (ui::Control* control : later)
         control->setEnabled(false);
     connect();
@@ -57,6 +60,7 @@ void F_Vertrag::connect() {
     btnHeader.onClick = [this] { openHeader(); };
     PreisButton.onClick = [this] { showPriceLines(true); };
     PosButton.onClick = [this] { showQuantityLines(true); };
+    btnAbschlag.onClick = [this] { openDeductions(); };
     btnZusatz.onClick = [this] { toggleAdditionalTexts(); };
     cmdZusatzText.onClick = [this] { toggleAdditionalTexts(); };
     btnSpeichern.onClick = [this] { save(); };
@@ -261,6 +265,13 @@ void F_Vertrag::showDeductionModel() {
     }
     lblOhneAbschlag.setVisible(!reason.empty());
     lblOhneAbschlag.setCaption(std::move(reason));
+}
+
+void F_Vertrag::openDeductions() {
+    if (lblOhneAbschlag.visible()) throw base::Refused{OwnText::noDeductionModel};
+    auto& deductions = host::moduleState().screen<deductions::F_Abschlag>(
+        "F_Abschlag", [this] { return std::make_unique<deductions::F_Abschlag>(services_); });
+    txtAbschlag.setText(deductions.Run(session_, deductionsOfContract, name_));
 }
 
 void F_Vertrag::loadFlags() {

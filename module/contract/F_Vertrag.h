@@ -63,6 +63,8 @@ private:
     void showCustomer();
     /// Empty, with the reason beside it, for a contract whose name no statement can carry.
     void showDeductionModel();
+    /// @throws base::Refused with that reason, and nothing is sent
+    void openDeductions();
     lines::F_VertragPreise& priceLines();
     lines::F_VertragMengen& quantityLines();
     /// Loads the lines into the overview, with or without showing their screen first.

@@ -1,10 +1,12 @@
 #include "module/contract/F_HeaderVertrag.h"
 #include "module/contract/F_Vertrag.h"
+#include "module/deductions/F_Abschlag.h"
 #include "module/lines/F_VertragMengen.h"
 #include "module/lines/F_VertragPreise.h"
 #include "module/ui/CheckBox.h"
 #include "module/ui/Frame.h"
 #include "module/ui/Label.h"
+#include "standin/services/models/F_Models.h"
 #include "standin/services/pickers/F_Calendar.h"
 #include "standin/services/pickers/F_ListPicker.h"
 #include "standin/services/pickers/F_LookupGrid.h"
@@ -40,8 +42,9 @@ std::string captionOf(const ui::Control& control) {
 
 /// Captions that the screens set themselves while they run, or that are no words.
 bool setByTheScreen(const std::string& name) {
-    for (const char* start : {"lblNumber", "LabelKopf", "lblDate", "lblRechnungsArt", "lblBuchnungsArt",
-                              "lblWahrung", "lblCount", "lblMonth", "lblDay", "btnPrevious", "btnNext"}) {
+    for (const char* start :
+         {"lblNumber", "LabelKopf", "lblDate", "lblRechnungsArt", "lblBuchnungsArt", "lblWahrung", "lblCount",
+          "lblMonth", "lblDay", "btnPrevious", "btnNext", "Label1(", "Command1("}) {
         if (name.starts_with(start)) return true;
     }
     return false;
@@ -66,8 +69,10 @@ protected:
     const standin::SelectionWords words{services.localizer(), session, base::Locale::german()};
     standin::F_Selection selection{display, words, {}, {}};
     standin::F_LookupGrid codes{"", words.choiceCaptions(), {}, {}, true};
-    const std::vector<ui::Form*> forms{&editor, &header,     &list,      &calendar, &persons,
-                                       &prices, &quantities, &selection, &codes};
+    deductions::F_Abschlag deductionLines{host};
+    standin::F_Models models{display, standin::ModelStore{*session.connection, "ABSCHLAG"}, {}, {}, {}, ""};
+    const std::vector<ui::Form*> forms{&editor,     &header,    &list,  &calendar,       &persons, &prices,
+                                       &quantities, &selection, &codes, &deductionLines, &models};
 };
 
 TEST_F(Localizing, EveryCaptionHasAnEnglishText) {

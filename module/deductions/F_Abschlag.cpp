@@ -1,0 +1,388 @@
+#include "module/deductions/F_Abschlag.h"
+
+#include "module/base/StatementText.h"
+#include "module/base/field_text.h"
+#include "module/base/text.h"
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/typed_text.h"
+#include "module/ui/RefusedInput.h"
+#include "module/ui/caption.h"
+
+namespace tellurix::deductions {
+
+using base::OwnText;
+using base::StatementText;
+
+namespace {
+
+constexpr const char* table = "ABSCHLAG";
+constexpr const char* articlesOfGoods = "WAREN";
+constexpr const char* articleChosen = "1LV";
+/// Item data of a model that the calculation has and the model service does not.
+constexpr std::int64_t notKept = 0;
+/// The statistics, by their position, whose lines may apply to a subset of the goods.
+constexpr int firstWithSubset = 1;
+constexpr int lastWithSubset = 12;
+
+/// A character beyond it has no key code to be checked with; the mask refuses it anyway.
+constexpr char32_t lastKeyCode = 0x7FFF;
+
+} // namespace
+
+F_Abschlag::F_Abschlag(host::HostServices& services)
+    : Form("F_Abschlag", "Zu - / Abschlag Modell"), services_(services), table_(*this, services.locale) {
+    connect();
+    setLayout(ui::column({
+        ui::row({ui::field(lblModell_, CmbModel), btnModels}),
+        table_.layout(),
+        ui::row({btnOk, btnAbbrechen}),
+    }));
+}
+
+void F_Abschlag::connect() {
+    table_.onChange = [this] { changed_ = typed_ = true; };
+    for (std::size_t line = 0; line < LineTable::size; ++line) {
+        table_.Command1[line].onClick = [this, line] { FindWarenId(line); };
+        table_.Command2[line].onClick = [this, line] { selectSubset(line); };
+        table_.Check1[line].onClick = [this, line] { tickSubset(line); };
+        ui::TextBox& value = table_.TextWert[line];
+        value.onKeyPress = [this, mask = std::move(value.onKeyPress)](char32_t& key) {
+            if (key <= lastKeyCode &&
+                parts::CheckKeyForColumn(session_, *this, static_cast<std::int16_t>(key), table, "WERT_TEXT",
+                                         services_.locale) == 0)
+                key = 0;
+            if (key != 0) mask(key);
+        };
+    }
+    CmbModel.onChange = [this] { chooseModel(); };
+    btnModels.onClick = [this] { manageModels(); };
+    btnOk.onClick = [this] { save(); };
+    btnAbbrechen.onClick = [this] { cancel(); };
+    btnAbbrechen.setCausesValidation(false);
+    setCancelButton(btnAbbrechen);
+}
+
+std::string F_Abschlag::Run(const host::TlxVar& session, std::int16_t mode, const std::string& calculation) {
+    session_ = session;
+    statements_ = CalculationStatements{calculation, base::toUpper(host::moduleState().context.VerType)};
+    model_ = storedModel_ = ReadModelColumn("ABS_MODEL");
+    RunActions(session, mode);
+    const int width = services_.columnWidth.of(session_, table, "BEZEICH");
+    for (ui::TextBox& designation : table_.TextBez)
+        designation.setMaxLength(width);
+    services_.localizer.localize(session_, *this);
+    services_.display.showModal(*this);
+    return storedModel_;
+}
+
+void F_Abschlag::RunActions(const host::TlxVar& session, std::int16_t mode) {
+    session_ = session;
+    mode_ = mode;
+    changed_ = typed_ = done_ = false;
+    partlySaved_.reset();
+    loadLists();
+    table_.start(session_.language);
+    SetNullValues();
+    LoadLines();
+}
+
+void F_Abschlag::loadLists() {
+    services_.models.fill(session_, CmbModel, category(nullptr));
+    for (ui::ComboBox& list : table_.CmbStat)
+        FillStatCombo(list);
+}
+
+void F_Abschlag::FillStatCombo(ui::ComboBox& list) {
+    list.clear();
+    // clang-format off
+    auto statistic = session_.connection->open(
+        "SELECT * FROM STATISTIK WHERE TEXT IS NOT NULL ORDER BY STATISTIK_ID");
+    // clang-format on
+    for (; !statistic->atEnd(); statistic->moveNext())
+        list.add(statistic->text("TEXT"), statistic->integer("STATISTIK_ID"));
+}
+
+void F_Abschlag::SetNullValues() {
+    for (std::size_t line = 0; line < LineTable::size; ++line) {
+        table_.Check1[line].setChecked(false);
+        table_.Command2[line].setToolTip("");
+    }
+}
+
+std::string F_Abschlag::ReadModelColumn(const std::string& column) {
+    const auto model = session_.connection->open(statements_.readModelColumn(column));
+    return model->atEnd() ? std::string{} : model->text(column);
+}
+
+void F_Abschlag::LoadLines() {
+    auto row = session_.connection->open(statements_.readLines());
+    if (!row->atEnd()) model_ = row->text("ABS_MODEL");
+    for (; !row->atEnd(); row->moveNext()) {
+        const std::int64_t number = row->integer("LINE_NUM", -1);
+        // What no line of the screen can show is not touched before the lines are saved.
+        if (number < 0 || number >= static_cast<std::int64_t>(LineTable::size)) continue;
+        const auto line = static_cast<std::size_t>(number);
+        table_.show(line, {.statistic = static_cast<int>(
+                               row->integer("STATISTIK", host::CalculationLine::noStatistic)),
+                           .designation = row->text("BEZEICH"),
+                           .value = row->text("WERT_TEXT"),
+                           .references = row->text("WERT_LINE"),
+                           .subset = row->text("SUBSET_DEF"),
+                           .article = static_cast<std::int32_t>(row->integer("ART_ID"))});
+        FillSubset(line);
+    }
+    showModel();
+    table_.refresh();
+}
+
+std::optional<LineFault> F_Abschlag::fault() const {
+    std::array<CheckedLine, LineTable::size> all;
+    for (std::size_t line = 0; line < all.size(); ++line)
+        all[line] = table_.checked(line);
+    return firstFault(all, services_.locale);
+}
+
+void F_Abschlag::save() {
+    if (const auto wrong = fault()) {
+        parts::ShowMessage(services_.display,
+                           services_.localizer.text(host::textNumber::invalidEntry, session_),
+                           ui::box::exclamation);
+        table_.mark(*wrong);
+        return;
+    }
+    requireTexts();
+    PartlySaved saved;
+    for (std::size_t line = 0; line < LineTable::size; ++line)
+        saved.of += IsCorectLine(line) ? 1U : 0U;
+    DeleteLines();
+    try {
+        writeLines(saved);
+    } catch (const std::exception& error) {
+        changed_ = true;
+        partlySaved_ = saved;
+        services_.errors.report(error);
+        throw base::Refused{
+            {{OwnText::someLinesSaved, {std::to_string(saved.lines), std::to_string(saved.of)}}}};
+    }
+    // Where there is no line there is none that keeps the name.
+    storedModel_ = saved.of == 0 ? "" : model_;
+    done_ = true;
+    unload();
+    host::moduleState().context.blnOK = host::Boolean16::True;
+}
+
+void F_Abschlag::requireTexts() {
+    for (std::size_t line = 0; line < LineTable::size; ++line) {
+        if (!IsCorectLine(line)) continue;
+        for (ui::TextBox* box : {&table_.TextBez[line], &table_.TextWert[line], &table_.txtWert[line]})
+            static_cast<void>(parts::typedText(*box));
+    }
+    try {
+        static_cast<void>(statements_.updateModelColumn("ABS_MODEL", model_));
+    } catch (const base::StatementError& error) {
+        auto message = base::refusedValue(error.value(), ui::plainCaption(lblModell_.caption()));
+        message.push_back({error.reason()});
+        throw ui::RefusedInput{CmbModel, std::move(message)};
+    }
+}
+
+void F_Abschlag::writeLines(PartlySaved& saved) {
+    for (std::size_t line = 0; line < LineTable::size; ++line) {
+        if (!IsCorectLine(line)) continue;
+        SaveLine(line);
+        ++saved.lines;
+    }
+    UpdateModelColumn("ABS_MODEL", model_);
+    for (std::size_t line = 0; line < LineTable::size; ++line) {
+        if (IsCorectLine(line)) table_.Check1[line].setChecked(!FindSubset(line).empty());
+    }
+}
+
+void F_Abschlag::SaveLine(std::size_t line) {
+    session_.connection->execute(statements_.insertLine(line));
+    const auto set = [&](const char* column, const std::string& value) {
+        services_.columnUpdate.set(session_, table, column, value, statements_.conditionOf(line));
+    };
+    const host::CalculationLine values = table_.read(line);
+    set("STATISTIK", std::to_string(values.statistic));
+    UpdateLineColumn("BEZEICH", values.designation, line);
+    set("WERT_TEXT", values.value);
+    set("WERT_LINE", values.references);
+    set("ART_ID", values.article < 1 ? "" : std::to_string(values.article));
+    if (values.statistic < firstWithSubset || values.statistic > lastWithSubset) SetSubset(line, "");
+    set("SUBSET_DEF", table_.subset(line));
+}
+
+void F_Abschlag::DeleteLines() {
+    session_.connection->execute(statements_.deleteLines());
+}
+
+void F_Abschlag::UpdateLineColumn(const std::string& column, const std::string& value, std::size_t line) {
+    session_.connection->execute(statements_.updateLineColumn(column, value, line));
+}
+
+void F_Abschlag::UpdateModelColumn(const std::string& column, const std::string& value) {
+    session_.connection->execute(statements_.updateModelColumn(column, value));
+}
+
+std::string F_Abschlag::FindSubset(std::size_t line) {
+    const auto row = session_.connection->open(statements_.readSubset(line));
+    return row->atEnd() ? std::string{} : row->text("SUBSET_DEF");
+}
+
+void F_Abschlag::SetSubset(std::size_t line, const std::string& subset) {
+    table_.setSubset(line, subset);
+    FillSubset(line);
+}
+
+void F_Abschlag::FillSubset(std::size_t line) {
+    table_.Check1[line].setChecked(!table_.subset(line).empty());
+    table_.Command2[line].setToolTip(table_.subset(line));
+}
+
+void F_Abschlag::selectSubset(std::size_t line) {
+    const host::HostContext& context = host::moduleState().context;
+    const auto chosen =
+        services_.selectionDialog.edit(session_, table_.subset(line), base::toUpper(context.StrVer_Type),
+                                       context.strServiceOut1, context.strServiceOut2);
+    if (!chosen) return;
+    SetSubset(line, std::string{base::trim(*chosen)});
+    table_.refresh();
+    table_.onChange();
+}
+
+void F_Abschlag::tickSubset(std::size_t line) {
+    if (!table_.Check1[line].checked()) {
+        SetSubset(line, "");
+        table_.refresh();
+        table_.onChange();
+        return;
+    }
+    // A tick without a subset would say something that is not so, whatever becomes of the dialog.
+    FillSubset(line);
+    selectSubset(line);
+}
+
+void F_Abschlag::FindWarenId(std::size_t line) {
+    host::HostContext& context = host::moduleState().context;
+    const ui::BusyPointer busy{services_.display};
+    const std::int32_t article = services_.catalogue.choose(
+        session_, articlesOfGoods, base::toUpper(context.StrVer_Type), table_.article(line));
+    if (article > 0) FillWarenId(line, article);
+    services_.moduleService.request(session_, articleChosen, std::to_string(mode_), context.strServiceOut1,
+                                    context.strServiceOut2);
+}
+
+void F_Abschlag::FillWarenId(std::size_t line, std::int32_t article) {
+    table_.setArticle(line, article);
+    changed_ = typed_ = true;
+    FillFields(line);
+    table_.refresh();
+}
+
+void F_Abschlag::FillFields(std::size_t line) {
+    const auto ofArticle = [&](std::string_view query) {
+        return session_.connection->open(StatementText{query}.number(table_.article(line)).text());
+    };
+    {
+        // The formula is read for whoever computes the invoice some day; the screen has no place for it.
+        const auto article =
+            ofArticle("SELECT BEZEICH1, ID_FORMULA, EINHPREIS FROM WARENKATALOG WHERE ART_ID = ");
+        if (article->atEnd()) return;
+        table_.setDesignation(line, article->text("BEZEICH1"));
+        table_.TextWert[line].setText(
+            base::numberText(article->field("EINHPREIS"), "#0.00", services_.locale));
+    }
+    const auto article = ofArticle("SELECT SUBSET_DEF FROM WARENKATALOG WHERE ART_ID = ");
+    SetSubset(line, article->atEnd() ? std::string{} : article->text("SUBSET_DEF"));
+}
+
+std::string F_Abschlag::category(host::HostMainWindow* mainWindow) const {
+    return parts::GetTypeColumn(table, base::toUpper(host::moduleState().context.StrVer_Type), mainWindow);
+}
+
+void F_Abschlag::chooseModel() {
+    const int index = CmbModel.selected();
+    if (index == ui::ItemList::none) return;
+    const ui::ItemList::Item chosen = CmbModel.items()[static_cast<std::size_t>(index)];
+    if (chosen.text == model_) return;
+    const bool replaces = !typed_ || confirmed(OwnText::replaceByModel, {chosen.text});
+    if (!replaces) {
+        showModel();
+        return;
+    }
+    try {
+        if (chosen.itemData != notKept)
+            services_.models.copy(session_, category(host::moduleState().context.F_Main.get()),
+                                  static_cast<std::int32_t>(chosen.itemData), *this);
+    } catch (...) {
+        showModel();
+        throw;
+    }
+    model_ = chosen.text;
+    changed_ = true;
+    typed_ = false;
+}
+
+void F_Abschlag::manageModels() {
+    if (!CheckFields()) return;
+    services_.models.manage(session_, category(nullptr), *this, CmbModel);
+    if (CmbModel.selected() != ui::ItemList::none && CmbModel.selectedText() != model_) {
+        model_ = CmbModel.selectedText();
+        changed_ = true;
+    }
+    showModel();
+}
+
+void F_Abschlag::showModel() {
+    const auto found = [this] {
+        for (std::size_t i = 0; i < CmbModel.items().size(); ++i)
+            if (CmbModel.items()[i].text == model_) return static_cast<int>(i);
+        return ui::ItemList::none;
+    };
+    if (!model_.empty() && found() == ui::ItemList::none) CmbModel.add(model_, notKept);
+    CmbModel.select(found());
+}
+
+host::CalculationLines F_Abschlag::lines() const {
+    host::CalculationLines all;
+    for (std::size_t line = 0; line < all.size(); ++line)
+        all[line] = table_.read(line);
+    return all;
+}
+
+void F_Abschlag::setLines(const host::CalculationLines& lines) {
+    for (std::size_t line = 0; line < lines.size(); ++line) {
+        table_.show(line, lines[line]);
+        FillSubset(line);
+    }
+    table_.refresh();
+}
+
+bool F_Abschlag::confirmed(OwnText question, const std::vector<std::string>& values) {
+    return parts::ShowMessage(services_.display, base::ownText(question, session_.language, values),
+                              ui::box::yesNo + ui::box::question + ui::box::defaultButton2) ==
+           ui::Answer::yes;
+}
+
+void F_Abschlag::cancel() {
+    // What a failed save has left is asked about like anything that is lost.
+    done_ = !partlySaved_;
+    unload();
+}
+
+bool F_Abschlag::queryUnload() {
+    if (!done_ && changed_) {
+        const bool leaves =
+            partlySaved_ ? confirmed(OwnText::closePartlySaved,
+                                     {std::to_string(partlySaved_->lines), std::to_string(partlySaved_->of)})
+                         : confirmed(OwnText::closeChanged);
+        if (!leaves) return false;
+        done_ = true;
+    }
+    host::moduleState().context.blnOK = host::Boolean16::False;
+    return true;
+}
+
+} // namespace tellurix::deductions

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "module/base/own_text.h"
+#include "module/deductions/CalculationStatements.h"
+#include "module/deductions/LineTable.h"
+#include "module/host/module_state.h"
+#include "module/host/services.h"
+#include "module/ui/Form.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace tellurix::deductions {
+
+/// The surcharge and deduction lines of one calculation, and the model that they were taken from.
+///
+/// "Ok" deletes the lines of the calculation and writes those of the screen anew, one statement at a
+/// time. A failure in between leaves part of them, tells how many, and keeps the screen open with
+/// everything in it: another "Ok" writes all. "Abbrechen" writes nothing.
+class F_Abschlag final : public ui::Form, public host::Screen, private host::CalculationForm {
+public:
+    explicit F_Abschlag(host::HostServices& services);
+
+    /// Edits the lines and returns when the screen is closed.
+    /// @param mode handed on to the host after an article was chosen
+    /// @param calculation its name, which is the contract's
+    /// @return the name of the model as it is stored then, empty for none
+    std::string Run(const host::TlxVar& session, std::int16_t mode, const std::string& calculation);
+    /// Starts with empty lines and loads those of the calculation.
+    void RunActions(const host::TlxVar& session, std::int16_t mode);
+
+    /// A statistic and a value are there. Lines count from 0, here and below.
+    bool IsCorectLine(std::size_t line) const { return table_.checked(line).complete(); }
+    /// All lines can be saved.
+    bool CheckFields() const { return !fault().has_value(); }
+    /// Reads, keeps and shows the subset of a line.
+    std::string FindSubset(std::size_t line);
+    void SetSubset(std::size_t line, const std::string& subset);
+    void FillSubset(std::size_t line);
+    /// Lets the user choose the article of a line, and shows it.
+    void FindWarenId(std::size_t line);
+    void FillWarenId(std::size_t line, std::int32_t article);
+    /// Takes designation, price and subset of a line from its article.
+    void FillFields(std::size_t line);
+    /// Clears the tick and the button of the subset in all lines.
+    void SetNullValues();
+    /// Fills one list of statistics.
+    void FillStatCombo(ui::ComboBox& list);
+
+private:
+    /// How far a save came that failed.
+    struct PartlySaved {
+        std::size_t lines = 0;
+        std::size_t of = 0;
+    };
+
+    void connect();
+    void loadLists();
+    void LoadLines();
+    std::string ReadModelColumn(const std::string& column);
+    std::optional<LineFault> fault() const;
+
+    void save();
+    void writeLines(PartlySaved& saved);
+    void SaveLine(std::size_t line);
+    void DeleteLines();
+    void UpdateLineColumn(const std::string& column, const std::string& value, std::size_t line);
+    void UpdateModelColumn(const std::string& column, const std::string& value);
+    /// Composes what cannot be sent with every text before anything is deleted.
+    /// @throws ui::RefusedInput naming the control whose text no statement can carry
+    void requireTexts();
+
+    void selectSubset(std::size_t line);
+    void tickSubset(std::size_t line);
+    void chooseModel();
+    void manageModels();
+    /// Selects the model of that name; one that is no longer kept is shown all the same.
+    void showModel();
+    std::string category(host::HostMainWindow* mainWindow) const;
+
+    host::CalculationLines lines() const override;
+    void setLines(const host::CalculationLines& lines) override;
+
+    bool confirmed(base::OwnText question, const std::vector<std::string>& values = {});
+    void cancel();
+    bool queryUnload() override;
+
+    host::HostServices& services_;
+    host::TlxVar session_;
+    std::int16_t mode_ = 0;
+    CalculationStatements statements_;
+    std::string model_;       ///< shown, and written by the next save
+    std::string storedModel_; ///< of the calculation as it is stored
+    bool changed_ = false;    ///< by the user, since the lines were read
+    bool typed_ = false;      ///< by the user, since the lines were read or taken from a model
+    bool done_ = false;       ///< saved or cancelled: the window closes without a question
+    std::optional<PartlySaved> partlySaved_;
+
+    ui::Label lblModell_{*this, "lblModell", "Modell"};
+    ui::ComboBox CmbModel{*this, "CmbModel", 40};
+    ui::Button btnModels{*this, "btnModels", "Modelle"};
+    LineTable table_;
+    ui::Button btnOk{*this, "btnOk", "Ok"};
+    ui::Button btnAbbrechen{*this, "btnAbbrechen", "Abbrechen"};
+};
+
+} // namespace tellurix::deductions
