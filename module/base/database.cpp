@@ -33,42 +33,42 @@ std::string plainNumber(double number) {
 
 } // namespace
 
-std::size_t Recordset::fieldIndex(std::string_view name) const {
+std::size_t Fields::fieldIndex(std::string_view name) const {
     for (std::size_t index = 0; index < fieldCount(); ++index)
         if (sameName(fieldName(index), name)) return index;
     throw DatabaseError(DatabaseErrorCategory::unknownName, "There is no field " + std::string(name), {});
 }
 
-std::int64_t Recordset::integer(std::string_view name, std::int64_t ifNull) {
-    const Value value = field(name);
+std::int64_t Fields::integer(std::size_t index, std::int64_t ifNull) {
+    const Value value = field(index);
     if (std::holds_alternative<Null>(value)) return ifNull;
     if (const auto* const flag = std::get_if<bool>(&value)) return *flag ? 1 : 0;
     if (const auto* const number = std::get_if<std::int64_t>(&value)) return *number;
     if (const auto* const number = std::get_if<Decimal>(&value)) return number->rounded(0).units();
     if (const auto* const number = std::get_if<double>(&value)) {
         constexpr double limit = 9.2e18;
-        if (!(*number > -limit && *number < limit)) failConversion(name, "integer that fits 64 bits");
+        if (!(*number > -limit && *number < limit)) failConversion(fieldName(index), "integer that fits 64 bits");
         return std::llround(*number);
     }
     if (const auto* const text = std::get_if<std::string>(&value)) {
         const auto number = Decimal::parse(*text);
         if (number && number->rounded(0) == *number) return number->rounded(0).units();
     }
-    failConversion(name, "integer");
+    failConversion(fieldName(index), "integer");
 }
 
-std::string Recordset::text(std::string_view name, std::string_view ifNull) {
-    Value value = field(name);
+std::string Fields::text(std::size_t index, std::string_view ifNull) {
+    Value value = field(index);
     if (auto* const text = std::get_if<std::string>(&value)) return std::move(*text);
     if (std::holds_alternative<Null>(value)) return std::string(ifNull);
     if (const auto* const flag = std::get_if<bool>(&value)) return *flag ? "1" : "0";
     if (const auto* const number = std::get_if<std::int64_t>(&value)) return std::to_string(*number);
     if (const auto* const number = std::get_if<Decimal>(&value)) return number->toString();
     if (const auto* const number = std::get_if<double>(&value)) return plainNumber(*number);
-    failConversion(name, "text");
+    failConversion(fieldName(index), "text");
 }
 
-bool Recordset::flag(std::string_view name, bool ifNull) {
+bool Fields::flag(std::string_view name, bool ifNull) {
     const Value value = field(name);
     if (const auto* const flag = std::get_if<bool>(&value)) return *flag;
     if (std::holds_alternative<Null>(value)) return ifNull;

@@ -84,22 +84,14 @@ private:
     std::string sqlState_;
 };
 
-/// The rows that a statement answered with, read forward, one at a time. It starts on the first
-/// row; its columns and their types are known before any row is fetched. Closed by destruction.
-class Recordset {
+/// What one row holds, by the number and by the name of its fields.
+class Fields {
 public:
-    virtual ~Recordset() = default;
+    virtual ~Fields() = default;
 
     virtual std::size_t fieldCount() const = 0;
     virtual std::string fieldName(std::size_t index) const = 0;
-    virtual FieldType fieldType(std::size_t index) const = 0;
-    /// Most characters that a text column takes; 0 where there is no limit, and for other types.
-    virtual int textWidth(std::size_t index) const = 0;
-
-    /// True when there is no (further) row.
-    virtual bool atEnd() = 0;
-    virtual void moveNext() = 0;
-    /// The value of the current row's field.
+    /// The value of the row's field.
     virtual Value field(std::size_t index) = 0;
 
     /// The first column of that name, in any case of its letters.
@@ -109,9 +101,28 @@ public:
 
     /// Field readers that say what NULL becomes. A number that does not fit, or a text that is no
     /// number, is a DatabaseError (conversion).
-    std::int64_t integer(std::string_view name, std::int64_t ifNull = 0);
-    std::string text(std::string_view name, std::string_view ifNull = "");
+    std::int64_t integer(std::size_t index, std::int64_t ifNull = 0);
+    std::int64_t integer(std::string_view name, std::int64_t ifNull = 0) {
+        return integer(fieldIndex(name), ifNull);
+    }
+    std::string text(std::size_t index, std::string_view ifNull = "");
+    std::string text(std::string_view name, std::string_view ifNull = "") {
+        return text(fieldIndex(name), ifNull);
+    }
     bool flag(std::string_view name, bool ifNull = false);
+};
+
+/// The rows that a statement answered with, read forward, one at a time. It starts on the first
+/// row; its columns and their types are known before any row is fetched. Closed by destruction.
+class Recordset : public Fields {
+public:
+    virtual FieldType fieldType(std::size_t index) const = 0;
+    /// Most characters that a text column takes; 0 where there is no limit, and for other types.
+    virtual int textWidth(std::size_t index) const = 0;
+
+    /// True when there is no (further) row.
+    virtual bool atEnd() = 0;
+    virtual void moveNext() = 0;
 };
 
 /// A recordset whose rows can be changed in place, for the few places that edit a row: set the

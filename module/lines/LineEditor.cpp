@@ -242,8 +242,7 @@ void LineEditor::startEdit() {
 
 std::int64_t LineEditor::createRow() {
     session_.connection->execute(statements_.insert());
-    const auto newest = session_.connection->open(statements_.newestKey());
-    return std::get<std::int64_t>(newest->field(std::size_t{0}));
+    return session_.connection->open(statements_.newestKey())->integer(0);
 }
 
 void LineEditor::StoreSelection(const std::string& literal) {

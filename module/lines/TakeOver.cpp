@@ -25,8 +25,7 @@ void append(StatementText& statement, const Value& field) {
 
 std::int64_t existingLines(base::Connection& connection, std::string_view query, std::int32_t contract) {
     StatementText text{query};
-    const auto count = connection.open(text.number(contract).text());
-    return std::get<std::int64_t>(count->field(std::size_t{0}));
+    return connection.open(text.number(contract).text())->integer(0);
 }
 
 /// What is read and written for one kind of lines.

@@ -1,6 +1,7 @@
 #include "standin/services/pickers/F_Calendar.h"
 
 #include "module/base/date_format.h"
+#include "module/base/iso_week.h"
 
 #include <algorithm>
 
@@ -20,22 +21,9 @@ constexpr int daysOfWeek = 7;
 constexpr Date firstDay{std::chrono::year{1753}, std::chrono::January, std::chrono::day{1}};
 constexpr Date lastDay{std::chrono::year{9999}, std::chrono::December, std::chrono::day{31}};
 
-/// How many days a day is after its Monday.
-int daysAfterMonday(Date day) {
-    return static_cast<int>(std::chrono::weekday{local_days{day}}.iso_encoding()) - 1;
-}
-
-/// The ISO number of the week that starts with this Monday: it belongs to the year of its Thursday.
-int isoWeekOf(local_days monday) {
-    const local_days thursday = monday + days{3};
-    const local_days newYear{Date{thursday}.year() / std::chrono::January / 1};
-    return static_cast<int>((thursday - newYear).count()) / daysOfWeek + 1;
-}
-
 /// The Monday of the first week that a month has days in.
 local_days firstMonday(Date month) {
-    const Date first{month.year(), month.month(), std::chrono::day{1}};
-    return local_days{first} - days{daysAfterMonday(first)};
+    return local_days{base::mondayOf(Date{month.year(), month.month(), std::chrono::day{1}})};
 }
 
 } // namespace
@@ -139,14 +127,14 @@ void F_Calendar::show() {
         for (int weekday = 0; weekday < daysOfWeek; ++weekday) {
             const Date day{monday + days{weekday}};
             const bool inMonth = day.month() == day_.month();
-            if (inMonth) row.front() = std::to_string(isoWeekOf(monday));
+            if (inMonth) row.front() = std::to_string(base::isoWeekOf(day).week);
             row.push_back(inMonth ? std::to_string(static_cast<unsigned>(day.day())) : "");
         }
         weeks.push_back(std::move(row));
     }
     grdDays.setRows(std::move(weeks));
-    grdDays.setCurrent(static_cast<int>((local_days{day_} - first).count()) / daysOfWeek,
-                       daysAfterMonday(day_) + 1);
+    const int place = static_cast<int>((local_days{day_} - first).count());
+    grdDays.setCurrent(place / daysOfWeek, place % daysOfWeek + 1);
     lblMonth.setCaption(base::formatDate(day_, "mmmm yyyy", locale_));
     lblDay.setCaption(base::formatDate(day_, "dddd", locale_) + ", " + base::dateText(day_));
 }

@@ -84,7 +84,7 @@ std::vector<std::string> KeyedListsService::find(const host::TlxVar& session, co
     }
     std::vector<std::string> keys;
     for (auto row = session.connection->open(query.text()); !row->atEnd(); row->moveNext())
-        keys.push_back(row->text(row->fieldName(0)));
+        keys.push_back(row->text(0));
     return keys;
 }
 

@@ -14,7 +14,7 @@ namespace {
 /// as the database writes it, because the answer goes back into a query.
 std::string entryText(base::Recordset& rows, std::size_t field) {
     if (rows.fieldType(field) == base::FieldType::dateTime) return base::dateText(rows.field(field));
-    return rows.text(rows.fieldName(field));
+    return rows.text(field);
 }
 
 F_ListPicker::List listOf(base::Recordset& rows) {

@@ -33,7 +33,7 @@ bool LookupValidationService::resolve(const host::TlxVar& session, std::int32_t 
     }
     const auto found = session.connection->open(query);
     if (!found->atEnd()) {
-        answer(found->text(found->fieldName(0)),
+        answer(found->text(0),
                displayColumn.empty() ? std::string{} : found->text(displayColumn));
         return true;
     }
