@@ -25,7 +25,7 @@ public:
     bool causesValidation() const { return causesValidation_; }
     void setCausesValidation(bool causes) { causesValidation_ = causes; }
 
-    std::function<void()> onClick;
+    Handlers<void()> onClick;
 
 private:
     std::string caption_;

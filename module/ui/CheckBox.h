@@ -20,7 +20,7 @@ public:
     void setChecked(bool checked) { change(checked_, checked); }
 
     /// The user ticked or cleared it.
-    std::function<void()> onClick;
+    Handlers<void()> onClick;
 
 private:
     std::string caption_;

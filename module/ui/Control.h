@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/ui/Handlers.h"
 #include "module/ui/keys.h"
 
 #include <array>
@@ -67,12 +68,12 @@ public:
     bool showing() const;
 
     /// Called when the control has got the focus.
-    std::function<void()> onFocus;
+    Handlers<void()> onFocus;
     /// Called when the user goes on to another control. False takes the focus back.
-    std::function<bool()> onLeave;
+    Handlers<bool()> onLeave;
     /// Called for every key that goes down while the control has the focus, before the shared
     /// rules of input. A handler that used the key up sets `key` to Key::none.
-    std::function<void(KeyDown&)> onKeyDown;
+    Handlers<void(KeyDown&)> onKeyDown;
 
     bool dirty() const { return dirty_; }
     /// It has to be drawn again, because a display may show something else.

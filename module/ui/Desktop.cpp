@@ -28,10 +28,6 @@ bool editable(const TextBox* box) {
     return box != nullptr && box->changeable();
 }
 
-void call(const std::function<void()>& handler) {
-    if (handler) handler();
-}
-
 /// Whether a click, Space and its access key press it.
 bool isPressed(const Control& control) {
     return as<Button>(&control) != nullptr || as<CheckBox>(&control) != nullptr;
@@ -109,10 +105,10 @@ void Desktop::press(Form& form, Control& control) {
     const bool checks = button == nullptr || button->causesValidation();
     if (checks ? !moveFocus(form, control) : !form.setFocus(control)) return;
     if (button != nullptr) {
-        call(button->onClick);
+        button->onClick();
     } else if (CheckBox* check = as<CheckBox>(&control)) {
         check->setChecked(!check->checked());
-        call(check->onClick);
+        check->onClick();
     }
 }
 
@@ -125,7 +121,7 @@ void Desktop::pick(Form& form, Control& control) {
 
 void Desktop::typeCharacter(TextBox& box, char32_t character) {
     if (box.onKeyPress) box.onKeyPress(character);
-    if (character != 0 && box.typeOver(base::encodeUtf8(character))) call(box.onChange);
+    if (character != 0 && box.typeOver(base::encodeUtf8(character))) box.onChange();
 }
 
 void Desktop::typeText(TextBox& box, const std::string& text) {
@@ -140,7 +136,7 @@ void Desktop::typeText(TextBox& box, const std::string& text) {
             if (character != 0 && box.typeOver(base::encodeUtf8(character))) changed = true;
         }
     }
-    if (changed) call(box.onChange);
+    if (changed) box.onChange();
 }
 
 void Desktop::handle(Form& form, const KeyDownEvent& event) {
@@ -234,7 +230,7 @@ void Desktop::handle(Form& form, const TextEditedEvent& event) {
     if (!editable(&box) || !moveFocus(form, box)) {
         box.markDirty(); // the display shows what has not come about
     } else if (box.edited(event.text, event.selectionStart, event.selectionLength)) {
-        call(box.onChange);
+        box.onChange();
     } else {
         // Something that helps the user type has written it.
         box.selectAll();
@@ -258,7 +254,7 @@ void Desktop::handle(Form& form, const ClickEvent& event) {
 void Desktop::handle(Form& form, const StepEvent& event) {
     UpDown* upDown = as<UpDown>(event.control);
     if (upDown == nullptr || !upDown->usable() || !moveFocus(form, *upDown)) return;
-    call(event.up ? upDown->onUp : upDown->onDown);
+    (event.up ? upDown->onUp : upDown->onDown)();
 }
 
 void Desktop::handle(Form& form, const SelectEvent& event) {
@@ -268,12 +264,12 @@ void Desktop::handle(Form& form, const SelectEvent& event) {
 
 void Desktop::handle(Form& form, const DoubleClickEvent& event) {
     if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
-    if (Grid* grid = as<Grid>(event.control)) call(grid->onDoubleClick);
-    if (ListBox* list = as<ListBox>(event.control)) call(list->onDoubleClick);
+    if (Grid* grid = as<Grid>(event.control)) grid->onDoubleClick();
+    if (ListBox* list = as<ListBox>(event.control)) list->onDoubleClick();
 }
 
 void Desktop::handle(Form&, const ScrollEvent& event) {
-    if (Grid* grid = as<Grid>(event.control)) call(grid->onScroll);
+    if (Grid* grid = as<Grid>(event.control)) grid->onScroll();
 }
 
 void Desktop::handle(Form& form, const PickEvent& event) {

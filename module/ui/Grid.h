@@ -65,14 +65,14 @@ public:
     void drawn() override;
 
     /// The user moved the current cell.
-    std::function<void()> onCurrentChange;
+    Handlers<void()> onCurrentChange;
     /// A double click on the current cell, or Enter on it.
-    std::function<void()> onDoubleClick;
+    Handlers<void()> onDoubleClick;
     /// A character was typed while the grid had the focus.
-    std::function<void(char32_t)> onKeyPress;
+    Handlers<void(char32_t)> onKeyPress;
     /// The user scrolled while a cell was being edited, which ends with it; told at other times it means
     /// nothing.
-    std::function<void()> onScroll;
+    Handlers<void()> onScroll;
 
 private:
     void markRowsDirty();

@@ -42,7 +42,7 @@ public:
     void drawn() override;
 
     /// The user selected an item.
-    std::function<void()> onChange;
+    Handlers<void()> onChange;
 
 private:
     std::vector<Item> items_;

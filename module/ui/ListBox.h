@@ -18,7 +18,7 @@ public:
     int rows() const { return rows_; }
     int pageSize() const override { return rows_; }
     /// The user chose the selected item: a double click, or Enter.
-    std::function<void()> onDoubleClick;
+    Handlers<void()> onDoubleClick;
 
 private:
     int rows_;

@@ -22,7 +22,7 @@ public:
     void select(int page) { change(selected_, page); }
 
     /// The user chose another page.
-    std::function<void()> onChange;
+    Handlers<void()> onChange;
 
 private:
     std::vector<std::string> captions_;

@@ -70,15 +70,15 @@ public:
     bool erase(int direction);
 
     /// A filter for typed characters: may replace the character, or swallow it by setting it to 0.
-    std::function<void(char32_t&)> onKeyPress;
+    Handlers<void(char32_t&)> onKeyPress;
     /// Puts a pasted text into the form in which it would be typed, before its characters go through
     /// the filter: "1.234,50" into "1234,50".
     std::function<std::string(const std::string&)> onPaste;
     /// The user changed the text.
-    std::function<void()> onChange;
+    Handlers<void()> onChange;
     /// Opens the box's picker; set for boxes that have one. The displays then offer Ctrl, F4 and a
     /// small button for it.
-    std::function<void()> onPick;
+    Handlers<void()> onPick;
 
 private:
     int length() const { return static_cast<int>(characters_.size()); }

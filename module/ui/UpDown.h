@@ -13,8 +13,8 @@ public:
 
     ControlKind kind() const override { return ownKind; }
 
-    std::function<void()> onUp;
-    std::function<void()> onDown;
+    Handlers<void()> onUp;
+    Handlers<void()> onDown;
 };
 
 } // namespace tellurix::ui

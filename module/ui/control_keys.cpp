@@ -13,10 +13,6 @@ namespace tellurix::ui {
 
 namespace {
 
-void call(const std::function<void()>& handler) {
-    if (handler) handler();
-}
-
 ItemList* asItemList(Control* control) {
     if (ItemList* list = as<ComboBox>(control)) return list;
     return as<ListBox>(control);
@@ -50,7 +46,7 @@ bool navigates(Key key) {
 
 void erase(TextBox& box, Key key) {
     if (!box.changeable() || (key != Key::backspace && key != Key::del)) return;
-    if (box.erase(key == Key::backspace ? -1 : +1)) call(box.onChange);
+    if (box.erase(key == Key::backspace ? -1 : +1)) box.onChange();
 }
 
 void moveInGrid(Grid& grid, Key key) {
@@ -78,15 +74,15 @@ void choose(Control& control, int index, int column) {
     if (Grid* grid = as<Grid>(&control)) {
         if (index == grid->currentRow() && column == grid->currentColumn()) return;
         grid->setCurrent(index, column);
-        call(grid->onCurrentChange);
+        grid->onCurrentChange();
     } else if (ItemList* list = asItemList(&control)) {
         if (index == list->selected()) return;
         list->select(index);
-        call(list->onChange);
+        list->onChange();
     } else if (Tabs* tabs = as<Tabs>(&control)) {
         if (index == tabs->selected()) return;
         tabs->select(index);
-        call(tabs->onChange);
+        tabs->onChange();
     }
 }
 
@@ -101,8 +97,8 @@ void applyKey(Control& control, Key key) {
     } else if (Tabs* tabs = as<Tabs>(&control)) {
         moveInTabs(*tabs, key);
     } else if (UpDown* upDown = as<UpDown>(&control)) {
-        if (key == Key::up) call(upDown->onUp);
-        if (key == Key::down) call(upDown->onDown);
+        if (key == Key::up) upDown->onUp();
+        if (key == Key::down) upDown->onDown();
     }
 }
 

@@ -353,6 +353,38 @@ TEST_F(InputRules, AnErrorInAnEventIsReportedAndTheWindowStaysWithWhatWasTyped) 
     });
 }
 
+TEST_F(InputRules, HandlersAreCalledInTheOrderThatIsSaid) {
+    std::string calls;
+    const auto called = [&calls](char name) { return [&calls, name] { calls += name; }; };
+    ui::Handlers<void()> handlers;
+    EXPECT_FALSE(handlers);
+    handlers(); // nobody is told
+    handlers.before(called('b'));
+    handlers.after(called('y'));
+    handlers = called('m');
+    handlers.before(called('a'));
+    handlers.after(called('z'));
+    handlers();
+    EXPECT_EQ(std::exchange(calls, ""), "abmyz");
+    handlers = called('M');
+    handlers();
+    EXPECT_EQ(std::exchange(calls, ""), "abMyz") << "the owner's handler takes the place of the former one";
+
+    ui::Handlers<bool()> questions;
+    EXPECT_TRUE(questions()) << "nobody objects";
+    const auto answers = [&](char name, bool answer) {
+        return [=] {
+            called(name)();
+            return answer;
+        };
+    };
+    questions = answers('m', false);
+    questions.before(answers('b', true));
+    questions.after(answers('y', true));
+    EXPECT_FALSE(questions());
+    EXPECT_EQ(calls, "bm") << "behind a refusal nobody is asked";
+}
+
 TEST_F(InputRules, ClosingCanBeRefused) {
     order.mayClose = false;
     work([&](User& user) {

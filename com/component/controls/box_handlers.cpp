@@ -2,20 +2,15 @@
 
 #include "com/component/controls/BoxObject.h"
 
-#include <utility>
-
 namespace tellurix::windows {
 
 namespace {
 
-/// The box's own handlers, each with the one that it had before.
 struct CharacterTyped {
     ui::TextBox* box;
     std::shared_ptr<BoxHandlers> handlers;
-    std::function<void(char32_t&)> before;
 
     void operator()(char32_t& character) const {
-        if (before) before(character);
         if (character == 0 || !handlers->keyPress) return;
         const Lent<BoxObject> lent(*box);
         character = static_cast<char32_t>(
@@ -27,24 +22,22 @@ struct CharacterTyped {
 struct TextChanged {
     ui::TextBox* box;
     std::shared_ptr<BoxHandlers> handlers;
-    std::function<void()> before;
 
     void operator()() const {
-        if (handlers->change) {
-            const Lent<BoxObject> lent(*box);
-            handlers->change.call(L"Change", {lent.argument()});
-        }
-        if (before) before();
+        if (!handlers->change) return;
+        const Lent<BoxObject> lent(*box);
+        handlers->change.call(L"Change", {lent.argument()});
     }
 };
 
 } // namespace
 
 BoxHandlers& handlersOf(ui::TextBox& box) {
-    if (const TextChanged* present = box.onChange.target<TextChanged>()) return *present->handlers;
+    if (const TextChanged* present = box.onChange.find<TextChanged>()) return *present->handlers;
     const auto handlers = std::make_shared<BoxHandlers>();
-    box.onKeyPress = CharacterTyped{&box, handlers, std::move(box.onKeyPress)};
-    box.onChange = TextChanged{&box, handlers, std::move(box.onChange)};
+    // Behind the box's filter, and before whoever looks at the text that the host has changed.
+    box.onKeyPress.after(CharacterTyped{&box, handlers});
+    box.onChange.before(TextChanged{&box, handlers});
     return *handlers;
 }
 

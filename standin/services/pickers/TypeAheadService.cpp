@@ -11,7 +11,7 @@ namespace tellurix::standin {
 
 namespace {
 
-/// What one box is completed from, kept by the handlers of the box.
+/// What one box is completed from, kept by its handlers below.
 class Completion {
 public:
     explicit Completion(ui::TextBox& box) : box_(box) {}
@@ -97,25 +97,18 @@ private:
     int completionStart_ = 0;
 };
 
-/// The box's handlers, each with the one that it had before.
 struct CharacterTyped {
     std::shared_ptr<Completion> completion;
-    std::function<void(char32_t&)> before;
 
     void operator()(char32_t& character) const {
-        if (before) before(character);
         if (character != 0) completion->characterTyped(character);
     }
 };
 
 struct TextChanged {
     std::shared_ptr<Completion> completion;
-    std::function<void()> before;
 
-    void operator()() const {
-        completion->textChanged();
-        if (before) before();
-    }
+    void operator()() const { completion->textChanged(); }
 };
 
 } // namespace
@@ -123,12 +116,13 @@ struct TextChanged {
 void TypeAheadService::bind(const host::TlxVar& session, ui::TextBox& box, const std::string& query,
                             const std::string& displayColumn) {
     // A box is bound on every focus; its handlers are put in once.
-    const TextChanged* bound = box.onChange.target<TextChanged>();
+    const TextChanged* bound = box.onChange.find<TextChanged>();
     const auto completion = bound != nullptr ? bound->completion : std::make_shared<Completion>(box);
     completion->offer(session, query, displayColumn);
     if (bound != nullptr) return;
-    box.onKeyPress = CharacterTyped{completion, std::move(box.onKeyPress)};
-    box.onChange = TextChanged{completion, std::move(box.onChange)};
+    // Behind the box's filter, and before whoever looks at the completed text.
+    box.onKeyPress.after(CharacterTyped{completion});
+    box.onChange.before(TextChanged{completion});
 }
 
 } // namespace tellurix::standin
