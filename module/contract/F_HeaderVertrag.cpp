@@ -6,11 +6,9 @@
 #include "module/base/text.h"
 #include "module/contract/contract_row.h"
 #include "module/contract/header_captions.h"
-#include "module/host/text_numbers.h"
-#include "module/parts/M_Common.h"
-#include "module/parts/typed_text.h"
+#include "module/parts/Assignments.h"
+#include "module/parts/date_box.h"
 #include "module/ui/caption.h"
-#include "module/ui/date_box.h"
 
 namespace tellurix::contract {
 
@@ -34,14 +32,14 @@ std::string numbered(const std::string& base, std::size_t index) {
 F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
     : Form("F_HeaderVertrag", "Kopf"),
       services_(services),
-      rechnungsart_(txtRechn, services, session_,
-                    [this] { return ui::plainCaption(lblRechnungsArt.caption()); },
-                    {.listQuery = "SELECT RECHNUNGSART AS SHORT FROM RECHNUNGSART",
-                     .keyQuery = "SELECT RART_ID,RECHNUNGSART  FROM RECHNUNGSART WHERE RECHNUNGSART = '"}),
-      buchungsart_(txtBuchn, services, session_,
-                   [this] { return ui::plainCaption(lblBuchnungsArt.caption()); },
-                   {.listQuery = "SELECT BUCHUNGSTEXT AS SHORT FROM BUCHNR",
-                    .keyQuery = "SELECT BUCHNR_ID,BUCHUNGSTEXT  FROM BUCHNR WHERE BUCHUNGSTEXT = '"}),
+      rechnungsart_(
+          txtRechn, services, session_, [this] { return ui::plainCaption(lblRechnungsArt.caption()); },
+          parts::queried("SELECT RECHNUNGSART AS SHORT FROM RECHNUNGSART",
+                         "SELECT RART_ID,RECHNUNGSART  FROM RECHNUNGSART WHERE RECHNUNGSART = '")),
+      buchungsart_(
+          txtBuchn, services, session_, [this] { return ui::plainCaption(lblBuchnungsArt.caption()); },
+          parts::queried("SELECT BUCHUNGSTEXT AS SHORT FROM BUCHNR",
+                         "SELECT BUCHNR_ID,BUCHUNGSTEXT  FROM BUCHNR WHERE BUCHUNGSTEXT = '")),
       mandant_(txtMandant[0], txtMandant[1], services, session_,
                {.pickerMode = "2PVM",
                 .validFilter = "PERSONAL_VALID_MANDANTEN",
@@ -63,15 +61,7 @@ F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
 
 void F_HeaderVertrag::connectDates() {
     const auto connect = [this](ui::TextBox& box, std::function<std::string()> title) {
-        ui::makeDateBox(box, [this] {
-            parts::ShowMessage(services_.display,
-                               services_.localizer.text(host::textNumber::invalidEntry, session_),
-                               ui::box::exclamation);
-        });
-        box.onPick = [this, &box, title = std::move(title)] {
-            box.setText(
-                services_.listPicker.choose(session_, host::ListPicker::calendar, title(), box.text()));
-        };
+        parts::makeDateBox(box, services_, session_, std::move(title));
     };
     connect(txtDate1, [this] { return lblVertragsDatum.caption(); });
     connect(txtDate2, [this] { return lblDate2.caption(); });
@@ -211,36 +201,25 @@ void F_HeaderVertrag::leaveCurrency() {
 
 std::string F_HeaderVertrag::updateStatement() {
     StatementText statement{"UPDATE VERTRAEGE SET "};
-    const auto date = [&](std::string_view assignment, const ui::TextBox& box) {
-        statement.fixed(assignment);
-        box.text().empty() ? statement.null()
-                           : statement.quotedAsItStands(services_.dateConverter.toSql(box.text(), session_));
-    };
-    const auto numberOrNull = [&](std::string_view assignment, const std::string& text, bool isNumber) {
-        statement.fixed(assignment);
-        isNumber ? statement.number(text) : statement.null();
-    };
-    const auto isNumeric = [this](const std::string& text) {
-        return base::isNumeric(text, services_.locale);
+    parts::Assignments assign{statement, services_, session_};
+    const auto person = [this](const parts::PersonBox& box) {
+        return base::isNumeric(box.key(), services_.locale) ? box.key() : std::string{};
     };
 
-    date("INVDATE = ", txtDate1);
-    date(",DATE1 = ", txtDate2);
-    date(",DATE2 = ", txtDate3);
-    date(",DATE3 = ", txtDate4);
-    date(",LIEFERVON = ", txtLieferVon);
-    date(",LIEFERBIS = ", txtLieferBis);
-    for (std::size_t i = 0; i < numbers_.size(); ++i) {
-        const auto number = numbers_[i].number();
-        numberOrNull(numbered(",NUMM", i) + " = ", number.value_or(""), number.has_value());
-    }
-    for (std::size_t i = 0; i < txtKopf.size(); ++i) {
-        statement.fixed(numbered(",KOPF", i) + " = ").quotedAsItStandsOrNull(parts::typedText(txtKopf[i]));
-    }
-    numberOrNull(",RART_ID = ", rechnungsart_.key(), !rechnungsart_.key().empty());
-    numberOrNull(",BUCHNR_ID = ", buchungsart_.key(), !buchungsart_.key().empty());
-    numberOrNull(",ID_MANDANTEN = ", mandant_.key(), isNumeric(mandant_.key()));
-    numberOrNull(",ID_PERSONAL_LIEFERADRESSE = ", lieferadresse_.key(), isNumeric(lieferadresse_.key()));
+    assign.date("INVDATE = ", txtDate1);
+    assign.date(",DATE1 = ", txtDate2);
+    assign.date(",DATE2 = ", txtDate3);
+    assign.date(",DATE3 = ", txtDate4);
+    assign.date(",LIEFERVON = ", txtLieferVon);
+    assign.date(",LIEFERBIS = ", txtLieferBis);
+    for (std::size_t i = 0; i < numbers_.size(); ++i)
+        assign.number(numbered(",NUMM", i) + " = ", numbers_[i]);
+    for (std::size_t i = 0; i < txtKopf.size(); ++i)
+        assign.text(numbered(",KOPF", i) + " = ", txtKopf[i]);
+    assign.key(",RART_ID = ", rechnungsart_.key());
+    assign.key(",BUCHNR_ID = ", buchungsart_.key());
+    assign.key(",ID_MANDANTEN = ", person(mandant_));
+    assign.key(",ID_PERSONAL_LIEFERADRESSE = ", person(lieferadresse_));
     statement.fixed(",EURO = ").fixed(txtWahrung.tag() == "1" ? "1" : "0");
     statement.fixed(" WHERE ID_VERTRAG = ").number(contract_);
     return statement.text();

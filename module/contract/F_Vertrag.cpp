@@ -12,6 +12,7 @@
 #include "module/host/contract_type.h"
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
 #include "module/parts/typed_text.h"
 #include "module/ui/caption.h"
 
@@ -347,11 +348,7 @@ bool F_Vertrag::keepsRefusedText() {
     }
     if (refused == nullptr) return false;
     const std::string question = base::ownText(OwnText::textNotSaved, session_.language);
-    if (parts::ShowMessage(services_.display, question,
-                           ui::box::yesNo + ui::box::exclamation + ui::box::defaultButton2) ==
-        ui::Answer::yes) {
-        return false;
-    }
+    if (parts::confirmed(services_.display, question, ui::box::exclamation)) return false;
     picZusatzText.setVisible(true);
     parts::SafeSetFocus(*refused);
     return true;

@@ -3,8 +3,8 @@
 #include "module/base/Refused.h"
 #include "module/base/StatementText.h"
 #include "module/base/text.h"
-#include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
 
 #include <algorithm>
 
@@ -288,9 +288,7 @@ void LineEditor::save() {
     if (state_ == State::edit) openInPlace(MSFlexGrid1.currentRow());
     StoreSelection(selection);
     if (!lineHasSelection()) {
-        parts::ShowMessage(services_.display,
-                           services_.localizer.text(host::textNumber::invalidEntry, session_),
-                           ui::box::exclamation);
+        parts::tellInvalid(services_.display, services_.localizer, session_);
         selectInDialog();
         return;
     }
@@ -386,10 +384,8 @@ void LineEditor::moveLine(int step) {
 bool LineEditor::queryUnload() {
     // The close box during an edit would throw away what was typed, and the row of a line never saved.
     if (!viewing() &&
-        parts::ShowMessage(services_.display, base::ownText(OwnText::closeUnsaved, session_.language),
-                           ui::box::yesNo + ui::box::question + ui::box::defaultButton2) != ui::Answer::yes) {
+        !parts::confirmed(services_.display, base::ownText(OwnText::closeUnsaved, session_.language)))
         return false;
-    }
     discardNewRow();
     return true;
 }

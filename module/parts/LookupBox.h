@@ -9,6 +9,18 @@
 
 namespace tellurix::parts {
 
+/// Where a lookup box takes its choices from.
+struct LookupSource {
+    /// What the picker is asked for: a query with the texts in a column SHORT, or a named list.
+    std::function<std::string()> list;
+    /// What finds the key of the text in the box: a query, or a named list.
+    /// @throws ui::RefusedInput when the text cannot stand in the query
+    std::function<std::string(ui::TextBox&)> resolution;
+};
+
+/// @param listQuery all choices, in a column named SHORT
+/// @param keyQuery the choice of a text, up to the quote that opens the text
+LookupSource queried(std::string listQuery, std::string keyQuery);
 /// Makes a box a lookup box: its picker lists what can be chosen, leaving it resolves the typed
 /// text to a database key, and the key is kept in the box's `tag` (empty for no value).
 ///
@@ -17,16 +29,10 @@ namespace tellurix::parts {
 /// known then but that: the former text typed again is looked up like any other.
 class LookupBox {
 public:
-    /// What one lookup box asks the database.
-    struct Lookup {
-        std::string listQuery; ///< all choices, in a column named SHORT
-        std::string keyQuery;  ///< the choice of a text, up to the quote that opens the text
-    };
-
     /// @param session the screen's own copy of the session record
     /// @param title of the picker, asked for when it opens
     LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
-              std::function<std::string()> title, Lookup lookup);
+              std::function<std::string()> title, LookupSource source);
 
     /// Shows a value as it was read: its text and its key.
     void show(const std::string& text, const std::string& key);
@@ -39,7 +45,7 @@ private:
     ui::TextBox& box_;
     host::HostServices& services_;
     const host::TlxVar& session_;
-    std::string keyQuery_;
+    LookupSource source_;
     std::optional<std::string> resolvedText_; ///< what the key belongs to
 };
 

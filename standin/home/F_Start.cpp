@@ -3,9 +3,8 @@
 #include "module/base/date_format.h"
 #include "module/base/field_text.h"
 #include "module/base/whole_number.h"
-#include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
-#include "module/ui/date_box.h"
+#include "module/parts/date_box.h"
 #include "standin/home/contract_types.h"
 #include "standin/services/pickers/search_keys.h"
 
@@ -75,21 +74,12 @@ void F_Start::connect() {
 }
 
 void F_Start::connectPeriod(ui::TextBox& box) {
-    ui::makeDateBox(box, [this] {
-        parts::ShowMessage(services_.host().display,
-                           services_.host().localizer.text(host::textNumber::invalidEntry, session_),
-                           ui::box::exclamation);
-    });
-    box.onLeave = [this, leaveDate = std::move(box.onLeave)] {
-        if (!leaveDate()) return false;
+    parts::makeDateBox(box, services_.host(), session_, [this] { return named("start.period"); });
+    box.onLeave.after([this] {
         reload();
         return true;
-    };
-    box.onPick = [this, &box] {
-        box.setText(services_.host().listPicker.choose(session_, host::ListPicker::calendar,
-                                                       named("start.period"), box.text()));
-        reload();
-    };
+    });
+    box.onPick.after([this] { reload(); });
 }
 
 void F_Start::arrange() {

@@ -13,9 +13,10 @@ class LookupForm final : public ui::Form {
 public:
     LookupForm(host::HostServices& services, const host::TlxVar& session)
         : Form("LookupForm"),
-          lookup_(txtRechn, services, session, [] { return std::string{"Rechnungsart"}; },
-                  {.listQuery = "SELECT RECHNUNGSART AS SHORT FROM RECHNUNGSART",
-                   .keyQuery = "SELECT RART_ID,RECHNUNGSART  FROM RECHNUNGSART WHERE RECHNUNGSART = '"}) {
+          lookup_(
+              txtRechn, services, session, [] { return std::string{"Rechnungsart"}; },
+              parts::queried("SELECT RECHNUNGSART AS SHORT FROM RECHNUNGSART",
+                             "SELECT RART_ID,RECHNUNGSART  FROM RECHNUNGSART WHERE RECHNUNGSART = '")) {
         setLayout(ui::column({ui::field(lblRechn, txtRechn), ui::Layout{btnOk}}));
         lookup_.show("Gutschrift", "2");
     }

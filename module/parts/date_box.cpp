@@ -1,0 +1,17 @@
+#include "module/parts/date_box.h"
+
+#include "module/parts/questions.h"
+#include "module/ui/date_box.h"
+
+namespace tellurix::parts {
+
+void makeDateBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
+                 std::function<std::string()> title) {
+    ui::makeDateBox(box,
+                    [&services, &session] { tellInvalid(services.display, services.localizer, session); });
+    box.onPick = [&box, &services, &session, title = std::move(title)] {
+        box.setText(services.listPicker.choose(session, host::ListPicker::calendar, title(), box.text()));
+    };
+}
+
+} // namespace tellurix::parts

@@ -1,0 +1,27 @@
+#include "module/parts/questions.h"
+
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
+#include "module/ui/caption.h"
+
+namespace tellurix::parts {
+
+void tellInvalid(ui::Display& display, host::HostLocalizer& localizer, const host::TlxVar& session,
+                 const ui::Label* label) {
+    std::string message = localizer.text(host::textNumber::invalidEntry, session);
+    if (label != nullptr) message += " [" + ui::plainCaption(label->caption()) + "]";
+    ShowMessage(display, message, ui::box::exclamation);
+}
+
+bool missing(host::HostServices& services, const host::TlxVar& session, const ui::Label& label,
+             ui::Control& box) {
+    tellInvalid(services.display, services.localizer, session, &label);
+    SafeSetFocus(box);
+    return false;
+}
+
+bool confirmed(ui::Display& display, const std::string& question, int icon) {
+    return ShowMessage(display, question, ui::box::yesNo + icon + ui::box::defaultButton2) == ui::Answer::yes;
+}
+
+} // namespace tellurix::parts
