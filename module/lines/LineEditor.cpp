@@ -26,7 +26,16 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
       kind_(kind),
       statements_(kind.table, 0),
       newId_(noRow),
-      rowBefore_(ui::Grid::none) {
+      rowBefore_(ui::Grid::none),
+      mode_({.create = &cmdNeu,
+             .edit = &cmdBearbeiten,
+             .save = &cmdSpeichern,
+             .cancel = &cmdAbbrechen,
+             .remove = &cmdLoschen},
+            {.inView = {&MSFlexGrid1, &cmdOk},
+             .onRow = {&UpDown1},
+             .whileEdited = {&frmPosition, &quickSelection_.frame()}},
+            [this] { return hasLines(); }) {
     connect();
 }
 
@@ -42,9 +51,13 @@ void LineEditor::connect() {
     cmdBearbeiten.onClick = [this] { startEdit(); };
     cmdSpeichern.onClick = [this] { save(); };
     cmdAbbrechen.onClick = [this] { cancel(); };
-    cmdAbbrechen.setCausesValidation(false);
     cmdLoschen.onClick = [this] { removeLine(); };
     cmdOk.onClick = [this] { unload(); };
+    mode_.onEnter = [this] {
+        cmdSelect.setEnabled(!viewing() || hasLines());
+        setCancelButton(viewing() ? cmdOk : cmdAbbrechen);
+        stateShown();
+    };
 }
 
 void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
@@ -65,7 +78,7 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     session_ = session;
     contract_ = contract;
     statements_ = LineStatements{kind_.table, contract};
-    state_ = State::view;
+    mode_.reset();
     newId_ = noRow;
     prepare(shown);
     loadUnits();
@@ -76,7 +89,7 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     if (!shown) return;
     txtBEZEICHNUNG.setMaxLength(services_.columnWidth.of(session_, kind_.table, "BEZEICHNUNG"));
     showCurrentLine();
-    enter(State::view);
+    mode_.enter(State::view);
     services_.display.showModal(*this);
 }
 
@@ -149,7 +162,7 @@ std::unique_ptr<base::Recordset> LineEditor::openCurrent() {
     if (auto line = open(); !line->atEnd() && line->integer("ID") == idOf(MSFlexGrid1.currentRow()))
         return line;
     LoadGrid();
-    enter(state_);
+    mode_.refresh();
     // The next key may be meant for the line that was here.
     services_.errors.report(base::Refused{OwnText::listWasOld});
     if (!hasLines()) return nullptr;
@@ -164,7 +177,7 @@ std::unique_ptr<base::Recordset> LineEditor::openInPlace(int row) {
     if (!viewing()) throw base::Refused{OwnText::lineIsGone};
     LoadGrid();
     showCurrentLine();
-    enter(State::view);
+    mode_.enter(State::view);
     throw base::Refused{{{OwnText::listWasOld}, {OwnText::nothingWritten}}};
 }
 
@@ -205,22 +218,6 @@ void LineEditor::ShowSelection(const std::string& value) {
     chkSelektion.setChecked(hasSelection(value));
 }
 
-void LineEditor::enter(State state) {
-    state_ = state;
-    const bool view = viewing();
-    for (ui::Control* control :
-         std::initializer_list<ui::Control*>{&frmPosition, &cmdSpeichern, &cmdAbbrechen})
-        control->setEnabled(!view);
-    quickSelection_.setEnabled(!view);
-    for (ui::Control* control : std::initializer_list<ui::Control*>{&cmdNeu, &cmdOk, &MSFlexGrid1})
-        control->setEnabled(view);
-    for (ui::Control* control : std::initializer_list<ui::Control*>{&cmdBearbeiten, &cmdLoschen, &UpDown1})
-        control->setEnabled(view && hasLines());
-    cmdSelect.setEnabled(!view || hasLines());
-    setCancelButton(view ? cmdOk : cmdAbbrechen);
-    stateShown();
-}
-
 void LineEditor::startNew() {
     newId_ = noRow;
     unlistedUnit_ = base::Null{};
@@ -229,14 +226,14 @@ void LineEditor::startNew() {
     emptyForNewLine();
     rowBefore_ = MSFlexGrid1.currentRow();
     MSFlexGrid1.setCurrent(ui::Grid::none, MSFlexGrid1.currentColumn());
-    enter(State::fresh);
+    mode_.enter(State::fresh);
     parts::SafeSetFocus(txtBEZEICHNUNG);
 }
 
 void LineEditor::startEdit() {
     const auto line = openInPlace(MSFlexGrid1.currentRow());
     ShowSelection(line->text("SELEKTION_VALUE"));
-    enter(State::edit);
+    mode_.enter(State::edit);
     parts::SafeSetFocus(txtBEZEICHNUNG);
 }
 
@@ -247,7 +244,7 @@ std::int64_t LineEditor::createRow() {
 
 void LineEditor::StoreSelection(const std::string& literal) {
     if (literal.empty()) return;
-    if (state_ != State::fresh) {
+    if (mode_.state() != State::fresh) {
         session_.connection->execute(statements_.setSelectionAt(literal, place()));
         return;
     }
@@ -256,15 +253,15 @@ void LineEditor::StoreSelection(const std::string& literal) {
 }
 
 bool LineEditor::lineHasSelection() {
-    if (state_ == State::fresh && newId_ == noRow) return false;
-    const auto line =
-        openLine(state_ == State::fresh ? statements_.selectionOf(newId_) : statements_.selectionAt(place()));
+    if (mode_.state() == State::fresh && newId_ == noRow) return false;
+    const auto line = openLine(mode_.state() == State::fresh ? statements_.selectionOf(newId_)
+                                                             : statements_.selectionAt(place()));
     return !base::trim(line->text("SELEKTION_VALUE")).empty();
 }
 
 void LineEditor::selectInDialog() {
     std::int64_t id = newId_;
-    if (state_ != State::fresh) {
+    if (mode_.state() != State::fresh) {
         id = openInPlace(MSFlexGrid1.currentRow())->integer("ID");
     } else if (newId_ == noRow) {
         id = newId_ = createRow();
@@ -285,7 +282,7 @@ void LineEditor::save() {
     if (!confirmSave()) return;
     requireFields();
     const std::string selection = selectionLiteral(quickSelection_.read());
-    if (state_ == State::edit) openInPlace(MSFlexGrid1.currentRow());
+    if (mode_.state() == State::edit) openInPlace(MSFlexGrid1.currentRow());
     StoreSelection(selection);
     if (!lineHasSelection()) {
         parts::tellInvalid(services_.display, services_.localizer, session_);
@@ -293,13 +290,13 @@ void LineEditor::save() {
         return;
     }
     saveLine();
-    enter(State::view);
+    mode_.enter(State::view);
     reloadLine(MSFlexGrid1.currentRow());
     parts::SafeSetFocus(MSFlexGrid1);
 }
 
 void LineEditor::saveLine() {
-    const bool isNew = state_ == State::fresh;
+    const bool isNew = mode_.state() == State::fresh;
     const auto line = openToEdit(isNew ? statements_.lineOf(newId_) : statements_.lineAt(place()));
     if (isNew) line->setField("Ordnung", static_cast<std::int64_t>(ids_.size()) + 1);
     line->setField("ID_Vertrag", std::int64_t{contract_});
@@ -321,9 +318,9 @@ void LineEditor::saveLine() {
 
 void LineEditor::cancel() {
     discardNewRow();
-    if (state_ == State::fresh) MSFlexGrid1.setCurrent(rowBefore_, MSFlexGrid1.currentColumn());
+    if (mode_.state() == State::fresh) MSFlexGrid1.setCurrent(rowBefore_, MSFlexGrid1.currentColumn());
     showCurrentLine();
-    enter(State::view);
+    mode_.enter(State::view);
     parts::SafeSetFocus(MSFlexGrid1);
 }
 
@@ -343,7 +340,7 @@ void LineEditor::removeLine() {
     }
     LoadGrid();
     showCurrentLine();
-    enter(State::view);
+    mode_.enter(State::view);
     parts::SafeSetFocus(hasLines() ? static_cast<ui::Control&>(MSFlexGrid1) : cmdNeu);
 }
 

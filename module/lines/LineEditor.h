@@ -4,6 +4,7 @@
 #include "module/host/services.h"
 #include "module/lines/LineStatements.h"
 #include "module/lines/QuickSelectionBoxes.h"
+#include "module/parts/EditMode.h"
 #include "module/ui/Button.h"
 #include "module/ui/CheckBox.h"
 #include "module/ui/ComboBox.h"
@@ -45,7 +46,7 @@ public:
     const ui::Grid& lines() const { return MSFlexGrid1; }
 
 protected:
-    enum class State { view, edit, fresh };
+    using State = parts::EditMode::State;
 
     LineEditor(host::HostServices& services, const LineKind& kind, std::string name, std::string title);
 
@@ -77,7 +78,7 @@ protected:
     void arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
                  std::vector<ui::Layout> below);
 
-    bool viewing() const { return state_ == State::view; }
+    bool viewing() const { return mode_.viewing(); }
     bool hasLines() const { return !ids_.empty(); }
     /// Place of the current line in its contract, from 1; 0 when there is no line.
     int place() const { return MSFlexGrid1.currentRow() + 1; }
@@ -130,16 +131,14 @@ private:
     void selectInDialog();
     void ShowSelection(const std::string& value);
     void showFieldsOf(base::Recordset& line);
-    void enter(State state);
     bool queryUnload() override;
 
     const LineKind& kind_;
     LineStatements statements_;
     std::vector<std::int64_t> ids_; ///< `ID` of each row of the grid
-    State state_ = State::view;
-    std::int64_t newId_;       ///< `ID` of the new line, -1 while it has no row
-    int rowBefore_;            ///< row that was current when the new line was begun
-    base::Value unlistedUnit_; ///< the line's unit where the list does not offer it
+    std::int64_t newId_;            ///< `ID` of the new line, -1 while it has no row
+    int rowBefore_;                 ///< row that was current when the new line was begun
+    base::Value unlistedUnit_;      ///< the line's unit where the list does not offer it
 
     QuickSelectionBoxes quickSelection_{*this, services_, session_};
     ui::Button cmdSelect{*this, "cmdSelect", "Selection"};
@@ -150,6 +149,8 @@ private:
     ui::Button cmdAbbrechen{*this, "cmdAbbrechen", "Bearb. Abbr."};
     ui::Button cmdLoschen{*this, "cmdLoschen", "Löschen"};
     ui::Button cmdOk{*this, "cmdOk", "Schließen"};
+
+    parts::EditMode mode_;
 };
 
 } // namespace tellurix::lines

@@ -19,7 +19,7 @@ public:
     QuickSelectionBoxes(ui::Form& form, host::HostServices& services, const host::TlxVar& session);
 
     ui::Layout layout();
-    void setEnabled(bool enabled) { frmFilter.setEnabled(enabled); }
+    ui::Frame& frame() { return frmFilter; }
 
     void show(const QuickSelection& selection);
     /// What the boxes say. Lengths that are no numbers are dropped, from the box as well.
