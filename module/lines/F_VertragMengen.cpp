@@ -1,7 +1,6 @@
 #include "module/lines/F_VertragMengen.h"
 
 #include "module/base/StatementText.h"
-#include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/base/own_text.h"
 
@@ -56,16 +55,15 @@ void F_VertragMengen::prepare(bool shown) {
     if (!logistics->atEnd()) overDelivery_ = quantityIn(logistics->field("UBERLIEFERUNG"));
 }
 
-std::vector<ui::Grid::Column> F_VertragMengen::gridColumns() const {
-    return {{.caption = {}, .width = 4},
-            {.caption = lblBezeichnung.caption(), .width = 34},
-            {.caption = lblMenge.caption(), .width = 14, .rightAligned = true},
-            {.caption = lblUnit.caption(), .width = 10}};
-}
-
-ui::Grid::Row F_VertragMengen::FillGridRow(base::Recordset& record) const {
-    return {"", record.text("BEZEICHNUNG"),
-            base::numberText(record.field("MENGE"), "##0.00", services_.locale), record.text("EINHEIT")};
+std::vector<parts::KeyedGrid::Column> F_VertragMengen::gridColumns() const {
+    return {{.width = 4},
+            {.caption = lblBezeichnung.caption(), .width = 34, .field = "BEZEICHNUNG"},
+            {.caption = lblMenge.caption(),
+             .width = 14,
+             .field = "MENGE",
+             .mask = "##0.00",
+             .rightAligned = true},
+            {.caption = lblUnit.caption(), .width = 10, .field = "EINHEIT"}};
 }
 
 void F_VertragMengen::showFields(base::Recordset& line) {

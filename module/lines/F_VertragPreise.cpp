@@ -3,7 +3,6 @@
 #include "module/base/Decimal.h"
 #include "module/base/Refused.h"
 #include "module/base/StatementText.h"
-#include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
@@ -21,8 +20,8 @@ constexpr int euroEntry = 0;
 constexpr int homeCurrencyEntry = 1;
 
 /// The grid columns that can be edited in place; their numbers do not follow the layout.
-constexpr int editedPriceColumn = 2;
-constexpr int editedSecondPriceColumn = 5;
+constexpr std::size_t editedPriceColumn = 2;
+constexpr std::size_t editedSecondPriceColumn = 5;
 
 // clang-format off
 const LineKind priceLines{
@@ -40,12 +39,6 @@ const LineKind priceLines{
 };
 // clang-format on
 
-/// The box with the key filter of a price; what leaving it does is the cell editor's.
-ui::TextBox& priceBox(ui::TextBox& box, const base::Locale& locale) {
-    ui::makeNumberBox(box, priceMask, locale);
-    return box;
-}
-
 } // namespace
 
 F_VertragPreise::F_VertragPreise(host::HostServices& services)
@@ -53,14 +46,17 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
       percent_(txtMsz, "-####0.0#", services.locale),
       price_(txtPreis, priceMask, services.locale),
       secondPrice_(txtPreis_Abr2, secondPriceMask, services.locale),
-      cellEditor_(MSFlexGrid1, priceBox(txtEdit, services.locale)),
+      cellEditor_(MSFlexGrid1, txtEdit),
       priceChange_(*this, services, session_, contract_, [this] {
           LoadGrid();
           showCurrentLine();
       }) {
     cellEditor_.canEdit = [this](int, int column) {
-        return viewing() && chkEdit.checked() &&
-               (column == editedPriceColumn || column == editedSecondPriceColumn);
+        return viewing() && chkEdit.checked() && lines_.editable(column);
+    };
+    txtEdit.setRightAligned(true);
+    cellEditor_.prepare = [this](ui::TextBox& box, int) {
+        ui::takeNumbers(box, priceMask, services_.locale);
     };
     cellEditor_.write = [this](int row, int column, const std::string& typed) {
         return CommitCellEdit(row, column, typed);
@@ -94,31 +90,23 @@ void F_VertragPreise::prepare(bool /*shown*/) {
     priceChange_.hide();
 }
 
-std::vector<ui::Grid::Column> F_VertragPreise::gridColumns() const {
-    std::vector<ui::Grid::Column> columns{{.caption = {}, .width = 4},
-                                          {.caption = lblBezeichnung.caption(), .width = 34}};
-    const auto number = [&columns](const std::string& caption) {
-        columns.push_back({.caption = caption, .width = 14, .rightAligned = true});
+std::vector<parts::KeyedGrid::Column> F_VertragPreise::gridColumns() const {
+    std::vector<parts::KeyedGrid::Column> columns{
+        {.width = 4}, {.caption = lblBezeichnung.caption(), .width = 34, .field = "BEZEICHNUNG"}};
+    const auto number = [&columns](const ui::Label& label, const char* field, const char* mask) {
+        columns.push_back(
+            {.caption = label.caption(), .width = 14, .field = field, .mask = mask, .rightAligned = true});
     };
-    if (showsPercent_) number(lblMsz.caption());
-    number(lblPreis.caption());
-    columns.push_back({.caption = lblUnit.caption(), .width = 10});
-    columns.push_back({.caption = lblGeld.caption(), .width = 10});
-    if (hasSecondPriceColumn()) number(lblPreis_Abr2.caption());
+    if (showsPercent_) number(lblMsz, "MSZ_PERCENT", "0.0");
+    number(lblPreis, "PREIS", site_ == Site::standard ? "##0.00" : "0.00");
+    columns.push_back({.caption = lblUnit.caption(), .width = 10, .field = "EINHEIT"});
+    columns.push_back({.caption = lblGeld.caption(), .width = 10, .shown = [this](base::Fields& line) {
+                           return line.flag("EURO") ? host::euro : session_.homeCurrency;
+                       }});
+    if (hasSecondPriceColumn()) number(lblPreis_Abr2, "PREIS_ABR2", secondPriceMask);
+    for (const std::size_t column : {editedPriceColumn, editedSecondPriceColumn})
+        if (column < columns.size()) columns[column].editable = true;
     return columns;
-}
-
-ui::Grid::Row F_VertragPreise::FillGridRow(base::Recordset& record) const {
-    const auto number = [&](const char* column, const char* mask) {
-        return base::numberText(record.field(column), mask, services_.locale);
-    };
-    ui::Grid::Row row{"", record.text("BEZEICHNUNG")};
-    if (showsPercent_) row.push_back(number("MSZ_PERCENT", "0.0"));
-    row.push_back(number("PREIS", site_ == Site::standard ? "##0.00" : "0.00"));
-    row.push_back(record.text("EINHEIT"));
-    row.push_back(record.flag("EURO") ? host::euro : session_.homeCurrency);
-    if (hasSecondPriceColumn()) row.push_back(number("PREIS_ABR2", secondPriceMask));
-    return row;
 }
 
 void F_VertragPreise::showFields(base::Recordset& line) {

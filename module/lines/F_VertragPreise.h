@@ -21,8 +21,7 @@ private:
     enum class Site { standard, logistics, stockPrice };
 
     void prepare(bool shown) override;
-    std::vector<ui::Grid::Column> gridColumns() const override;
-    ui::Grid::Row FillGridRow(base::Recordset& record) const override;
+    std::vector<parts::KeyedGrid::Column> gridColumns() const override;
     void showFields(base::Recordset& line) override;
     void showNoLine() override;
     void emptyForNewLine() override;

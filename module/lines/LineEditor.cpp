@@ -23,6 +23,7 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
                        std::string title)
     : Form(std::move(name), std::move(title)),
       services_(services),
+      lines_(MSFlexGrid1, services.locale),
       kind_(kind),
       statements_(kind.table, 0),
       newId_(noRow),
@@ -82,9 +83,8 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     newId_ = noRow;
     prepare(shown);
     loadUnits();
-    MSFlexGrid1.setColumns(gridColumns());
-    MSFlexGrid1.setRows({});
-    ids_.clear();
+    lines_.setColumns(gridColumns());
+    lines_.clear();
     LoadGrid();
     if (!shown) return;
     txtBEZEICHNUNG.setMaxLength(services_.columnWidth.of(session_, kind_.table, "BEZEICHNUNG"));
@@ -106,37 +106,19 @@ std::string LineEditor::linesQuery() const {
 }
 
 void LineEditor::LoadGrid() {
-    struct Line {
-        std::int64_t id;
-        std::optional<std::int64_t> place;
-        ui::Grid::Row cells;
+    const auto placed = [](parts::KeyedRow& line) {
+        return !std::holds_alternative<base::Null>(line.field("ORDNUNG"));
     };
-    std::vector<Line> lines;
-    for (auto line = session_.connection->open(linesQuery()); !line->atEnd(); line->moveNext()) {
-        std::optional<std::int64_t> place;
-        if (!std::holds_alternative<base::Null>(line->field("ORDNUNG"))) place = line->integer("ORDNUNG");
-        lines.push_back({line->integer("ID"), place, FillGridRow(*line)});
-    }
+    auto lines = parts::KeyedRows::read(*session_.connection, linesQuery(), "ID").rows;
     // A line without a place is one that somebody else has just begun; it must not push the others aside.
-    std::ranges::stable_partition(lines, [](const Line& line) { return line.place.has_value(); });
+    std::ranges::stable_partition(lines, placed);
+    lines_.show(std::move(lines));
 
-    const std::int64_t current = hasLines() ? idOf(MSFlexGrid1.currentRow()) : noRow;
-    std::vector<ui::Grid::Row> rows;
-    ids_.clear();
-    for (Line& line : lines) {
-        rows.push_back(std::move(line.cells));
-        ids_.push_back(line.id);
-    }
-    MSFlexGrid1.setRows(std::move(rows));
-    if (const auto found = std::ranges::find(ids_, current); found != ids_.end()) {
-        MSFlexGrid1.setCurrent(static_cast<int>(found - ids_.begin()), MSFlexGrid1.currentColumn());
-    } else if (MSFlexGrid1.currentRow() == ui::Grid::none && hasLines()) {
-        MSFlexGrid1.setCurrent(0);
-    }
-    std::int64_t place = 0;
-    for (const Line& line : lines) {
-        if (line.place == ++place) continue;
-        const auto record = session_.connection->openUpdatable(statements_.lineOf(line.id));
+    for (int row = 0; row < lines_.rowCount(); ++row) {
+        parts::KeyedRow& line = lines_.row(row);
+        const std::int64_t place = row + 1;
+        if (placed(line) && line.integer("ORDNUNG") == place) continue;
+        const auto record = session_.connection->openUpdatable(statements_.lineOf(line.key()));
         if (record->atEnd()) continue; // deleted by somebody else a moment ago
         record->setField("Ordnung", place);
         record->update();
@@ -146,12 +128,10 @@ void LineEditor::LoadGrid() {
 
 void LineEditor::reloadLine(int row) {
     StatementText query{kind_.lineColumns};
-    query.fixed(" WHERE ").fixed(kind_.keyColumn).fixed(" = ").number(idOf(row));
+    query.fixed(" WHERE ").fixed(kind_.keyColumn).fixed(" = ").number(lines_.keyOf(row));
     const auto line = session_.connection->open(query.text());
     if (line->atEnd()) return;
-    const ui::Grid::Row cells = FillGridRow(*line);
-    for (std::size_t column = 0; column < cells.size(); ++column)
-        MSFlexGrid1.setCell(row, static_cast<int>(column), cells[column]);
+    lines_.replace(row, parts::KeyedRow{*line, "ID"});
     if (row == MSFlexGrid1.currentRow()) showCurrentLine();
     linesChanged();
 }
@@ -159,7 +139,7 @@ void LineEditor::reloadLine(int row) {
 std::unique_ptr<base::Recordset> LineEditor::openCurrent() {
     const auto open = [this] { return session_.connection->open(statements_.lineAt(place())); };
     if (!hasLines()) return nullptr;
-    if (auto line = open(); !line->atEnd() && line->integer("ID") == idOf(MSFlexGrid1.currentRow()))
+    if (auto line = open(); !line->atEnd() && line->integer("ID") == lines_.keyOf(MSFlexGrid1.currentRow()))
         return line;
     LoadGrid();
     mode_.refresh();
@@ -173,7 +153,7 @@ std::unique_ptr<base::Recordset> LineEditor::openCurrent() {
 
 std::unique_ptr<base::Recordset> LineEditor::openInPlace(int row) {
     auto line = session_.connection->open(statements_.keyAndSelectionAt(row + 1));
-    if (!line->atEnd() && line->integer("ID") == idOf(row)) return line;
+    if (!line->atEnd() && line->integer("ID") == lines_.keyOf(row)) return line;
     if (!viewing()) throw base::Refused{OwnText::lineIsGone};
     LoadGrid();
     showCurrentLine();
@@ -298,7 +278,7 @@ void LineEditor::save() {
 void LineEditor::saveLine() {
     const bool isNew = mode_.state() == State::fresh;
     const auto line = openToEdit(isNew ? statements_.lineOf(newId_) : statements_.lineAt(place()));
-    if (isNew) line->setField("Ordnung", static_cast<std::int64_t>(ids_.size()) + 1);
+    if (isNew) line->setField("Ordnung", std::int64_t{lines_.rowCount()} + 1);
     line->setField("ID_Vertrag", std::int64_t{contract_});
     line->setField("BEZEICHNUNG",
                    txtBEZEICHNUNG.text().empty() ? base::Value{} : base::Value{txtBEZEICHNUNG.text()});
@@ -310,10 +290,7 @@ void LineEditor::saveLine() {
     writeFields(*line);
     line->update();
     if (!isNew) return;
-    ids_.push_back(newId_);
-    newId_ = noRow;
-    MSFlexGrid1.addRow(ui::Grid::Row(MSFlexGrid1.columns().size()));
-    MSFlexGrid1.setCurrent(static_cast<int>(ids_.size()) - 1);
+    lines_.add(std::exchange(newId_, noRow));
 }
 
 void LineEditor::cancel() {
@@ -332,7 +309,7 @@ void LineEditor::discardNewRow() {
 
 void LineEditor::removeLine() {
     const int removed = place();
-    const auto id = idOf(removed - 1);
+    const auto id = lines_.keyOf(removed - 1);
     // By its key: in the meantime another user may have moved another line to this place.
     if (const auto line = session_.connection->openUpdatable(statements_.lineOf(id)); !line->atEnd()) {
         line->remove();
@@ -347,11 +324,11 @@ void LineEditor::removeLine() {
 void LineEditor::moveLine(int step) {
     const int from = MSFlexGrid1.currentRow();
     const int to = from + step;
-    if (from == ui::Grid::none || to < 0 || to >= static_cast<int>(ids_.size())) return;
+    if (from == ui::Grid::none || to < 0 || to >= lines_.rowCount()) return;
     openInPlace(from);
     openInPlace(to);
     const auto setPlace = [this](int row, int place) {
-        const auto line = openToEdit(statements_.lineOf(idOf(row)));
+        const auto line = openToEdit(statements_.lineOf(lines_.keyOf(row)));
         line->setField("Ordnung", std::int64_t{place});
         line->update();
     };
@@ -367,12 +344,7 @@ void LineEditor::moveLine(int step) {
         showCurrentLine();
         return;
     }
-    for (int column = 0; column < static_cast<int>(MSFlexGrid1.columns().size()); ++column) {
-        std::string moved = MSFlexGrid1.cell(from, column);
-        MSFlexGrid1.setCell(from, column, MSFlexGrid1.cell(to, column));
-        MSFlexGrid1.setCell(to, column, std::move(moved));
-    }
-    std::swap(ids_[static_cast<std::size_t>(from)], ids_[static_cast<std::size_t>(to)]);
+    lines_.swap(from, to);
     MSFlexGrid1.setCurrent(to, MSFlexGrid1.currentColumn());
     currentLineShown();
     linesChanged();

@@ -5,6 +5,7 @@
 #include "module/lines/LineStatements.h"
 #include "module/lines/QuickSelectionBoxes.h"
 #include "module/parts/EditMode.h"
+#include "module/parts/KeyedGrid.h"
 #include "module/ui/Button.h"
 #include "module/ui/CheckBox.h"
 #include "module/ui/ComboBox.h"
@@ -52,9 +53,8 @@ protected:
 
     /// Reads what the screen needs besides its lines.
     virtual void prepare(bool shown) = 0;
-    virtual std::vector<ui::Grid::Column> gridColumns() const = 0;
-    /// The row that shows a record of the lines' statement.
-    virtual ui::Grid::Row FillGridRow(base::Recordset& record) const = 0;
+    /// The columns, of fields of the lines' statement.
+    virtual std::vector<parts::KeyedGrid::Column> gridColumns() const = 0;
     /// Shows the fields of a line that only this kind has.
     virtual void showFields(base::Recordset& line) = 0;
     /// Empties these fields because the contract has no line.
@@ -79,7 +79,7 @@ protected:
                  std::vector<ui::Layout> below);
 
     bool viewing() const { return mode_.viewing(); }
-    bool hasLines() const { return !ids_.empty(); }
+    bool hasLines() const { return !lines_.empty(); }
     /// Place of the current line in its contract, from 1; 0 when there is no line.
     int place() const { return MSFlexGrid1.currentRow() + 1; }
 
@@ -99,6 +99,7 @@ protected:
     std::int32_t contract_ = 0;
 
     ui::Grid MSFlexGrid1{*this, "MSFlexGrid1", 7};
+    parts::KeyedGrid lines_; ///< what stands in it
     ui::UpDown UpDown1{*this, "UpDown1"};
     ui::Frame frmPosition{*this, "frmPosition", "Position"};
     ui::Label lblBezeichnung{*this, "lblBezeichnung", "Bezeichnung"};
@@ -111,7 +112,6 @@ private:
     void loadUnits();
     std::string linesQuery() const;
     std::int64_t createRow();
-    std::int64_t idOf(int row) const { return ids_[static_cast<std::size_t>(row)]; }
     /// The current line, or null where the contract has none.
     std::unique_ptr<base::Recordset> openCurrent();
     /// One line that has to be there.
@@ -135,10 +135,9 @@ private:
 
     const LineKind& kind_;
     LineStatements statements_;
-    std::vector<std::int64_t> ids_; ///< `ID` of each row of the grid
-    std::int64_t newId_;            ///< `ID` of the new line, -1 while it has no row
-    int rowBefore_;                 ///< row that was current when the new line was begun
-    base::Value unlistedUnit_;      ///< the line's unit where the list does not offer it
+    std::int64_t newId_;       ///< `ID` of the new line, -1 while it has no row
+    int rowBefore_;            ///< row that was current when the new line was begun
+    base::Value unlistedUnit_; ///< the line's unit where the list does not offer it
 
     QuickSelectionBoxes quickSelection_{*this, services_, session_};
     ui::Button cmdSelect{*this, "cmdSelect", "Selection"};

@@ -27,21 +27,27 @@ GridEditor::GridEditor(Grid& grid, TextBox& box) : grid_(grid), box_(box) {
     };
 }
 
-void GridEditor::openOnCurrentCell() {
+bool GridEditor::prepareCurrentCell() {
     const int row = grid_.currentRow();
     const int column = grid_.currentColumn();
-    if (row == Grid::none || !canEdit(row, column)) return;
+    if (row == Grid::none || !canEdit(row, column)) return false;
+    if (prepare) prepare(box_, column);
+    return true;
+}
+
+void GridEditor::openOnCurrentCell() {
+    if (!prepareCurrentCell()) return;
+    const int row = grid_.currentRow();
+    const int column = grid_.currentColumn();
     showOver(row, column, grid_.cell(row, column));
 }
 
 void GridEditor::openWith(char32_t character) {
-    const int row = grid_.currentRow();
-    const int column = grid_.currentColumn();
-    if (row == Grid::none || !canEdit(row, column)) return;
+    if (!prepareCurrentCell()) return;
     box_.setText("");
     if (box_.onKeyPress) box_.onKeyPress(character);
     if (character == 0) return;
-    showOver(row, column, "");
+    showOver(grid_.currentRow(), grid_.currentColumn(), "");
     box_.typeOver(base::encodeUtf8(character));
 }
 

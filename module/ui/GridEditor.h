@@ -18,11 +18,13 @@ namespace tellurix::ui {
 class GridEditor {
 public:
     /// @param box a text box of the same form that stands nowhere in its layout; its key filter
-    ///        (`onKeyPress`) says what can be typed
+    ///        (`onKeyPress`) says what can be typed, the same for every cell unless `prepare` gives it others
     GridEditor(Grid& grid, TextBox& box);
 
     /// Whether a cell can be edited at the moment.
     std::function<bool(int row, int column)> canEdit;
+    /// Gives the box the filter of a column before it opens on one of its cells; may be empty.
+    std::function<void(TextBox& box, int column)> prepare;
     /// Writes what was typed for a cell and returns the text that the cell shows from now on. When it
     /// throws, the box stays open with what was typed.
     std::function<std::string(int row, int column, const std::string& typed)> write;
@@ -32,6 +34,8 @@ public:
     void close();
 
 private:
+    /// Whether the current cell can be edited; then the box takes what belongs into it.
+    bool prepareCurrentCell();
     void openOnCurrentCell();
     void openWith(char32_t character);
     void showOver(int row, int column, const std::string& text);

@@ -48,8 +48,7 @@ private:
 
 } // namespace
 
-void makeNumberBox(TextBox& box, std::string mask, const base::Locale& locale) {
-    box.setRightAligned(true);
+void takeNumbers(TextBox& box, const std::string& mask, const base::Locale& locale) {
     box.setMaxLength(base::longestInMask(mask));
     box.onKeyPress = NumberKeys{box, mask, locale};
     box.onPaste = [locale](const std::string& pasted) {
@@ -58,7 +57,12 @@ void makeNumberBox(TextBox& box, std::string mask, const base::Locale& locale) {
         if (!number) return pasted;
         return base::replaceAll(number->toString(), ".", std::string{locale.decimal});
     };
-    box.onLeave = [&box, mask, locale] {
+}
+
+void makeNumberBox(TextBox& box, std::string mask, const base::Locale& locale) {
+    box.setRightAligned(true);
+    takeNumbers(box, mask, locale);
+    box.onLeave = [&box, mask = std::move(mask), locale] {
         box.setText(base::reformatNumber(box.text(), mask, locale));
         return true;
     };

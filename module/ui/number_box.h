@@ -10,6 +10,9 @@ namespace tellurix::ui {
 /// behind it was one between thousands and is taken out. Another text stays as it is.
 void makeNumberBox(TextBox& box, std::string mask, const base::Locale& locale);
 
+/// Lets only what the mask can show be typed and pasted, as a number box does; leaving the box does nothing.
+void takeNumbers(TextBox& box, const std::string& mask, const base::Locale& locale);
+
 /// Lets only digits be typed into a box, as for a person's number.
 void makeDigitBox(TextBox& box);
 

@@ -1,7 +1,6 @@
 #include "standin/home/F_Start.h"
 
 #include "module/base/date_format.h"
-#include "module/base/field_text.h"
 #include "module/base/whole_number.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/date_box.h"
@@ -38,14 +37,20 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
       languageChanged_(std::move(languageChanged)),
       closing_(closing),
       newContract_(services, session) {
-    grdContracts.setColumns({{.caption = "Vertrag", .width = 34},
-                             {.caption = "Vertragsart", .width = 18},
-                             {.caption = "Kunde", .width = 26},
-                             {.caption = "Lieferung von", .width = 14},
-                             {.caption = "bis", .width = 11},
-                             {.caption = "Status", .width = 13},
-                             {.caption = "Preise", .width = 7, .rightAligned = true},
-                             {.caption = "Mengen", .width = 8, .rightAligned = true}});
+    const auto type = [this](base::Fields& contract) {
+        return contractTypeText(contract.text("VER_TYPE"), services_.localizer(), session_);
+    };
+    const auto status = [this](base::Fields& contract) {
+        return named(contract.flag("ABGESCHLOSSEN") ? "start.isClosed" : "start.isOpen");
+    };
+    contracts_.setColumns({{.caption = "Vertrag", .width = 34, .field = "VERTRAG_NAME"},
+                           {.caption = "Vertragsart", .width = 18, .shown = type},
+                           {.caption = "Kunde", .width = 26, .field = "KURZBEZEICHNUNG"},
+                           {.caption = "Lieferung von", .width = 14, .field = "LIEFERVON"},
+                           {.caption = "bis", .width = 11, .field = "LIEFERBIS"},
+                           {.caption = "Status", .width = 13, .shown = status},
+                           {.caption = "Preise", .width = 7, .field = "PREISE", .rightAligned = true},
+                           {.caption = "Mengen", .width = 8, .field = "MENGEN", .rightAligned = true}});
     grdNotifications.setColumns({{.caption = "Zeit", .width = 9},
                                  {.caption = "Code", .width = 9},
                                  {.caption = "Vertragsart", .width = 18}});
@@ -122,7 +127,7 @@ void F_Start::changeLanguage() {
     session_.language = languages[static_cast<std::size_t>(std::max(cboLanguage.selected(), 0))];
     fillLists();
     services_.localizer().localize(session_, *this);
-    showContracts();
+    contracts_.redraw();
     showCount();
     showNotifications();
     if (languageChanged_) languageChanged_(session_.language);
@@ -143,40 +148,25 @@ ContractFilter F_Start::filter() const {
 }
 
 void F_Start::reload() {
-    const int row = grdContracts.currentRow();
-    reload(row == ui::Grid::none ? 0 : list_.contracts[static_cast<std::size_t>(row)].id);
+    reload(contracts_.currentKey().value_or(0));
 }
 
-void F_Start::reload(std::int32_t current) {
+void F_Start::reload(std::int64_t current) {
     const int row = std::max(grdContracts.currentRow(), 0);
-    list_ = readContracts(*session_.connection, filter(), listedAtMost);
-    showContracts();
+    auto read =
+        parts::KeyedRows::read(*session_.connection, contractsQuery(filter()), "ID_VERTRAG", listedAtMost);
+    more_ = read.more;
+    contracts_.show(std::move(read.rows));
     showCount();
-    const auto found = std::ranges::find(list_.contracts, current, &ListedContract::id);
-    const int last = static_cast<int>(list_.contracts.size()) - 1;
-    grdContracts.setCurrent(found == list_.contracts.end()
-                                ? std::min(row, last)
-                                : static_cast<int>(found - list_.contracts.begin()));
-    btnOpen.setEnabled(last >= 0);
-}
-
-void F_Start::showContracts() {
-    std::vector<ui::Grid::Row> rows;
-    for (const ListedContract& contract : list_.contracts) {
-        rows.push_back({contract.name, contractTypeText(contract.type, services_.localizer(), session_),
-                        contract.customer, base::dateText(contract.deliveryFrom),
-                        base::dateText(contract.deliveryTo),
-                        named(contract.closed ? "start.isClosed" : "start.isOpen"),
-                        std::to_string(contract.priceLines), std::to_string(contract.quantityLines)});
-    }
-    grdContracts.setRows(std::move(rows));
+    if (!contracts_.select(current)) grdContracts.setCurrent(std::min(row, contracts_.rowCount() - 1));
+    btnOpen.setEnabled(!contracts_.empty());
 }
 
 void F_Start::showCount() {
-    const std::string count = std::to_string(list_.contracts.size());
-    lblCount.setCaption(list_.more                    ? filled(named("start.more"), {count, count})
-                        : list_.contracts.size() == 1 ? named("start.countOne")
-                                                      : filled(named("start.count"), {count}));
+    const std::string count = std::to_string(contracts_.rowCount());
+    lblCount.setCaption(more_                        ? filled(named("start.more"), {count, count})
+                        : contracts_.rowCount() == 1 ? named("start.countOne")
+                                                     : filled(named("start.count"), {count}));
 }
 
 void F_Start::showNotifications() {
@@ -194,13 +184,14 @@ void F_Start::showNotifications() {
 void F_Start::openCurrent() {
     const int row = grdContracts.currentRow();
     if (row == ui::Grid::none) return;
-    const ListedContract contract = list_.contracts[static_cast<std::size_t>(row)];
-    if (!contractExists(*session_.connection, contract.id)) {
+    parts::KeyedRow contract = contracts_.row(row);
+    const auto id = static_cast<std::int32_t>(contract.key());
+    if (!contractExists(*session_.connection, id)) {
         parts::ShowMessage(services_.host().display, named("start.gone"), ui::box::information);
         reload();
         return;
     }
-    open(contract.id, contract.name, contract.type, false);
+    open(id, contract.text("VERTRAG_NAME"), contract.text("VER_TYPE"), false);
 }
 
 void F_Start::create() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/parts/KeyedGrid.h"
 #include "module/ui/Button.h"
 #include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
@@ -49,8 +50,7 @@ private:
     ContractFilter filter() const;
     /// Reads the contracts, with the current one kept current where it is still there.
     void reload();
-    void reload(std::int32_t current);
-    void showContracts();
+    void reload(std::int64_t current);
     void showCount();
     void showNotifications();
     std::string named(std::string_view key) const { return services_.localizer().named(key, session_); }
@@ -66,7 +66,6 @@ private:
     std::function<void(const std::string&)> languageChanged_;
     Closing closing_;
     F_NewContract newContract_;
-    ContractList list_; ///< its contracts stand beside the rows of the table
 
     ui::Label lblSearch{*this, "lblSearch", "&Suche"};
     ui::TextBox txtSearch{*this, "txtSearch", 20};
@@ -88,6 +87,9 @@ private:
 
     ui::Frame frmNotifications{*this, "frmNotifications", "Meldungen an den Host"};
     ui::Grid grdNotifications{*this, "grdNotifications", 4};
+
+    parts::KeyedGrid contracts_{grdContracts};
+    bool more_ = false; ///< there are more contracts than are listed
 };
 
 } // namespace tellurix::standin

@@ -17,7 +17,9 @@ std::string sqlDate(base::Date day) {
     return base::formatDate(day, "yyyymmdd", base::Locale::german());
 }
 
-StatementText listQuery(const ContractFilter& filter) {
+} // namespace
+
+std::string contractsQuery(const ContractFilter& filter) {
     // clang-format off
     StatementText query{"SELECT VERTRAEGE.ID_VERTRAG,VERTRAEGE.VERTRAG_NAME,VERTRAEGE.VER_TYPE,"
         "PERSONAL.KURZBEZEICHNUNG,VERTRAEGE.LIEFERVON,VERTRAEGE.LIEFERBIS,"
@@ -55,29 +57,7 @@ StatementText listQuery(const ContractFilter& filter) {
             .quoted(sqlDate(after))
             .fixed(")");
     }
-    return query.fixed(" ORDER BY VERTRAEGE.VERTRAG_NAME");
-}
-
-} // namespace
-
-ContractList readContracts(base::Connection& connection, const ContractFilter& filter, std::size_t limit) {
-    ContractList list;
-    for (auto row = connection.open(listQuery(filter).text()); !row->atEnd(); row->moveNext()) {
-        if (list.contracts.size() == limit) {
-            list.more = true;
-            break;
-        }
-        list.contracts.push_back({.id = static_cast<std::int32_t>(row->integer("ID_VERTRAG")),
-                                  .name = row->text("VERTRAG_NAME"),
-                                  .type = row->text("VER_TYPE"),
-                                  .customer = row->text("KURZBEZEICHNUNG"),
-                                  .deliveryFrom = row->field("LIEFERVON"),
-                                  .deliveryTo = row->field("LIEFERBIS"),
-                                  .closed = row->flag("ABGESCHLOSSEN"),
-                                  .priceLines = row->integer("PREISE"),
-                                  .quantityLines = row->integer("MENGEN")});
-    }
-    return list;
+    return query.fixed(" ORDER BY VERTRAEGE.VERTRAG_NAME").text();
 }
 
 bool contractExists(base::Connection& connection, std::int32_t id) {

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace tellurix::standin {
 
@@ -24,26 +23,9 @@ struct ContractFilter {
     std::optional<base::Date> to;
 };
 
-/// One contract as the list shows it.
-struct ListedContract {
-    std::int32_t id = 0;
-    std::string name;
-    std::string type;
-    std::string customer;
-    base::Value deliveryFrom;
-    base::Value deliveryTo;
-    bool closed = false;
-    std::int64_t priceLines = 0;
-    std::int64_t quantityLines = 0;
-};
-
-struct ContractList {
-    std::vector<ListedContract> contracts; ///< by name
-    bool more = false;                     ///< there are more than were read
-};
-
-/// Reads at most `limit` contracts. However many there are, no more than that is fetched.
-ContractList readContracts(base::Connection& connection, const ContractFilter& filter, std::size_t limit);
+/// The query of the contracts by name: ID_VERTRAG, VERTRAG_NAME, VER_TYPE, KURZBEZEICHNUNG of the customer,
+/// LIEFERVON, LIEFERBIS, ABGESCHLOSSEN, and the numbers of lines PREISE and MENGEN.
+std::string contractsQuery(const ContractFilter& filter);
 
 /// Whether the contract is still there; another session may have discarded it.
 bool contractExists(base::Connection& connection, std::int32_t id);

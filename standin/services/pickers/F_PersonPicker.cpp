@@ -2,19 +2,27 @@
 
 #include "standin/services/pickers/search_keys.h"
 
-#include <algorithm>
-
 namespace tellurix::standin {
+
+namespace {
+
+std::string fullName(base::Fields& person) {
+    const std::string name = person.text("NAME");
+    const std::string firstName = person.text("VORNAME");
+    return firstName.empty() ? name : name + ", " + firstName;
+}
+
+} // namespace
 
 F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::string& start, Found found,
                                std::int32_t current)
     : Form("F_PersonPicker", std::move(title)), search_(std::move(search)) {
-    grdPersons.setColumns({{.caption = "Nummer", .width = 8, .rightAligned = true},
-                           {.caption = "Kurzbezeichnung", .width = 26},
-                           {.caption = "Name", .width = 28},
-                           {.caption = "Straße", .width = 22},
-                           {.caption = "PLZ", .width = 7},
-                           {.caption = "Ort", .width = 20}});
+    persons_.setColumns({{.caption = "Nummer", .width = 8, .field = "NUMMER", .rightAligned = true},
+                         {.caption = "Kurzbezeichnung", .width = 26, .field = "KURZBEZEICHNUNG"},
+                         {.caption = "Name", .width = 28, .shown = fullName},
+                         {.caption = "Straße", .width = 22, .field = "STRASSE"},
+                         {.caption = "PLZ", .width = 7, .field = "PLZ"},
+                         {.caption = "Ort", .width = 20, .field = "ORT"}});
     limitSearch(txtSearch);
     txtSearch.onChange = [this] { narrow(); };
     connectSearch(txtSearch, grdPersons, [this] { choose(); });
@@ -26,8 +34,7 @@ F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::stri
 
     txtSearch.setText(start);
     show(std::move(found));
-    const auto row = std::ranges::find(persons_, current);
-    if (row != persons_.end()) grdPersons.setCurrent(static_cast<int>(row - persons_.begin()));
+    persons_.select(current);
 }
 
 void F_PersonPicker::arrange() {
@@ -40,19 +47,17 @@ void F_PersonPicker::narrow() {
 }
 
 void F_PersonPicker::show(Found found) {
-    persons_ = std::move(found.persons);
-    grdPersons.setRows(std::move(found.rows));
+    persons_.show(std::move(found.rows));
     grdPersons.setCurrent(0);
     lblCount.setCaption(std::move(found.count));
 }
 
 void F_PersonPicker::choose() {
-    const int row = grdPersons.currentRow();
-    if (row != ui::Grid::none) answer(persons_[static_cast<std::size_t>(row)]);
+    if (const auto person = persons_.currentKey()) answer(*person);
 }
 
-void F_PersonPicker::answer(std::int32_t person) {
-    chosen_ = person;
+void F_PersonPicker::answer(std::int64_t person) {
+    chosen_ = static_cast<std::int32_t>(person);
     unload();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/parts/KeyedGrid.h"
 #include "module/ui/Button.h"
 #include "module/ui/Form.h"
 #include "module/ui/Grid.h"
@@ -18,8 +19,7 @@ class F_PersonPicker final : public ui::Form {
 public:
     /// What a search answers: the first persons in the order of their short names.
     struct Found {
-        std::vector<std::int32_t> persons; ///< `ID_PERSONAL`, beside the rows
-        std::vector<ui::Grid::Row> rows;   ///< number, short name, name, street, postcode, town
+        std::vector<parts::KeyedRow> rows; ///< of PERSONAL, by `ID_PERSONAL`
         std::string count;                 ///< how many were found, to be shown
     };
     using Search = std::function<Found(const std::string& typed)>;
@@ -40,10 +40,9 @@ private:
     void narrow();
     void show(Found found);
     void choose();
-    void answer(std::int32_t person);
+    void answer(std::int64_t person);
 
     Search search_;
-    std::vector<std::int32_t> persons_;
     std::optional<std::int32_t> chosen_;
 
     ui::Label lblSearch{*this, "lblSearch", "&Suche"};
@@ -53,6 +52,8 @@ private:
     ui::Button btnOk{*this, "btnOk", "Ü&bernehmen"};
     ui::Button btnNone{*this, "btnNone", "&Keine Auswahl"};
     ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};
+
+    parts::KeyedGrid persons_{grdPersons};
 };
 
 } // namespace tellurix::standin

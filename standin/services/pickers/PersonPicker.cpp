@@ -26,10 +26,8 @@ std::string searchQuery(const std::string& modeColumn, int accessLevel, const st
     return query.fixed(" ORDER BY KURZBEZEICHNUNG,ID_PERSONAL").text();
 }
 
-std::string fullName(base::Recordset& person) {
-    const std::string name = person.text("NAME");
-    const std::string firstName = person.text("VORNAME");
-    return firstName.empty() ? name : name + ", " + firstName;
+bool contains(const std::vector<parts::KeyedRow>& persons, std::int32_t person) {
+    return std::ranges::find(persons, person, &parts::KeyedRow::key) != persons.end();
 }
 
 } // namespace
@@ -47,10 +45,10 @@ std::int32_t PersonPicker::choose(const host::TlxVar& session, const std::string
     // A person beyond the first ones is reached by number.
     std::string typed;
     F_PersonPicker::Found found = searched("");
-    if (start > 0 && std::ranges::count(found.persons, start) == 0) {
+    if (start > 0 && !contains(found.rows, start)) {
         const std::string number = parts::personNumber(*session.connection, start).value_or("");
         F_PersonPicker::Found byNumber = searched(number);
-        if (std::ranges::count(byNumber.persons, start) != 0) {
+        if (contains(byNumber.rows, start)) {
             typed = number;
             found = std::move(byNumber);
         }
@@ -67,16 +65,11 @@ std::int32_t PersonPicker::choose(const host::TlxVar& session, const std::string
 
 F_PersonPicker::Found PersonPicker::search(const host::TlxVar& session, const std::string& modeColumn,
                                            int accessLevel, const std::string& typed) const {
-    F_PersonPicker::Found found;
-    auto person = session.connection->open(searchQuery(modeColumn, accessLevel, typed));
-    for (; !person->atEnd() && found.persons.size() < shownAtMost; person->moveNext()) {
-        found.persons.push_back(static_cast<std::int32_t>(person->integer("ID_PERSONAL")));
-        found.rows.push_back({person->text("NUMMER"), person->text("KURZBEZEICHNUNG"), fullName(*person),
-                              person->text("STRASSE"), person->text("PLZ"), person->text("ORT")});
-    }
-    found.count = filled(localizer_.named(person->atEnd() ? "person.count" : "person.more", session),
-                         {std::to_string(found.persons.size())});
-    return found;
+    auto read = parts::KeyedRows::read(*session.connection, searchQuery(modeColumn, accessLevel, typed),
+                                       "ID_PERSONAL", shownAtMost);
+    std::string count = filled(localizer_.named(read.more ? "person.more" : "person.count", session),
+                               {std::to_string(read.rows.size())});
+    return {.rows = std::move(read.rows), .count = std::move(count)};
 }
 
 } // namespace tellurix::standin

@@ -1,0 +1,133 @@
+#include "module/parts/KeyedGrid.h"
+
+#include "module/base/field_text.h"
+
+#include <algorithm>
+
+namespace tellurix::parts {
+
+void KeyedGrid::setColumns(std::vector<Column> columns) {
+    columns_ = std::move(columns);
+    std::vector<ui::Grid::Column> shown;
+    for (const Column& column : columns_)
+        shown.push_back({.caption = column.caption,
+                         .width = column.width,
+                         .rightAligned = column.rightAligned,
+                         .visible = !column.hidden});
+    grid_.setColumns(std::move(shown));
+}
+
+std::string KeyedGrid::cellText(KeyedRow& row, const Column& column) const {
+    if (column.shown) return column.shown(row);
+    // A row that was only just made has no fields to show.
+    if (column.field.empty() || row.fieldCount() == 0) return {};
+    const std::size_t field = row.fieldIndex(column.field);
+    const base::Value value = row.field(field);
+    if (std::holds_alternative<base::DateTime>(value)) return base::dateText(value);
+    return column.mask.empty() ? row.text(field) : base::numberText(value, column.mask, locale_);
+}
+
+ui::Grid::Row KeyedGrid::cellsOf(KeyedRow& row) const {
+    ui::Grid::Row cells;
+    for (const Column& column : columns_)
+        cells.push_back(cellText(row, column));
+    return cells;
+}
+
+void KeyedGrid::drawRow(int row) {
+    KeyedRow& read = this->row(row);
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        if (columns_[column].shown || !columns_[column].field.empty())
+            grid_.setCell(row, static_cast<int>(column), cellText(read, columns_[column]));
+    }
+}
+
+void KeyedGrid::show(std::vector<KeyedRow> rows) {
+    const auto current = currentKey();
+    rows_ = std::move(rows);
+    std::vector<ui::Grid::Row> cells;
+    for (KeyedRow& row : rows_)
+        cells.push_back(cellsOf(row));
+    grid_.setRows(std::move(cells));
+    if (const auto found = current ? find(*current) : std::nullopt) {
+        grid_.setCurrent(*found, grid_.currentColumn());
+    } else if (grid_.currentRow() == ui::Grid::none && !empty()) {
+        grid_.setCurrent(0);
+    }
+}
+
+void KeyedGrid::redraw() {
+    for (int row = 0; row < rowCount(); ++row)
+        drawRow(row);
+}
+
+std::optional<std::int64_t> KeyedGrid::currentKey() const {
+    const int row = grid_.currentRow();
+    return row == ui::Grid::none || row >= rowCount() ? std::nullopt : std::optional{keyOf(row)};
+}
+
+std::optional<int> KeyedGrid::find(std::int64_t key) const {
+    const auto found = std::ranges::find(rows_, key, &KeyedRow::key);
+    if (found == rows_.end()) return std::nullopt;
+    return static_cast<int>(found - rows_.begin());
+}
+
+bool KeyedGrid::select(std::int64_t key) {
+    const auto row = find(key);
+    if (row) grid_.setCurrent(*row);
+    return row.has_value();
+}
+
+void KeyedGrid::replace(int row, KeyedRow read) {
+    this->row(row) = std::move(read);
+    drawRow(row);
+}
+
+void KeyedGrid::add(std::int64_t key) {
+    rows_.emplace_back(key);
+    grid_.addRow(ui::Grid::Row(columns_.size()));
+    grid_.setCurrent(rowCount() - 1);
+}
+
+void KeyedGrid::swap(int row, int other) {
+    std::swap(this->row(row), this->row(other));
+    for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+        std::string cell = grid_.cell(row, column);
+        grid_.setCell(row, column, grid_.cell(other, column));
+        grid_.setCell(other, column, std::move(cell));
+    }
+}
+
+void KeyedGrid::setValue(int row, std::string_view field, base::Value value) {
+    this->row(row).set(field, std::move(value));
+    drawRow(row);
+}
+
+void KeyedGrid::copyField(std::string_view from, std::string_view to) {
+    for (int row = 0; row < rowCount(); ++row)
+        setValue(row, to, this->row(row).field(from));
+}
+
+base::Decimal KeyedGrid::sum(std::string_view field) {
+    base::Decimal sum;
+    for (KeyedRow& row : rows_)
+        if (const auto number = base::numberIn(row.field(field))) sum = sum + *number;
+    return sum;
+}
+
+std::string KeyedGrid::text(std::span<const TextColumn> columns) {
+    std::string text;
+    std::vector<Column> shown;
+    for (const TextColumn& column : columns) {
+        text += (shown.empty() ? "" : "\t") + column.heading;
+        const auto own = std::ranges::find(columns_, column.field, &Column::field);
+        shown.push_back(own != columns_.end() ? *own : Column{.field = column.field});
+    }
+    for (KeyedRow& row : rows_) {
+        for (std::size_t column = 0; column < shown.size(); ++column)
+            text += (column == 0 ? "\r\n" : "\t") + cellText(row, shown[column]);
+    }
+    return text;
+}
+
+} // namespace tellurix::parts

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "module/base/Locale.h"
+#include "module/parts/KeyedRow.h"
+#include "module/ui/Grid.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tellurix::parts {
+
+/// What a grid shows: rows of a query, each known by its key. It keeps the values as they were read
+/// beside the texts of the cells, which may show fewer decimals.
+class KeyedGrid {
+public:
+    struct Column {
+        std::string caption = {};
+        int width = 10;
+        std::string field = {}; ///< of the query; empty for a cell that the screen writes by itself
+        std::string mask = {};  ///< for a number; a date without one is "dd.mm.yyyy"
+        bool rightAligned = false;
+        bool hidden = false;
+        bool editable = false;
+        /// What the cell shows where it is not one field in a mask.
+        std::function<std::string(base::Fields&)> shown = {};
+    };
+
+    /// @param locale for the numbers that are shown in a mask
+    explicit KeyedGrid(ui::Grid& grid, const base::Locale& locale = base::Locale::german())
+        : grid_(grid), locale_(locale) {}
+
+    /// The columns, for rows that are shown from now on.
+    void setColumns(std::vector<Column> columns);
+    const std::vector<Column>& columns() const { return columns_; }
+    bool editable(int column) const { return columns_.at(static_cast<std::size_t>(column)).editable; }
+
+    /// Shows other rows. The row with the current key stays current; where it is gone, the row that
+    /// stands in its place now.
+    void show(std::vector<KeyedRow> rows);
+    void clear() { show({}); }
+    /// Writes all cells again, for example in other words; not those that the screen writes.
+    void redraw();
+
+    int rowCount() const { return static_cast<int>(rows_.size()); }
+    bool empty() const { return rows_.empty(); }
+    KeyedRow& row(int row) { return rows_.at(static_cast<std::size_t>(row)); }
+    std::int64_t keyOf(int row) const { return rows_.at(static_cast<std::size_t>(row)).key(); }
+    std::optional<std::int64_t> currentKey() const;
+    /// The row with that key.
+    std::optional<int> find(std::int64_t key) const;
+    /// Makes the row with that key the current one.
+    /// @return false when there is none
+    bool select(std::int64_t key);
+
+    /// Shows one row as it was read anew.
+    void replace(int row, KeyedRow read);
+    /// Adds a row that has nothing but its key yet, and makes it the current one.
+    void add(std::int64_t key);
+    void swap(int row, int other);
+
+    /// Sets one value, as when it was typed, and shows it.
+    void setValue(int row, std::string_view field, base::Value value);
+    /// Gives a field the values of another one in every row, as they were read.
+    void copyField(std::string_view from, std::string_view to);
+    /// The sum of the numbers of a field; what is empty counts nothing.
+    base::Decimal sum(std::string_view field);
+
+    /// A column of a text, by the field that it shows.
+    struct TextColumn {
+        std::string heading;
+        std::string field;
+    };
+    /// The rows as they are shown, for a spreadsheet: cells separated by tabs, lines by CR LF, the
+    /// headings first. A field without a column of its own is written as a cell without a mask.
+    std::string text(std::span<const TextColumn> columns);
+
+private:
+    std::string cellText(KeyedRow& row, const Column& column) const;
+    void drawRow(int row);
+    ui::Grid::Row cellsOf(KeyedRow& row) const;
+
+    ui::Grid& grid_;
+    base::Locale locale_;
+    std::vector<Column> columns_;
+    std::vector<KeyedRow> rows_; ///< beside the rows of the grid
+};
+
+} // namespace tellurix::parts

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "module/base/database.h"
+
+#include <limits>
+#include <memory>
+#include <vector>
+
+namespace tellurix::parts {
+
+/// One row of a query as it was read, known by the key in one of its fields.
+class KeyedRow final : public base::Fields {
+public:
+    /// A row that has nothing but its key yet.
+    explicit KeyedRow(std::int64_t key);
+    /// The row that a recordset stands on.
+    KeyedRow(base::Recordset& row, std::string_view keyField);
+
+    std::int64_t key() const { return key_; }
+
+    std::size_t fieldCount() const override { return names_->size(); }
+    std::string fieldName(std::size_t index) const override { return (*names_)[index]; }
+    using Fields::field;
+    base::Value field(std::size_t index) override { return values_[index]; }
+    void set(std::string_view name, base::Value value);
+
+private:
+    friend class KeyedRows;
+    using Names = std::shared_ptr<const std::vector<std::string>>;
+    KeyedRow(base::Recordset& row, std::int64_t key, Names names);
+
+    std::int64_t key_;
+    Names names_; ///< shared by the rows of one query
+    std::vector<base::Value> values_;
+};
+
+/// The rows of one query.
+class KeyedRows {
+public:
+    static constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
+
+    /// Reads at most `limit` rows. However many there are, no more than that is fetched.
+    static KeyedRows read(base::Connection& connection, std::string_view query, std::string_view keyField,
+                          std::size_t limit = unlimited);
+
+    std::vector<KeyedRow> rows;
+    bool more = false; ///< there are more than were read
+};
+
+} // namespace tellurix::parts

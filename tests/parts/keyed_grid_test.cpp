@@ -1,0 +1,106 @@
+#include "module/parts/KeyedGrid.h"
+#include "module/ui/Form.h"
+#include "tests/support/ContractTest.h"
+
+namespace tellurix::tests {
+namespace {
+
+/// The reports of some helpers, as a screen of the centre would list them.
+class Reports : public ContractTest {
+protected:
+    struct List final : ui::Form {
+        List() : Form("List") { setLayout(ui::column({grid})); }
+        ui::Grid grid{*this, "grid"};
+    };
+
+    Reports() {
+        host.database.execute(
+            "CREATE TABLE MELDUNG (ID int, NAME nvarchar(20) NULL, ZUEGE decimal(9,2) NULL, "
+            "ZUGESAGT decimal(9,2) NULL, AM datetime NULL)");
+        host.database.execute("INSERT INTO MELDUNG VALUES (7,'Huber',12.5,3,'05.06.2025')");
+        host.database.execute("INSERT INTO MELDUNG VALUES (3,'Auer',NULL,1,NULL)");
+        host.database.execute("INSERT INTO MELDUNG VALUES (5,NULL,0.25,NULL,NULL)");
+        reports.setColumns({{.width = 3},
+                            {.caption = "Name", .field = "NAME"},
+                            {.caption = "Züge", .field = "ZUEGE", .mask = "0", .editable = true},
+                            {.caption = "Zugesagt", .field = "ZUGESAGT", .mask = "0.00", .editable = true},
+                            {.caption = "Ab",
+                             .shown = [](base::Fields& row) { return row.text("NAME").substr(0, 1) + "."; }},
+                            {.field = "AM", .hidden = true}});
+    }
+
+    void load(const std::string& order, std::size_t limit = parts::KeyedRows::unlimited) {
+        reports.show(parts::KeyedRows::read(
+                         host.database, "SELECT ID,NAME,ZUEGE,ZUGESAGT,AM FROM MELDUNG" + order, "ID", limit)
+                         .rows);
+    }
+    /// A row of the grid, its cells separated by " | ".
+    std::string cells(int row) {
+        std::string text;
+        for (const std::string& cell : list.grid.rows().at(static_cast<std::size_t>(row)))
+            text += (text.empty() ? "" : " | ") + (cell.empty() ? "-" : cell);
+        return text;
+    }
+
+    List list;
+    parts::KeyedGrid reports{list.grid, base::Locale::german()};
+};
+
+TEST_F(Reports, AreShownFieldByFieldAndKeepTheirCurrentRow) {
+    load(" ORDER BY ID DESC");
+    EXPECT_EQ(cells(0), "- | Huber | 13 | 3,00 | H. | 05.06.2025");
+    EXPECT_EQ(cells(1), "- | - | 0 | - | . | -");
+    EXPECT_EQ(cells(2), "- | Auer | - | 1,00 | A. | -");
+    EXPECT_FALSE(list.grid.columns()[5].visible);
+    EXPECT_TRUE(reports.editable(2));
+    EXPECT_FALSE(reports.editable(1));
+    EXPECT_EQ(reports.currentKey(), 7) << "the first row is current at first";
+    EXPECT_TRUE(reports.select(3));
+    load(" ORDER BY ID");
+    EXPECT_EQ(list.grid.currentRow(), 0) << "the current row has moved";
+    EXPECT_EQ(reports.currentKey(), 3);
+    load(" WHERE ID > 3 ORDER BY ID");
+    EXPECT_EQ(reports.currentKey(), 5) << "it is gone: the one in its place";
+    EXPECT_FALSE(reports.select(3));
+    EXPECT_EQ(reports.currentKey(), 5);
+    load(" WHERE ID > 9");
+    EXPECT_EQ(reports.currentKey(), std::nullopt);
+    const auto some = parts::KeyedRows::read(host.database, "SELECT ID FROM MELDUNG ORDER BY ID", "ID", 2);
+    EXPECT_TRUE(some.rows.size() == 2 && some.more);
+    EXPECT_FALSE(parts::KeyedRows::read(host.database, "SELECT ID FROM MELDUNG", "ID", 3).more);
+}
+
+TEST_F(Reports, KeepTheValuesThatTheCellsRound) {
+    load(" ORDER BY ID DESC");
+    EXPECT_EQ(reports.sum("ZUEGE"), base::Decimal(1275, 2)) << "not 13 + 0";
+    reports.copyField("ZUEGE", "ZUGESAGT");
+    EXPECT_EQ(cells(0), "- | Huber | 13 | 12,50 | H. | 05.06.2025");
+    EXPECT_EQ(cells(2), "- | Auer | - | - | A. | -") << "nothing announced, nothing confirmed";
+    list.grid.setCell(1, 0, ">>");
+    reports.setValue(1, "ZUGESAGT", base::Decimal{4});
+    EXPECT_EQ(cells(1), ">> | - | 0 | 4,00 | . | -") << "what the screen writes by itself stays";
+    EXPECT_EQ(reports.sum("ZUGESAGT"), base::Decimal(1650, 2));
+}
+
+TEST_F(Reports, AreATextForASpreadsheet) {
+    load(" ORDER BY ID");
+    const parts::KeyedGrid::TextColumn columns[] = {{"Wer", "NAME"}, {"Züge", "ZUEGE"}, {"Schlüssel", "ID"}};
+    EXPECT_EQ(reports.text(columns), "Wer\tZüge\tSchlüssel\r\nAuer\t\t3\r\n\t0\t5\r\nHuber\t13\t7");
+}
+
+TEST_F(Reports, RowsComeAndChangePlaces) {
+    load(" WHERE ID > 3 ORDER BY ID");
+    reports.add(9);
+    EXPECT_EQ(reports.currentKey(), 9);
+    EXPECT_EQ(cells(2), "- | - | - | - | - | -");
+    reports.swap(0, 1);
+    EXPECT_EQ(reports.keyOf(0), 7);
+    EXPECT_EQ(cells(0), "- | Huber | 13 | 3,00 | H. | 05.06.2025");
+    const auto row = host.database.open("SELECT * FROM MELDUNG WHERE ID = 3");
+    reports.replace(2, parts::KeyedRow{*row, "ID"});
+    EXPECT_EQ(reports.keyOf(2), 3);
+    EXPECT_EQ(cells(2), "- | Auer | - | 1,00 | A. | -");
+}
+
+} // namespace
+} // namespace tellurix::tests
