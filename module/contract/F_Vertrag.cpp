@@ -36,7 +36,7 @@ constexpr std::int16_t deductionsOfContract = 0;
 } // namespace
 
 F_Vertrag::F_Vertrag(host::HostServices& services)
-    : Form("F_Vertrag"), services_(services), takeOver_(*this, services, session_, id_, [this] {
+    : Form("F_Vertrag"), services_(services), takeOver_(*this, [this] {
           showQuantityLines(false);
           showPriceLines(false);
       }) {
@@ -115,7 +115,7 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     newContract_ = newVertrag;
     picZusatzText.setVisible(false);
     btnLieferprofil_WVO.setVisible(true);
-    takeOver_.clear();
+    takeOver_.open({.services = &services_, .session = session_, .id = id_});
 
     name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
                                            " ID_VERTRAG = " + std::to_string(id_));

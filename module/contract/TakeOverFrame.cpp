@@ -41,12 +41,8 @@ private:
 
 } // namespace
 
-TakeOverFrame::TakeOverFrame(ui::Form& form, host::HostServices& services, const host::TlxVar& session,
-                             const std::int32_t& contract, std::function<void()> tookOver)
-    : services_(services),
-      session_(session),
-      contract_(contract),
-      tookOver_(std::move(tookOver)),
+TakeOverFrame::TakeOverFrame(ui::Form& form, std::function<void()> tookOver)
+    : tookOver_(std::move(tookOver)),
       frmUbernehmen(form, "frmUbernehmen", "Aus anderem Vertrag"),
       lblVertrag(form, "lblVertrag", "Vertrag"),
       txtVertrag(form, "txtVertrag", 20),
@@ -70,6 +66,11 @@ ui::Layout TakeOverFrame::layout() {
                                      ui::row({btnUbernehmen, ProgressBar1})});
 }
 
+void TakeOverFrame::open(parts::OpenContract contract) {
+    contract_ = std::move(contract);
+    clear();
+}
+
 void TakeOverFrame::clear() {
     source_.show("", "");
     type_.show("", "");
@@ -87,20 +88,22 @@ void TakeOverFrame::Choice::forget() {
 }
 
 std::string TakeOverFrame::words(OwnText text, const std::vector<std::string>& values) const {
-    return base::ownText(text, session_.language, values);
+    return base::ownText(text, contract_.session.language, values);
 }
 
 void TakeOverFrame::pickType() {
-    const std::string key = services_.keyedLists.choose(
-        session_, typeList, ui::plainCaption(lblTypeOfVertrag.caption()), limits(), txtTypeOfVertrag.text());
+    const std::string key = services().keyedLists.choose(contract_.session, typeList,
+                                                         ui::plainCaption(lblTypeOfVertrag.caption()),
+                                                         limits(), txtTypeOfVertrag.text());
     if (!key.empty()) txtTypeOfVertrag.setText(key);
 }
 
 void TakeOverFrame::pickSource() {
-    const auto key = base::wholeNumber<std::int32_t>(services_.keyedLists.choose(
-        session_, contractList, ui::plainCaption(lblVertrag.caption()), limits(), txtVertrag.text()));
+    const auto key = base::wholeNumber<std::int32_t>(
+        services().keyedLists.choose(contract_.session, contractList, ui::plainCaption(lblVertrag.caption()),
+                                     limits(), txtVertrag.text()));
     if (!key) return;
-    if (*key == contract_) {
+    if (*key == contract_.id) {
         refuse(txtVertrag, words(OwnText::sourceIsItself));
         return;
     }
@@ -112,10 +115,10 @@ bool TakeOverFrame::resolveType() {
     if (type_.isCurrent()) return true;
     std::string key;
     if (!typed.empty()) {
-        const auto keys = services_.keyedLists.find(session_, typeByCode, typed, limits());
+        const auto keys = services().keyedLists.find(contract_.session, typeByCode, typed, limits());
         if (keys.empty()) {
             return refuse(txtTypeOfVertrag,
-                          services_.localizer.text(host::textNumber::invalidEntry, session_));
+                          services().localizer.text(host::textNumber::invalidEntry, contract_.session));
         }
         key = keys.front();
     }
@@ -131,12 +134,13 @@ bool TakeOverFrame::resolveSource() {
     source_.forget();
     if (name.empty()) return true;
     std::vector<std::string> keys;
-    bool ofItself = nameOf(contract_) == name;
-    for (const std::string& found : services_.keyedLists.find(session_, contractByName, name, limits())) {
+    bool ofItself = nameOf(contract_.id) == name;
+    for (const std::string& found :
+         services().keyedLists.find(contract_.session, contractByName, name, limits())) {
         const auto contract = base::wholeNumber<std::int32_t>(found);
         // A host's lists may know no limits.
-        if (contract == contract_) ofItself = true;
-        if (contract && contract != contract_ && isOfChosenType(*contract)) keys.push_back(found);
+        if (contract == contract_.id) ofItself = true;
+        if (contract && contract != contract_.id && isOfChosenType(*contract)) keys.push_back(found);
     }
     if (keys.empty()) {
         return refuse(txtVertrag,
@@ -150,7 +154,7 @@ bool TakeOverFrame::resolveSource() {
 
 bool TakeOverFrame::isOfChosenType(std::int32_t contract) {
     if (type_.key.empty()) return true;
-    const std::string type = services_.keyedLists.typeOf(session_, contract);
+    const std::string type = services().keyedLists.typeOf(contract_.session, contract);
     return type.empty() || base::toUpper(type) == base::toUpper(type_.key);
 }
 
@@ -161,27 +165,27 @@ std::string TakeOverFrame::askWhich(const std::vector<std::string>& keys) {
         " AND PERSONAL.ID_PERSONAL > 0 WHERE VERTRAEGE.ID_VERTRAG IN ("};
     for (std::size_t i = 0; i < keys.size(); ++i)
         query.fixed(i == 0 ? "" : ",").number(keys[i]);
-    return services_.listPicker.choose(session_, query.fixed(")").text(),
-                                       words(OwnText::whichSource, {txtVertrag.text()}), "");
+    return services().listPicker.choose(contract_.session, query.fixed(")").text(),
+                                        words(OwnText::whichSource, {txtVertrag.text()}), "");
 }
 
 std::optional<std::string> TakeOverFrame::nameOf(std::int32_t contract) {
     StatementText query{"SELECT VERTRAG_NAME FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    const auto row = session_.connection->open(query.number(contract).text());
+    const auto row = contract_.connection().open(query.number(contract).text());
     return row->atEnd() ? std::nullopt : std::optional{row->text("VERTRAG_NAME")};
 }
 
 bool TakeOverFrame::refuse(ui::TextBox& box, const std::string& why) {
-    parts::ShowMessage(services_.display, why, ui::box::exclamation);
+    parts::ShowMessage(services().display, why, ui::box::exclamation);
     parts::SafeSetFocus(box);
     return false;
 }
 
 bool TakeOverFrame::acceptsTypeOf(std::int32_t source) {
-    const std::string type = services_.keyedLists.typeOf(session_, source);
+    const std::string type = services().keyedLists.typeOf(contract_.session, source);
     const std::string& own = host::moduleState().context.StrVer_Type;
     if (type.empty() || base::toUpper(type) == base::toUpper(own)) return true;
-    return parts::ShowMessage(services_.display,
+    return parts::ShowMessage(services().display,
                               words(OwnText::sourceOfOtherType, {txtVertrag.text(), type, own}),
                               ui::box::yesNo + ui::box::question) == ui::Answer::yes;
 }
@@ -189,13 +193,13 @@ bool TakeOverFrame::acceptsTypeOf(std::int32_t source) {
 void TakeOverFrame::takeOver() {
     const std::string name = txtVertrag.text();
     if (name.empty()) {
-        refuse(txtVertrag, services_.localizer.text(host::textNumber::invalidEntry, session_));
+        refuse(txtVertrag, services().localizer.text(host::textNumber::invalidEntry, contract_.session));
         return;
     }
-    if (!nameOf(contract_)) throw base::Refused{OwnText::contractIsGone};
+    if (!nameOf(contract_.id)) throw base::Refused{OwnText::contractIsGone};
     if (!resolveSource()) return;
     const std::int32_t source = base::wholeNumber<std::int32_t>(source_.key).value();
-    lines::TakeOver lines{*session_.connection, source, contract_};
+    lines::TakeOver lines{contract_.connection(), source, contract_.id};
     if (lines.total() == 0) {
         refuse(txtVertrag, words(OwnText::sourceWithoutLines, {name}));
         return;
@@ -207,7 +211,7 @@ void TakeOverFrame::takeOver() {
     tookOver_();
     if (lines.done() == lines.total()) {
         const std::string count = std::to_string(lines.done());
-        parts::ShowMessage(services_.display,
+        parts::ShowMessage(services().display,
                            lines.done() == 1 ? words(OwnText::oneLineTakenOver)
                                              : words(OwnText::linesTakenOver, {count}),
                            ui::box::information);
@@ -215,17 +219,17 @@ void TakeOverFrame::takeOver() {
 }
 
 void TakeOverFrame::copy(lines::TakeOver& lines) {
-    const ui::BusyPointer busy{services_.display};
+    const ui::BusyPointer busy{services().display};
     const ShownProgress shown{ProgressBar1, lines.total()};
     try {
         lines.run([&] {
             ProgressBar1.setProgress(lines.done(), lines.total());
-            services_.display.refresh();
+            services().display.refresh();
         });
     } catch (const std::exception& error) {
         const std::string some =
             words(OwnText::someTakenOver, {std::to_string(lines.done()), std::to_string(lines.total())});
-        services_.errors.report(std::runtime_error{some + " " + error.what()});
+        services().errors.report(std::runtime_error{some + " " + error.what()});
     }
 }
 

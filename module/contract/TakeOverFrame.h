@@ -1,8 +1,8 @@
 #pragma once
 
 #include "module/base/own_text.h"
-#include "module/host/services.h"
 #include "module/lines/TakeOver.h"
+#include "module/parts/OpenContract.h"
 #include "module/ui/Button.h"
 #include "module/ui/Frame.h"
 #include "module/ui/Label.h"
@@ -21,14 +21,12 @@ namespace tellurix::contract {
 /// The frame of the contract editor in which the lines of another contract are taken over.
 class TakeOverFrame {
 public:
-    /// @param contract the contract that gets the lines
     /// @param tookOver called when lines were added
-    TakeOverFrame(ui::Form& form, host::HostServices& services, const host::TlxVar& session,
-                  const std::int32_t& contract, std::function<void()> tookOver);
+    TakeOverFrame(ui::Form& form, std::function<void()> tookOver);
 
     ui::Layout layout();
-    /// Forgets the source that was chosen.
-    void clear();
+    /// Begins with another contract, which gets the lines; a source that was chosen is forgotten.
+    void open(parts::OpenContract contract);
 
 private:
     /// What a box shows, and the key that the host's list gave for it; empty for none.
@@ -43,7 +41,9 @@ private:
         void forget();
     };
 
-    host::KeyedLists::Limits limits() const { return {type_.key, contract_}; }
+    void clear();
+    host::HostServices& services() const { return *contract_.services; }
+    host::KeyedLists::Limits limits() const { return {type_.key, contract_.id}; }
     void pickType();
     void pickSource();
     bool resolveType();
@@ -62,9 +62,7 @@ private:
     void copy(lines::TakeOver& lines);
     std::string words(base::OwnText text, const std::vector<std::string>& values = {}) const;
 
-    host::HostServices& services_;
-    const host::TlxVar& session_;
-    const std::int32_t& contract_;
+    parts::OpenContract contract_;
     std::function<void()> tookOver_;
 
     ui::Frame frmUbernehmen;

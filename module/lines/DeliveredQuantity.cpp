@@ -68,10 +68,6 @@ Decimal quantityIn(const base::Value& field) {
     return exact.scale() > quantityDecimals ? exact.rounded(quantityDecimals) : exact;
 }
 
-DeliveredQuantity::DeliveredQuantity(host::SelectionTranslator& translator, const host::TlxVar& session,
-                                     std::string reference, std::int32_t contract)
-    : translator_(translator), session_(session), reference_(std::move(reference)), contract_(contract) {}
-
 std::vector<DeliveredQuantity::Line> DeliveredQuantity::linesUpTo(int place) const {
     // clang-format off
     StatementText query{"SELECT VERTRAG_MENGEN.SELEKTION_VALUE,VERTRAG_MENGEN.ORDNUNG,"
@@ -88,7 +84,7 @@ std::vector<DeliveredQuantity::Line> DeliveredQuantity::linesUpTo(int place) con
     // clang-format on
     query.number(place)
         .fixed(" AND VERTRAG_MENGEN.ID_VERTRAG = ")
-        .number(contract_)
+        .number(contract_.id)
         .fixed(" ")
         .fixed(" ORDER BY VERTRAG_MENGEN.ORDNUNG");
     struct Read {
@@ -97,7 +93,7 @@ std::vector<DeliveredQuantity::Line> DeliveredQuantity::linesUpTo(int place) con
         std::string expression;
     };
     std::vector<Read> read;
-    for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext()) {
+    for (auto line = contract_.connection().open(query.text()); !line->atEnd(); line->moveNext()) {
         read.push_back(
             {static_cast<int>(line->integer("ORDNUNG")), line->text("SELEKTION_VALUE"), expressionOf(*line)});
     }
@@ -110,15 +106,16 @@ std::vector<DeliveredQuantity::Line> DeliveredQuantity::linesUpTo(int place) con
 std::string DeliveredQuantity::conditionOf(int place, const std::string& selection) const {
     if (selection.empty()) return {};
     try {
-        return translator_.translate(session_, logsOfContract, logsOfContract, selection,
-                                     base::toUpper(host::moduleState().context.StrVer_Type), reference_);
+        return contract_.services->selectionTranslator.translate(
+            contract_.session, logsOfContract, logsOfContract, selection,
+            base::toUpper(host::moduleState().context.StrVer_Type), contract_.name);
     } catch (const base::DatabaseError&) {
         throw;
     } catch (const std::exception& error) {
         // It may be another line than the one that the user looks at.
         StatementText query{"SELECT BEZEICHNUNG FROM VERTRAG_MENGEN WHERE ORDNUNG = "};
-        const auto line = session_.connection->open(
-            query.number(place).fixed(" AND ID_VERTRAG = ").number(contract_).text());
+        const auto line = contract_.connection().open(
+            query.number(place).fixed(" AND ID_VERTRAG = ").number(contract_.id).text());
         const std::string description = line->atEnd() ? std::string{} : line->text("BEZEICHNUNG");
         std::vector<base::Refused::Sentence> message{
             {base::OwnText::inLine, {std::to_string(place), description}}};
@@ -136,7 +133,7 @@ StatementText DeliveredQuantity::bookedLogs() const {
     StatementText logs{" LOGS.ID_LOG IN (SELECT ID_LOG FROM LOGS_RECH WHERE "};
     logs.identifier(base::toUpper(host::moduleState().context.StrVer_Type) + "_VERTRAG")
         .fixed(" = ")
-        .quoted(reference_)
+        .quoted(contract_.name)
         .fixed(")");
     return logs;
 }
@@ -170,7 +167,7 @@ std::vector<std::int64_t> DeliveredQuantity::claims(const std::vector<Line>& lin
         .fixed(" END) AS ZEILE FROM LOGS WHERE ")
         .fixed(bookedLogs().text())
         .fixed(") STAMM GROUP BY STAMM.ZEILE");
-    for (auto claim = session_.connection->open(query.text()); !claim->atEnd(); claim->moveNext()) {
+    for (auto claim = contract_.connection().open(query.text()); !claim->atEnd(); claim->moveNext()) {
         const auto index = static_cast<std::size_t>(claim->integer("ZEILE"));
         if (index < taken.size()) taken[index] = claim->integer("ANZAHL");
     }
@@ -182,8 +179,8 @@ Decimal DeliveredQuantity::of(int place) const {
     if (lines.empty() || lines.back().place != place || lines.back().expression.empty()) return {};
     const std::string logs = logsOf(lines, lines.size() - 1);
     if (logs.empty()) return {};
-    const auto sum = session_.connection->open("SELECT ISNULL(SUM(" + lines.back().expression +
-                                               "),0) FROM LOGS WHERE " + logs);
+    const auto sum = contract_.connection().open("SELECT ISNULL(SUM(" + lines.back().expression +
+                                                 "),0) FROM LOGS WHERE " + logs);
     return quantityIn(sum->field(std::size_t{0}));
 }
 
@@ -191,7 +188,7 @@ DeliveredQuantity::Explanation DeliveredQuantity::explain(int place) const {
     const std::vector<Line> lines = linesUpTo(place);
     Explanation explanation;
     if (lines.empty() || lines.back().place != place) return explanation;
-    base::Connection& connection = *session_.connection;
+    base::Connection& connection = contract_.connection();
     const std::vector<Line> earlier{lines.begin(), lines.end() - 1};
     const std::vector<std::int64_t> taken = claims(earlier);
     for (std::size_t i = 0; i < earlier.size(); ++i)

@@ -3,7 +3,7 @@
 #include "module/base/Decimal.h"
 #include "module/base/StatementText.h"
 #include "module/base/date_time.h"
-#include "module/host/services.h"
+#include "module/parts/OpenContract.h"
 
 #include <cstdint>
 #include <optional>
@@ -27,9 +27,8 @@ base::Decimal quantityIn(const base::Value& field);
 /// selection takes every log that is left, so that nothing is delivered against the lines behind it.
 class DeliveredQuantity {
 public:
-    /// @param reference what `LOGS_RECH` names the contract by: its name
-    DeliveredQuantity(host::SelectionTranslator& translator, const host::TlxVar& session,
-                      std::string reference, std::int32_t contract);
+    /// @param contract `LOGS_RECH` knows it by its name
+    explicit DeliveredQuantity(parts::OpenContract contract) : contract_(std::move(contract)) {}
 
     /// The delivered quantity of the line at a place; 0 for a unit in which logs have no measure.
     /// @throws base::Refused naming the line whose selection cannot be translated
@@ -76,10 +75,7 @@ private:
     /// The condition on the logs that count for line `index`; empty when an earlier one takes all.
     std::string logsOf(const std::vector<Line>& lines, std::size_t index) const;
 
-    host::SelectionTranslator& translator_;
-    const host::TlxVar& session_;
-    std::string reference_;
-    std::int32_t contract_;
+    parts::OpenContract contract_;
 };
 
 } // namespace tellurix::lines

@@ -47,8 +47,8 @@ F_VertragMengen::F_VertragMengen(host::HostServices& services)
 void F_VertragMengen::prepare(bool shown) {
     services_.localizer.localize(session_, *this);
     if (!shown) return;
-    reference_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
-                                                " ID_VERTRAG = " + std::to_string(contract_));
+    name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
+                                           " ID_VERTRAG = " + std::to_string(contract_));
     StatementText query{"SELECT UBERLIEFERUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = "};
     const auto logistics = session_.connection->open(query.number(contract_).text());
     overDelivery_ = {};
@@ -112,7 +112,7 @@ void F_VertragMengen::markCurrentRow() {
 }
 
 DeliveredQuantity F_VertragMengen::delivered() const {
-    return {services_.selectionTranslator, session_, reference_, contract_};
+    return DeliveredQuantity{{.services = &services_, .session = session_, .id = contract_, .name = name_}};
 }
 
 void F_VertragMengen::showNoOpenQuantity() {

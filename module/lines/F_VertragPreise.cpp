@@ -47,7 +47,7 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
       price_(txtPreis, priceMask, services.locale),
       secondPrice_(txtPreis_Abr2, secondPriceMask, services.locale),
       cellEditor_(MSFlexGrid1, txtEdit),
-      priceChange_(*this, services, session_, contract_, [this] {
+      priceChange_(*this, services.locale, [this] {
           LoadGrid();
           showCurrentLine();
       }) {
@@ -87,7 +87,7 @@ void F_VertragPreise::prepare(bool /*shown*/) {
     cboGeld.add(session_.homeCurrency);
     chkEdit.setChecked(false);
     cellEditor_.close();
-    priceChange_.hide();
+    priceChange_.open({.services = &services_, .session = session_, .id = contract_});
 }
 
 std::vector<parts::KeyedGrid::Column> F_VertragPreise::gridColumns() const {

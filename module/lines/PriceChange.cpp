@@ -27,11 +27,8 @@ Decimal changedPrice(const Decimal& price, const Decimal& by, ChangeKind kind) {
     return (price * (Decimal{100} + by)).dividedByTenTo(2).rounded(2);
 }
 
-PriceChange::PriceChange(ui::Form& form, host::HostServices& services, const host::TlxVar& session,
-                         const std::int32_t& contract, std::function<void()> changed)
-    : services_(services),
-      session_(session),
-      contract_(contract),
+PriceChange::PriceChange(ui::Form& form, const base::Locale& locale, std::function<void()> changed)
+    : locale_(locale),
       changed_(std::move(changed)),
       btnPreiseAendern(form, "btnPreiseAendern", "Preise ändern"),
       frmPreiseAendern(form, "frmPreiseAendern", "Vertragspreise ändern"),
@@ -43,7 +40,7 @@ PriceChange::PriceChange(ui::Form& form, host::HostServices& services, const hos
       lblFixProzent(form, "lblFixProzent", "+/-"),
       cmbFixProzent(form, "cmbFixProzent", 6),
       grdVorschau(form, "grdVorschau", 4) {
-    ui::makeNumberBox(txtWert, "-#####0.00", services_.locale);
+    ui::makeNumberBox(txtWert, "-#####0.00", locale_);
     cmbFixProzent.add("+/-");
     cmbFixProzent.add("%");
     grdVorschau.setColumns({{.caption = "Bezeichnung", .width = 32},
@@ -64,6 +61,11 @@ ui::Layout PriceChange::layout() {
 void PriceChange::setEnabled(bool enabled) {
     btnPreiseAendern.setEnabled(enabled);
     frmPreiseAendern.setEnabled(enabled);
+}
+
+void PriceChange::open(parts::OpenContract contract) {
+    contract_ = std::move(contract);
+    hide();
 }
 
 void PriceChange::hide() {
@@ -97,25 +99,25 @@ void PriceChange::show() {
 
 void PriceChange::readLines() {
     StatementText query{"SELECT BEZEICHNUNG,PREIS FROM VERTRAG_PREISE WHERE ID_VERTRAG = "};
-    query.number(contract_).fixed(" ORDER BY ORDNUNG");
+    query.number(contract_.id).fixed(" ORDER BY ORDNUNG");
     lines_.clear();
-    for (auto line = session_.connection->open(query.text()); !line->atEnd(); line->moveNext())
+    for (auto line = contract_.connection().open(query.text()); !line->atEnd(); line->moveNext())
         lines_.push_back({line->text("BEZEICHNUNG"), base::numberIn(line->field("PREIS"))});
     preview();
 }
 
 void PriceChange::preview() {
-    const auto by = base::parseNumber(txtWert.text(), services_.locale);
+    const auto by = base::parseNumber(txtWert.text(), locale_);
     std::vector<ui::Grid::Row> rows;
     for (const Line& line : lines_) {
         std::string before;
         std::string after;
-        if (line.price) before = base::formatNumber(*line.price, "0.00##", services_.locale);
+        if (line.price) before = base::formatNumber(*line.price, "0.00##", locale_);
         if (line.price && by) {
             try {
-                after = base::formatNumber(changedPrice(*line.price, *by, kind()), "0.00", services_.locale);
+                after = base::formatNumber(changedPrice(*line.price, *by, kind()), "0.00", locale_);
             } catch (const std::out_of_range&) {
-                after = base::ownText(base::OwnText::priceTooLarge, session_.language);
+                after = base::ownText(base::OwnText::priceTooLarge, contract_.session.language);
             }
         }
         rows.push_back({line.description, std::move(before), std::move(after)});
@@ -131,7 +133,7 @@ std::string PriceChange::statement() {
     } else {
         text.fixed("PREIS = ROUND(PREIS  + ").number(amount).fixed(",2)");
     }
-    return text.fixed(" WHERE ID_Vertrag = ").number(contract_).text();
+    return text.fixed(" WHERE ID_Vertrag = ").number(contract_.id).text();
 }
 
 void PriceChange::change() {
@@ -139,14 +141,14 @@ void PriceChange::change() {
     const std::string amount = txtWert.text();
     const std::string question = "Wollen Sie die Preise des Vertrages um " + amount +
                                  (kind() == ChangeKind::percent ? " Prozent" : "") + " verändern?";
-    if (parts::ShowMessage(services_.display, question, ui::box::yesNo, "Vertrag Preisänderung") !=
+    if (parts::ShowMessage(contract_.services->display, question, ui::box::yesNo, "Vertrag Preisänderung") !=
         ui::Answer::yes) {
         return;
     }
     // Leaving the box has made "0,00" of "0". Adding nothing would still round every price.
-    const auto by = base::parseNumber(amount, services_.locale);
+    const auto by = base::parseNumber(amount, locale_);
     if (amount.empty() || (by && *by == Decimal{})) return;
-    session_.connection->execute(statement());
+    contract_.connection().execute(statement());
     hide();
     changed_();
 }

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "module/base/Decimal.h"
-#include "module/host/services.h"
+#include "module/base/Locale.h"
+#include "module/parts/OpenContract.h"
 #include "module/ui/Button.h"
 #include "module/ui/ComboBox.h"
 #include "module/ui/Frame.h"
@@ -30,18 +31,16 @@ base::Decimal changedPrice(const base::Decimal& price, const base::Decimal& by, 
 /// changes.
 class PriceChange {
 public:
-    /// @param contract the contract whose prices are changed
     /// @param changed called after the prices in the database have changed
-    PriceChange(ui::Form& form, host::HostServices& services, const host::TlxVar& session,
-                const std::int32_t& contract, std::function<void()> changed);
+    PriceChange(ui::Form& form, const base::Locale& locale, std::function<void()> changed);
 
     ui::Layout layout();
     ui::Button& button() { return btnPreiseAendern; }
     void setEnabled(bool enabled);
     /// The preview shows the lines as they are now.
     void linesChanged();
-    /// Hides the frame and forgets the amount.
-    void hide();
+    /// Begins with the prices of another contract: the frame is hidden, the amount forgotten.
+    void open(parts::OpenContract contract);
 
 private:
     struct Line {
@@ -53,13 +52,13 @@ private:
     void show();
     void readLines();
     void change();
+    void hide();
     void preview();
     ChangeKind kind() const;
     std::string statement();
 
-    host::HostServices& services_;
-    const host::TlxVar& session_;
-    const std::int32_t& contract_;
+    base::Locale locale_;
+    parts::OpenContract contract_;
     std::function<void()> changed_;
     std::vector<Line> lines_;
 
