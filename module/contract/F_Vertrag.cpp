@@ -2,27 +2,21 @@
 
 #include "module/base/StatementText.h"
 #include "module/base/date_format.h"
-#include "module/base/field_text.h"
 #include "module/base/own_text.h"
 #include "module/base/text.h"
 #include "module/contract/F_HeaderVertrag.h"
 #include "module/contract/contract_row.h"
-#include "module/contract/header_captions.h"
+#include "module/contract/head_summary.h"
 #include "module/deductions/F_Abschlag.h"
 #include "module/host/contract_type.h"
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/questions.h"
-#include "module/parts/typed_text.h"
-#include "module/ui/caption.h"
 
 namespace tellurix::contract {
 
 using base::OwnText;
 using base::StatementText;
 using ui::column;
-using ui::field;
-using ui::fields;
 using ui::frame;
 using ui::row;
 
@@ -42,10 +36,7 @@ F_Vertrag::F_Vertrag(host::HostServices& services)
       }) {
     txtKunde.setLocked(true);
     txtAbschlag.setLocked(true);
-    btnZusatz.setToolTip("Zusatztext");
-    cmdZusatzText.setToolTip("Zusatztext");
     btnDeleteMan.setToolTip("Kunde aus dem Vertrag entfernen");
-    picZusatzText.setVisible(false);
     txtMessage.setVisible(false);
     // Their screens are not part of the module yet.
     const std::initializer_list<ui::Control*> later{&btnLieferprofil_WVO, &btnWord};
@@ -62,20 +53,11 @@ void F_Vertrag::connect() {
     PreisButton.onClick = [this] { showPriceLines(true); };
     PosButton.onClick = [this] { showQuantityLines(true); };
     btnAbschlag.onClick = [this] { openDeductions(); };
-    btnZusatz.onClick = [this] { toggleAdditionalTexts(); };
-    cmdZusatzText.onClick = [this] { toggleAdditionalTexts(); };
     btnSpeichern.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { unload(); };
     setCancelButton(btnAbbrechen);
     // A contract to take over from that is not there must not keep the window open.
     btnAbbrechen.setCausesValidation(false);
-    for (AdditionalText& text : additionalTexts_) {
-        text.box.setLines(2);
-        text.box.onLeave = [this, &text] {
-            writeAdditionalText(text);
-            return true;
-        };
-    }
 }
 
 void F_Vertrag::arrange() {
@@ -93,10 +75,7 @@ void F_Vertrag::arrange() {
                 takeOver_.layout(),
             }),
         }),
-        frame(picZusatzText,
-              {fields(3, {field(lblZusatz, txtZusatz), field(lblZusatzText[0], txtZusatzText[0]),
-                          field(lblZusatzText[1], txtZusatzText[1])}),
-               row({cmdZusatzText})}),
+        additionalTexts_.layout(),
         row({
                 frame(frmPreise, {Grid1, row({PreisButton})}).growing(),
                 frame(frmMengen, {Grid2, row({PosButton})}).growing(),
@@ -113,17 +92,17 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     session_ = session;
     notYetSaved_ = true;
     newContract_ = newVertrag;
-    picZusatzText.setVisible(false);
     btnLieferprofil_WVO.setVisible(true);
-    takeOver_.open({.services = &services_, .session = session_, .id = id_});
 
     name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
                                            " ID_VERTRAG = " + std::to_string(id_));
+    additionalTexts_.open(openContract());
+    takeOver_.open(openContract());
     if (newContract_) {
         SetContractField("INVDATE", base::dateText(services_.clock.today()), id_);
     }
     loadContract();
-    loadAdditionalTexts();
+    additionalTexts_.load();
     ShowHeader();
     showPriceLines(false);
     showQuantityLines(false);
@@ -135,10 +114,11 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
 }
 
 void F_Vertrag::SetContractField(const std::string& column, const std::string& value, std::int32_t contract) {
-    StatementText statement{"UPDATE VERTRAEGE SET "};
-    statement.identifier(column).fixed(" = ").quotedAsItStandsOrNull(value);
-    statement.fixed(" WHERE ID_VERTRAG = ").number(contract);
-    updateContract(*session_.connection, statement.text());
+    setContractField(*session_.connection, column, value, contract);
+}
+
+parts::OpenContract F_Vertrag::openContract() const {
+    return {.services = &services_, .session = session_, .id = id_, .name = name_};
 }
 
 void F_Vertrag::loadContract() {
@@ -156,58 +136,11 @@ void F_Vertrag::showCustomer() {
     txtKunde.setText(person->atEnd() ? std::string{} : person->text("KURZBEZEICHNUNG"));
 }
 
-void F_Vertrag::loadAdditionalTexts() {
-    StatementText query{"SELECT ZUSATZTEXT, ZUSATZTEXT_1, ZUSATZTEXT_2 FROM VERTRAEGE WHERE ID_VERTRAG = "};
-    const auto texts = session_.connection->open(query.number(id_).text());
-    for (AdditionalText& text : additionalTexts_) {
-        text.written = texts->text(text.column);
-        text.box.setText(text.written);
-    }
-}
-
 void F_Vertrag::ShowHeader() {
-    // clang-format off
-    StatementText query{"SELECT "
-        "VERTRAEGE.INVDATE,VERTRAEGE.DATE1,VERTRAEGE.DATE2,VERTRAEGE.DATE3,VERTRAEGE.LIEFERVON,VERTRAEGE.LIEFERBIS,"
-        "VERTRAEGE.KOPF1,VERTRAEGE.KOPF2,VERTRAEGE.KOPF3,VERTRAEGE.KOPF4,VERTRAEGE.KOPF5,VERTRAEGE.KOPF6,VERTRAEGE.KOPF7,VERTRAEGE.KOPF8,VERTRAEGE.KOPF9,VERTRAEGE.KOPF10,"
-        "VERTRAEGE.NUMM1,VERTRAEGE.NUMM2,VERTRAEGE.NUMM3,VERTRAEGE.NUMM4,VERTRAEGE.NUMM5,VERTRAEGE.NUMM6,VERTRAEGE.NUMM7,VERTRAEGE.NUMM8,VERTRAEGE.NUMM9,VERTRAEGE.NUMM10,"
-        "RECHNUNGSART.RECHNUNGSART,BUCHNR.BUCHUNGSTEXT,"
-        "ISNULL(VERTRAEGE.EURO,0) AS EURO,"
-        "PLA.NUMMER AS PLANUMMER,PLA.KURZBEZEICHNUNG AS PLAKURZBEZEICHNUNG"
-        " FROM VERTRAEGE"
-        " LEFT JOIN RECHNUNGSART ON RECHNUNGSART.RART_ID = VERTRAEGE.RART_ID"
-        " LEFT JOIN BUCHNR ON BUCHNR.BUCHNR_ID = VERTRAEGE.BUCHNR_ID"
-        " LEFT JOIN PERSONAL PLA ON PLA.ID_PERSONAL = VERTRAEGE.ID_PERSONAL_LIEFERADRESSE AND PLA.ID_PERSONAL > 0"
-        " WHERE VERTRAEGE.ID_VERTRAG = "};
-    // clang-format on
-    const auto header = session_.connection->open(query.number(id_).text());
-    requireContract(*header);
+    const std::vector<std::string> summary = headSummary(openContract());
     List1.clear();
-    const auto add = [this](const std::string& caption, const std::string& value) {
-        if (!value.empty()) List1.add(ui::plainCaption(caption) + ": " + value);
-    };
-    const auto caption = [this](int number) { return services_.localizer.text(number, session_); };
-    const auto ownText = [this](OwnText text) { return base::ownText(text, session_.language); };
-    const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
-
-    add(ownText(OwnText::contractDate), base::dateText(header->field("INVDATE")));
-    const std::string from = base::dateText(header->field("LIEFERVON"));
-    const std::string to = base::dateText(header->field("LIEFERBIS"));
-    if (!from.empty() || !to.empty()) add(ownText(OwnText::deliveryPeriod), from + " – " + to);
-    for (std::size_t i = 0; i < captions.dates.size(); ++i) {
-        add(caption(captions.dates[i]), base::dateText(header->field("DATE" + std::to_string(i + 1))));
-    }
-    add(ownText(OwnText::deliveryAddress), header->text("PLAKURZBEZEICHNUNG"));
-    add(caption(captions.rechnungsart), header->text("RECHNUNGSART"));
-    add(caption(captions.buchungsart), header->text("BUCHUNGSTEXT"));
-    add(caption(captions.wahrung), header->flag("EURO") ? host::euro : session_.homeCurrency);
-    for (std::size_t i = 0; i < captions.kopf.size(); ++i) {
-        add(caption(captions.kopf[i]), header->text("KOPF" + std::to_string(i + 1)));
-    }
-    for (std::size_t i = 0; i < captions.numbers.size(); ++i) {
-        const base::Value number = header->field("NUMM" + std::to_string(i + 1));
-        add(caption(captions.numbers[i]), base::numberText(number, "0.00", services_.locale));
-    }
+    for (const std::string& line : summary)
+        List1.add(line);
 }
 
 void F_Vertrag::CopyGrid(const ui::Grid& source, ui::Grid& target) {
@@ -326,37 +259,8 @@ void F_Vertrag::openHeader() {
     accessLevel_ = session_.connection->open(query.number(id_).text())->integer("ID_ACCESS_LEVELS");
 }
 
-void F_Vertrag::toggleAdditionalTexts() {
-    picZusatzText.setVisible(!picZusatzText.visible());
-    parts::SafeSetFocus(picZusatzText.visible() ? static_cast<ui::Control&>(txtZusatz) : btnZusatz);
-}
-
-void F_Vertrag::writeAdditionalText(AdditionalText& text) {
-    if (text.box.text() == text.written) return;
-    SetContractField(text.column, parts::typedText(text.box), id_);
-    text.written = text.box.text();
-}
-
-bool F_Vertrag::keepsRefusedText() {
-    ui::TextBox* refused = nullptr;
-    for (AdditionalText& text : additionalTexts_) {
-        try {
-            writeAdditionalText(text);
-        } catch (const std::exception&) {
-            if (refused == nullptr) refused = &text.box;
-        }
-    }
-    if (refused == nullptr) return false;
-    const std::string question = base::ownText(OwnText::textNotSaved, session_.language);
-    if (parts::confirmed(services_.display, question, ui::box::exclamation)) return false;
-    picZusatzText.setVisible(true);
-    parts::SafeSetFocus(*refused);
-    return true;
-}
-
 void F_Vertrag::save() {
-    for (AdditionalText& text : additionalTexts_)
-        writeAdditionalText(text);
+    additionalTexts_.write();
     StatementText statement{"UPDATE VERTRAEGE SET ABGESCHLOSSEN = "};
     statement.fixed(chkAbgeschlossen.checked() ? "1" : "0");
     if (chkAClEmpty.checked()) {
@@ -378,30 +282,15 @@ bool F_Vertrag::queryUnload() {
     if (newContract_ && notYetSaved_) {
         const std::string question = services_.localizer.text(host::textNumber::discardContract, session_);
         if (parts::ShowMessage(services_.display, question, ui::box::yesNo) != ui::Answer::yes) return false;
-        discard();
+        const ui::BusyPointer busy{services_.display};
+        discardContract(*session_.connection, id_);
         releaseLineScreens();
         return true;
     }
     // The window's close box leaves no field; what was typed last is written all the same.
-    if (keepsRefusedText()) return false;
+    if (additionalTexts_.keepsRefused()) return false;
     releaseLineScreens();
     return true;
-}
-
-void F_Vertrag::discard() {
-    const ui::BusyPointer busy{services_.display};
-    const auto run = [this](std::string_view before, std::string_view after = {}) {
-        StatementText statement{before};
-        session_.connection->execute(statement.number(id_).fixed(after).text());
-    };
-    run("DELETE FROM VERTRAG_PREISE WHERE ID_VERTRAG = ");
-    run("DELETE FROM VERTRAG_MENGEN WHERE ID_VERTRAG = ");
-    run("DELETE FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG in (SELECT ID FROM WVO_VERTRAG WHERE ID_VERTRAEGE = ",
-        ")");
-    run("DELETE FROM WVO_VERTRAG_WALDHELFER WHERE ID_WVO_VERTRAG in (SELECT ID FROM WVO_VERTRAG WHERE ID_VERTRAEGE = ",
-        ")");
-    run("DELETE FROM WVO_VERTRAG WHERE ID_VERTRAEGE = ");
-    run("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = ");
 }
 
 } // namespace tellurix::contract

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/contract/AdditionalTexts.h"
 #include "module/contract/TakeOverFrame.h"
 #include "module/host/module_state.h"
 #include "module/host/services.h"
@@ -48,17 +49,10 @@ public:
     static std::string GetRightsCode(const std::string& typeCode);
 
 private:
-    /// An additional text: its column, the box that edits it, and what the database has.
-    struct AdditionalText {
-        const char* column;
-        ui::TextBox& box;
-        std::string written;
-    };
-
     void arrange();
     void connect();
+    parts::OpenContract openContract() const;
     void loadContract();
-    void loadAdditionalTexts();
     void loadFlags();
     void showCustomer();
     /// Empty, with the reason beside it, for a contract whose name no statement can carry.
@@ -75,13 +69,7 @@ private:
     void chooseCustomer();
     void removeCustomer();
     void openHeader();
-    void toggleAdditionalTexts();
-    void writeAdditionalText(AdditionalText& text);
-    /// Writes what is still unwritten. Where that fails the user is asked once whether to discard it.
-    /// @return true when he wants to go back to it
-    bool keepsRefusedText();
     void save();
-    void discard();
     bool queryUnload() override;
 
     host::HostServices& services_;
@@ -109,13 +97,7 @@ private:
     ui::Grid Grid2{*this, "Grid2", 6};
     ui::Button PosButton{*this, "PosButton", "&Art.Pos."};
 
-    ui::Frame picZusatzText{*this, "picZusatzText", "Zusatztexte"};
-    ui::Label lblZusatz{*this, "lblZusatz", "Zusatztext"};
-    ui::TextBox txtZusatz{*this, "txtZusatz", 30};
-    std::array<ui::Label, 2> lblZusatzText{ui::Label{*this, "lblZusatzText(0)", "Zusatztext 1"},
-                                           ui::Label{*this, "lblZusatzText(1)", "Zusatztext 2"}};
-    std::array<ui::TextBox, 2> txtZusatzText = ui::controlArray<ui::TextBox, 2>(*this, "txtZusatzText", 30);
-    ui::Button cmdZusatzText{*this, "cmdZusatzText", "&Zus.text"};
+    AdditionalTexts additionalTexts_{*this, btnZusatz};
 
     ui::Button btnAbschlag{*this, "btnAbschlag", "Abschlag"};
     ui::TextBox txtAbschlag{*this, "txtAbschlag", 26};
@@ -130,10 +112,6 @@ private:
     ui::Button btnWord{*this, "btnWord", "Vertragsdokument", "document"};
     ui::Button btnSpeichern{*this, "btnSpeichern", "Speichern"};
     ui::Button btnAbbrechen{*this, "btnAbbrechen", "Abbrechen"};
-
-    std::array<AdditionalText, 3> additionalTexts_{{{"ZUSATZTEXT", txtZusatz, {}},
-                                                    {"ZUSATZTEXT_1", txtZusatzText[0], {}},
-                                                    {"ZUSATZTEXT_2", txtZusatzText[1], {}}}};
 };
 
 } // namespace tellurix::contract
