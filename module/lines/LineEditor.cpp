@@ -1,7 +1,6 @@
 #include "module/lines/LineEditor.h"
 
 #include "module/base/Refused.h"
-#include "module/base/StatementText.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"
@@ -11,7 +10,6 @@
 namespace tellurix::lines {
 
 using base::OwnText;
-using base::StatementText;
 
 namespace {
 
@@ -25,7 +23,7 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
       services_(services),
       lines_(MSFlexGrid1, services.locale),
       kind_(kind),
-      statements_(kind.table, 0),
+      list_(kind),
       newId_(noRow),
       rowBefore_(ui::Grid::none),
       mode_({.create = &cmdNeu,
@@ -35,7 +33,7 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
              .remove = &cmdLoschen},
             {.inView = {&MSFlexGrid1, &cmdOk},
              .onRow = {&UpDown1},
-             .whileEdited = {&frmPosition, &quickSelection_.frame()}},
+             .whileEdited = {&frmPosition, &selection_.quickSelection()}},
             [this] { return hasLines(); }) {
     connect();
 }
@@ -45,9 +43,7 @@ void LineEditor::connect() {
     UpDown1.onUp = [this] { moveLine(-1); };
     UpDown1.onDown = [this] { moveLine(+1); };
     UpDown1.setToolTip("Zeile nach oben oder unten verschieben");
-    cmdSelect.onClick = [this] { selectInDialog(); };
-    chkSelektion.setEnabled(false);
-    chkSelektion.setToolTip("Die Zeile hat eine Selektion");
+    selection_.button().onClick = [this] { selectInDialog(); };
     cmdNeu.onClick = [this] { startNew(); };
     cmdBearbeiten.onClick = [this] { startEdit(); };
     cmdSpeichern.onClick = [this] { save(); };
@@ -55,7 +51,7 @@ void LineEditor::connect() {
     cmdLoschen.onClick = [this] { removeLine(); };
     cmdOk.onClick = [this] { unload(); };
     mode_.onEnter = [this] {
-        cmdSelect.setEnabled(!viewing() || hasLines());
+        selection_.button().setEnabled(!viewing() || hasLines());
         setCancelButton(viewing() ? cmdOk : cmdAbbrechen);
         stateShown();
     };
@@ -67,8 +63,7 @@ void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout>
     besideGrid.insert(besideGrid.begin(), UpDown1);
     std::vector<ui::Layout> screen{
         ui::row({ui::Layout{MSFlexGrid1}.growing(), ui::column(std::move(besideGrid))}).growing(),
-        ui::row({ui::frame(frmPosition, {ui::fields(2, std::move(fields))}).growing(),
-                 ui::column({quickSelection_.layout(), ui::row({cmdSelect, chkSelektion})})}),
+        ui::row({ui::frame(frmPosition, {ui::fields(2, std::move(fields))}).growing(), selection_.layout()}),
     };
     std::ranges::move(below, std::back_inserter(screen));
     screen.push_back(ui::row({cmdNeu, cmdBearbeiten, cmdSpeichern, cmdAbbrechen, cmdLoschen, cmdOk}));
@@ -78,7 +73,7 @@ void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout>
 void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool shown) {
     session_ = session;
     contract_ = contract;
-    statements_ = LineStatements{kind_.table, contract};
+    list_.open({.services = &services_, .session = session_, .id = contract_});
     mode_.reset();
     newId_ = noRow;
     prepare(shown);
@@ -99,45 +94,22 @@ void LineEditor::loadUnits() {
         cboUnit.add(unit->text("EINHEIT"), unit->integer("EINHEIT_ID"));
 }
 
-std::string LineEditor::linesQuery() const {
-    StatementText query{kind_.lineColumns};
-    query.fixed(" WHERE ").fixed(kind_.contractColumn).fixed(" = ").number(contract_);
-    return query.fixed(" ORDER BY ").fixed(kind_.placeColumn).text();
-}
-
 void LineEditor::LoadGrid() {
-    const auto placed = [](parts::KeyedRow& line) {
-        return !std::holds_alternative<base::Null>(line.field("ORDNUNG"));
-    };
-    auto lines = parts::KeyedRows::read(*session_.connection, linesQuery(), "ID").rows;
-    // A line without a place is one that somebody else has just begun; it must not push the others aside.
-    std::ranges::stable_partition(lines, placed);
-    lines_.show(std::move(lines));
-
-    for (int row = 0; row < lines_.rowCount(); ++row) {
-        parts::KeyedRow& line = lines_.row(row);
-        const std::int64_t place = row + 1;
-        if (placed(line) && line.integer("ORDNUNG") == place) continue;
-        const auto record = session_.connection->openUpdatable(statements_.lineOf(line.key()));
-        if (record->atEnd()) continue; // deleted by somebody else a moment ago
-        record->setField("Ordnung", place);
-        record->update();
-    }
+    lines_.show(list_.read());
+    list_.repair(lines_.rows());
     linesChanged();
 }
 
 void LineEditor::reloadLine(int row) {
-    StatementText query{kind_.lineColumns};
-    query.fixed(" WHERE ").fixed(kind_.keyColumn).fixed(" = ").number(lines_.keyOf(row));
-    const auto line = session_.connection->open(query.text());
-    if (line->atEnd()) return;
-    lines_.replace(row, parts::KeyedRow{*line, "ID"});
+    auto line = list_.read(lines_.keyOf(row));
+    if (!line) return;
+    lines_.replace(row, std::move(*line));
     if (row == MSFlexGrid1.currentRow()) showCurrentLine();
     linesChanged();
 }
 
 std::unique_ptr<base::Recordset> LineEditor::openCurrent() {
-    const auto open = [this] { return session_.connection->open(statements_.lineAt(place())); };
+    const auto open = [this] { return list_.at(place()); };
     if (!hasLines()) return nullptr;
     if (auto line = open(); !line->atEnd() && line->integer("ID") == lines_.keyOf(MSFlexGrid1.currentRow()))
         return line;
@@ -152,7 +124,7 @@ std::unique_ptr<base::Recordset> LineEditor::openCurrent() {
 }
 
 std::unique_ptr<base::Recordset> LineEditor::openInPlace(int row) {
-    auto line = session_.connection->open(statements_.keyAndSelectionAt(row + 1));
+    auto line = list_.keyAndSelectionAt(row + 1);
     if (!line->atEnd() && line->integer("ID") == lines_.keyOf(row)) return line;
     if (!viewing()) throw base::Refused{OwnText::lineIsGone};
     LoadGrid();
@@ -161,27 +133,15 @@ std::unique_ptr<base::Recordset> LineEditor::openInPlace(int row) {
     throw base::Refused{{{OwnText::listWasOld}, {OwnText::nothingWritten}}};
 }
 
-std::unique_ptr<base::Recordset> LineEditor::openLine(const std::string& query) {
-    auto line = session_.connection->open(query);
-    if (line->atEnd()) throw base::Refused{OwnText::lineIsGone};
-    return line;
-}
-
-std::unique_ptr<base::UpdatableRecordset> LineEditor::openToEdit(const std::string& query) {
-    auto line = session_.connection->openUpdatable(query);
-    if (line->atEnd()) throw base::Refused{OwnText::lineIsGone};
-    return line;
-}
-
 void LineEditor::showCurrentLine() {
     if (const auto line = openCurrent()) {
         showFieldsOf(*line);
-        ShowSelection(openLine(statements_.selectionAt(place()))->text("SELEKTION_VALUE"));
+        selection_.show(list_.selectionAt(place()));
     } else {
         txtBEZEICHNUNG.setText("");
         cboUnit.select(ui::ItemList::none);
         showNoLine();
-        ShowSelection("");
+        selection_.show("");
     }
     currentLineShown();
 }
@@ -193,16 +153,11 @@ void LineEditor::showFieldsOf(base::Recordset& line) {
     showFields(line);
 }
 
-void LineEditor::ShowSelection(const std::string& value) {
-    quickSelection_.show(readSelection(value));
-    chkSelektion.setChecked(hasSelection(value));
-}
-
 void LineEditor::startNew() {
     newId_ = noRow;
     unlistedUnit_ = base::Null{};
     cboUnit.select(ui::ItemList::none);
-    chkSelektion.setChecked(false);
+    selection_.showNone();
     emptyForNewLine();
     rowBefore_ = MSFlexGrid1.currentRow();
     MSFlexGrid1.setCurrent(ui::Grid::none, MSFlexGrid1.currentColumn());
@@ -212,31 +167,25 @@ void LineEditor::startNew() {
 
 void LineEditor::startEdit() {
     const auto line = openInPlace(MSFlexGrid1.currentRow());
-    ShowSelection(line->text("SELEKTION_VALUE"));
+    selection_.show(line->text("SELEKTION_VALUE"));
     mode_.enter(State::edit);
     parts::SafeSetFocus(txtBEZEICHNUNG);
-}
-
-std::int64_t LineEditor::createRow() {
-    session_.connection->execute(statements_.insert());
-    return session_.connection->open(statements_.newestKey())->integer(0);
 }
 
 void LineEditor::StoreSelection(const std::string& literal) {
     if (literal.empty()) return;
     if (mode_.state() != State::fresh) {
-        session_.connection->execute(statements_.setSelectionAt(literal, place()));
+        list_.setSelectionAt(literal, place());
         return;
     }
-    if (newId_ == noRow) newId_ = createRow();
-    session_.connection->execute(statements_.setSelectionOf(literal, newId_));
+    if (newId_ == noRow) newId_ = list_.begin();
+    list_.setSelectionOf(literal, newId_);
 }
 
 bool LineEditor::lineHasSelection() {
-    if (mode_.state() == State::fresh && newId_ == noRow) return false;
-    const auto line = openLine(mode_.state() == State::fresh ? statements_.selectionOf(newId_)
-                                                             : statements_.selectionAt(place()));
-    return !base::trim(line->text("SELEKTION_VALUE")).empty();
+    const bool isNew = mode_.state() == State::fresh;
+    if (isNew && newId_ == noRow) return false;
+    return !base::trim(isNew ? list_.selectionOf(newId_) : list_.selectionAt(place())).empty();
 }
 
 void LineEditor::selectInDialog() {
@@ -244,24 +193,19 @@ void LineEditor::selectInDialog() {
     if (mode_.state() != State::fresh) {
         id = openInPlace(MSFlexGrid1.currentRow())->integer("ID");
     } else if (newId_ == noRow) {
-        id = newId_ = createRow();
+        id = newId_ = list_.begin();
     }
-    const host::HostContext& context = host::moduleState().context;
-    const auto chosen = services_.selectionDialog.select(session_, std::to_string(id) + kind_.dialogKey,
-                                                         base::toUpper(context.StrVer_Type),
-                                                         context.strServiceOut1, context.strServiceOut2);
+    const auto chosen = selection_.choose(std::to_string(id) + kind_.dialogKey);
     if (!chosen) return;
-    const std::string selection{base::trim(*chosen)};
-    session_.connection->execute(statements_.setDialogSelectionOf(selection, id));
-    chkSelektion.setChecked(!selection.empty());
-    quickSelection_.show({});
+    list_.setDialogSelectionOf(*chosen, id);
+    selection_.showChosen(*chosen);
     if (viewing()) currentLineShown();
 }
 
 void LineEditor::save() {
     if (!confirmSave()) return;
     requireFields();
-    const std::string selection = selectionLiteral(quickSelection_.read());
+    const std::string selection = selection_.literal();
     if (mode_.state() == State::edit) openInPlace(MSFlexGrid1.currentRow());
     StoreSelection(selection);
     if (!lineHasSelection()) {
@@ -277,7 +221,7 @@ void LineEditor::save() {
 
 void LineEditor::saveLine() {
     const bool isNew = mode_.state() == State::fresh;
-    const auto line = openToEdit(isNew ? statements_.lineOf(newId_) : statements_.lineAt(place()));
+    const auto line = isNew ? list_.toEdit(newId_) : list_.toEditAt(place());
     if (isNew) line->setField("Ordnung", std::int64_t{lines_.rowCount()} + 1);
     line->setField("ID_Vertrag", std::int64_t{contract_});
     line->setField("BEZEICHNUNG",
@@ -303,18 +247,13 @@ void LineEditor::cancel() {
 
 void LineEditor::discardNewRow() {
     if (newId_ == noRow) return;
-    session_.connection->execute(statements_.removeOf(newId_));
+    list_.discard(newId_);
     newId_ = noRow;
 }
 
 void LineEditor::removeLine() {
     const int removed = place();
-    const auto id = lines_.keyOf(removed - 1);
-    // By its key: in the meantime another user may have moved another line to this place.
-    if (const auto line = session_.connection->openUpdatable(statements_.lineOf(id)); !line->atEnd()) {
-        line->remove();
-        session_.connection->execute(statements_.closeGapBehind(removed));
-    }
+    list_.remove(lines_.keyOf(removed - 1), removed);
     LoadGrid();
     showCurrentLine();
     mode_.enter(State::view);
@@ -327,16 +266,8 @@ void LineEditor::moveLine(int step) {
     if (from == ui::Grid::none || to < 0 || to >= lines_.rowCount()) return;
     openInPlace(from);
     openInPlace(to);
-    const auto setPlace = [this](int row, int place) {
-        const auto line = openToEdit(statements_.lineOf(lines_.keyOf(row)));
-        line->setField("Ordnung", std::int64_t{place});
-        line->update();
-    };
     try {
-        // Through 0, so that two lines of a contract never have the same place.
-        setPlace(from, 0);
-        setPlace(to, from + 1);
-        setPlace(from, to + 1);
+        list_.swap(lines_.keyOf(from), from + 1, lines_.keyOf(to), to + 1);
     } catch (const std::exception& error) {
         // Not all of it was written: loading again puts the line with 0 back into the order.
         services_.errors.report(error);

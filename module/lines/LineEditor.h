@@ -2,12 +2,11 @@
 
 #include "module/host/module_state.h"
 #include "module/host/services.h"
-#include "module/lines/LineStatements.h"
-#include "module/lines/QuickSelectionBoxes.h"
+#include "module/lines/LineList.h"
+#include "module/lines/LineSelection.h"
 #include "module/parts/EditMode.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
 #include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
 #include "module/ui/Grid.h"
@@ -19,24 +18,12 @@
 
 namespace tellurix::lines {
 
-/// What a kind of lines is called in statements and towards the host.
-struct LineKind {
-    const char* table;
-    const char* dialogKey;      ///< behind the line's `ID` in the key of the selection dialog
-    const char* unitQuery;      ///< EINHEIT_ID and EINHEIT of the units that can be chosen
-    const char* lineColumns;    ///< "SELECT …  FROM …", without a condition
-    const char* contractColumn; ///< the condition's and the order's columns, as the statement names them
-    const char* keyColumn;
-    const char* placeColumn;
-};
-
 /// The editor of a contract's lines, as price and quantity lines share it.
 ///
 /// A line is looked at in the view state and changed in the edit or new state, in which the list
 /// waits. A new line gets its row when something has to be written for it, and its place when it is
 /// saved; cancelling, and closing the window, removes the row again. Every line needs a selection
-/// value. The places of a contract's lines are 1 to n: loading repairs what an import or a failure
-/// left otherwise, and writes only the places that are wrong.
+/// value.
 class LineEditor : public ui::Form, public host::Screen {
 public:
     /// Loads the lines of a contract.
@@ -110,13 +97,8 @@ protected:
 private:
     void connect();
     void loadUnits();
-    std::string linesQuery() const;
-    std::int64_t createRow();
     /// The current line, or null where the contract has none.
     std::unique_ptr<base::Recordset> openCurrent();
-    /// One line that has to be there.
-    std::unique_ptr<base::Recordset> openLine(const std::string& query);
-    std::unique_ptr<base::UpdatableRecordset> openToEdit(const std::string& query);
 
     void startNew();
     void startEdit();
@@ -129,19 +111,16 @@ private:
     void StoreSelection(const std::string& literal);
     bool lineHasSelection();
     void selectInDialog();
-    void ShowSelection(const std::string& value);
     void showFieldsOf(base::Recordset& line);
     bool queryUnload() override;
 
     const LineKind& kind_;
-    LineStatements statements_;
+    LineList list_;
     std::int64_t newId_;       ///< `ID` of the new line, -1 while it has no row
     int rowBefore_;            ///< row that was current when the new line was begun
     base::Value unlistedUnit_; ///< the line's unit where the list does not offer it
 
-    QuickSelectionBoxes quickSelection_{*this, services_, session_};
-    ui::Button cmdSelect{*this, "cmdSelect", "Selection"};
-    ui::CheckBox chkSelektion{*this, "chkSelektion"};
+    LineSelection selection_{*this, services_, session_};
     ui::Button cmdNeu{*this, "cmdNeu", "Neu"};
     ui::Button cmdBearbeiten{*this, "cmdBearbeiten", "Bearbeiten"};
     ui::Button cmdSpeichern{*this, "cmdSpeichern", "Speichern"};

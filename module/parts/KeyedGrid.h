@@ -47,6 +47,7 @@ public:
 
     int rowCount() const { return static_cast<int>(rows_.size()); }
     bool empty() const { return rows_.empty(); }
+    std::span<KeyedRow> rows() { return rows_; }
     KeyedRow& row(int row) { return rows_.at(static_cast<std::size_t>(row)); }
     std::int64_t keyOf(int row) const { return rows_.at(static_cast<std::size_t>(row)).key(); }
     std::optional<std::int64_t> currentKey() const;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "module/lines/QuickSelectionBoxes.h"
+#include "module/ui/Button.h"
+#include "module/ui/CheckBox.h"
+
+#include <optional>
+#include <string>
+
+namespace tellurix::lines {
+
+/// The selection of the current line on its screen: the boxes of the quick selection, the tick that says
+/// whether there is one, and the way to the host's dialog.
+class LineSelection {
+public:
+    /// @param session the screen's own copy of the session record
+    LineSelection(ui::Form& form, host::HostServices& services, const host::TlxVar& session);
+
+    ui::Layout layout();
+    ui::Frame& quickSelection() { return boxes_.frame(); }
+    ui::Button& button() { return cmdSelect; }
+
+    /// Shows a selection value; one that the boxes cannot say leaves them empty.
+    void show(const std::string& value);
+    /// A new line has none yet. The boxes keep what they show.
+    void showNone() { chkSelektion.setChecked(false); }
+    /// What the boxes say, as it stands in a statement; empty for nothing.
+    /// @throws ui::RefusedInput as `QuickSelectionBoxes::read`
+    std::string literal() { return selectionLiteral(boxes_.read()); }
+
+    /// Opens the host's dialog on the line of that key.
+    /// @return the trimmed selection, nothing when the user cancelled
+    std::optional<std::string> choose(const std::string& key);
+    /// What the dialog answered has been written; the boxes cannot say it.
+    void showChosen(const std::string& selection);
+
+private:
+    host::HostServices& services_;
+    const host::TlxVar& session_;
+    QuickSelectionBoxes boxes_;
+    ui::Button cmdSelect;
+    ui::CheckBox chkSelektion;
+};
+
+} // namespace tellurix::lines
