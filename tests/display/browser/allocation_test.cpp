@@ -34,17 +34,18 @@ TEST(Allocation, OneThatFailsEndsAConnectionAndNothingElse) {
 } // namespace
 } // namespace tellurix::browser
 
-void* operator new(std::size_t size) {
+// Never inlined: a compiler that sees into one of them takes the pair for a mistake.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     using namespace tellurix::browser;
     if (!spared && left >= 0 && left-- == 0) throw std::bad_alloc{};
     if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
     throw std::bad_alloc{};
 }
 
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
