@@ -3,6 +3,7 @@
 #include "tests/support/ContractTest.h"
 #include "tests/support/EarlierVisit.h"
 
+#include <memory>
 #include <string>
 
 namespace tellurix::tests {
@@ -52,15 +53,22 @@ protected:
 private:
     void edit(const char* button, const char* form, std::int32_t contract,
               const ScriptedDisplay::Script& script, const std::string& type) {
-        host.display.onWindow("F_Vertrag", [this, button, form](User& user) {
+        const auto fresh = std::make_shared<std::string>();
+        host.display.onWindow("F_Vertrag", [=, this](User& user) {
             host.display.aside([&] {
-                host.display.onWindow(form, [this](User& former) { leaveLinesBehind(former, host.display); });
+                host.display.onWindow(form, [&](User& former) {
+                    *fresh = stateOf(former.window());
+                    leaveLinesBehind(former, host.display);
+                });
                 user.click(button);
             });
             user.click(button);
             user.click("btnAbbrechen");
         });
-        host.display.onWindow(form, script);
+        host.display.onWindow(form, [fresh, script](User& user) {
+            EXPECT_EQ(stateOf(user.window()), *fresh) << "of a screen that was used before";
+            script(user);
+        });
         host.openContract(contract, type);
     }
 };

@@ -1,5 +1,10 @@
 #include "tests/support/EarlierVisit.h"
 
+#include "module/ui/CheckBox.h"
+#include "module/ui/ComboBox.h"
+#include "module/ui/Label.h"
+#include "module/ui/TextBox.h"
+
 namespace tellurix::tests {
 
 namespace {
@@ -50,6 +55,29 @@ void leaveLinesBehind(User& user, ScriptedDisplay& display) {
         display.onMessage("", ui::Answer::yes); // in the language of the one who was there before
     }
     user.close();
+}
+
+std::string stateOf(const ui::Form& form) {
+    std::string state =
+        form.title() + ", in " + (form.focused() == nullptr ? "nothing" : form.focused()->name()) + "\n";
+    for (const ui::Control* control : form.controls()) {
+        if (!control->showing()) continue;
+        state += control->name() + (control->usable() ? " usable" : "");
+        if (const auto* box = ui::as<ui::TextBox>(control))
+            state += " '" + box->text() + "' " + box->tag() + box->warning();
+        if (const auto* label = ui::as<ui::Label>(control)) state += " " + label->caption();
+        if (const auto* check = ui::as<ui::CheckBox>(control)) state += check->checked() ? " ticked" : "";
+        if (const auto* combo = ui::as<ui::ComboBox>(control)) state += " " + combo->selectedText();
+        if (const auto* grid = ui::as<ui::Grid>(control)) {
+            state += " at " + std::to_string(grid->currentRow()) + (grid->cellEditor() ? " in work" : "");
+            for (const ui::Grid::Row& row : grid->rows()) {
+                for (const std::string& cell : row)
+                    state += " | " + cell;
+            }
+        }
+        state += "\n";
+    }
+    return state;
 }
 
 void leaveMuchBehind(ScriptedDisplay& display) {

@@ -3,6 +3,7 @@
 #include "tests/support/ScriptedDisplay.h"
 
 #include <cstdint>
+#include <string>
 
 namespace tellurix::tests {
 
@@ -16,5 +17,8 @@ inline constexpr std::int32_t sparseContract = 19;
 void leaveMuchBehind(ScriptedDisplay& display);
 /// The same on one of the line screens.
 void leaveLinesBehind(User& user, ScriptedDisplay& display);
+/// What all controls of a screen show and whether they can be used: where it was opened before, it is
+/// the same as on a screen that was never used.
+std::string stateOf(const ui::Form& form);
 
 } // namespace tellurix::tests
