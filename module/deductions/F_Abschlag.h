@@ -67,7 +67,7 @@ private:
     void DeleteLines();
     void UpdateLineColumn(const std::string& column, const std::string& value, std::size_t line);
     void UpdateModelColumn(const std::string& column, const std::string& value);
-    /// Composes what cannot be sent with every text before anything is deleted.
+    /// Tries the texts that go into statements as they stand, before anything is deleted.
     /// @throws ui::RefusedInput naming the control whose text no statement can carry
     void requireTexts();
 

@@ -2,6 +2,7 @@
 
 #include "com/automation/Dispatch.h"
 #include "module/host/CalculationForm.h"
+#include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
 #include "module/ui/Grid.h"
 #include "module/ui/TextBox.h"
