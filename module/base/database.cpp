@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <vector>
 
 namespace tellurix::base {
 
@@ -75,12 +76,59 @@ bool Fields::flag(std::string_view name, bool ifNull) {
     return integer(name) != 0;
 }
 
+namespace {
+
+/// Rows that were read from another recordset, which is closed then.
+class RowsInMemory final : public Recordset {
+public:
+    explicit RowsInMemory(Recordset& rows) {
+        for (std::size_t index = 0; index < rows.fieldCount(); ++index)
+            columns_.push_back({rows.fieldName(index), rows.fieldType(index), rows.textWidth(index)});
+        for (; !rows.atEnd(); rows.moveNext())
+            for (std::size_t index = 0; index < columns_.size(); ++index)
+                values_.push_back(rows.field(index));
+    }
+
+    std::size_t fieldCount() const override { return columns_.size(); }
+    std::string fieldName(std::size_t index) const override { return columns_.at(index).name; }
+    FieldType fieldType(std::size_t index) const override { return columns_.at(index).type; }
+    int textWidth(std::size_t index) const override { return columns_.at(index).textWidth; }
+
+    bool atEnd() override { return start_ == values_.size(); }
+    void moveNext() override {
+        requireRow();
+        start_ += columns_.size();
+    }
+    Value field(std::size_t index) override {
+        requireRow();
+        if (index >= columns_.size()) throw std::out_of_range{"There is no such field"};
+        return values_[start_ + index];
+    }
+
+private:
+    struct Column {
+        std::string name;
+        FieldType type;
+        int textWidth;
+    };
+
+    void requireRow() {
+        if (atEnd()) throw DatabaseError(DatabaseErrorCategory::other, "There is no current row", {});
+    }
+
+    std::vector<Column> columns_;
+    std::vector<Value> values_; ///< row by row
+    std::size_t start_ = 0;     ///< of the current row
+};
+
+} // namespace
+
 std::unique_ptr<Recordset> Connection::open(std::string_view query) {
-    ExecuteResult result = execute(query);
+    const ExecuteResult result = execute(query);
     if (!result.rows)
         throw DatabaseError(DatabaseErrorCategory::other, "The statement answers without rows",
                             std::string(query));
-    return std::move(result.rows);
+    return std::make_unique<RowsInMemory>(*result.rows);
 }
 
 } // namespace tellurix::base

@@ -158,7 +158,9 @@ public:
     /// @throws DatabaseError
     virtual std::unique_ptr<UpdatableRecordset> openUpdatable(std::string_view query) = 0;
 
-    /// Opens the rows of a query.
+    /// The rows of a query, read to the end: nothing of it stays open, and another statement may be sent
+    /// while the rows are looked at. Servers answer one statement at a time; for a second one, drivers open
+    /// a connection of their own, which has none of the host's settings.
     /// @throws DatabaseError also when the text answers without rows
     std::unique_ptr<Recordset> open(std::string_view query);
 };

@@ -74,8 +74,8 @@ std::int16_t CheckKeyForColumn(const host::TlxVar& session, const ui::Form& form
     base::StatementText statement{"SELECT "};
     statement.identifier(column).fixed(" FROM ").identifier(table);
     // Only the column's type is asked for: no row of the table is fetched for a key press.
-    const auto rows = session.connection->open(statement.text());
-    return convertsTo(rows->fieldType(0), text, locale) ? keyCode : rejected;
+    const base::ExecuteResult answer = session.connection->execute(statement.text());
+    return convertsTo(answer.rows->fieldType(0), text, locale) ? keyCode : rejected;
 }
 
 void SafeSetFocus(ui::Control& control) {

@@ -5,6 +5,7 @@
 #include "standin/home/F_Start.h"
 #include "standin/home/ModuleOpener.h"
 #include "tests/scenarios/HeadlessDisplay.h"
+#include "tests/support/OneStatementConnection.h"
 
 #include <gtest/gtest.h>
 
@@ -22,10 +23,12 @@ struct ModuleUnloading {
 std::string play(const std::filesystem::path& scenario, const std::filesystem::path& file) {
     const standin::SystemClock clock;
     const embedded::Database database{file, clock};
-    const auto connection = database.connect();
+    const auto connected = database.connect();
+    // What holds on the strictest of servers holds everywhere.
+    OneStatementConnection connection{*connected};
     const auto catalogue = standin::TextCatalogue::builtIn();
     HeadlessDisplay display{readScenario(scenario)};
-    host::TlxVar session{.connection = connection.get(), .homeCurrency = "CHF", .site = {}, .user = "test"};
+    host::TlxVar session{.connection = &connection, .homeCurrency = "CHF", .site = {}, .user = "test"};
     standin::WorkbenchServices services{display, session, catalogue};
     display.setErrorHandling(&services.host().errors);
     const ModuleUnloading unloading;

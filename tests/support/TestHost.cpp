@@ -39,7 +39,8 @@ std::unique_ptr<base::UpdatableRecordset> FaultyConnection::openUpdatable(std::s
 }
 
 TestHost::TestHost(base::Connection& inner)
-    : database(inner),
+    : strict_(inner),
+      database(strict_),
       services{.display = display,
                .errors = display,
                .clock = testClock(),

@@ -3,6 +3,7 @@
 #include "database/tracing/TracingConnection.h"
 #include "module/entry/clsVertrag.h"
 #include "module/host/services.h"
+#include "tests/support/OneStatementConnection.h"
 #include "tests/support/ScriptedDisplay.h"
 #include "tests/support/StandingClock.h"
 
@@ -74,6 +75,10 @@ public:
     /// What the module asks whether the host works on articles.
     host::HostMainWindow& mainWindow() { return *this; }
 
+private:
+    OneStatementConnection strict_;
+
+public:
     ScriptedDisplay display;
     FaultyConnection database;
     host::HostServices services;
