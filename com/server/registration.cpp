@@ -9,6 +9,7 @@
 #include <shlwapi.h>
 
 #include <array>
+#include <filesystem>
 
 // Windows has them, the headers of the compiler do not.
 extern "C" HRESULT WINAPI RegisterTypeLibForUser(ITypeLib* library, OLECHAR* path, OLECHAR* helpFolder);
@@ -67,6 +68,12 @@ struct Library {
         return std::to_wstring(attributes->wMajorVerNum) + L"." + std::to_wstring(attributes->wMinorVerNum);
     }
 
+    /// Where the path of the registered type library stands, for programs of this kind.
+    std::wstring typesKey() const {
+        return std::wstring(classesKey) + L"TypeLib\\" + writtenAs(attributes->guid) + L"\\" + version() +
+               L"\\0\\" + (sizeof(void*) == 8 ? L"win64" : L"win32");
+    }
+
     ComPtr<ITypeLib> types;
     TLIBATTR* attributes = nullptr;
     std::wstring name;
@@ -105,12 +112,31 @@ void registerClass(HKEY root, const Library& library, const Registered& served) 
     writeKey(root, served.progIdKey + L"\\CLSID", nullptr, served.id);
 }
 
+std::wstring readKey(HKEY root, const std::wstring& key) {
+    std::array<wchar_t, 2 * MAX_PATH> text{};
+    auto bytes = static_cast<DWORD>(sizeof text);
+    const LSTATUS status =
+        RegGetValueW(root, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &bytes);
+    return status == ERROR_SUCCESS ? text.data() : std::wstring();
+}
+
+/// Whether somebody else's library is registered by that path. One that is there no more was ours once.
+bool isElsewhere(const std::wstring& path) {
+    std::error_code failed;
+    return !path.empty() && std::filesystem::exists(path, failed) &&
+           !std::filesystem::equivalent(path, ownPath(), failed);
+}
+
 void unregisterClass(HKEY root, const Registered& served) {
+    if (isElsewhere(readKey(root, served.classKey + L"\\InprocServer32"))) return;
     removeKey(root, served.classKey);
     // A user whose first class of his own this was had no such key before.
     if (root == HKEY_CURRENT_USER) SHDeleteEmptyKeyW(root, L"Software\\Classes\\CLSID");
     // Both halves of the registry share the ProgID: the DLL of the other kind may still need it.
-    if (!keyExists(root, served.classKey, otherHalf)) removeKey(root, served.progIdKey);
+    // A class of another library may have the name now.
+    const std::wstring named = readKey(root, served.progIdKey + L"\\CLSID");
+    const bool isOurs = named.empty() || _wcsicmp(named.c_str(), served.id.c_str()) == 0;
+    if (isOurs && !keyExists(root, served.classKey, otherHalf)) removeKey(root, served.progIdKey);
 }
 
 } // namespace
@@ -141,6 +167,7 @@ void unregisterServer(RegistrationScope scope) {
     const auto unregisterLibrary =
         scope == RegistrationScope::machine ? UnRegisterTypeLib : UnRegisterTypeLibForUser;
     const TLIBATTR& id = *library.attributes;
+    if (isElsewhere(readKey(rootOf(scope), library.typesKey()))) return;
     const HRESULT result = unregisterLibrary(id.guid, id.wMajorVerNum, id.wMinorVerNum, id.lcid, id.syskind);
     // So it is answered when there was nothing to take away. A registry that cannot be written has
     // been told about by the classes' keys.

@@ -10,7 +10,8 @@ enum class RegistrationScope { machine, user };
 /// @throws AutomationError; then nothing is left behind
 void registerServer(RegistrationScope scope);
 
-/// Takes everything away that registering wrote. What is not there any more is no error.
+/// Takes everything away that registering wrote. What is not there any more is no error, and what
+/// somebody else has registered meanwhile, under the same names or ids, stays.
 /// @throws AutomationError
 void unregisterServer(RegistrationScope scope);
 

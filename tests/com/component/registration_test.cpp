@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <map>
 
 namespace tellurix::tests {
@@ -93,6 +96,64 @@ TEST(Registration, LeavesTheRegistryAsItWasForMachineAndUser) {
         EXPECT_EQ(firstDifference(before[1], after[1]), "");
     }
     windows::registerLibraries();
+}
+
+TEST(Registration, LeavesWhatAHostHasRegisteredItself) {
+    windows::registerLibraries();
+    const std::wstring names = L"Software\\Classes\\Tellurix_Loc.HostLocalizer";
+    const std::wstring classKey =
+        L"Software\\Classes\\CLSID\\{592FF1F3-EFF0-466A-879F-0B49B2D1FC2E}"; // Tellurix_Loc.ListPicker
+    const auto write = [](const std::wstring& key, const std::wstring& text) {
+        RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), nullptr, REG_SZ, text.c_str(),
+                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+    };
+    write(names + L"\\CLSID", L"{0f5a7f0e-3a44-4c3f-9a0b-5d2f7e6c9a02}");
+    write(classKey + L"\\InprocServer32", L"C:\\windows\\system32\\ole32.dll");
+    windows::unregisterLibraries();
+    const Registry left = classes()[0];
+    EXPECT_TRUE(left.contains(names + L"\\CLSID@")) << "a name that leads to another class";
+    EXPECT_TRUE(left.contains(classKey + L"\\InprocServer32@")) << "a class in another library";
+    EXPECT_FALSE(left.contains(L"Software\\Classes\\Tellurix_Loc.DateConverter\\CLSID@"));
+    windows::registerLibraries();
+    EXPECT_TRUE(windows::librariesAreRegistered());
+}
+
+TEST(Registration, IsAskedForByKnownWordsAlone) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::temp_directory_path() / "tellurix-register";
+    const fs::path package = fs::path("Z:" TELLURIX_TEST_FOLDER) / "../../../windows/package";
+    fs::create_directory(folder);
+    std::ofstream(folder / "each_library.cmd") << "@echo %options%: %*\r\n";
+    const auto answer = [&](const std::string& script, const std::string& words) {
+        std::ifstream original(package / script);
+        std::ofstream copy(folder / script);
+        for (std::string line; std::getline(original, line);)
+            copy << line << "\r\n";
+        copy.close();
+        FILE* const console = _popen((folder / script).string().append(" ").append(words).c_str(), "r");
+        std::string output;
+        for (int c = std::fgetc(console); c != EOF; c = std::fgetc(console))
+            if (c != '\r' && c != '\n') output += static_cast<char>(c);
+        return output + " " + std::to_string(_pclose(console));
+    };
+    const struct {
+        const char* script;
+        const char* words;
+        const char* answer;
+    } cases[] = {
+        {"register.cmd", "", "/s: Tellurix_Vertrag.dll 0"},
+        {"register.cmd", "user", "/s /n /i:user: Tellurix_Vertrag.dll 0"},
+        {"register.cmd", "standin", "/s: Tellurix_Loc.dll Tellurix_Vertrag.dll 0"},
+        {"register.cmd", "User StandIn", "/s /n /i:user: Tellurix_Loc.dll Tellurix_Vertrag.dll 0"},
+        {"register.cmd", "usr", "Unbekanntes Wort: usr. Bekannt sind: user, standin. 2"},
+        {"register.cmd", "standin all", "Unbekanntes Wort: all. Bekannt sind: user, standin. 2"},
+        {"unregister.cmd", "", "/s /u: Tellurix_Vertrag.dll Tellurix_Loc.dll 0"},
+        {"unregister.cmd", "user", "/s /u /n /i:user: Tellurix_Vertrag.dll Tellurix_Loc.dll 0"},
+        {"unregister.cmd", "all", "Unbekannt: all. Bekannt ist: user. 2"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(answer(c.script, c.words), c.answer) << c.script << " " << c.words;
+    fs::remove_all(folder);
 }
 
 } // namespace
