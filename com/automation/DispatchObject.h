@@ -36,11 +36,14 @@ public:
     }
     /// What an object is when it is used without a member's name.
     DispatchTable& defaultMember(const wchar_t* name);
+    /// Lets scripts go through a collection, `For Each`: it has Count, and Item(index from 0).
+    DispatchTable& enumerable();
 
     /// Names are found in any case of their letters. @return DISPID_UNKNOWN when there is none
     DISPID numberOf(const wchar_t* name) const;
     /// @return nullptr when there is none
     const Member* member(DISPID number) const;
+    bool isEnumerable() const { return enumerable_; }
 
 private:
     template <typename Class, typename Work>
@@ -57,6 +60,7 @@ private:
 
     std::vector<Member> members_; ///< numbered from 1
     DISPID default_ = DISPID_UNKNOWN;
+    bool enumerable_ = false;
 };
 
 /// An object of ours that clients use by the names of its members, scripts included. Nothing that a
@@ -76,6 +80,9 @@ protected:
     virtual const DispatchTable& table() const = 0;
     /// Who it is that reports an error, such as "ADODB.Recordset".
     virtual const char* source() const = 0;
+
+private:
+    Variant invoke(DISPID number, WORD kind, const CallArguments& arguments);
 };
 
 } // namespace tellurix::windows

@@ -14,9 +14,9 @@ namespace {
 enum Operation : DISPID { bereitstellung = firstOperation, mengenmeldung, vertrag, vertragType };
 
 /// @throws AutomationError when the host gave no record
-const ::TlxVar& given(const ::TlxVar* record) {
+std::unique_ptr<HostsRecord> given(::TlxVar* record) {
     if (record == nullptr) throw AutomationError(E_POINTER, "The session record (TlxVar) is missing");
-    return *record;
+    return std::make_unique<HostsRecord>(record, RecordType::registered());
 }
 
 } // namespace
@@ -37,32 +37,40 @@ struct VertragObject::RunParameters {
     bool enableKLR;
 };
 
-void VertragObject::run(::TlxVar* record, RunParameters& parameters) {
+void VertragObject::run(std::unique_ptr<HostsRecord> record, RunParameters& parameters,
+                        const std::function<void()>& writeBack) {
     const auto mainWindow = std::make_shared<HostWindow>(parameters.F_Main);
-    Apartment::Call call(*apartment_, given(record), mainWindow->handle());
+    Apartment::Call call(*apartment_, Apartment::Kind::contract, std::move(record), mainWindow->handle());
     call.perform([&](host::TlxVar& session) {
         apartment_->module().Vertrag_Run(
             session, parameters.id, parameters.name, parameters.StrVer_Type, parameters.strThousantSep,
             parameters.strDecimalSep, parameters.rechName, parameters.blnOK, parameters.bolEuroChange,
             parameters.F_Main ? mainWindow : nullptr, parameters.g_intStandardMandanten,
-            parameters.newVertrag, parameters.strCaption, parameters.enableKLR);
+            parameters.newVertrag, parameters.strCaption, parameters.enableKLR, [&] {
+                writeBack();
+                call.screenIsClosed();
+            });
     });
 }
 
-void VertragObject::runReport(Report report, ::TlxVar* record, std::int16_t modul) {
-    Apartment::Call call(*apartment_, given(record), HostWindow(nullptr).handle());
+void VertragObject::runReport(Report report, std::unique_ptr<HostsRecord> record, std::int16_t modul) {
+    const auto kind = report == &host::clsVertrag::F_Bereitstellung_WVO_Run ? Apartment::Kind::provisionReport
+                                                                            : Apartment::Kind::quantityReport;
+    Apartment::Call call(*apartment_, kind, std::move(record), HostWindow(nullptr).handle());
     call.perform([&](host::TlxVar& session) { (apartment_->module().*report)(session, modul); });
 }
 
 HRESULT VertragObject::F_Bereitstellung_WVO_Run(::TlxVar* record, short modul) {
     const ComPtr<IDispatch> alive(this);
-    return guarded(source(), [&] { runReport(&host::clsVertrag::F_Bereitstellung_WVO_Run, record, modul); });
+    return guarded(source(),
+                   [&] { runReport(&host::clsVertrag::F_Bereitstellung_WVO_Run, given(record), modul); });
 }
 
 HRESULT VertragObject::F_VertragMengenmeldung_WVO_Run(::TlxVar* record, short modul) {
     const ComPtr<IDispatch> alive(this);
-    return guarded(source(),
-                   [&] { runReport(&host::clsVertrag::F_VertragMengenmeldung_WVO_Run, record, modul); });
+    return guarded(source(), [&] {
+        runReport(&host::clsVertrag::F_VertragMengenmeldung_WVO_Run, given(record), modul);
+    });
 }
 
 HRESULT VertragObject::Vertrag_Run(::TlxVar* record, LONG id, BSTR name, BSTR StrVer_Type_dll,
@@ -89,9 +97,10 @@ HRESULT VertragObject::Vertrag_Run(::TlxVar* record, LONG id, BSTR name, BSTR St
                                  .newVertrag = newVertrag != VARIANT_FALSE,
                                  .strCaption = textOf(strCaption),
                                  .enableKLR = enableKLR != VARIANT_FALSE};
-        run(record, parameters);
-        assign(*blnOK_dll, comVariant(parameters.blnOK));
-        *bolEuroChange_dll = static_cast<VARIANT_BOOL>(parameters.bolEuroChange);
+        run(given(record), parameters, [&] {
+            assign(*blnOK_dll, comVariant(parameters.blnOK));
+            *bolEuroChange_dll = static_cast<VARIANT_BOOL>(parameters.bolEuroChange);
+        });
     });
 }
 
@@ -112,11 +121,12 @@ void VertragObject::runByName(const CallArguments& arguments) {
                              .newVertrag = arguments[11].flag(),
                              .strCaption = arguments[12].text(),
                              .enableKLR = arguments[13].flag()};
-    run(&recordIn(arguments.raw(0), "TlxVar"), parameters);
-    arguments.write(7, comVariant(parameters.blnOK));
-    Variant euroChange(false);
-    euroChange.boolVal = static_cast<VARIANT_BOOL>(parameters.bolEuroChange);
-    arguments.write(8, euroChange);
+    run(recordIn(arguments.raw(0), "TlxVar"), parameters, [&] {
+        arguments.write(7, comVariant(parameters.blnOK));
+        Variant euroChange(false);
+        euroChange.boolVal = static_cast<VARIANT_BOOL>(parameters.bolEuroChange);
+        arguments.write(8, euroChange);
+    });
 }
 
 HRESULT VertragObject::GetVertragType(BSTR strVerType, BSTR* result) {
@@ -128,7 +138,7 @@ HRESULT VertragObject::GetVertragType(BSTR strVerType, BSTR* result) {
 Variant VertragObject::invoke(DISPID number, const CallArguments& arguments) {
     const auto report = [&](Report operation) {
         expectCount(arguments, 2);
-        runReport(operation, &recordIn(arguments.raw(0), "TlxVar"), arguments[1].as(VT_I2).iVal);
+        runReport(operation, recordIn(arguments.raw(0), "TlxVar"), arguments[1].as(VT_I2).iVal);
         return Variant();
     };
     switch (number) {

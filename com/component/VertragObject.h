@@ -28,12 +28,14 @@ protected:
 
 private:
     using Report = void (host::clsVertrag::*)(host::TlxVar&, std::int16_t);
-    void runReport(Report report, ::TlxVar* record, std::int16_t modul);
+    void runReport(Report report, std::unique_ptr<HostsRecord> record, std::int16_t modul);
     void runByName(const CallArguments& arguments);
 
     /// The parameters of Vertrag_Run, however they came.
     struct RunParameters;
-    void run(::TlxVar* record, RunParameters& parameters);
+    /// @param writeBack called when the editor is closed, before the host is notified
+    void run(std::unique_ptr<HostsRecord> record, RunParameters& parameters,
+             const std::function<void()>& writeBack);
 
     std::shared_ptr<Apartment> apartment_ = sharedByThread<Apartment>();
 };

@@ -61,9 +61,11 @@ public:
             guarded(source(), [&] { result = type()->GetIDsOfNames(names, count, numbers); });
         return FAILED(asked) ? asked : result;
     }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID, LCID, WORD, DISPPARAMS* parameters,
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID number, REFIID, LCID, WORD kind, DISPPARAMS* parameters,
                                      VARIANT* answer, EXCEPINFO* error, UINT* wrongArgument) final {
         if (parameters == nullptr) return E_POINTER;
+        // There are operations alone, and nothing that could be assigned to.
+        if ((kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) return DISP_E_MEMBERNOTFOUND;
         const ComPtr<IDispatch> alive(this);
         try {
             const PlacedArguments placed(*parameters);

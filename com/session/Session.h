@@ -1,9 +1,10 @@
 #pragma once
 
+#include "com/session/HostsRecord.h"
 #include "database/ado/AdoConnection.h"
 #include "module/host/TlxVar.h"
 
-#include <Tellurix_Loc.h>
+#include <memory>
 
 namespace tellurix::windows {
 
@@ -11,7 +12,7 @@ namespace tellurix::windows {
 class Session {
 public:
     /// @throws AutomationError when the record has no connection
-    explicit Session(const ::TlxVar& record);
+    explicit Session(std::unique_ptr<HostsRecord> record);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
@@ -23,9 +24,9 @@ private:
     host::TlxVar values_;
 };
 
-/// The record among the arguments of a late-bound call.
+/// The record among the arguments of a late-bound call, where the caller has it.
 /// @param name the parameter's, for the error text
 /// @throws AutomationError when the argument is none
-::TlxVar& recordIn(VARIANT& argument, const char* name);
+std::unique_ptr<HostsRecord> recordIn(VARIANT& argument, const char* name);
 
 } // namespace tellurix::windows

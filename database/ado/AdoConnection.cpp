@@ -52,8 +52,8 @@ std::unique_ptr<base::UpdatableRecordset> AdoConnection::openUpdatable(std::stri
     forgetErrors(connection_);
     return reported(connection_, query, [&] {
         Dispatch recordset = newRecordset();
-        recordset.call(L"Open", {Variant(query), Variant(connection_.object()), Variant(adOpenKeyset),
-                                 Variant(adLockOptimistic), Variant(adCmdText)});
+        recordset.call(L"Open", {Variant(query), Variant(connection_.object()), Variant(adOpenStatic),
+                                 Variant(adLockPessimistic), Variant(adCmdText)});
         return std::make_unique<AdoRecordset>(std::move(recordset), connection_, std::string(query));
     });
 }

@@ -34,9 +34,9 @@ constexpr std::int32_t adStateClosed = 0;
 constexpr std::int32_t adStateOpen = 1;
 
 constexpr std::int32_t adOpenForwardOnly = 0;
-constexpr std::int32_t adOpenKeyset = 1;
+constexpr std::int32_t adOpenStatic = 3;
 constexpr std::int32_t adLockReadOnly = 1;
-constexpr std::int32_t adLockOptimistic = 3;
+constexpr std::int32_t adLockPessimistic = 2;
 constexpr std::int32_t adCmdText = 1;
 constexpr std::int32_t adAffectCurrent = 1;
 

@@ -134,6 +134,8 @@ constexpr Words wordsOf(OwnText text) {
         return {"Sollen die eingegebenen Zeilen durch das Modell „{}“ ersetzt werden?",
                 "Replace the lines that were typed by the model \"{}\"?"};
 
+    case OwnText::serviceFailed:
+        return {"Der Dienst {} ({}) ist gescheitert: {}", "The service {} ({}) has failed: {}"};
     case OwnText::refusedValue:
         return {"„{}“:", "\"{}\":"};
     case OwnText::refusedInField:

@@ -61,6 +61,7 @@ enum class OwnText {
     closeChanged,     ///< a question
     closePartlySaved, ///< a question: how many, of how many
     replaceByModel,   ///< a question: the model's name
+    serviceFailed, ///< a service of the host: class, operation, what it says
     // Values that no statement can carry
     refusedValue,   ///< begins the message: the value
     refusedInField, ///< begins the message: the field's label, the value

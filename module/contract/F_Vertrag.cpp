@@ -77,8 +77,8 @@ void F_Vertrag::arrange() {
         }),
         additionalTexts_.layout(),
         row({
-                frame(frmPreise, {Grid1, row({PreisButton})}).growing(),
-                frame(frmMengen, {Grid2, row({PosButton})}).growing(),
+                frame(frmPreise, {ui::Layout{Grid1}.growing(), row({PreisButton})}).growing(),
+                frame(frmMengen, {ui::Layout{Grid2}.growing(), row({PosButton})}).growing(),
             })
             .growing(),
         row({btnWord, txtMessage, btnSpeichern, btnAbbrechen}),

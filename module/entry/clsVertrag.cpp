@@ -19,20 +19,21 @@ clsVertrag::clsVertrag(HostServices& services, ReportScreenFactory provisionRepo
       provisionReport_(std::move(provisionReport)),
       quantityReport_(std::move(quantityReport)) {}
 
-ReportScreen& clsVertrag::reportScreen(const std::string& name, const ReportScreenFactory& create) {
-    return moduleState().screen<ReportScreen>(name, [&] {
+std::shared_ptr<ReportScreen> clsVertrag::reportScreen(const std::string& name,
+                                                       const ReportScreenFactory& create) {
+    return moduleState().heldScreen<ReportScreen>(name, [&] {
         if (!create) throw NotAvailable{name + " is not available in this version of the contract module"};
         return create(services_);
     });
 }
 
 void clsVertrag::F_Bereitstellung_WVO_Run(TlxVar& session, std::int16_t modul) {
-    reportScreen(provisionReportScreen, provisionReport_).Run(session, modul);
+    reportScreen(provisionReportScreen, provisionReport_)->Run(session, modul);
     moduleState().release(provisionReportScreen);
 }
 
 void clsVertrag::F_VertragMengenmeldung_WVO_Run(TlxVar& session, std::int16_t modul) {
-    reportScreen(quantityReportScreen, quantityReport_).Run(session, modul);
+    reportScreen(quantityReportScreen, quantityReport_)->Run(session, modul);
     // The host relies on the quantity reports being as it left them, and on fresh provision reports.
     moduleState().release(provisionReportScreen);
 }
@@ -43,7 +44,8 @@ void clsVertrag::Vertrag_Run(TlxVar& session, std::int32_t id, const std::string
                              Variant& blnOK_dll, Boolean16& bolEuroChange_dll,
                              std::shared_ptr<HostMainWindow> F_Main_dll,
                              std::int16_t g_intStandardMandanten_dll, bool newVertrag,
-                             const std::string& strCaption, bool enableKLR) {
+                             const std::string& strCaption, bool enableKLR,
+                             const std::function<void()>& whenClosed) {
     HostContext& context = moduleState().context;
     context.StrVer_Type = StrVer_Type_dll;
     context.VerType = GetVertragType(StrVer_Type_dll);
@@ -62,6 +64,7 @@ void clsVertrag::Vertrag_Run(TlxVar& session, std::int32_t id, const std::string
 
     blnOK_dll = isTrue(context.blnOK);
     bolEuroChange_dll = context.bolEuroChange;
+    if (whenClosed) whenClosed();
     notifyHost(session);
 }
 

@@ -4,6 +4,7 @@
 #include "module/host/variant.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -38,18 +39,21 @@ public:
     /// @param bolEuroChange_dll in and out, unchanged
     /// @param newVertrag the host has just created the row: closing without saving deletes it
     /// @param strCaption what the window title starts with
+    /// @param whenClosed called between the two: the editor is closed, blnOK_dll and bolEuroChange_dll are
+    ///        written, the host has not been notified yet and may open the next contract when it is
     void Vertrag_Run(TlxVar& session, std::int32_t id, const std::string& name,
                      const std::string& StrVer_Type_dll, const std::string& strThousantSep_dll,
                      const std::string& strDecimalSep_dll, const std::string& rechName_dll,
                      Variant& blnOK_dll, Boolean16& bolEuroChange_dll,
                      std::shared_ptr<HostMainWindow> F_Main_dll, std::int16_t g_intStandardMandanten_dll,
-                     bool newVertrag, const std::string& strCaption, bool enableKLR);
+                     bool newVertrag, const std::string& strCaption, bool enableKLR,
+                     const std::function<void()>& whenClosed = {});
 
     /// "V" for "R", "V1" … "V8" for "A1" … "A8", whatever the case of the letters; else empty.
     std::string GetVertragType(const std::string& strVerType) const;
 
 private:
-    ReportScreen& reportScreen(const std::string& name, const ReportScreenFactory& create);
+    std::shared_ptr<ReportScreen> reportScreen(const std::string& name, const ReportScreenFactory& create);
     void notifyHost(const TlxVar& session);
 
     HostServices& services_;

@@ -17,8 +17,20 @@ ModuleState& moduleState() {
     return *stateOfThread;
 }
 
-void releaseModuleState() {
-    delete std::exchange(stateOfThread, nullptr);
+ModuleMemory releaseModuleState() {
+    const std::unique_ptr<ModuleState> state(std::exchange(stateOfThread, nullptr));
+    if (!state) return {};
+    ModuleMemory left{std::move(state->context), std::move(state->remembered)};
+    left.context.F_Main.reset();
+    for (const auto& [name, screen] : state->screens)
+        if (ScreenMemory memory = screen->memory(); !memory.empty()) left.screens[name] = std::move(memory);
+    return left;
+}
+
+void restoreModuleState(ModuleMemory memory) {
+    ModuleState& state = moduleState();
+    state.context = std::move(memory.context);
+    state.remembered = std::move(memory.screens);
 }
 
 } // namespace tellurix::host

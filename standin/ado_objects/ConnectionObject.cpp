@@ -30,8 +30,9 @@ std::filesystem::path fileNamedIn(std::string_view connectionString) {
 
 } // namespace
 
-ComPtr<IDispatch> createEmbeddedConnection(const base::Clock& clock, PrepareFile prepare) {
-    return ComPtr<IDispatch>::adopt(new ConnectionObject(clock, std::move(prepare)));
+ComPtr<IDispatch> createEmbeddedConnection(const base::Clock& clock, PrepareFile prepare,
+                                           const IID& interfaceId) {
+    return ComPtr<IDispatch>::adopt(new ConnectionObject(clock, std::move(prepare), interfaceId));
 }
 
 const DispatchTable& ConnectionObject::table() const {
@@ -74,7 +75,8 @@ ComPtr<ConnectionObject> ConnectionObject::in(const Variant& value) {
 }
 
 HRESULT ConnectionObject::QueryInterface(REFIID id, void** answer) {
-    if (answer == nullptr || id != ownClass) return DispatchObject::QueryInterface(id, answer);
+    if (answer == nullptr || id != ownClass)
+        return DispatchObject::QueryInterface(id == interfaceId_ ? IID_IDispatch : id, answer);
     AddRef();
     *answer = this;
     return S_OK;

@@ -14,8 +14,8 @@ namespace tellurix::windows::ado {
 /// ADODB.Connection over the embedded database.
 class ConnectionObject final : public DispatchObject {
 public:
-    ConnectionObject(const base::Clock& clock, PrepareFile prepare)
-        : clock_(clock), prepare_(std::move(prepare)) {}
+    ConnectionObject(const base::Clock& clock, PrepareFile prepare, const IID& interfaceId)
+        : clock_(clock), prepare_(std::move(prepare)), interfaceId_(interfaceId) {}
 
     /// The connection that an ActiveConnection holds: only one of ours will do, by its own private name.
     /// @throws AutomationError when it is something else
@@ -49,6 +49,7 @@ private:
 
     const base::Clock& clock_;
     PrepareFile prepare_;
+    const IID interfaceId_;
     std::string connectionString_;
     std::unique_ptr<base::Connection> connection_;
     std::shared_ptr<ServerErrors> errors_ = std::make_shared<ServerErrors>();

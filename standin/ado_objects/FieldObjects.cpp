@@ -82,7 +82,8 @@ protected:
                               [](Self& self, const CallArguments&) -> Variant {
                                   return static_cast<std::int32_t>(self.recordset_->rows().fieldCount());
                               })
-                .defaultMember(L"Item");
+                .defaultMember(L"Item")
+                .enumerable();
         return table;
     }
     const char* source() const override { return sourceName; }

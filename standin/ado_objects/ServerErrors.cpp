@@ -53,7 +53,8 @@ protected:
                 .method<ErrorsObject>(L"Item", &ErrorsObject::item)
                 .method<ErrorsObject>(L"Clear",
                                       [](ErrorsObject& self, const CallArguments&) { self.errors_->clear(); })
-                .defaultMember(L"Item");
+                .defaultMember(L"Item")
+                .enumerable();
         return table;
     }
     const char* source() const override { return sourceName; }

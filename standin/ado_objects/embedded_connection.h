@@ -16,6 +16,8 @@ using PrepareFile = std::function<void(const std::filesystem::path& file)>;
 /// one where a client of ADO would create an ADODB.Recordset.
 /// @param clock what GETDATE() answers; outlives all connections
 /// @param prepare does what a file needs before it is opened, such as making it; may be empty
-ComPtr<IDispatch> createEmbeddedConnection(const base::Clock& clock, PrepareFile prepare = {});
+/// @param interfaceId a late-bound interface of a type library by which it can be asked for as well
+ComPtr<IDispatch> createEmbeddedConnection(const base::Clock& clock, PrepareFile prepare = {},
+                                           const IID& interfaceId = IID_IDispatch);
 
 } // namespace tellurix::windows::ado

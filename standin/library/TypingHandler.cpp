@@ -2,9 +2,9 @@
 
 namespace tellurix::windows {
 
-TypingHandler::TypingHandler(const ::TlxVar& record, const std::string& query,
+TypingHandler::TypingHandler(const HostsRecord& record, const std::string& query,
                              const std::string& displayColumn)
-    : session_(record) {
+    : session_(record.copied()) {
     service_.bind(session_.values(), mirror_.box, query, displayColumn);
 }
 

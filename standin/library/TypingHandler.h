@@ -11,8 +11,8 @@ namespace tellurix::windows {
 /// change: KeyPress(box, character code), Change(box).
 class TypingHandler final : public DispatchObject {
 public:
-    /// @param record copied; the connection in it is kept as long as the box is completed
-    TypingHandler(const ::TlxVar& record, const std::string& query, const std::string& displayColumn);
+    /// @param record copied, and kept as long as the box is completed
+    TypingHandler(const HostsRecord& record, const std::string& query, const std::string& displayColumn);
 
     std::int32_t keyPress(Dispatch box, std::int32_t character);
     void change(Dispatch box);

@@ -55,7 +55,7 @@ Variant resolve(ServiceObject& service, Given given) {
 
 void bind(ServiceObject&, Given given) {
     const Dispatch handler(ComPtr<IDispatch>::adopt(
-        new TypingHandler(recordIn(given.raw(0), "Session"), given[2].text(), given[3].text())));
+        new TypingHandler(*recordIn(given.raw(0), "Session"), given[2].text(), given[3].text())));
     Dispatch box(given[1]);
     box.putReference(L"KeyPressHandler", handler);
     box.putReference(L"ChangeHandler", handler);

@@ -21,7 +21,8 @@ ComPtr<IUnknown> embeddedConnection() {
     const auto makeSample = [](const std::filesystem::path& file) {
         standin::createWhenMissing(file, standin::DatabaseContents::sample, clock);
     };
-    return ComPtr<IUnknown>(ado::createEmbeddedConnection(clock, makeSample).get());
+    return ComPtr<IUnknown>(
+        ado::createEmbeddedConnection(clock, makeSample, __uuidof(_EmbeddedConnection)).get());
 }
 
 } // namespace

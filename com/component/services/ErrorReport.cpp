@@ -13,7 +13,7 @@ void ErrorReport::report(const std::exception& error) {
         SessionRecord record(*session_);
         const auto* refused = dynamic_cast<const base::Refused*>(&error);
         const std::string message = refused != nullptr ? refused->message(session_->language) : error.what();
-        object_.call(L"Show", {record.argument(), errorKind(error), message});
+        object_.call(*session_, L"Show", {record.argument(), errorKind(error), message});
     } catch (const std::exception&) {
         // What happened first is what the user has to know.
         parts::ShowMessage(display_, error.what(), ui::box::critical);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "com/automation/Bstr.h"
 #include "com/automation/Dispatch.h"
-#include "com/session/SessionRecord.h"
+#include "com/session/HostsRecord.h"
 
 #include <string>
 
@@ -12,7 +13,9 @@ class HostClass {
 public:
     explicit HostClass(const char* name) : name_(name) {}
 
-    Variant call(const wchar_t* operation, Dispatch::Arguments arguments);
+    /// @param session whose user is told when it fails: with the class and the operation
+    /// @throws AutomationError
+    Variant call(const host::TlxVar& session, const wchar_t* operation, Dispatch::Arguments arguments);
 
 private:
     const char* name_;

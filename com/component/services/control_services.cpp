@@ -11,13 +11,13 @@ namespace tellurix::windows {
 void LateLocalizer::localize(const host::TlxVar& session, ui::Form& form) {
     SessionRecord record(session);
     const Lent<FormObject> lent(form);
-    object_.call(L"Localize", {record.argument(), lent.argument()});
+    object_.call(session, L"Localize", {record.argument(), lent.argument()});
 }
 
 std::string LateLocalizer::text(int number, const host::TlxVar& session) {
     SessionRecord record(session);
     TextInOut text;
-    object_.call(L"Text", {number, record.argument(), text.argument()});
+    object_.call(session, L"Text", {number, record.argument(), text.argument()});
     return text.value();
 }
 
@@ -35,8 +35,9 @@ bool LateLookupValidation::resolve(const host::TlxVar& session, std::int32_t opt
     };
     const Variant second = lend(lentShown, shown);
     return object_
-        .call(L"Resolve", {record.argument(), option, query, lentBox.argument(), second, displayColumn,
-                           lend(lentThird, third), text})
+        .call(session, L"Resolve",
+              {record.argument(), option, query, lentBox.argument(), second, displayColumn,
+               lend(lentThird, third), text})
         .flag();
 }
 
@@ -44,13 +45,13 @@ void LateGridLayoutStore::save(const host::TlxVar& session, const ui::Grid& grid
     SessionRecord record(session);
     // The library only reads what it saves; the object over a grid is the same for both ways.
     const Lent<GridObject> lent(const_cast<ui::Grid&>(grid));
-    object_.call(L"Save", {record.argument(), lent.argument(), key});
+    object_.call(session, L"Save", {record.argument(), lent.argument(), key});
 }
 
 void LateGridLayoutStore::restore(const host::TlxVar& session, ui::Grid& grid, const std::string& key) {
     SessionRecord record(session);
     const Lent<GridObject> lent(grid);
-    object_.call(L"Restore", {record.argument(), lent.argument(), key});
+    object_.call(session, L"Restore", {record.argument(), lent.argument(), key});
 }
 
 void LateModelService::fill(const host::TlxVar& session, ui::ComboBox& list, const std::string& category) {
@@ -78,7 +79,7 @@ void LateTypeAhead::bind(const host::TlxVar& session, ui::TextBox& box, const st
                          const std::string& displayColumn) {
     SessionRecord record(session);
     const Lent<BoxObject> lent(box);
-    object_.call(L"Bind", {record.argument(), lent.argument(), query, displayColumn});
+    object_.call(session, L"Bind", {record.argument(), lent.argument(), query, displayColumn});
 }
 
 } // namespace tellurix::windows

@@ -81,7 +81,7 @@ Outcome callByName(_clsVertrag& module, RunCall& call) {
     std::array<DISPID, 2> numbers{};
     windows::check(module.GetIDsOfNames(IID_NULL, names.data(), 2, LOCALE_NEUTRAL, numbers.data()),
                    "GetIDsOfNames");
-    const auto type = recordType(module);
+    const auto type = call.recordType == nullptr ? recordType(module) : ComPtr<IRecordInfo>(call.recordType);
     const Variant record = call.record == nullptr ? Variant() : Variant::reference(call.record, *type);
     // Backwards.
     std::array<Variant, 14> arguments{false,

@@ -26,6 +26,7 @@ struct RunCall {
     windows::Variant ok{false};
     VARIANT_BOOL euroChange = VARIANT_FALSE;
     ::TlxVar* record = nullptr;
+    IRecordInfo* recordType = nullptr; ///< for a call by name, when it is not ours
 };
 
 /// Ways to call clsVertrag: through the interface of its type library, or by name with the session

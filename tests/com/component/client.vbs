@@ -42,5 +42,8 @@ Check "too many arguments", Err.Number, 450
 Err.Clear
 contracts.Vertrag_Stop
 Check "an unknown operation", Err.Number, 438
+Err.Clear
+contracts.GetVertragType = "R"
+Check "assigning to an operation", Err.Number, 438
 
 If failures = 0 Then WScript.Echo "Everything is as it should be."

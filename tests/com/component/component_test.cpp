@@ -2,12 +2,12 @@
 #include "com/automation/wide.h"
 #include "display/win32/native/endings.h"
 #include "standin/windows_host/libraries.h"
+#include "tests/com/component/Closer.h"
 #include "tests/com/component/ComponentClient.h"
 #include "tests/support/windows/WindowsUser.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <future>
 #include <thread>
 
@@ -16,8 +16,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using windows::Variant;
-
-constexpr auto patience = 20s;
 
 struct Component : testing::Test {
     static void SetUpTestSuite() { windows::registerLibraries(); }
@@ -28,43 +26,6 @@ struct Way {
     Outcome (*call)(_clsVertrag&, RunCall&);
 };
 constexpr Way ways[] = {{"through the interface", callDirectly}, {"by name", callByName}};
-
-BOOL CALLBACK takeEditor(HWND window, LPARAM found) {
-    if (!IsWindowVisible(window) || WindowsUser::nameOf(window) != "F_Vertrag") return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-/// The contract editor that a thread shows, waited for as long as `meanwhile` allows; null for none.
-template <typename Still>
-HWND editorOf(DWORD thread, const Still& meanwhile) {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
-    while (meanwhile() && std::chrono::steady_clock::now() < deadline) {
-        HWND editor = nullptr;
-        EnumThreadWindows(thread, takeEditor, reinterpret_cast<LPARAM>(&editor));
-        if (editor != nullptr) return editor;
-        std::this_thread::sleep_for(5ms);
-    }
-    return nullptr;
-}
-
-/// Closes the editor of the calling thread as soon as it is there.
-class Closer {
-public:
-    Closer()
-        : thread_([this, opener = GetCurrentThreadId()] {
-              if (const HWND editor = editorOf(opener, [this] { return !over_; }))
-                  PostMessageW(editor, WM_CLOSE, 0, 0);
-          }) {}
-    ~Closer() {
-        over_ = true;
-        thread_.join();
-    }
-
-private:
-    std::atomic<bool> over_{false};
-    std::thread thread_;
-};
 
 /// @param variable is made one of that type
 Variant referenceTo(Variant& variable, VARTYPE type) {
@@ -299,6 +260,24 @@ TEST_F(Component, IsUsedByAScript) {
     EXPECT_EQ(outputOf("client.vbs"), "Everything is as it should be.\n");
 }
 
+LONG heightOf(HWND window) {
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    return rect.bottom - rect.top;
+}
+
+/// Makes a window 100 pixels higher. @return whether the control becomes so, too
+bool growsWith(HWND window, HWND control) {
+    const LONG before = heightOf(control);
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    SetWindowPos(window, nullptr, 0, 0, rect.right - rect.left, rect.bottom - rect.top + 100,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    for (int i = 0; i < 200 && heightOf(control) < before + 90; ++i)
+        std::this_thread::sleep_for(10ms);
+    return heightOf(control) >= before + 90;
+}
+
 TEST_F(Component, ShowsTheScreensWithTheServicesOfTheHostsLibrary) {
     ComponentClient host;
     const windows::Bstr english("en");
@@ -311,6 +290,8 @@ TEST_F(Component, ShowsTheScreensWithTheServicesOfTheHostsLibrary) {
         WindowsUser user(thread);
         GetWindowTextW(user.control("btnZusatz"), caption.data(), static_cast<int>(caption.size()));
         EXPECT_EQ(windows::narrow(caption.data()), "E&xtra texts");
+        for (const char* grid : {"Grid1", "Grid2"})
+            EXPECT_TRUE(growsWith(editor, user.control(grid))) << grid;
         user.click(user.control("PreisButton"));
         user.click(user.control("cmdBearbeiten"));
         user.click(user.control("txtHa"));

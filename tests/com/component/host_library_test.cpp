@@ -52,6 +52,11 @@ TEST(HostLibrary, OffersEveryClassOfItsTypeLibraryAsItStandsThere) {
         const auto object = windows::Dispatch::create("Tellurix_Loc." + windows::textOf(name.get())).object();
         const auto members = membersOf(*ownInterface);
         EXPECT_FALSE(members.empty());
+        TYPEATTR* attributes = nullptr;
+        ComPtr<IUnknown> asked;
+        windows::check(ownInterface->GetTypeAttr(&attributes), "GetTypeAttr");
+        EXPECT_EQ(object->QueryInterface(attributes->guid, asked.putVoid()), S_OK) << "by its own interface";
+        ownInterface->ReleaseTypeAttr(attributes);
         for (const auto& [member, number] : members) {
             auto asked = const_cast<wchar_t*>(member.c_str());
             DISPID answered = DISPID_UNKNOWN;

@@ -254,7 +254,7 @@ TEST_F(AdoObjects, CountedWriteAnswersWithAClosedRecordsetOfItsOwn) {
 TEST_F(AdoObjects, RowsInEditingAreWrittenByMovingOnAndDroppedByCancelling) {
     execute("INSERT INTO T (NAME) VALUES ('a'),('b')");
     Dispatch rows(object_.call(L"NewRecordset"));
-    rows.call(L"Open", {"SELECT * FROM T", object_.object(), adOpenKeyset, adLockOptimistic});
+    rows.call(L"Open", {"SELECT * FROM T", object_.object(), adOpenStatic, adLockPessimistic});
     Dispatch name(rows.get(L"Fields", {1}));
     name.put(L"Value", "A");
     rows.call(L"MoveNext");
@@ -288,6 +288,39 @@ TEST_F(AdoObjects, TheAdapterWritesOnlyWhatIsMeantToBeWritten) {
     rows->moveNext();
     EXPECT_TRUE(rows->atEnd());
     EXPECT_EQ(embedded::answer(port, "SELECT * FROM T"), "1 | a\n2 | b");
+}
+
+TEST(AdoWrites, InPlaceAreOnStaticRowsWithPessimisticLocks) {
+    std::vector<std::int32_t> how;
+    DispatchTable recordset;
+    recordset.method<Fixed>(L"Open", [&how](Fixed&, const CallArguments& given) -> Variant {
+        for (std::size_t i = 2; i < given.count(); ++i)
+            how.push_back(given[i].integer());
+        throw AutomationError(E_FAIL, "That is all");
+    });
+    DispatchTable connection;
+    connection.method<Fixed>(L"NewRecordset", answering(fixed(recordset)));
+    AdoConnection port{Dispatch(fixed(connection))};
+    EXPECT_THROW(port.openUpdatable("SELECT 1"), base::DatabaseError);
+    constexpr std::int32_t isStatic = 3;
+    constexpr std::int32_t isPessimistic = 2;
+    constexpr std::int32_t isText = 1;
+    EXPECT_EQ(how, (std::vector<std::int32_t>{isStatic, isPessimistic, isText}));
+}
+
+TEST_F(AdoObjects, FieldsAreEnumeratedAsForEachDoes) {
+    Dispatch fields(execute("SELECT 1 AS EINS,2 AS ZWEI").get(L"Fields"));
+    Variant items;
+    DISPPARAMS none{};
+    ASSERT_EQ(fields.object()->Invoke(DISPID_NEWENUM, IID_NULL, 0, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
+                                      &none, items.put(), nullptr, nullptr),
+              S_OK);
+    const auto each = ComPtr<IUnknown>(items.punkVal).as<IEnumVARIANT>();
+    ASSERT_TRUE(each);
+    std::string names;
+    for (Variant field; each->Next(1, field.put(), nullptr) == S_OK;)
+        names += Dispatch(field).get(L"Name").text() + " ";
+    EXPECT_EQ(names, "EINS ZWEI ");
 }
 
 TEST_F(AdoObjects, ErrorsStayWithTheConnection) {
