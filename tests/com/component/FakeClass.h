@@ -15,10 +15,11 @@ public:
     using Operation = std::function<windows::Variant(const windows::CallArguments&)>;
 
     /// @param progId such as "Tellurix_Loc.HostDataAccess", which is registered
-    FakeClass(const wchar_t* progId, const wchar_t* operation, Operation work) {
+    /// @param work does every operation of the class, whatever its name
+    FakeClass(const wchar_t* progId, Operation work) {
         CLSID id{};
         windows::check(CLSIDFromProgID(progId, &id), "CLSIDFromProgID");
-        const auto object = windows::ComPtr<Object>::adopt(new Object(operation, std::move(work)));
+        const auto object = windows::ComPtr<Object>::adopt(new Object(std::move(work)));
         const auto factory = windows::ComPtr<IClassFactory>::adopt(new Factory(object));
         windows::check(
             CoRegisterClassObject(id, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_),
@@ -31,11 +32,13 @@ public:
 private:
     class Object final : public windows::DispatchObject {
     public:
-        Object(const wchar_t* operation, Operation work)
-            : table_(windows::DispatchTable().method<Object>(
-                  operation, [work = std::move(work)](Object&, const windows::CallArguments& given) {
-                      return work(given);
-                  })) {}
+        explicit Object(Operation work) {
+            const auto all = [work = std::move(work)](Object&, const windows::CallArguments& given) {
+                return work(given);
+            };
+            for (const wchar_t* name : {L"ReadValue", L"Request", L"Localize", L"Text"})
+                table_.method<Object>(name, all);
+        }
 
     protected:
         const windows::DispatchTable& table() const override { return table_; }
