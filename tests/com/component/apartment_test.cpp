@@ -34,8 +34,10 @@ TEST(ThreadOfTheHost, KeepsThePlainValuesFromOneObjectToTheNext) {
     const auto mainWindow = std::make_shared<MainWindow>();
     {
         const auto apartment = windows::sharedByThread<Apartment>();
-        host::moduleState().context = {
-            .StrVer_Type = "A3", .F_Main = mainWindow, .g_intStandardMandanten = 7};
+        host::HostContext& context = host::moduleState().context;
+        context.StrVer_Type = "A3";
+        context.F_Main = mainWindow;
+        context.g_intStandardMandanten = 7;
         keptScreen().value = "12";
     }
     EXPECT_EQ(mainWindow.use_count(), 1) << "an object of the host's is let go";

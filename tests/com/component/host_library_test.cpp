@@ -53,9 +53,9 @@ TEST(HostLibrary, OffersEveryClassOfItsTypeLibraryAsItStandsThere) {
         const auto members = membersOf(*ownInterface);
         EXPECT_FALSE(members.empty());
         TYPEATTR* attributes = nullptr;
-        ComPtr<IUnknown> asked;
+        ComPtr<IUnknown> own;
         windows::check(ownInterface->GetTypeAttr(&attributes), "GetTypeAttr");
-        EXPECT_EQ(object->QueryInterface(attributes->guid, asked.putVoid()), S_OK) << "by its own interface";
+        EXPECT_EQ(object->QueryInterface(attributes->guid, own.putVoid()), S_OK) << "by its own interface";
         ownInterface->ReleaseTypeAttr(attributes);
         for (const auto& [member, number] : members) {
             auto asked = const_cast<wchar_t*>(member.c_str());

@@ -175,10 +175,9 @@ TEST_F(HostServices, AreNamedInTheUsersLanguageWhenTheyFail) {
         {"en", "The service Tellurix_Loc.HostDataAccess (ReadValue) has failed: Kein Zutritt"},
     };
     ComponentClient host;
-    const FakeClass dataAccess(L"Tellurix_Loc.HostDataAccess", L"ReadValue",
-                               [](const CallArguments&) -> Variant {
-                                   throw windows::AutomationError(E_ACCESSDENIED, "Kein Zutritt", "Host");
-                               });
+    const FakeClass dataAccess(L"Tellurix_Loc.HostDataAccess", [](const CallArguments&) -> Variant {
+        throw windows::AutomationError(E_ACCESSDENIED, "Kein Zutritt", "Host");
+    });
     for (const auto& c : cases) {
         const Bstr language(c.language);
         host.record().Language = language.get();
@@ -215,14 +214,13 @@ TEST_F(HostServices, AreNotifiedWhenTheEditorIsClosedAndItsAnswersAreWritten) {
             ComponentClient host;
             RunCall call{.ok = Variant(5), .record = &host.record()};
             int notified = 0;
-            const FakeClass module(L"Tellurix_Loc.HostModuleService", L"Request",
-                                   [&](const CallArguments& given) {
-                                       if (given[1].text() != "1VVM") return Variant();
-                                       ++notified;
-                                       EXPECT_EQ(call.ok.vt, VT_BOOL);
-                                       c.meanwhile(host);
-                                       return Variant();
-                                   });
+            const FakeClass module(L"Tellurix_Loc.HostModuleService", [&](const CallArguments& given) {
+                if (given[1].text() != "1VVM") return Variant();
+                ++notified;
+                EXPECT_EQ(call.ok.vt, VT_BOOL);
+                c.meanwhile(host);
+                return Variant();
+            });
             const Closer closer;
             EXPECT_EQ(FAILED(way(*host.createModule(), call).code), c.fails);
             EXPECT_EQ(notified, 1);
