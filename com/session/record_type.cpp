@@ -173,9 +173,11 @@ void RecordType::clear(void* record) const {
 
 Variant RecordType::field(void* record, const wchar_t* name) const {
     if (ours_) return ownField(own(record), name);
-    Variant value;
-    if (FAILED(description_->GetField(record, name, value.put()))) return {};
-    return value;
+    // In place: not everywhere can objects be read otherwise.
+    Variant inPlace;
+    void* array = nullptr;
+    if (FAILED(description_->GetFieldNoCopy(record, name, inPlace.put(), &array))) return {};
+    return Variant::copyOf(inPlace);
 }
 
 ComPtr<IDispatch> RecordType::connection(void* record) const {

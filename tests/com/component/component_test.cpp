@@ -89,7 +89,7 @@ TEST_F(Component, TellsTheHostWhatWentWrong) {
     const Case cases[] = {
         {"no record", {.record = nullptr}, "TlxVar"},
         {"no connection", {.record = &unconnected}, "connection"},
-        {"no such contract", {.id = 4711, .record = &host.record()}, "row"},
+        {"no such contract", {.id = 4711, .record = &host.record()}, "Vertrag"},
         {"neither true nor false", {.ok = Variant("vielleicht"), .record = &host.record()}, "vielleicht"},
     };
     for (const Way& way : ways)
