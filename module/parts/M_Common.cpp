@@ -64,7 +64,8 @@ void SelectActiveText(ui::Form& form) {
 }
 
 std::int16_t CheckKeyForColumn(const host::TlxVar& session, const ui::Form& form, std::int16_t keyCode,
-                               const std::string& table, const std::string& column, const base::Locale& locale) {
+                               const std::string& table, const std::string& column,
+                               const base::Locale& locale) {
     if (keyCode == backspace) return keyCode;
     std::string text = focusedText(form);
     if (keyCode != 0) text += base::encodeUtf8(static_cast<char32_t>(static_cast<std::uint16_t>(keyCode)));

@@ -85,7 +85,7 @@ TEST(Registration, LeavesTheRegistryAsItWasForMachineAndUser) {
         SCOPED_TRACE(narrow(scope));
         install(TRUE, scope);
         const auto registered = classes();
-        EXPECT_EQ(additions(before[forUser], registered[forUser], L"@ThreadingModel"), 19U);
+        EXPECT_EQ(additions(before[forUser], registered[forUser], L"@ThreadingModel"), 21U);
         EXPECT_GT(additions(before[forUser], registered[forUser], L"\\Tellurix_Vertrag.clsVertrag\\CLSID"),
                   0U);
         EXPECT_EQ(additions(before[!forUser], registered[!forUser], L"@ThreadingModel"), 0U)
@@ -121,7 +121,7 @@ TEST(Registration, LeavesWhatAHostHasRegisteredItself) {
 TEST(Registration, IsAskedForByKnownWordsAlone) {
     namespace fs = std::filesystem;
     const fs::path folder = fs::temp_directory_path() / "tellurix-register";
-    const fs::path package = fs::path("Z:" TELLURIX_TEST_FOLDER) / "../../../windows/package";
+    const fs::path package = fs::path("Z:" TELLURIX_TEST_FOLDER) / "../../../com/package";
     fs::create_directory(folder);
     std::ofstream(folder / "each_library.cmd") << "@echo %options%: %*\r\n";
     const auto answer = [&](const std::string& script, const std::string& words) {
