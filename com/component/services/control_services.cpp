@@ -57,14 +57,14 @@ void LateGridLayoutStore::restore(const host::TlxVar& session, ui::Grid& grid, c
 void LateModelService::fill(const host::TlxVar& session, ui::ComboBox& list, const std::string& category) {
     SessionRecord record(session);
     const Lent<ListObject> lent(list);
-    object_.call(L"Fill", {record.argument(), lent.argument(), category});
+    object_.call(session, L"Fill", {record.argument(), lent.argument(), category});
 }
 
 void LateModelService::copy(const host::TlxVar& session, const std::string& category, std::int32_t model,
                             host::CalculationForm& form) {
     SessionRecord record(session);
     const Lent<LinesObject> lent(form);
-    object_.call(L"Copy", {record.argument(), category, model, lent.argument()});
+    object_.call(session, L"Copy", {record.argument(), category, model, lent.argument()});
 }
 
 void LateModelService::manage(const host::TlxVar& session, const std::string& category,
@@ -72,7 +72,7 @@ void LateModelService::manage(const host::TlxVar& session, const std::string& ca
     SessionRecord record(session);
     const Lent<LinesObject> lentForm(form);
     const Lent<ListObject> lentList(list);
-    object_.call(L"Manage", {record.argument(), category, lentForm.argument(), lentList.argument()});
+    object_.call(session, L"Manage", {record.argument(), category, lentForm.argument(), lentList.argument()});
 }
 
 void LateTypeAhead::bind(const host::TlxVar& session, ui::TextBox& box, const std::string& query,

@@ -65,7 +65,7 @@ std::optional<std::string> LateSelectionDialog::edit(const host::TlxVar& session
                                                      const std::string& upperType, const std::string& out1,
                                                      const std::string& out2) {
     SessionRecord record(session);
-    const Variant edited = object_.call(L"Edit", {record.argument(), value, upperType, out1, out2});
+    const Variant edited = object_.call(session, L"Edit", {record.argument(), value, upperType, out1, out2});
     if (edited.isEmpty()) return std::nullopt;
     return edited.text();
 }
@@ -73,7 +73,7 @@ std::optional<std::string> LateSelectionDialog::edit(const host::TlxVar& session
 std::int32_t LateCatalogueSelection::choose(const host::TlxVar& session, const std::string& mode,
                                             const std::string& upperType, std::int32_t current) {
     SessionRecord record(session);
-    return object_.call(L"Choose", {record.argument(), mode, upperType, current}).integer();
+    return object_.call(session, L"Choose", {record.argument(), mode, upperType, current}).integer();
 }
 
 std::string LateLookupGridDialog::choose(const host::TlxVar& session, const std::string& layout,
