@@ -88,9 +88,10 @@ void LineList::discard(std::int64_t id) const {
 
 void LineList::remove(std::int64_t id, int place) const {
     // By its key: in the meantime another user may have moved another line to this place.
-    const auto line = connection().openUpdatable(statements_.lineOf(id));
+    auto line = connection().openUpdatable(statements_.lineOf(id));
     if (line->atEnd()) return;
     line->remove();
+    line.reset();
     connection().execute(statements_.closeGapBehind(place));
 }
 
