@@ -94,7 +94,7 @@ int main() {
         const embedded::Database database{sample.path(), bench::standingClock};
         measure(database);
         return EXIT_SUCCESS;
-    } catch (const standin::SessionEnded&) {
+    } catch (const browser::SessionEnded&) {
         return EXIT_FAILURE; // the page has told why
     } catch (const std::exception& error) {
         std::cerr << "bench_deductions: " << error.what() << '\n';

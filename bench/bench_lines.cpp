@@ -278,7 +278,7 @@ int main() {
         measureExplaining();
         measureCommits();
         return EXIT_SUCCESS;
-    } catch (const standin::SessionEnded&) {
+    } catch (const browser::SessionEnded&) {
         return EXIT_FAILURE; // the page has told why
     } catch (const std::exception& error) {
         std::cerr << "bench_lines: " << error.what() << '\n';

@@ -171,7 +171,7 @@ int main() {
         measureOpening(database);
         countStatements(database);
         return EXIT_SUCCESS;
-    } catch (const standin::SessionEnded&) {
+    } catch (const browser::SessionEnded&) {
         return EXIT_FAILURE; // the page has told why
     } catch (const std::exception& error) {
         std::cerr << "bench_open_contract: " << error.what() << '\n';

@@ -212,7 +212,7 @@ int main() {
             std::cerr << "Not measured, without a counterpart in bench/statements/counterparts.cpp: "
                       << statement << '\n';
         return leftOut.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
-    } catch (const standin::SessionEnded&) {
+    } catch (const browser::SessionEnded&) {
         return EXIT_FAILURE; // the page has told why
     } catch (const std::exception& error) {
         std::cerr << "bench_statements: " << error.what() << '\n';

@@ -25,7 +25,7 @@ public:
 
 private:
     const standin::TextCatalogue catalogue_ = standin::TextCatalogue::builtIn();
-    standin::BrowserDisplay display_;
+    browser::BrowserDisplay display_;
     host::TlxVar session_;
     standin::WorkbenchServices services_;
     host::clsVertrag module_;

@@ -8,7 +8,7 @@
 
 namespace tellurix::bench {
 
-using standin::PageMessage;
+using browser::PageMessage;
 using Kind = PageMessage::Kind;
 
 namespace {
@@ -85,7 +85,7 @@ PageMessage ScriptedPage::next() {
         return message;
     } catch (const std::exception& error) {
         std::cerr << "Scripted page: " << error.what() << '\n';
-        throw standin::SessionEnded{};
+        throw browser::SessionEnded{};
     }
 }
 

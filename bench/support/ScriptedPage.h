@@ -16,7 +16,7 @@ namespace tellurix::bench {
 struct Step {
     std::string form;    ///< which has to be in front; empty for a message box
     std::string control; ///< empty for the window itself
-    standin::PageMessage message;
+    browser::PageMessage message;
 };
 
 Step click(std::string form, std::string control);
@@ -35,7 +35,7 @@ Step answer(ui::Answer button);
 ///
 /// A script that does not fit what is shown, or ends while something is still open, is told on
 /// standard error and ends the session.
-class ScriptedPage final : public standin::PageChannel {
+class ScriptedPage final : public browser::PageChannel {
 public:
     void play(std::vector<Step> script);
     /// Told of every wait, before the next step is done.
@@ -45,9 +45,9 @@ public:
     /// @throws std::out_of_range when there was none
     Clock::time_point drawnAt(const std::string& form) const { return drawn_.at(form); }
 
-    standin::PageMessage next() override;
+    browser::PageMessage next() override;
     void send(std::string drawing) override;
-    void sendComplete(std::string drawing, const standin::PageMessage& redraw) override;
+    void sendComplete(std::string drawing, const browser::PageMessage& redraw) override;
 
 private:
     PageState state_;
