@@ -113,8 +113,6 @@ void copyToClipboard(const std::string& text) {
     CloseClipboard();
 }
 
-} // namespace
-
 TEST_F(DemoFormOnWindows, NothingOverlapsOrIsCutOff) {
     for (int page = 0; page < 2; ++page) {
         SCOPED_TRACE(page);
@@ -394,4 +392,5 @@ TEST_F(DemoFormOnWindows, ScreensOfTwoThreadsAreIndependent) {
     EXPECT_TRUE(other.join().ownerEnabled);
 }
 
+} // namespace
 } // namespace tellurix::tests
