@@ -23,8 +23,8 @@ protected:
 };
 
 TEST_F(Connections, OpenRowsShowTheMomentOfTheirQueryThoughTheConnectionWrites) {
-    const auto unread = first_->open("SELECT N FROM T ORDER BY ID");
-    const auto halfRead = first_->open("SELECT N FROM T ORDER BY ID");
+    const auto unread = first_->execute("SELECT N FROM T ORDER BY ID").rows;
+    const auto halfRead = first_->execute("SELECT N FROM T ORDER BY ID").rows;
     halfRead->moveNext();
     first_->execute("UPDATE T SET N = N * 10");
     first_->execute("DELETE FROM T WHERE ID = 3");
@@ -39,15 +39,15 @@ TEST_F(Connections, OpenRowsShowTheMomentOfTheirQueryThoughTheConnectionWrites) 
 }
 
 TEST_F(Connections, TheSameTextCanBeOpenTwice) {
-    const auto outer = first_->open("SELECT N FROM T ORDER BY ID");
-    const auto inner = first_->open("SELECT N FROM T ORDER BY ID");
+    const auto outer = first_->execute("SELECT N FROM T ORDER BY ID").rows;
+    const auto inner = first_->execute("SELECT N FROM T ORDER BY ID").rows;
     outer->moveNext();
     EXPECT_EQ(inner->integer("N"), 1);
     EXPECT_EQ(outer->integer("N"), 2);
 }
 
 TEST_F(Connections, RowsCanOutliveTheirConnection) {
-    const auto rows = first_->open("SELECT N FROM T ORDER BY ID");
+    const auto rows = first_->execute("SELECT N FROM T ORDER BY ID").rows;
     rows->moveNext();
     first_.reset();
     EXPECT_EQ(rows->integer("N"), 2);
@@ -55,7 +55,7 @@ TEST_F(Connections, RowsCanOutliveTheirConnection) {
 
 TEST_F(Connections, NoRowIsFetchedBeforeItIsAskedFor) {
     first_->execute("INSERT INTO T (N) VALUES (0)");
-    const auto rows = first_->open("SELECT 1 / N AS Q FROM T ORDER BY ID DESC");
+    const auto rows = first_->execute("SELECT 1 / N AS Q FROM T ORDER BY ID DESC").rows;
     EXPECT_EQ(rows->fieldName(0), "Q");
     EXPECT_EQ(rows->fieldType(0), base::FieldType::integer);
     // Another connection's change is still seen, so nothing has been read.
@@ -65,7 +65,7 @@ TEST_F(Connections, NoRowIsFetchedBeforeItIsAskedFor) {
 
 TEST_F(Connections, AnErrorOfARowComesWhenTheRowIsReached) {
     first_->execute("INSERT INTO T (N) VALUES (0)");
-    const auto rows = first_->open("SELECT 6 / N FROM T ORDER BY ID");
+    const auto rows = first_->execute("SELECT 6 / N FROM T ORDER BY ID").rows;
     EXPECT_EQ(written(rows->field(0)), "6");
     EXPECT_EQ(failureOf([&] {
                   for (;; rows->moveNext())
@@ -76,13 +76,13 @@ TEST_F(Connections, AnErrorOfARowComesWhenTheRowIsReached) {
 
 TEST_F(Connections, AnErrorOfOpenRowsWaitsForTheirReaderNotForTheWrite) {
     first_->execute("INSERT INTO T (N) VALUES (0)");
-    const auto rows = first_->open("SELECT 6 / N FROM T ORDER BY ID");
+    const auto rows = first_->execute("SELECT 6 / N FROM T ORDER BY ID").rows;
     first_->execute("UPDATE T SET PREIS = 1");
     EXPECT_EQ(failureOf([&] { rows->atEnd(); }), "conversion: Division by zero");
 }
 
 TEST_F(Connections, AReaderNeitherWaitsNorSeesHalfAWrite) {
-    const auto rows = first_->open("SELECT SUM(N) AS S FROM T");
+    const auto rows = first_->execute("SELECT SUM(N) AS S FROM T").rows;
     EXPECT_EQ(rows->integer("S"), 6);
     second_->execute("UPDATE T SET N = 100");
     EXPECT_EQ(rows->integer("S"), 6);
@@ -156,7 +156,7 @@ TEST_F(Connections, AWriteIntoATableThatAnotherConnectionMadeAnewUsesItsNewType)
 }
 
 TEST_F(Connections, RowsWhoseTableChangedBeforeTheFirstFetchAreRefused) {
-    const auto rows = first_->open("SELECT PREIS FROM T");
+    const auto rows = first_->execute("SELECT PREIS FROM T").rows;
     second_->execute("DROP TABLE T CREATE TABLE T (PREIS int) INSERT INTO T VALUES (1)");
     EXPECT_EQ(failureOf([&] { rows->atEnd(); }),
               "other: The table was changed by another session before its rows were read");
@@ -165,9 +165,9 @@ TEST_F(Connections, RowsWhoseTableChangedBeforeTheFirstFetchAreRefused) {
 TEST_F(Connections, ATableVariableDoesNotDisturbOtherStatements) {
     const std::string batch =
         "DECLARE @t TABLE (N int) INSERT INTO @t SELECT N FROM T SELECT SUM(N) AS S FROM @t";
-    const auto before = first_->open("SELECT N FROM T ORDER BY ID");
+    const auto before = first_->execute("SELECT N FROM T ORDER BY ID").rows;
     before->moveNext();
-    const auto rows = first_->open(batch);
+    const auto rows = first_->execute(batch).rows;
     first_->execute("UPDATE T SET N = 10");
     EXPECT_EQ(answer(*first_, batch), "30");
     EXPECT_EQ(rows->integer("S"), 6);
@@ -201,9 +201,9 @@ TEST_F(Connections, ABatchSentAgainAnswersAsIfItComputedAnew) {
     EXPECT_EQ(answer(*first_, lookUp), "0 | 5 | 20");
     EXPECT_EQ(answer(*first_, lookUp), "0 | 5 | 20");
     // While the rows of one run are being read, the same text runs again.
-    const auto rows = first_->open(loop + "SELECT N FROM @t ORDER BY N");
+    const auto rows = first_->execute(loop + "SELECT N FROM @t ORDER BY N").rows;
     rows->moveNext();
-    EXPECT_EQ(first_->open(loop + "SELECT N FROM @t ORDER BY N")->integer("N"), 0);
+    EXPECT_EQ(first_->execute(loop + "SELECT N FROM @t ORDER BY N").rows->integer("N"), 0);
     EXPECT_EQ(rows->integer("N"), 1);
 }
 

@@ -80,6 +80,7 @@ TEST_F(DatabaseFiles, OursFromBeforeTheMarkAreKnownAndMarked) {
     }
 }
 
+#ifndef _WIN32 // an open file can neither be moved nor deleted there
 TEST_F(DatabaseFiles, AFileThatIsDeletedOrReplacedWhileOpenTakesNothingMore) {
     const auto connection = connect();
     connection->execute("CREATE TABLE T (N int) INSERT INTO T VALUES (1)");
@@ -100,6 +101,7 @@ TEST_F(DatabaseFiles, AFileThatIsDeletedOrReplacedWhileOpenTakesNothingMore) {
     fs::rename(beside("away.db"), file());
     EXPECT_EQ(write("INSERT INTO T VALUES (2)"), "none");
 }
+#endif
 
 TEST_F(DatabaseFiles, AReadOnlyFileIsReadAndSaysSoWhenItIsWritten) {
     connect()->execute("CREATE TABLE T (N int) INSERT INTO T VALUES (1)");
