@@ -5,6 +5,7 @@
 #include "module/base/text.h"
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
 #include "module/parts/typed_text.h"
 #include "module/ui/RefusedInput.h"
 #include "module/ui/caption.h"
@@ -361,9 +362,7 @@ void F_Abschlag::setLines(const host::CalculationLines& lines) {
 }
 
 bool F_Abschlag::confirmed(OwnText question, const std::vector<std::string>& values) {
-    return parts::ShowMessage(services_.display, base::ownText(question, session_.language, values),
-                              ui::box::yesNo + ui::box::question + ui::box::defaultButton2) ==
-           ui::Answer::yes;
+    return parts::confirmed(services_.display, base::ownText(question, session_.language, values));
 }
 
 void F_Abschlag::cancel() {

@@ -3,6 +3,7 @@
 #include "module/base/Refused.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
 #include "module/parts/typed_text.h"
 
 #include <algorithm>
@@ -116,9 +117,7 @@ void F_Models::remove() {
 }
 
 bool F_Models::confirmed(std::string_view key, const std::string& name) {
-    return parts::ShowMessage(display_, base::filled(texts_(key), {name}),
-                              ui::box::yesNo + ui::box::question + ui::box::defaultButton2) ==
-           ui::Answer::yes;
+    return parts::confirmed(display_, base::filled(texts_(key), {name}));
 }
 
 } // namespace tellurix::standin
