@@ -7,7 +7,7 @@
 #include "database/embedded/Database.h"
 #include "module/parts/M_Common.h"
 #include "module/ui/Form.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <array>
 #include <cstdlib>

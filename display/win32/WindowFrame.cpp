@@ -1,8 +1,8 @@
 #include "display/win32/WindowFrame.h"
 
 #include "com/automation/wide.h"
-#include "display/win32/controls/GridView.h"
 #include "display/win32/controls/make_view.h"
+#include "display/win32/grid/GridView.h"
 
 #include <algorithm>
 #include <utility>

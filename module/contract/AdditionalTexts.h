@@ -1,11 +1,11 @@
 #pragma once
 
 #include "module/parts/OpenContract.h"
-#include "module/ui/Button.h"
-#include "module/ui/Frame.h"
-#include "module/ui/Label.h"
 #include "module/ui/Layout.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <array>
 #include <string>

@@ -8,7 +8,7 @@
 #include "module/contract/header_captions.h"
 #include "module/parts/Assignments.h"
 #include "module/parts/date_box.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
 
 namespace tellurix::contract {
 

@@ -5,9 +5,9 @@
 #include "module/parts/LookupBox.h"
 #include "module/parts/NumberField.h"
 #include "module/parts/PersonBox.h"
-#include "module/ui/Button.h"
 #include "module/ui/Form.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <array>
 #include <cstdint>

@@ -6,12 +6,12 @@
 #include "module/host/services.h"
 #include "module/lines/F_VertragMengen.h"
 #include "module/lines/F_VertragPreise.h"
-#include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
-#include "module/ui/ListBox.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/ListBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <array>
 #include <cstdint>

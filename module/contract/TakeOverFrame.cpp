@@ -7,7 +7,7 @@
 #include "module/host/module_state.h"
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
 
 #include <stdexcept>
 

@@ -3,12 +3,12 @@
 #include "module/base/own_text.h"
 #include "module/lines/TakeOver.h"
 #include "module/parts/OpenContract.h"
-#include "module/ui/Button.h"
-#include "module/ui/Frame.h"
-#include "module/ui/Label.h"
 #include "module/ui/Layout.h"
-#include "module/ui/ProgressBar.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/ProgressBar.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <cstdint>
 #include <functional>

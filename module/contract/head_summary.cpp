@@ -6,7 +6,7 @@
 #include "module/contract/contract_row.h"
 #include "module/contract/header_captions.h"
 #include "module/host/module_state.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
 
 namespace tellurix::contract {
 

@@ -7,8 +7,8 @@
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"
 #include "module/parts/typed_text.h"
-#include "module/ui/RefusedInput.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
+#include "module/ui/input/RefusedInput.h"
 
 namespace tellurix::deductions {
 

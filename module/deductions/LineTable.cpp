@@ -5,7 +5,7 @@
 #include "module/base/text.h"
 #include "module/deductions/reference_lines.h"
 #include "module/ui/Form.h"
-#include "module/ui/number_box.h"
+#include "module/ui/input/number_box.h"
 
 #include <algorithm>
 

@@ -3,11 +3,11 @@
 #include "module/base/Locale.h"
 #include "module/deductions/line_check.h"
 #include "module/host/CalculationForm.h"
-#include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Layout.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <array>
 #include <cstddef>

@@ -2,10 +2,10 @@
 
 #include "module/host/CalculationForm.h"
 #include "module/host/TlxVar.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <cstdint>
 #include <string>

@@ -3,11 +3,11 @@
 #include "module/base/own_text.h"
 #include "module/host/services.h"
 #include "module/lines/DeliveredQuantity.h"
-#include "module/ui/Button.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
-#include "module/ui/Label.h"
-#include "module/ui/ListBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/ListBox.h"
 
 #include <string>
 

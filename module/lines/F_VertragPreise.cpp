@@ -6,7 +6,7 @@
 #include "module/base/number_format.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
-#include "module/ui/number_box.h"
+#include "module/ui/input/number_box.h"
 
 namespace tellurix::lines {
 

@@ -3,7 +3,7 @@
 #include "module/lines/LineEditor.h"
 #include "module/lines/PriceChange.h"
 #include "module/parts/NumberField.h"
-#include "module/ui/GridEditor.h"
+#include "module/ui/input/GridEditor.h"
 
 #include <string>
 

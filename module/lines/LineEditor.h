@@ -6,11 +6,11 @@
 #include "module/lines/LineSelection.h"
 #include "module/parts/EditMode.h"
 #include "module/parts/KeyedGrid.h"
-#include "module/ui/Button.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
-#include "module/ui/UpDown.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/UpDown.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "module/lines/QuickSelectionBoxes.h"
-#include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
 
 #include <optional>
 #include <string>

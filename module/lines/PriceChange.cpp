@@ -6,7 +6,7 @@
 #include "module/base/own_text.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/typed_text.h"
-#include "module/ui/number_box.h"
+#include "module/ui/input/number_box.h"
 
 #include <stdexcept>
 

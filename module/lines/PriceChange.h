@@ -3,13 +3,13 @@
 #include "module/base/Decimal.h"
 #include "module/base/Locale.h"
 #include "module/parts/OpenContract.h"
-#include "module/ui/Button.h"
-#include "module/ui/ComboBox.h"
-#include "module/ui/Frame.h"
-#include "module/ui/Grid.h"
-#include "module/ui/Label.h"
 #include "module/ui/Layout.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <cstdint>
 #include <functional>

@@ -2,10 +2,10 @@
 
 #include "module/host/services.h"
 #include "module/lines/selection_value.h"
-#include "module/ui/Frame.h"
-#include "module/ui/Label.h"
 #include "module/ui/Layout.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <array>
 

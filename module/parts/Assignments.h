@@ -3,8 +3,8 @@
 #include "module/base/StatementText.h"
 #include "module/host/services.h"
 #include "module/parts/NumberField.h"
-#include "module/ui/CheckBox.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <string>
 #include <string_view>

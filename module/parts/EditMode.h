@@ -1,7 +1,7 @@
 #pragma once
 
-#include "module/ui/Button.h"
 #include "module/ui/Handlers.h"
+#include "module/ui/controls/Button.h"
 
 #include <functional>
 #include <vector>

@@ -2,7 +2,7 @@
 
 #include "module/base/Locale.h"
 #include "module/parts/KeyedRow.h"
-#include "module/ui/Grid.h"
+#include "module/ui/controls/Grid.h"
 
 #include <cstdint>
 #include <functional>

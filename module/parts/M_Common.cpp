@@ -4,7 +4,7 @@
 #include "module/base/number_format.h"
 #include "module/base/text.h"
 #include "module/host/contract_type.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <limits>
 

@@ -3,8 +3,8 @@
 #include "module/base/Locale.h"
 #include "module/host/HostContext.h"
 #include "module/host/TlxVar.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Display.h"
+#include "module/ui/controls/ComboBox.h"
 
 #include <cstdint>
 #include <string>
@@ -30,7 +30,8 @@ void SelectActiveText(ui::Form& form);
 /// @return the key code, or 0 when the key is rejected
 /// @throws base::DatabaseError when the column cannot be read
 std::int16_t CheckKeyForColumn(const host::TlxVar& session, const ui::Form& form, std::int16_t keyCode,
-                               const std::string& table, const std::string& column, const base::Locale& locale);
+                               const std::string& table, const std::string& column,
+                               const base::Locale& locale);
 
 /// Gives an enabled control the focus. A control that cannot take it is ignored.
 void SafeSetFocus(ui::Control& control);

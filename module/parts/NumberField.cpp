@@ -3,7 +3,7 @@
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/parts/typed_text.h"
-#include "module/ui/number_box.h"
+#include "module/ui/input/number_box.h"
 
 namespace tellurix::parts {
 

@@ -3,7 +3,7 @@
 #include "module/base/Decimal.h"
 #include "module/base/Locale.h"
 #include "module/base/database.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <optional>
 #include <string>

@@ -4,7 +4,7 @@
 #include "module/base/number_format.h"
 #include "module/base/whole_number.h"
 #include "module/host/module_state.h"
-#include "module/ui/number_box.h"
+#include "module/ui/input/number_box.h"
 
 namespace tellurix::parts {
 

@@ -1,7 +1,7 @@
 #include "module/parts/date_box.h"
 
 #include "module/parts/questions.h"
-#include "module/ui/date_box.h"
+#include "module/ui/input/date_box.h"
 
 namespace tellurix::parts {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "module/host/services.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <functional>
 #include <string>

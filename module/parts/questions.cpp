@@ -2,7 +2,7 @@
 
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
 
 namespace tellurix::parts {
 

@@ -2,7 +2,7 @@
 
 #include "module/host/TlxVar.h"
 #include "module/host/services.h"
-#include "module/ui/Label.h"
+#include "module/ui/controls/Label.h"
 
 #include <string>
 

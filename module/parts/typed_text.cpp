@@ -2,9 +2,9 @@
 
 #include "module/base/StatementText.h"
 #include "module/ui/Form.h"
-#include "module/ui/Label.h"
-#include "module/ui/RefusedInput.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/caption.h"
+#include "module/ui/input/RefusedInput.h"
 
 namespace tellurix::parts {
 

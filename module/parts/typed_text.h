@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <string>
 

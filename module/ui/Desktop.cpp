@@ -1,16 +1,16 @@
 #include "module/ui/Desktop.h"
 
 #include "module/base/text.h"
-#include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
-#include "module/ui/Grid.h"
-#include "module/ui/ListBox.h"
-#include "module/ui/RefusedInput.h"
-#include "module/ui/TextBox.h"
-#include "module/ui/UpDown.h"
-#include "module/ui/caption.h"
-#include "module/ui/control_caption.h"
-#include "module/ui/control_keys.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/ListBox.h"
+#include "module/ui/controls/TextBox.h"
+#include "module/ui/controls/UpDown.h"
+#include "module/ui/controls/caption.h"
+#include "module/ui/controls/control_caption.h"
+#include "module/ui/input/RefusedInput.h"
+#include "module/ui/input/control_keys.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "module/ui/Display.h"
-#include "module/ui/events.h"
+#include "module/ui/input/events.h"
 
 #include <functional>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "module/ui/Form.h"
 
-#include "module/ui/Tabs.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Tabs.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "module/ui/Frame.h"
-#include "module/ui/Label.h"
-#include "module/ui/Tabs.h"
+#include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/Tabs.h"
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "module/ui/Button.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/TextBox.h"
 #include "standin/services/WorkbenchServices.h"
 
 #include <cstdint>

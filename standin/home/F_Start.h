@@ -1,12 +1,12 @@
 #pragma once
 
 #include "module/parts/KeyedGrid.h"
-#include "module/ui/Button.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
-#include "module/ui/Frame.h"
-#include "module/ui/Grid.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/TextBox.h"
 #include "standin/home/ContractOpener.h"
 #include "standin/home/F_NewContract.h"
 #include "standin/home/contract_list.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/ui/ComboBox.h"
+#include "module/ui/controls/ComboBox.h"
 #include "standin/services/texts/Localizer.h"
 
 #include <array>

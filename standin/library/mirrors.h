@@ -2,10 +2,10 @@
 
 #include "com/automation/Dispatch.h"
 #include "module/host/CalculationForm.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/TextBox.h"
 
 namespace tellurix::windows {
 

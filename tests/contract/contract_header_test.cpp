@@ -1,4 +1,4 @@
-#include "module/ui/Grid.h"
+#include "module/ui/controls/Grid.h"
 #include "tests/support/ContractTest.h"
 #include "tests/support/EarlierVisit.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "module/ui/Button.h"
-#include "module/ui/ComboBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/ComboBox.h"
 #include "tests/support/ContractTest.h"
 
 #include <string>

@@ -1,4 +1,4 @@
-#include "module/ui/ComboBox.h"
+#include "module/ui/controls/ComboBox.h"
 #include "tests/lines/LinesTest.h"
 
 namespace tellurix::tests {

@@ -1,5 +1,5 @@
-#include "module/ui/ComboBox.h"
-#include "module/ui/Label.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Label.h"
 #include "tests/lines/LinesTest.h"
 
 namespace tellurix::tests {

@@ -1,7 +1,7 @@
 #include "module/parts/Assignments.h"
 #include "module/parts/date_box.h"
 #include "module/parts/questions.h"
-#include "module/ui/RefusedInput.h"
+#include "module/ui/input/RefusedInput.h"
 #include "tests/support/ContractTest.h"
 
 namespace tellurix::tests {

@@ -1,6 +1,6 @@
 #include "module/parts/EditMode.h"
 #include "module/ui/Form.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 #include "tests/support/ScriptedDisplay.h"
 
 #include <gtest/gtest.h>

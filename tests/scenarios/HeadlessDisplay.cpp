@@ -1,11 +1,11 @@
 #include "tests/scenarios/HeadlessDisplay.h"
 
-#include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
-#include "module/ui/ItemList.h"
-#include "module/ui/Label.h"
-#include "module/ui/TextBox.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/ItemList.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/TextBox.h"
+#include "module/ui/controls/caption.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/ui/keys.h"
+#include "module/ui/input/keys.h"
 #include "module/ui/message_box.h"
 
 #include <cstddef>

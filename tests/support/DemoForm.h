@@ -1,16 +1,16 @@
 #pragma once
 
-#include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Display.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
-#include "module/ui/ListBox.h"
-#include "module/ui/ProgressBar.h"
-#include "module/ui/UpDown.h"
-#include "module/ui/date_box.h"
-#include "module/ui/number_box.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/ListBox.h"
+#include "module/ui/controls/ProgressBar.h"
+#include "module/ui/controls/UpDown.h"
+#include "module/ui/input/date_box.h"
+#include "module/ui/input/number_box.h"
 
 #include <atomic>
 #include <chrono>

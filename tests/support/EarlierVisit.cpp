@@ -1,9 +1,9 @@
 #include "tests/support/EarlierVisit.h"
 
-#include "module/ui/CheckBox.h"
-#include "module/ui/ComboBox.h"
-#include "module/ui/Label.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/TextBox.h"
 
 namespace tellurix::tests {
 

@@ -1,10 +1,10 @@
 #include "tests/support/ScriptedDisplay.h"
 
 #include "module/base/text.h"
-#include "module/ui/Button.h"
-#include "module/ui/CheckBox.h"
-#include "module/ui/ItemList.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/ItemList.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <gtest/gtest.h>
 

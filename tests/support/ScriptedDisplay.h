@@ -1,7 +1,7 @@
 #pragma once
 
 #include "module/ui/Desktop.h"
-#include "module/ui/Grid.h"
+#include "module/ui/controls/Grid.h"
 
 #include <deque>
 #include <functional>

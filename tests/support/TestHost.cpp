@@ -2,7 +2,7 @@
 
 #include "module/base/date_format.h"
 #include "module/base/text.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
 #include "tests/support/EarlierVisit.h"
 #include "tests/support/SampleDatabase.h"
 

@@ -1,4 +1,4 @@
-#include "module/ui/key_use.h"
+#include "module/ui/input/key_use.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include "com/component/controls/box_handlers.h"
 #include "module/ui/Form.h"
-#include "module/ui/Label.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/Label.h"
+#include "module/ui/controls/caption.h"
 
 namespace tellurix::windows {
 

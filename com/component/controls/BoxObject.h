@@ -2,7 +2,7 @@
 
 #include "com/automation/Dispatch.h"
 #include "com/component/controls/ControlObject.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 namespace tellurix::windows {
 

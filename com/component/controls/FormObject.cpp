@@ -1,6 +1,6 @@
 #include "com/component/controls/FormObject.h"
 
-#include "module/ui/control_caption.h"
+#include "module/ui/controls/control_caption.h"
 
 namespace tellurix::windows {
 

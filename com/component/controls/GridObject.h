@@ -1,7 +1,7 @@
 #pragma once
 
 #include "com/component/controls/ControlObject.h"
-#include "module/ui/Grid.h"
+#include "module/ui/controls/Grid.h"
 
 namespace tellurix::windows {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "com/component/controls/ControlObject.h"
-#include "module/ui/ComboBox.h"
+#include "module/ui/controls/ComboBox.h"
 
 namespace tellurix::windows {
 

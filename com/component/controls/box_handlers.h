@@ -1,7 +1,7 @@
 #pragma once
 
 #include "com/automation/Dispatch.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #include "display/browser/session/drawing.h"
 
 #include "display/browser/session/key_uses.h"
-#include "module/ui/visit.h"
+#include "module/ui/controls/visit.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/ui/key_use.h"
+#include "module/ui/input/key_use.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "display/browser/session/page_event.h"
 
-#include "module/ui/visit.h"
+#include "module/ui/controls/visit.h"
 
 namespace tellurix::browser {
 

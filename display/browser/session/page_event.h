@@ -2,7 +2,7 @@
 
 #include "display/browser/session/page_message.h"
 #include "module/ui/Form.h"
-#include "module/ui/events.h"
+#include "module/ui/input/events.h"
 
 #include <optional>
 

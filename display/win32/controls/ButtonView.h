@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/Button.h"
+#include "module/ui/controls/Button.h"
 
 #include <string>
 

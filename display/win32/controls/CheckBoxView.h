@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/CheckBox.h"
+#include "module/ui/controls/CheckBox.h"
 
 namespace tellurix::windows {
 

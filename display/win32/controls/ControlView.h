@@ -2,8 +2,8 @@
 
 #include "display/win32/DisplayState.h"
 #include "display/win32/native/Theme.h"
-#include "module/ui/Control.h"
-#include "module/ui/events.h"
+#include "module/ui/controls/Control.h"
+#include "module/ui/input/events.h"
 
 #include <commctrl.h>
 #include <windows.h>

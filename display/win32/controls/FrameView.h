@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/Frame.h"
+#include "module/ui/controls/Frame.h"
 
 namespace tellurix::windows {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/Label.h"
+#include "module/ui/controls/Label.h"
 
 namespace tellurix::windows {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/ListBox.h"
+#include "module/ui/controls/ListBox.h"
 
 namespace tellurix::windows {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/ProgressBar.h"
+#include "module/ui/controls/ProgressBar.h"
 
 namespace tellurix::windows {
 

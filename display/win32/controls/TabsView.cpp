@@ -2,7 +2,7 @@
 
 #include "com/automation/wide.h"
 #include "module/base/text.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
 
 namespace tellurix::windows {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/Tabs.h"
+#include "module/ui/controls/Tabs.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 namespace tellurix::windows {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/UpDown.h"
+#include "module/ui/controls/UpDown.h"
 
 namespace tellurix::windows {
 

@@ -3,14 +3,14 @@
 #include "display/win32/controls/ButtonView.h"
 #include "display/win32/controls/CheckBoxView.h"
 #include "display/win32/controls/FrameView.h"
-#include "display/win32/controls/GridView.h"
 #include "display/win32/controls/LabelView.h"
 #include "display/win32/controls/ListViews.h"
 #include "display/win32/controls/ProgressBarView.h"
 #include "display/win32/controls/TabsView.h"
 #include "display/win32/controls/TextBoxView.h"
 #include "display/win32/controls/UpDownView.h"
-#include "module/ui/visit.h"
+#include "display/win32/grid/GridView.h"
+#include "module/ui/controls/visit.h"
 
 namespace tellurix::windows {
 

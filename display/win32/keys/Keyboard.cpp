@@ -1,6 +1,6 @@
 #include "display/win32/keys/Keyboard.h"
 
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 
 namespace tellurix::windows {
 

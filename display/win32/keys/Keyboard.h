@@ -1,7 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
-#include "module/ui/key_use.h"
+#include "module/ui/input/key_use.h"
 
 #include <functional>
 

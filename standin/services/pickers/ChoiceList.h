@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/ui/Grid.h"
+#include "module/ui/controls/Grid.h"
 #include "standin/services/selection/timber_attributes.h"
 
 #include <functional>

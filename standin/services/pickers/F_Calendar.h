@@ -2,9 +2,9 @@
 
 #include "module/base/Locale.h"
 #include "module/base/date_time.h"
-#include "module/ui/Button.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/Grid.h"
 
 #include <optional>
 #include <string>

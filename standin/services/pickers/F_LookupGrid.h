@@ -1,7 +1,7 @@
 #pragma once
 
-#include "module/ui/Button.h"
 #include "module/ui/Form.h"
+#include "module/ui/controls/Button.h"
 #include "standin/services/pickers/ChoiceList.h"
 
 #include <optional>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "module/parts/KeyedGrid.h"
-#include "module/ui/Button.h"
 #include "module/ui/Form.h"
-#include "module/ui/Grid.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "module/ui/Grid.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/TextBox.h"
 
 #include <functional>
 

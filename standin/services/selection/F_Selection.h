@@ -1,10 +1,10 @@
 #pragma once
 
-#include "module/ui/Button.h"
-#include "module/ui/ComboBox.h"
 #include "module/ui/Display.h"
 #include "module/ui/Form.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/ComboBox.h"
+#include "module/ui/controls/TextBox.h"
 #include "standin/services/pickers/ChoiceList.h"
 #include "standin/services/selection/selection_words.h"
 

@@ -1,7 +1,7 @@
 #include "standin/services/texts/Localizer.h"
 
 #include "module/ui/Form.h"
-#include "module/ui/control_caption.h"
+#include "module/ui/controls/control_caption.h"
 #include "standin/services/texts/CaptionKeys.h"
 
 namespace tellurix::standin {

@@ -5,7 +5,7 @@
 #include "tests/support/DemoForm.h"
 
 #include "com/automation/wide.h"
-#include "module/ui/caption.h"
+#include "module/ui/controls/caption.h"
 
 #include <gtest/gtest.h>
 

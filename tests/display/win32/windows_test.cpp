@@ -1,6 +1,6 @@
 // Windows as the host sees them: they go as they came, whatever ends them.
 
-#include "module/ui/GridEditor.h"
+#include "module/ui/input/GridEditor.h"
 #include "tests/display/win32/ScreenTest.h"
 #include "tests/support/DemoForm.h"
 

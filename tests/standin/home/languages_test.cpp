@@ -1,6 +1,6 @@
 #include "module/entry/clsVertrag.h"
-#include "module/ui/ListBox.h"
-#include "module/ui/control_caption.h"
+#include "module/ui/controls/ListBox.h"
+#include "module/ui/controls/control_caption.h"
 #include "tests/standin/services/ServicesTest.h"
 
 #include <algorithm>

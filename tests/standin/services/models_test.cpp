@@ -1,7 +1,7 @@
 #include "tests/standin/services/ServicesTest.h"
 
 #include "module/base/Refused.h"
-#include "module/ui/ComboBox.h"
+#include "module/ui/controls/ComboBox.h"
 
 namespace tellurix::tests {
 namespace {

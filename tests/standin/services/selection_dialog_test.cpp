@@ -1,5 +1,5 @@
 #include "module/base/text.h"
-#include "module/ui/ComboBox.h"
+#include "module/ui/controls/ComboBox.h"
 #include "standin/services/selection/SelectionExpression.h"
 #include "tests/standin/services/ServicesTest.h"
 

@@ -1,6 +1,6 @@
 #include "module/base/text.h"
 #include "module/ui/Form.h"
-#include "module/ui/TextBox.h"
+#include "module/ui/controls/TextBox.h"
 #include "tests/standin/services/ServicesTest.h"
 
 namespace tellurix::tests {

@@ -1,0 +1,83 @@
+#include "module/ui/controls/control_caption.h"
+
+#include "module/ui/controls/visit.h"
+
+#include <vector>
+
+namespace tellurix::ui {
+
+namespace {
+
+std::string joined(const std::vector<std::string>& captions) {
+    std::string text;
+    for (const std::string& caption : captions)
+        text += (&caption == &captions.front() ? "" : "|") + caption;
+    return text;
+}
+
+std::vector<std::string> parts(const std::string& text) {
+    std::vector<std::string> captions;
+    std::size_t from = 0;
+    for (auto bar = text.find('|'); bar != std::string::npos; bar = text.find('|', from)) {
+        captions.push_back(text.substr(from, bar - from));
+        from = bar + 1;
+    }
+    captions.push_back(text.substr(from));
+    return captions;
+}
+
+std::vector<std::string> columnCaptions(const Grid& grid) {
+    std::vector<std::string> captions;
+    for (const Grid::Column& column : grid.columns())
+        captions.push_back(column.caption);
+    return captions;
+}
+
+void setColumnCaptions(Grid& grid, const std::vector<std::string>& captions) {
+    std::vector<Grid::Column> columns = grid.columns();
+    if (captions.size() != columns.size()) return;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        columns[i].caption = captions[i];
+    grid.setColumns(std::move(columns));
+}
+
+void setPageCaptions(Tabs& tabs, std::vector<std::string> captions) {
+    if (captions.size() == tabs.captions().size()) tabs.setCaptions(std::move(captions));
+}
+
+} // namespace
+
+const char* captionKind(const Control& control) {
+    if (!captionText(control)) return "";
+    const bool several = control.kind() == ControlKind::tabs || control.kind() == ControlKind::grid;
+    return several ? "captions" : "caption";
+}
+
+std::optional<std::string> captionText(const Control& control) {
+    return visit(control, [](const auto& visited) -> std::optional<std::string> {
+        if constexpr (requires { visited.caption(); }) {
+            return visited.caption();
+        } else if constexpr (requires { visited.captions(); }) {
+            return joined(visited.captions());
+        } else if constexpr (requires { visited.columns(); }) {
+            return joined(columnCaptions(visited));
+        } else {
+            return std::nullopt;
+        }
+    });
+}
+
+void setCaptionText(Control& control, const std::string& text) {
+    if (captionText(control) == text) return;
+    visit(control, [&text](auto& visited) {
+        if constexpr (requires { visited.caption(); }) {
+            visited.setCaption(text);
+        } else if constexpr (requires { visited.captions(); }) {
+            setPageCaptions(visited, parts(text));
+        } else if constexpr (requires { visited.columns(); }) {
+            setColumnCaptions(visited, parts(text));
+        }
+    });
+}
+
+} // namespace tellurix::ui

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "module/ui/controls/Control.h"
+
+#include <optional>
+#include <string>
+
+namespace tellurix::ui {
+
+/// What a catalogue of texts calls the words on a control: "caption", "captions" for the pages of tabs
+/// and the columns of a grid, empty for a control without words of its own.
+const char* captionKind(const Control& control);
+
+/// The words on a control as one text, several captions with "|" between them; nothing for a control
+/// that has none of its own.
+std::optional<std::string> captionText(const Control& control);
+
+/// Replaces them. A text of another number of captions is for another version of the control and
+/// changes nothing.
+void setCaptionText(Control& control, const std::string& text);
+
+} // namespace tellurix::ui

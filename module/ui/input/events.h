@@ -1,0 +1,85 @@
+#pragma once
+
+#include "module/ui/input/keys.h"
+
+#include <string>
+#include <variant>
+
+namespace tellurix::ui {
+
+class Control;
+class TextBox;
+
+/// What a user did, in neutral terms: a display translates its own events into these and hands
+/// them to the Desktop, which applies the rules of input. Events without a control go to the one
+/// that has the focus.
+
+/// A key went down.
+struct KeyDownEvent {
+    KeyDown key;
+};
+/// Ctrl was pressed and released, and nothing else was done between.
+struct PickKeyEvent {};
+/// A character was typed, after the key-down event of its key.
+struct KeyPressEvent {
+    char32_t character = 0;
+};
+/// Alt with a character: looks for the access key.
+struct AccessKeyEvent {
+    char32_t character = 0;
+};
+/// The pointer, or a screen reader, put the focus on a control.
+struct FocusEvent {
+    Control* control = nullptr;
+};
+/// The display let the user edit a box by itself, and this came of it.
+struct TextEditedEvent {
+    TextBox* box = nullptr;
+    std::string text;
+    int selectionStart = 0;
+    int selectionLength = 0;
+};
+/// The user moved the caret or the selection in a box.
+struct SelectionEvent {
+    TextBox* box = nullptr;
+    int start = 0;
+    int length = 0;
+};
+/// Text pasted at the selection of a box.
+struct PasteEvent {
+    TextBox* box = nullptr;
+    std::string text;
+};
+/// A click on a button or check box.
+struct ClickEvent {
+    Control* control = nullptr;
+};
+/// The up or down half of an up-down control was pressed.
+struct StepEvent {
+    Control* control = nullptr;
+    bool up = false;
+};
+/// An item of a list, a page of tabs, or a cell of a grid was chosen.
+struct SelectEvent {
+    Control* control = nullptr;
+    int index = 0; ///< item, page, or row
+    int column = 0;
+};
+struct DoubleClickEvent {
+    Control* control = nullptr;
+};
+struct ScrollEvent {
+    Control* control = nullptr;
+};
+/// The small button beside a box that has a picker.
+struct PickEvent {
+    Control* control = nullptr;
+};
+/// The window's close box.
+struct CloseEvent {};
+
+using Event = std::variant<KeyDownEvent, PickKeyEvent, KeyPressEvent, AccessKeyEvent, FocusEvent,
+                           TextEditedEvent, SelectionEvent, PasteEvent, ClickEvent, StepEvent, SelectEvent,
+                           DoubleClickEvent, ScrollEvent, PickEvent, CloseEvent>;
+
+} // namespace tellurix::ui
