@@ -53,18 +53,18 @@ ui::Event Win32Display::nextEvent() {
     WindowFrame& top = *windows_.back();
     if (top.lost()) throw OwnerClosed{};
     struct Listening {
-        explicit Listening(WindowFrame& listener) : frame(listener) { frame.listen(true); }
-        ~Listening() { frame.listen(false); }
+        explicit Listening(EventQueue& queue) : events(queue) { events.listen(true); }
+        ~Listening() { events.listen(false); }
         Listening(const Listening&) = delete;
         Listening& operator=(const Listening&) = delete;
-        WindowFrame& frame;
+        EventQueue& events;
     };
-    while (!top.hasEvent()) {
+    while (top.events().empty()) {
         // A native control may have taken the focus without anything having come of it.
         if (GetCapture() == nullptr) top.placeFocus();
         MSG message{};
         {
-            const Listening listening{top};
+            const Listening listening{top.events()};
             if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
                 PostQuitMessage(static_cast<int>(message.wParam));
                 throw MessageLoopEnded{};
@@ -74,9 +74,9 @@ ui::Event Win32Display::nextEvent() {
             DispatchMessageW(&message);
         }
         if (top.lost()) throw OwnerClosed{};
-        top.throwFailure();
+        top.events().throwFailure();
     }
-    return top.takeEvent();
+    return top.events().take();
 }
 
 void Win32Display::draw() {

@@ -128,30 +128,7 @@ void WindowFrame::placeFocus() {
 }
 
 void WindowFrame::happened(ui::Event event) {
-    if (!listening_ || ending_) return;
-    events_.push_back(std::move(event));
-    wake();
-}
-
-void WindowFrame::failed(std::exception_ptr error) {
-    failure_ = error;
-    wake();
-}
-
-/// A message that was sent is dealt with inside the waiting for the next posted one. It goes to the
-/// thread: the window may have gone.
-void WindowFrame::wake() {
-    PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
-}
-
-ui::Event WindowFrame::takeEvent() {
-    ui::Event event = std::move(events_.front());
-    events_.pop_front();
-    return event;
-}
-
-void WindowFrame::throwFailure() {
-    if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
+    if (!ending_) events_.put(std::move(event));
 }
 
 bool WindowFrame::isFocused(const ControlView& view) const {
@@ -168,7 +145,7 @@ LRESULT CALLBACK WindowFrame::procedure(HWND window, UINT message, WPARAM wParam
     try {
         return frame->handle(message, wParam, lParam);
     } catch (...) {
-        frame->failed(std::current_exception());
+        frame->events_.failed(std::current_exception());
         return 0;
     }
 }
@@ -200,7 +177,7 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         // Its controls and tool tips have gone before it.
         forgetName(window_);
         SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
-        if (listening_) wake();
+        if (events_.listening()) EventQueue::wake();
         return DefWindowProcW(std::exchange(window_, nullptr), message, wParam, lParam);
     case WM_ACTIVATE:
         keyboard_.forgetCtrl();

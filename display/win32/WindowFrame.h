@@ -1,5 +1,6 @@
 #pragma once
 
+#include "display/win32/EventQueue.h"
 #include "display/win32/WaitingWindows.h"
 #include "display/win32/WindowContent.h"
 #include "display/win32/controls/ControlView.h"
@@ -7,7 +8,6 @@
 #include "display/win32/native/ToolTips.h"
 #include "module/ui/Form.h"
 
-#include <deque>
 #include <exception>
 #include <memory>
 #include <optional>
@@ -37,13 +37,8 @@ public:
     /// A message that the thread has fetched for any of its windows.
     void fetched(UINT message) { keyboard_.fetched(message); }
 
-    /// While it listens, what its windows report is what the user did. What they report at other times
-    /// was caused by the program.
-    void listen(bool listening) { listening_ = listening; }
-    bool hasEvent() const { return !events_.empty(); }
-    ui::Event takeEvent();
-    /// Throws what went wrong inside a window procedure.
-    void throwFailure();
+    /// What the user did in it.
+    EventQueue& events() { return events_; }
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -65,7 +60,7 @@ private:
         if (content_ != nullptr) content_->roomChanged();
     }
     void setToolTip(HWND over, const std::string& text) override { toolTips_->set(over, text); }
-    void failed(std::exception_ptr error) override;
+    void failed(std::exception_ptr error) override { events_.failed(error); }
 
     void makeWindow();
     void makeViews();
@@ -73,7 +68,6 @@ private:
     void show();
     void lookChanged(UINT message, WPARAM wParam, LPARAM lParam);
     void close();
-    static void wake();
 
     ui::Form& form_;
     HWND owner_;
@@ -85,9 +79,7 @@ private:
     std::vector<std::unique_ptr<ControlView>> views_; ///< by the controls' ids
     std::unique_ptr<WindowContent> content_;          ///< null until it is shown
     Keyboard keyboard_;
-    std::deque<ui::Event> events_;
-    std::exception_ptr failure_;
-    bool listening_ = false;
+    EventQueue events_;
     bool ending_ = false; ///< the windows are going
 };
 

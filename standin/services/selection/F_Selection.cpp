@@ -1,7 +1,5 @@
 #include "standin/services/selection/F_Selection.h"
 
-#include "module/base/Decimal.h"
-#include "module/base/text.h"
 #include "module/parts/M_Common.h"
 #include "standin/services/texts/words.h"
 
@@ -10,24 +8,6 @@
 namespace tellurix::standin {
 
 namespace {
-
-constexpr SelectionOperator allComparisons[] = {SelectionOperator::oneOf, SelectionOperator::notOneOf,
-                                                SelectionOperator::between, SelectionOperator::atLeast,
-                                                SelectionOperator::atMost};
-
-bool hasFrom(SelectionOperator comparison) {
-    return comparison == SelectionOperator::between || comparison == SelectionOperator::atLeast;
-}
-
-bool hasTo(SelectionOperator comparison) {
-    return comparison == SelectionOperator::between || comparison == SelectionOperator::atMost;
-}
-
-/// The values of a condition that nothing has been chosen for yet.
-std::vector<std::string> noValues(SelectionOperator comparison) {
-    if (!isRange(comparison)) return {};
-    return std::vector<std::string>(comparison == SelectionOperator::between ? 2 : 1);
-}
 
 void showChoice(ui::ComboBox& box, const std::vector<Choice>& choices, const std::string& chosen) {
     box.clear();
@@ -47,7 +27,7 @@ F_Selection::F_Selection(ui::Display& display, const SelectionWords& words, Choi
       display_(display),
       words_(words),
       choices_(std::move(choices)),
-      expression_(std::move(expression)),
+      draft_(std::move(expression)),
       values_(grdValues, words.choiceCaptions()) {
     grdConditions.setColumns({{.caption = "", .width = 6},
                               {.caption = "Merkmal", .width = 16},
@@ -63,7 +43,7 @@ F_Selection::F_Selection(ui::Display& display, const SelectionWords& words, Choi
     arrange();
     drawConditions();
     grdConditions.setCurrent(0);
-    showCondition();
+    showAnother();
 }
 
 void F_Selection::connect() {
@@ -101,67 +81,54 @@ void F_Selection::arrange() {
          ui::field(lblSentence, txtSentence), ui::row({btnOk, btnCancel})}));
 }
 
-SelectionTerm* F_Selection::current() {
-    const int row = grdConditions.currentRow();
-    return row == ui::Grid::none ? nullptr : &expression_.terms.at(static_cast<std::size_t>(row));
-}
-
 void F_Selection::add() {
-    // The first attribute without a condition is most often the one that is wanted next.
-    TimberAttribute attribute = TimberAttribute::species;
-    for (const AttributeKind& kind : timberAttributes()) {
-        attribute = kind.attribute;
-        const auto isUsed = [&](const SelectionTerm& term) { return term.condition.attribute == attribute; };
-        if (std::ranges::none_of(expression_.terms, isUsed)) break;
-    }
-    expression_.terms.push_back({.condition = {.attribute = attribute, .values = {}}});
+    draft_.add();
     drawConditions();
-    grdConditions.setCurrent(static_cast<int>(expression_.terms.size()) - 1);
-    showAnother();
+    grdConditions.setCurrent(draft_.position());
+    showCondition();
     parts::SafeSetFocus(cboAttribute);
 }
 
 void F_Selection::remove() {
-    const int row = grdConditions.currentRow();
-    if (row == ui::Grid::none) return;
-    expression_.terms.erase(expression_.terms.begin() + row);
-    if (!expression_.terms.empty()) expression_.terms.front().afterOr = false;
-    grdConditions.removeRow(row);
+    if (draft_.current() == nullptr) return;
+    grdConditions.removeRow(draft_.position());
+    draft_.remove();
     drawConditions();
     showAnother();
-    if (expression_.terms.empty()) parts::SafeSetFocus(btnAdd);
+    if (draft_.current() == nullptr) parts::SafeSetFocus(btnAdd);
 }
 
 void F_Selection::takeOver() {
-    for (std::size_t i = 0; i < expression_.terms.size(); ++i) {
-        const SelectionCondition& condition = expression_.terms[i].condition;
-        const std::string problem = problemOf(condition);
-        if (problem.empty()) continue;
-        grdConditions.setCurrent(static_cast<int>(i));
-        showAnother();
-        const std::string name = words_.attribute(condition.attribute);
-        parts::ShowMessage(display_, filled(words_.named("problem"), {std::to_string(i + 1), name, problem}),
-                           ui::box::exclamation, title());
-        for (ui::Control* control : std::initializer_list<ui::Control*>{&grdValues, &txtLengths, &txtFrom,
-                                                                        &cboFrom, &txtTo, &cboTo}) {
-            if (control->usable()) {
-                setFocus(*control);
-                break;
-            }
-        }
+    const auto problem = draft_.problem();
+    if (!problem) {
+        chosen_ = draft_.expression();
+        unload();
         return;
     }
-    chosen_ = expression_;
-    unload();
+    grdConditions.setCurrent(problem->position);
+    showAnother();
+    parts::ShowMessage(
+        display_,
+        filled(words_.named("problem"), {std::to_string(problem->position + 1),
+                                         words_.attribute(draft_.current()->condition.attribute),
+                                         filled(words_.named(problem->word), {problem->value})}),
+        ui::box::exclamation, title());
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{&grdValues, &txtLengths, &txtFrom, &cboFrom, &txtTo, &cboTo}) {
+        if (control->usable()) {
+            setFocus(*control);
+            break;
+        }
+    }
 }
 
 void F_Selection::showAnother() {
-    drafts_.clear();
+    draft_.edit(grdConditions.currentRow());
     showCondition();
 }
 
 void F_Selection::showCondition() {
-    const SelectionTerm* term = current();
+    const SelectionTerm* term = draft_.current();
     btnRemove.setEnabled(term != nullptr);
     frmCondition.setEnabled(term != nullptr);
     cboJoiner.setEnabled(grdConditions.currentRow() > 0);
@@ -180,7 +147,7 @@ void F_Selection::showCondition() {
 
 void F_Selection::showValues() {
     showFieldsInUse();
-    const SelectionTerm* term = current();
+    const SelectionTerm* term = draft_.current();
     if (term == nullptr) {
         values_.show({}, {});
         return;
@@ -202,12 +169,12 @@ void F_Selection::showValues() {
             showChoice(combo, choices_[attribute], limit);
         }
     };
-    if (hasFrom(comparison)) showLimit(txtFrom, cboFrom, values.front());
-    if (hasTo(comparison)) showLimit(txtTo, cboTo, values.back());
+    if (hasLowerLimit(comparison)) showLimit(txtFrom, cboFrom, values.front());
+    if (hasUpperLimit(comparison)) showLimit(txtTo, cboTo, values.back());
 }
 
 void F_Selection::showFieldsInUse() {
-    const SelectionTerm* term = current();
+    const SelectionTerm* term = draft_.current();
     const SelectionCondition condition = term == nullptr ? SelectionCondition{} : term->condition;
     const bool number = kindOf(condition.attribute).isNumber();
     const bool range = isRange(condition.comparison);
@@ -217,123 +184,63 @@ void F_Selection::showFieldsInUse() {
     };
     use({&lblValues, &grdValues}, !range && !number);
     use({&lblLengths, &txtLengths}, !range && number);
-    use({&lblFrom}, hasFrom(condition.comparison));
-    use({&txtFrom}, hasFrom(condition.comparison) && number);
-    use({&cboFrom}, hasFrom(condition.comparison) && !number);
-    use({&lblTo}, hasTo(condition.comparison));
-    use({&txtTo}, hasTo(condition.comparison) && number);
-    use({&cboTo}, hasTo(condition.comparison) && !number);
+    use({&lblFrom}, hasLowerLimit(condition.comparison));
+    use({&txtFrom}, hasLowerLimit(condition.comparison) && number);
+    use({&cboFrom}, hasLowerLimit(condition.comparison) && !number);
+    use({&lblTo}, hasUpperLimit(condition.comparison));
+    use({&txtTo}, hasUpperLimit(condition.comparison) && number);
+    use({&cboTo}, hasUpperLimit(condition.comparison) && !number);
 }
 
 void F_Selection::changeJoiner() {
-    SelectionTerm* term = current();
-    if (term == nullptr) return;
-    term->afterOr = cboJoiner.selected() == 1;
+    draft_.joinByOr(cboJoiner.selected() == 1);
     drawConditions();
 }
 
 void F_Selection::changeAttribute() {
-    SelectionTerm* term = current();
-    if (term == nullptr || cboAttribute.selected() == ui::ItemList::none) return;
-    SelectionCondition& condition = term->condition;
-    keepValues(condition);
-    condition.attribute = timberAttributes()[static_cast<std::size_t>(cboAttribute.selected())].attribute;
-    const auto offered = comparisonsOf(condition.attribute);
-    if (std::ranges::find(offered, condition.comparison) == offered.end())
-        condition.comparison = SelectionOperator::oneOf;
-    restoreValues(condition);
+    if (draft_.current() == nullptr || cboAttribute.selected() == ui::ItemList::none) return;
+    draft_.setAttribute(timberAttributes()[static_cast<std::size_t>(cboAttribute.selected())].attribute);
     drawConditions();
     showCondition();
 }
 
 void F_Selection::changeComparison() {
-    SelectionTerm* term = current();
+    const SelectionTerm* term = draft_.current();
     if (term == nullptr || cboComparison.selected() == ui::ItemList::none) return;
-    SelectionCondition& condition = term->condition;
-    keepValues(condition);
-    condition.comparison =
-        comparisonsOf(condition.attribute)[static_cast<std::size_t>(cboComparison.selected())];
-    restoreValues(condition);
+    const auto offered = comparisonsOf(term->condition.attribute);
+    draft_.setComparison(offered[static_cast<std::size_t>(cboComparison.selected())]);
     drawConditions();
     showValues();
 }
 
-void F_Selection::keepValues(const SelectionCondition& condition) {
-    drafts_[{condition.attribute, noValues(condition.comparison).size()}] = condition.values;
-}
-
-void F_Selection::restoreValues(SelectionCondition& condition) const {
-    condition.values = noValues(condition.comparison);
-    const auto draft = drafts_.find({condition.attribute, condition.values.size()});
-    if (draft != drafts_.end()) condition.values = draft->second;
-}
-
 void F_Selection::changeValues() {
-    SelectionTerm* term = current();
+    const SelectionTerm* term = draft_.current();
     if (term == nullptr) return;
-    auto& [attribute, comparison, values] = term->condition;
+    const auto& [attribute, comparison, held] = term->condition;
     const bool number = kindOf(attribute).isNumber();
+    std::vector<std::string> values = held;
     if (!isRange(comparison)) {
-        values = number ? storedLengths(txtLengths.text()) : values_.chosen();
+        values = number ? storedLengths(txtLengths.text(), words_.locale().decimal) : values_.chosen();
     } else {
         const auto limit = [&](const ui::TextBox& text, const ui::ComboBox& combo) {
             return number ? storedLength(text.text()) : combo.selectedText();
         };
-        if (hasFrom(comparison)) values.front() = limit(txtFrom, cboFrom);
-        if (hasTo(comparison)) values.back() = limit(txtTo, cboTo);
+        if (hasLowerLimit(comparison)) values.front() = limit(txtFrom, cboFrom);
+        if (hasUpperLimit(comparison)) values.back() = limit(txtTo, cboTo);
     }
+    draft_.setValues(std::move(values));
     drawConditions();
 }
 
 void F_Selection::drawConditions() {
     std::vector<ui::Grid::Row> rows;
-    for (const SelectionTerm& term : expression_.terms) {
+    for (const SelectionTerm& term : draft_.expression().terms) {
         rows.push_back({rows.empty() ? "" : words_.joiner(term.afterOr),
                         words_.attribute(term.condition.attribute),
                         words_.comparison(term.condition.comparison), words_.values(term.condition)});
     }
     grdConditions.setRows(std::move(rows));
-    txtSentence.setText(words_.sentence(expression_));
-}
-
-std::vector<SelectionOperator> F_Selection::comparisonsOf(TimberAttribute attribute) const {
-    std::vector<SelectionOperator> comparisons;
-    for (const SelectionOperator comparison : allComparisons) {
-        if (kindOf(attribute).ordered || !isRange(comparison)) comparisons.push_back(comparison);
-    }
-    return comparisons;
-}
-
-std::string F_Selection::problemOf(const SelectionCondition& condition) const {
-    const auto isMissing = [](const std::string& value) { return value.empty(); };
-    const bool anyMissing = std::ranges::any_of(condition.values, isMissing);
-    if (condition.values.empty() || (anyMissing && isRange(condition.comparison)))
-        return words_.named("noValues");
-    const bool number = kindOf(condition.attribute).isNumber();
-    for (const std::string& value : condition.values) {
-        if (number && !base::Decimal::parse(value)) return filled(words_.named("noLength"), {value});
-    }
-    if (condition.comparison != SelectionOperator::between) return {};
-    const auto& [from, to] = std::pair{condition.values.front(), condition.values.back()};
-    const bool descends = number ? *base::Decimal::parse(from) > *base::Decimal::parse(to)
-                                 : base::toUpper(from) > base::toUpper(to);
-    return descends ? words_.named("descends") : std::string{};
-}
-
-std::string F_Selection::storedLength(const std::string& typed) const {
-    const std::string point = base::replaceAll(std::string{base::trim(typed)}, ",", ".");
-    const auto number = base::Decimal::parse(point);
-    return number ? number->toString() : std::string{base::trim(typed)};
-}
-
-std::vector<std::string> F_Selection::storedLengths(const std::string& typed) const {
-    // "4,5" is one length where the comma is the decimal character, "4, 5" and "4;5" are always two.
-    std::string text = base::replaceAll(typed, ";", " ") + " ";
-    text = base::replaceAll(std::move(text), words_.locale().decimal == ',' ? ", " : ",", " ");
-    std::vector<std::string> lengths;
-    for (const std::string& word : wordsOf(text))
-        lengths.push_back(storedLength(word));
-    return lengths;
+    txtSentence.setText(words_.sentence(draft_.expression()));
 }
 
 } // namespace tellurix::standin

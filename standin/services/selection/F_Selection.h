@@ -6,11 +6,12 @@
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/TextBox.h"
 #include "standin/services/pickers/ChoiceList.h"
+#include "standin/services/selection/SelectionDraft.h"
 #include "standin/services/selection/selection_words.h"
 
 #include <map>
 #include <optional>
-#include <utility>
+#include <vector>
 
 namespace tellurix::standin {
 
@@ -38,31 +39,18 @@ private:
     void showAnother();
     void showValues();
     void showFieldsInUse();
-    /// Takes what the user did in one of the fields into the current condition.
+    /// Takes what the user did in one of the fields into the draft.
     void changeJoiner();
     void changeAttribute();
     void changeComparison();
     void changeValues();
-    /// What the fields held for an attribute and comparison comes back when the user does.
-    void keepValues(const SelectionCondition& condition);
-    void restoreValues(SelectionCondition& condition) const;
     void drawConditions();
-
-    SelectionTerm* current();
-    std::vector<SelectionOperator> comparisonsOf(TimberAttribute attribute) const;
-    /// Why the condition cannot be taken over, empty when it can.
-    std::string problemOf(const SelectionCondition& condition) const;
-    std::string storedLength(const std::string& typed) const;
-    std::vector<std::string> storedLengths(const std::string& typed) const;
 
     ui::Display& display_;
     const SelectionWords& words_;
     Choices choices_;
-    SelectionExpression expression_;
+    SelectionDraft draft_;
     std::optional<SelectionExpression> chosen_;
-    /// What the current condition had as values, by attribute and number of limits: the arrow keys
-    /// lead through attributes and comparisons that are not meant.
-    std::map<std::pair<TimberAttribute, std::size_t>, std::vector<std::string>> drafts_;
 
     ui::Button btnAdd{*this, "btnAdd", "&Neue Bedingung"};
     ui::Button btnRemove{*this, "btnRemove", "Bedingung &entfernen"};
