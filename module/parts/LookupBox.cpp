@@ -10,6 +10,12 @@ LookupSource queried(std::string listQuery, std::string keyQuery) {
                               ui::TextBox& box) { return keyQuery + typedText(box) + "'"; }};
 }
 
+LookupSource named(const std::string& list) {
+    return {.list = [list] { return list + "_GRID"; },
+            .resolution = [list](ui::TextBox&) { return list + "_VALID"; },
+            .shown = "LONG"};
+}
+
 LookupBox::LookupBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
                      std::function<std::string()> title, LookupSource source)
     : box_(box), services_(services), session_(session), source_(std::move(source)) {
@@ -29,8 +35,13 @@ bool LookupBox::leave() {
     if (box_.text() == resolvedText_) return true;
     resolvedText_.reset();
     box_.setTag("");
-    if (!services_.lookupValidation.resolve(session_, source_.resolution(box_), box_, nullptr, ""))
+    ui::TextBox* const shown = source_.shown.empty() ? nullptr : &box_;
+    const std::string typed = box_.text();
+    if (!services_.lookupValidation.resolve(session_, source_.resolution(box_), box_, shown, source_.shown)) {
+        // A host that shows nothing for what it did not find would take away what was typed.
+        if (box_.text() != typed) box_.setText(typed);
         return false;
+    }
     resolvedText_ = box_.text();
     return true;
 }

@@ -16,11 +16,17 @@ struct LookupSource {
     /// What finds the key of the text in the box: a query, or a named list.
     /// @throws ui::RefusedInput when the text cannot stand in the query
     std::function<std::string(ui::TextBox&)> resolution;
+    /// The column that the box shows of what was found; empty where it keeps what was typed.
+    std::string shown = {};
 };
 
 /// @param listQuery all choices, in a column named SHORT
 /// @param keyQuery the choice of a text, up to the quote that opens the text
 LookupSource queried(std::string listQuery, std::string keyQuery);
+/// A list that the host knows by name: "WVO_T_BELIEFERUNG" is chosen from as "WVO_T_BELIEFERUNG_GRID" and
+/// found in as "WVO_T_BELIEFERUNG_VALID". The box shows the rows' LONG.
+LookupSource named(const std::string& list);
+
 /// Makes a box a lookup box: its picker lists what can be chosen, leaving it resolves the typed
 /// text to a database key, and the key is kept in the box's `tag` (empty for no value).
 ///
