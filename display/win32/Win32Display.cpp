@@ -105,6 +105,10 @@ std::optional<std::string> Win32Display::openFile(const std::string& title, cons
     return chosen;
 }
 
+void Win32Display::presentFile(const std::string& name, const std::string&) {
+    throw std::runtime_error{"Files cannot be opened: " + name};
+}
+
 void Win32Display::setBusy(bool busy) {
     state_.busy += busy ? 1 : -1;
     SetCursor(LoadCursorW(nullptr, state_.busy > 0 ? IDC_WAIT : IDC_ARROW));

@@ -114,6 +114,20 @@ public:
                                const std::string& current) = 0;
 };
 
+/// A list from which several rows can be chosen, by their keys.
+class MultiSelectionList {
+public:
+    virtual ~MultiSelectionList() = default;
+    /// @param list the list's key, by which the host knows its title: "VERTRAG_KUNDE_WVO"
+    /// @param query the rows; the first column is the key and not shown, the others are named as the
+    ///        user reads them
+    /// @param marked the keys that are marked at first
+    /// @return the keys that are marked in the end, nothing when the user cancelled
+    virtual std::optional<std::vector<std::int64_t>> choose(const TlxVar& session, const std::string& list,
+                                                            const std::string& query,
+                                                            const std::vector<std::int64_t>& marked) = 0;
+};
+
 /// Lets the user choose an article of the catalogue.
 class CatalogueSelection {
 public:

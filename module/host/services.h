@@ -4,6 +4,7 @@
 #include "module/base/Locale.h"
 #include "module/host/control_services.h"
 #include "module/host/dialog_services.h"
+#include "module/host/document_services.h"
 #include "module/host/value_services.h"
 #include "module/ui/Display.h"
 
@@ -40,6 +41,10 @@ struct HostServices {
     SelectionTranslator& selectionTranslator;
     ModelService& models;
     CatalogueSelection& catalogue;
+    MultiSelectionList& multiSelection;
+    SpreadsheetExport& spreadsheets;
+    MailSession& mail;
+    DocumentFiles& files;
 };
 
 } // namespace tellurix::host

@@ -26,7 +26,8 @@ public:
                          std::string& out1, std::string& out2) = 0;
 };
 
-/// Composes the query that finds a person by number, within what the user may see.
+/// Composes the query that finds a person by number, within what the user may see, and says that limit
+/// for queries on several persons.
 class PersonQueryBuilder {
 public:
     virtual ~PersonQueryBuilder() = default;
@@ -35,6 +36,10 @@ public:
     /// @return a query with ID_PERSONAL first, and NUMMER and KURZBEZEICHNUNG
     virtual std::string build(const TlxVar& session, const std::string& table, const std::string& number,
                               int accessLevel, const std::string& filter) = 0;
+    /// What limits the persons that the user may see, to follow the conditions of a query on them.
+    /// @param table the name by which the query knows PERSONAL
+    /// @return " AND …", may be empty
+    virtual std::string restriction(const TlxVar& session, const std::string& table) = 0;
 };
 
 /// Turns a date as the user sees it into the text of an SQL date literal.

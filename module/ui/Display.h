@@ -26,6 +26,10 @@ public:
     /// @return its path, or nothing when the user cancelled
     virtual std::optional<std::string> openFile(const std::string& title, const std::string& filter) = 0;
 
+    /// Hands the user a file that was made for them: opens it with its program, or lets them save it.
+    /// @param name its name without a path
+    virtual void presentFile(const std::string& name, const std::string& content) = 0;
+
     /// Shows or removes the hourglass. Use `BusyPointer`.
     virtual void setBusy(bool busy) = 0;
 

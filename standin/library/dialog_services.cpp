@@ -2,6 +2,8 @@
 #include "standin/library/ServiceObject.h"
 #include "standin/library/service_classes.h"
 
+#include <sstream>
+
 namespace tellurix::windows {
 
 namespace {
@@ -21,6 +23,29 @@ Variant choosePerson(ServiceObject& service, Given given) {
 /// Empty for a dialog that was cancelled.
 Variant selected(const std::optional<std::string>& answer) {
     return answer ? Variant(*answer) : Variant();
+}
+
+/// Keys travel as one text, with commas between them.
+std::string joined(const std::vector<std::string>& keys) {
+    std::string text;
+    for (const std::string& key : keys)
+        text += (text.empty() ? "" : ",") + key;
+    return text;
+}
+
+Variant chooseSeveral(ServiceObject& service, Given given) {
+    auto call = callOf(service, given);
+    std::vector<std::int64_t> marked;
+    std::istringstream keys(given[3].text());
+    for (std::string key; std::getline(keys, key, ',');)
+        marked.push_back(std::stoll(key));
+    const auto chosen =
+        call.services().multiSelection.choose(call.session(), given[1].text(), given[2].text(), marked);
+    if (!chosen) return Variant();
+    std::vector<std::string> texts;
+    for (const std::int64_t key : *chosen)
+        texts.push_back(std::to_string(key));
+    return Variant(joined(texts));
 }
 
 void showError(ServiceObject& service, Given given) {
@@ -65,12 +90,9 @@ const ServiceClass& keyedLists() {
             .method<ServiceObject>(L"Find",
                                    [](ServiceObject& service, Given given) {
                                        auto call = callOf(service, given);
-                                       std::string keys;
-                                       for (const std::string& key : call.services().keyedLists.find(
-                                                call.session(), given[1].text(), given[2].text(),
-                                                {given[3].text(), given[4].integer()}))
-                                           keys += (keys.empty() ? "" : ",") + key;
-                                       return Variant(keys);
+                                       return Variant(joined(call.services().keyedLists.find(
+                                           call.session(), given[1].text(), given[2].text(),
+                                           {given[3].text(), given[4].integer()})));
                                    })
             .method<ServiceObject>(L"TypeOf", [](ServiceObject& service, Given given) {
                 auto call = callOf(service, given);
@@ -118,6 +140,12 @@ const ServiceClass& lookupGridDialog() {
                                                                    given[2].text(), given[3].text(),
                                                                    given[4].text(), given[5].text()));
         })};
+    return served;
+}
+
+const ServiceClass& multiSelectionList() {
+    static const ServiceClass served{"Tellurix_Loc.MultiSelectionList",
+                                     DispatchTable().method<ServiceObject>(L"Choose", chooseSeveral)};
     return served;
 }
 

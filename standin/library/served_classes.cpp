@@ -48,6 +48,8 @@ std::span<const ServedClass> servedClasses() {
         ServedClass{__uuidof(SelectionTranslator), service<_SelectionTranslator, selectionTranslator>},
         ServedClass{__uuidof(ModelService), service<_ModelService, modelService>},
         ServedClass{__uuidof(CatalogueSelection), service<_CatalogueSelection, catalogueSelection>},
+        ServedClass{__uuidof(MultiSelectionList), service<_MultiSelectionList, multiSelectionList>},
+        ServedClass{__uuidof(SpreadsheetExport), service<_SpreadsheetExport, spreadsheetExport>},
         ServedClass{__uuidof(HostErrorReport), service<_HostErrorReport, hostErrorReport>},
         ServedClass{__uuidof(EmbeddedConnection), embeddedConnection},
     };

@@ -28,7 +28,11 @@ const ServiceClass& keyedLists();
 const ServiceClass& selectionDialog();
 const ServiceClass& catalogueSelection();
 const ServiceClass& lookupGridDialog();
+const ServiceClass& multiSelectionList();
 const ServiceClass& hostErrorReport();
+
+// Documents: document_services.cpp
+const ServiceClass& spreadsheetExport();
 
 // Work on controls and forms of the caller: control_services.cpp
 const ServiceClass& hostLocalizer();

@@ -48,11 +48,18 @@ const ServiceClass& hostModuleService() {
 const ServiceClass& personQueryBuilder() {
     static const ServiceClass served{
         "Tellurix_Loc.PersonQueryBuilder",
-        DispatchTable().method<ServiceObject>(L"Build", [](ServiceObject& service, Given given) {
-            auto call = callOf(service, given);
-            return Variant(call.services().personQuery.build(call.session(), given[1].text(), given[2].text(),
-                                                             given[3].integer(), given[4].text()));
-        })};
+        DispatchTable()
+            .method<ServiceObject>(L"Build",
+                                   [](ServiceObject& service, Given given) {
+                                       auto call = callOf(service, given);
+                                       return Variant(call.services().personQuery.build(
+                                           call.session(), given[1].text(), given[2].text(),
+                                           given[3].integer(), given[4].text()));
+                                   })
+            .method<ServiceObject>(L"Restriction", [](ServiceObject& service, Given given) {
+                auto call = callOf(service, given);
+                return Variant(call.services().personQuery.restriction(call.session(), given[1].text()));
+            })};
     return served;
 }
 

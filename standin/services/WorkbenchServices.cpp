@@ -18,6 +18,9 @@ WorkbenchServices::WorkbenchServices(ui::Display& display, const host::TlxVar& s
       lookupGridDialog_(display, localizer_, locale),
       models_(display, localizer_),
       catalogueSelection_(display, localizer_, locale),
+      multiSelection_(display, localizer_),
+      spreadsheets_(display),
+      mail_(display),
       mainWindow_(std::make_shared<MainWindow>(settings_, session)),
       host_{.display = display,
             .errors = errors_,
@@ -41,6 +44,10 @@ WorkbenchServices::WorkbenchServices(ui::Display& display, const host::TlxVar& s
             .typeAhead = typeAhead_,
             .selectionTranslator = selectionTranslator_,
             .models = models_,
-            .catalogue = catalogueSelection_} {}
+            .catalogue = catalogueSelection_,
+            .multiSelection = multiSelection_,
+            .spreadsheets = spreadsheets_,
+            .mail = mail_,
+            .files = files_} {}
 
 } // namespace tellurix::standin

@@ -3,16 +3,20 @@
 #include "standin/services/ErrorReporter.h"
 #include "standin/services/MainWindow.h"
 #include "standin/services/ModuleService.h"
+#include "standin/services/files/DocumentFilesService.h"
+#include "standin/services/mail/MailService.h"
 #include "standin/services/models/ModelsService.h"
 #include "standin/services/pickers/CatalogueSelectionService.h"
 #include "standin/services/pickers/KeyedListsService.h"
 #include "standin/services/pickers/ListPickerService.h"
 #include "standin/services/pickers/LookupGridDialogService.h"
+#include "standin/services/pickers/MultiSelectionService.h"
 #include "standin/services/pickers/PersonPicker.h"
 #include "standin/services/pickers/PersonQueryService.h"
 #include "standin/services/pickers/TypeAheadService.h"
 #include "standin/services/selection/SelectionDialogService.h"
 #include "standin/services/selection/SelectionTranslatorService.h"
+#include "standin/services/spreadsheets/SpreadsheetService.h"
 #include "standin/services/texts/Localizer.h"
 #include "standin/services/values/ColumnUpdateService.h"
 #include "standin/services/values/ColumnWidthService.h"
@@ -68,6 +72,10 @@ private:
     SelectionTranslatorService selectionTranslator_;
     ModelsService models_;
     CatalogueSelectionService catalogueSelection_;
+    MultiSelectionService multiSelection_;
+    SpreadsheetService spreadsheets_;
+    MailService mail_;
+    DocumentFilesService files_;
     std::shared_ptr<host::HostMainWindow> mainWindow_;
     host::HostServices host_;
 };

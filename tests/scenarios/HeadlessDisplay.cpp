@@ -64,6 +64,10 @@ std::optional<std::string> HeadlessDisplay::openFile(const std::string& title, c
     fail("unexpected file dialog: " + title);
 }
 
+void HeadlessDisplay::presentFile(const std::string& name, const std::string&) {
+    fail("unexpected file: " + name);
+}
+
 void HeadlessDisplay::report(const std::exception& error) {
     if (errors_ == nullptr) fail(error.what());
     errors_->report(error);

@@ -27,6 +27,7 @@ public:
     void showModal(ui::Form& form) override;
     ui::Answer messageBox(const std::string& text, int flags, const std::string& title) override;
     std::optional<std::string> openFile(const std::string& title, const std::string& filter) override;
+    void presentFile(const std::string& name, const std::string& content) override;
     void setBusy(bool) override {}
     void refresh() override {}
 

@@ -146,6 +146,8 @@ void ScriptedDisplay::expectNothingMore() const {
         ADD_FAILURE() << "the window " << window.form << " was never shown";
     for (const Reply& reply : memory_.replies)
         ADD_FAILURE() << "the message \"" << reply.containing << "\" was never shown";
+    for (const FileChoice& choice : memory_.fileChoices)
+        ADD_FAILURE() << "the file dialog " << choice.title << " was never shown";
 }
 
 void ScriptedDisplay::aside(const std::function<void()>& work) {
@@ -161,6 +163,10 @@ void ScriptedDisplay::onWindow(std::string form, Script script) {
 
 void ScriptedDisplay::onMessage(std::string containing, ui::Answer answer, std::string title) {
     memory_.replies.push_back({std::move(containing), answer, std::move(title)});
+}
+
+void ScriptedDisplay::onOpenFile(std::string title, std::optional<std::string> path) {
+    memory_.fileChoices.push_back({std::move(title), std::move(path)});
 }
 
 void ScriptedDisplay::showModal(ui::Form& form) {
@@ -190,7 +196,15 @@ ui::Answer ScriptedDisplay::messageBox(const std::string& text, int flags, const
 }
 
 std::optional<std::string> ScriptedDisplay::openFile(const std::string& title, const std::string&) {
-    fail("unexpected file dialog: " + title);
+    if (memory_.fileChoices.empty()) fail("unexpected file dialog: " + title);
+    const FileChoice choice = std::move(memory_.fileChoices.front());
+    memory_.fileChoices.pop_front();
+    EXPECT_EQ(choice.title, title);
+    return choice.path;
+}
+
+void ScriptedDisplay::presentFile(const std::string& name, const std::string& content) {
+    memory_.files.push_back({name, content});
 }
 
 void ScriptedDisplay::setBusy(bool busy) {

@@ -73,6 +73,11 @@ public:
         std::string title;
     };
 
+    struct PresentedFile {
+        std::string name;
+        std::string content;
+    };
+
     ~ScriptedDisplay() override;
 
     /// The next window is the form of that name, and this is what the user does in it.
@@ -81,6 +86,8 @@ public:
     /// no text, any message box is meant.
     void onMessage(std::string containing, ui::Answer answer = ui::Answer::ok,
                    std::string title = "Tellurix");
+    /// The next file dialog, of this title, is answered with a path; nothing cancels it.
+    void onOpenFile(std::string title, std::optional<std::string> path);
     /// Somebody else works the display for a while: what is expected waits, and what is shown to him
     /// is not remembered.
     void aside(const std::function<void()>& work);
@@ -95,9 +102,13 @@ public:
     /// Messages of the errors handed to the host's error handling so far.
     const std::vector<std::string>& errors() const { return memory_.errors; }
 
+    /// The files handed to the user so far.
+    const std::vector<PresentedFile>& files() const { return memory_.files; }
+
     void showModal(ui::Form& form) override;
     ui::Answer messageBox(const std::string& text, int flags, const std::string& title) override;
     std::optional<std::string> openFile(const std::string& title, const std::string& filter) override;
+    void presentFile(const std::string& name, const std::string& content) override;
     void setBusy(bool busy) override;
     void refresh() override {}
     void report(const std::exception& error) override;
@@ -112,11 +123,17 @@ private:
         ui::Answer answer;
         std::string title;
     };
+    struct FileChoice {
+        std::string title;
+        std::optional<std::string> path;
+    };
     /// What is expected, and what was shown.
     struct Memory {
         std::deque<Expected> windows;
         std::deque<Reply> replies;
+        std::deque<FileChoice> fileChoices;
         std::vector<Message> messages;
+        std::vector<PresentedFile> files;
         std::vector<std::string> errors;
     };
     void expectNothingMore() const;

@@ -63,7 +63,11 @@ TestHost::TestHost(base::Connection& inner)
                .typeAhead = *this,
                .selectionTranslator = *this,
                .models = *this,
-               .catalogue = *this},
+               .catalogue = *this,
+               .multiSelection = *this,
+               .spreadsheets = documents,
+               .mail = documents,
+               .files = documents},
       inner_(inner),
       traced_(database, [this](const tracing::Statement& statement) { remember(statement); }),
       formerlyTraced_(inner,
@@ -284,6 +288,21 @@ std::string TestHost::build(const host::TlxVar& with, const std::string& table, 
     EXPECT_EQ(filter, focusedBox().name() == "txtMandant(0)" ? "PERSONAL_VALID_MANDANTEN" : "PERSONAL_VALID");
     return "SELECT ID_PERSONAL,NUMMER,KURZBEZEICHNUNG FROM " + table + " WHERE NUMMER = " + number +
            (filter == "PERSONAL_VALID_MANDANTEN" ? " AND ISNULL(MANDANT,0) = 1" : "");
+}
+
+std::string TestHost::restriction(const host::TlxVar& with, const std::string& table) {
+    expectOwn(with);
+    EXPECT_EQ(table, "PERSONAL");
+    return personRestriction;
+}
+
+std::optional<std::vector<std::int64_t>> TestHost::choose(const host::TlxVar& with, const std::string& list,
+                                                          const std::string& query,
+                                                          const std::vector<std::int64_t>& marked) {
+    expectOwn(with);
+    inner_.open(query); // one that the database takes
+    multiSelections.push_back({list, query, marked});
+    return pickedSeveral;
 }
 
 std::string TestHost::toSql(const std::string& text, const host::TlxVar& with) {

@@ -4,6 +4,7 @@
 #include "module/entry/clsVertrag.h"
 #include "module/host/services.h"
 #include "tests/support/OneStatementConnection.h"
+#include "tests/support/RecordedDocuments.h"
 #include "tests/support/ScriptedDisplay.h"
 #include "tests/support/StandingClock.h"
 
@@ -61,6 +62,7 @@ class TestHost final : host::HostDataAccess,
                        host::SelectionTranslator,
                        host::ModelService,
                        host::CatalogueSelection,
+                       host::MultiSelectionList,
                        host::HostMainWindow {
 public:
     explicit TestHost(base::Connection& database);
@@ -81,6 +83,7 @@ private:
 public:
     ScriptedDisplay display;
     FaultyConnection database;
+    RecordedDocuments documents{[this](const host::TlxVar& with) { expectOwn(with); }};
     host::HostServices services;
     host::TlxVar session;
     host::Variant blnOK = false;
@@ -114,6 +117,17 @@ public:
     std::int32_t pickedArticle = 0;        ///< what the catalogue answers next
     std::vector<std::string> translations; ///< selection values translated
     std::vector<std::string> typeAheads;   ///< boxes bound: "box/column/query"
+    std::string personRestriction;         ///< what limits the persons of a query, for every user
+
+    /// A multi-selection list that was shown.
+    struct MultiSelection {
+        std::string list;
+        std::string query;
+        std::vector<std::int64_t> marked;
+    };
+    std::vector<MultiSelection> multiSelections;
+    /// What the user marks in the next one; nothing cancels it.
+    std::optional<std::vector<std::int64_t>> pickedSeveral;
 
 private:
     /// What the host handed over when it called the module.
@@ -190,6 +204,10 @@ private:
                 ui::ComboBox& list) override;
     std::int32_t choose(const host::TlxVar&, const std::string& mode, const std::string& upperType,
                         std::int32_t current) override;
+    std::string restriction(const host::TlxVar&, const std::string& table) override;
+    std::optional<std::vector<std::int64_t>> choose(const host::TlxVar&, const std::string& list,
+                                                    const std::string& query,
+                                                    const std::vector<std::int64_t>& marked) override;
     bool IsArtikel() override { return articles; }
 
     base::Connection& inner_;

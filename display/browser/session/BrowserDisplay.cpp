@@ -80,6 +80,10 @@ std::optional<std::string> BrowserDisplay::openFile(const std::string& title, co
     return std::nullopt;
 }
 
+void BrowserDisplay::presentFile(const std::string& name, const std::string&) {
+    throw std::runtime_error{"Im Browser können keine Dateien übergeben werden: " + name};
+}
+
 void BrowserDisplay::setBusy(bool busy) {
     busy_ = busy;
     // The end of being busy shows with the next drawing; the hourglass is for the time until then.

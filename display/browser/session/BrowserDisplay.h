@@ -33,6 +33,7 @@ public:
     /// Tells the user that files cannot be opened here, and answers nothing: a page has no paths of
     /// the user's files to give, only their contents, and no screen reads those yet.
     std::optional<std::string> openFile(const std::string& title, const std::string& filter) override;
+    void presentFile(const std::string& name, const std::string& content) override;
     void setBusy(bool busy) override;
     void refresh() override;
 

@@ -25,4 +25,8 @@ std::string PersonQueryService::build(const host::TlxVar& /*session*/, const std
     return query.text();
 }
 
+std::string PersonQueryService::restriction(const host::TlxVar& session, const std::string& table) {
+    return restrictionOfLevel(table, session.accessLevel);
+}
+
 } // namespace tellurix::standin

@@ -15,6 +15,7 @@ public:
     /// @throws std::invalid_argument for an unknown filter
     std::string build(const host::TlxVar& session, const std::string& table, const std::string& number,
                       int accessLevel, const std::string& filter) override;
+    std::string restriction(const host::TlxVar& session, const std::string& table) override;
 
 private:
     base::Locale locale_;

@@ -28,6 +28,15 @@ base::StatementText& allowedPersons(base::StatementText& query, int accessLevel)
         .fixed(")");
 }
 
+std::string restrictionOfLevel(const std::string& table, int accessLevel) {
+    return base::StatementText{" AND ISNULL("}
+        .identifier(table)
+        .fixed(".ID_ACCESS_LEVELS,0) IN (0,")
+        .number(accessLevel)
+        .fixed(")")
+        .text();
+}
+
 std::string columnOfMode(std::string_view mode) {
     if (mode.empty()) return {};
     if (mode == "2PVM") return "MANDANT";

@@ -11,6 +11,9 @@ namespace tellurix::standin {
 /// Goes behind WHERE, with a blank in front.
 base::StatementText& allowedPersons(base::StatementText& query, int accessLevel);
 
+/// The part of it that depends on the user: " AND …" on a table or alias of that name.
+std::string restrictionOfLevel(const std::string& table, int accessLevel);
+
 /// The column of PERSONAL that marks the persons a picker mode offers; empty for the empty mode,
 /// which an unknown contract type gives and which offers everybody.
 /// @throws std::invalid_argument for a mode that is none

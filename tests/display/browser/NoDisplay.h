@@ -12,6 +12,7 @@ public:
     std::optional<std::string> openFile(const std::string&, const std::string&) override {
         return std::nullopt;
     }
+    void presentFile(const std::string&, const std::string&) override {}
     void setBusy(bool) override {}
     void refresh() override {}
 };
