@@ -1,10 +1,24 @@
 #include "module/parts/KeyedGrid.h"
 
+#include "module/base/date_format.h"
 #include "module/base/field_text.h"
+#include "module/base/text.h"
 
 #include <algorithm>
 
 namespace tellurix::parts {
+
+namespace {
+
+/// A text without what would begin another cell or line.
+std::string oneCell(std::string text) {
+    text = base::replaceAll(std::move(text), "\r\n", " ");
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
+    return text;
+}
+
+} // namespace
 
 void KeyedGrid::setColumns(std::vector<Column> columns) {
     columns_ = std::move(columns);
@@ -23,7 +37,8 @@ std::string KeyedGrid::cellText(KeyedRow& row, const Column& column) const {
     if (column.field.empty() || row.fieldCount() == 0) return {};
     const std::size_t field = row.fieldIndex(column.field);
     const base::Value value = row.field(field);
-    if (std::holds_alternative<base::DateTime>(value)) return base::dateText(value);
+    if (const auto* moment = std::get_if<base::DateTime>(&value))
+        return column.mask.empty() ? base::dateText(value) : base::formatDate(*moment, column.mask, locale_);
     return column.mask.empty() ? row.text(field) : base::numberText(value, column.mask, locale_);
 }
 
@@ -45,13 +60,27 @@ void KeyedGrid::drawRow(int row) {
 void KeyedGrid::show(std::vector<KeyedRow> rows) {
     const auto current = currentKey();
     rows_ = std::move(rows);
+    drawRows(current);
+}
+
+void KeyedGrid::showOnly(std::function<bool(KeyedRow&)> condition) {
+    const auto current = currentKey();
+    condition_ = std::move(condition);
+    drawRows(current);
+}
+
+void KeyedGrid::drawRows(std::optional<std::int64_t> current) {
+    seen_.clear();
     std::vector<ui::Grid::Row> cells;
-    for (KeyedRow& row : rows_)
-        cells.push_back(cellsOf(row));
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        if (condition_ && !condition_(rows_[i])) continue;
+        seen_.push_back(i);
+        cells.push_back(cellsOf(rows_[i]));
+    }
     grid_.setRows(std::move(cells));
     if (const auto found = current ? find(*current) : std::nullopt) {
         grid_.setCurrent(*found, grid_.currentColumn());
-    } else if (grid_.currentRow() == ui::Grid::none && !empty()) {
+    } else if (grid_.currentRow() == ui::Grid::none && rowCount() > 0) {
         grid_.setCurrent(0);
     }
 }
@@ -67,9 +96,9 @@ std::optional<std::int64_t> KeyedGrid::currentKey() const {
 }
 
 std::optional<int> KeyedGrid::find(std::int64_t key) const {
-    const auto found = std::ranges::find(rows_, key, &KeyedRow::key);
-    if (found == rows_.end()) return std::nullopt;
-    return static_cast<int>(found - rows_.begin());
+    for (int row = 0; row < rowCount(); ++row)
+        if (keyOf(row) == key) return row;
+    return std::nullopt;
 }
 
 bool KeyedGrid::select(std::int64_t key) {
@@ -84,6 +113,7 @@ void KeyedGrid::replace(int row, KeyedRow read) {
 }
 
 void KeyedGrid::add(std::int64_t key) {
+    seen_.push_back(rows_.size());
     rows_.emplace_back(key);
     grid_.addRow(ui::Grid::Row(columns_.size()));
     grid_.setCurrent(rowCount() - 1);
@@ -104,8 +134,9 @@ void KeyedGrid::setValue(int row, std::string_view field, base::Value value) {
 }
 
 void KeyedGrid::copyField(std::string_view from, std::string_view to) {
-    for (int row = 0; row < rowCount(); ++row)
-        setValue(row, to, this->row(row).field(from));
+    for (KeyedRow& row : rows_)
+        if (const base::Value value = row.field(from); value != row.field(to)) row.set(to, value);
+    redraw();
 }
 
 base::Decimal KeyedGrid::sum(std::string_view field) {
@@ -125,7 +156,7 @@ std::string KeyedGrid::text(std::span<const TextColumn> columns) {
     }
     for (KeyedRow& row : rows_) {
         for (std::size_t column = 0; column < shown.size(); ++column)
-            text += (column == 0 ? "\r\n" : "\t") + cellText(row, shown[column]);
+            text += (column == 0 ? "\r\n" : "\t") + oneCell(cellText(row, shown[column]));
     }
     return text;
 }

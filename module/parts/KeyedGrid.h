@@ -15,18 +15,21 @@ namespace tellurix::parts {
 
 /// What a grid shows: rows of a query, each known by its key. It keeps the values as they were read
 /// beside the texts of the cells, which may show fewer decimals.
+///
+/// Some of the rows can be hidden from the eye. A row's number is that of the grid, so it counts those
+/// that are seen; what works on the rows as a whole (sums, copying, the text) works on all of them.
 class KeyedGrid {
 public:
     struct Column {
         std::string caption = {};
         int width = 10;
         std::string field = {}; ///< of the query; empty for a cell that the screen writes by itself
-        std::string mask = {};  ///< for a number; a date without one is "dd.mm.yyyy"
+        std::string mask = {};  ///< for a number or a date; a date without one is "dd.mm.yyyy"
         bool rightAligned = false;
         bool hidden = false;
         bool editable = false;
         /// What the cell shows where it is not one field in a mask.
-        std::function<std::string(base::Fields&)> shown = {};
+        std::function<std::string(KeyedRow&)> shown = {};
     };
 
     /// @param locale for the numbers that are shown in a mask
@@ -44,14 +47,17 @@ public:
     void clear() { show({}); }
     /// Writes all cells again, for example in other words; not those that the screen writes.
     void redraw();
+    /// Hides the rows that do not fulfil a condition, from now on and as they are now; none hides none.
+    void showOnly(std::function<bool(KeyedRow&)> condition);
 
-    int rowCount() const { return static_cast<int>(rows_.size()); }
+    int rowCount() const { return static_cast<int>(seen_.size()); }
     bool empty() const { return rows_.empty(); }
+    /// All rows, the hidden ones too.
     std::span<KeyedRow> rows() { return rows_; }
-    KeyedRow& row(int row) { return rows_.at(static_cast<std::size_t>(row)); }
-    std::int64_t keyOf(int row) const { return rows_.at(static_cast<std::size_t>(row)).key(); }
+    KeyedRow& row(int row) { return rows_[seen_.at(static_cast<std::size_t>(row))]; }
+    std::int64_t keyOf(int row) const { return rows_[seen_.at(static_cast<std::size_t>(row))].key(); }
     std::optional<std::int64_t> currentKey() const;
-    /// The row with that key.
+    /// The row with that key, if it is seen.
     std::optional<int> find(std::int64_t key) const;
     /// Makes the row with that key the current one.
     /// @return false when there is none
@@ -65,7 +71,7 @@ public:
 
     /// Sets one value, as when it was typed, and shows it.
     void setValue(int row, std::string_view field, base::Value value);
-    /// Gives a field the values of another one in every row, as they were read.
+    /// Gives a field the values of another one in every row where it has another value, as they were read.
     void copyField(std::string_view from, std::string_view to);
     /// The sum of the numbers of a field; what is empty counts nothing.
     base::Decimal sum(std::string_view field);
@@ -76,18 +82,22 @@ public:
         std::string field;
     };
     /// The rows as they are shown, for a spreadsheet: cells separated by tabs, lines by CR LF, the
-    /// headings first. A field without a column of its own is written as a cell without a mask.
+    /// headings first. A field without a column of its own is written as a cell without a mask; a tab or
+    /// a line end in a text becomes a blank.
     std::string text(std::span<const TextColumn> columns);
 
 private:
     std::string cellText(KeyedRow& row, const Column& column) const;
     void drawRow(int row);
+    void drawRows(std::optional<std::int64_t> current);
     ui::Grid::Row cellsOf(KeyedRow& row) const;
 
     ui::Grid& grid_;
     base::Locale locale_;
     std::vector<Column> columns_;
-    std::vector<KeyedRow> rows_; ///< beside the rows of the grid
+    std::vector<KeyedRow> rows_;
+    std::function<bool(KeyedRow&)> condition_;
+    std::vector<std::size_t> seen_; ///< beside the rows of the grid: which of the rows they are
 };
 
 } // namespace tellurix::parts

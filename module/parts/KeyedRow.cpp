@@ -1,5 +1,7 @@
 #include "module/parts/KeyedRow.h"
 
+#include <algorithm>
+
 namespace tellurix::parts {
 
 namespace {
@@ -23,10 +25,21 @@ KeyedRow::KeyedRow(base::Recordset& row, std::int64_t key, Names names)
     : key_(key), names_(std::move(names)) {
     for (std::size_t i = 0; i < names_->size(); ++i)
         values_.push_back(row.field(i));
+    touched_.resize(values_.size());
 }
 
 void KeyedRow::set(std::string_view name, base::Value value) {
-    values_[fieldIndex(name)] = std::move(value);
+    const std::size_t field = fieldIndex(name);
+    values_[field] = std::move(value);
+    touched_[field] = true;
+}
+
+bool KeyedRow::touched(std::string_view name) const {
+    return touched_[fieldIndex(name)];
+}
+
+bool KeyedRow::touched() const {
+    return std::ranges::find(touched_, true) != touched_.end();
 }
 
 KeyedRows KeyedRows::read(base::Connection& connection, std::string_view query, std::string_view keyField,

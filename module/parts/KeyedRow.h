@@ -22,7 +22,13 @@ public:
     std::string fieldName(std::size_t index) const override { return (*names_)[index]; }
     using Fields::field;
     base::Value field(std::size_t index) override { return values_[index]; }
+    /// Gives a field another value, as when the user has typed it.
     void set(std::string_view name, base::Value value);
+    /// Whether a field has been set since the row was read, to whatever value.
+    bool touched(std::string_view name) const;
+    bool touched() const;
+    /// The values are those of the database now: nothing counts as touched any more.
+    void settle() { touched_.assign(touched_.size(), false); }
 
 private:
     friend class KeyedRows;
@@ -32,6 +38,7 @@ private:
     std::int64_t key_;
     Names names_; ///< shared by the rows of one query
     std::vector<base::Value> values_;
+    std::vector<bool> touched_; ///< beside the values
 };
 
 /// The rows of one query.

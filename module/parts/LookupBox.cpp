@@ -35,7 +35,9 @@ bool LookupBox::leave() {
     if (box_.text() == resolvedText_) return true;
     resolvedText_.reset();
     box_.setTag("");
-    ui::TextBox* const shown = source_.shown.empty() ? nullptr : &box_;
+    ui::TextBox* const shown = source_.shown.empty()       ? nullptr
+                               : source_.beside != nullptr ? source_.beside
+                                                           : &box_;
     const std::string typed = box_.text();
     if (!services_.lookupValidation.resolve(session_, source_.resolution(box_), box_, shown, source_.shown)) {
         // A host that shows nothing for what it did not find would take away what was typed.

@@ -11,16 +11,18 @@ namespace tellurix::parts {
 
 /// Where a lookup box takes its choices from.
 struct LookupSource {
-    /// What the picker is asked for: a query with the texts in a column SHORT, or a named list.
+    /// What the picker is asked for: a query with the texts in its first column, or a named list.
     std::function<std::string()> list;
     /// What finds the key of the text in the box: a query, or a named list.
     /// @throws ui::RefusedInput when the text cannot stand in the query
     std::function<std::string(ui::TextBox&)> resolution;
     /// The column that the box shows of what was found; empty where it keeps what was typed.
     std::string shown = {};
+    /// The box that shows it in place of the lookup box itself, or null.
+    ui::TextBox* beside = nullptr;
 };
 
-/// @param listQuery all choices, in a column named SHORT
+/// @param listQuery all choices, in its first column
 /// @param keyQuery the choice of a text, up to the quote that opens the text
 LookupSource queried(std::string listQuery, std::string keyQuery);
 /// A list that the host knows by name: "WVO_T_BELIEFERUNG" is chosen from as "WVO_T_BELIEFERUNG_GRID" and

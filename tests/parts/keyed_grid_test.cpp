@@ -82,10 +82,48 @@ TEST_F(Reports, KeepTheValuesThatTheCellsRound) {
     EXPECT_EQ(reports.sum("ZUGESAGT"), base::Decimal(1650, 2));
 }
 
+TEST_F(Reports, KnowWhichValuesWereSet) {
+    load(" ORDER BY ID DESC");
+    parts::KeyedRow& huber = reports.row(0);
+    EXPECT_FALSE(huber.touched());
+    reports.setValue(0, "ZUGESAGT", huber.field("ZUGESAGT"));
+    EXPECT_TRUE(huber.touched("ZUGESAGT")) << "the same value again";
+    EXPECT_FALSE(huber.touched("ZUEGE"));
+    huber.settle();
+    EXPECT_FALSE(huber.touched());
+    reports.setValue(0, "ZUGESAGT", huber.field("ZUEGE"));
+    huber.settle();
+    reports.copyField("ZUEGE", "ZUGESAGT");
+    EXPECT_FALSE(huber.touched()) << "it has that value already";
+    EXPECT_TRUE(reports.row(1).touched("ZUGESAGT"));
+}
+
+TEST_F(Reports, SomeAreHiddenFromTheEyeAlone) {
+    load(" ORDER BY ID");
+    reports.select(7);
+    reports.showOnly([](parts::KeyedRow& row) { return !row.text("NAME").empty(); });
+    EXPECT_EQ(reports.rowCount(), 2);
+    EXPECT_EQ(cells(1), "- | Huber | 13 | 3,00 | H. | 05.06.2025");
+    EXPECT_EQ(reports.currentKey(), 7) << "still the current one";
+    EXPECT_EQ(reports.find(5), std::nullopt);
+    reports.setValue(1, "ZUEGE", base::Decimal{2});
+    EXPECT_EQ(cells(1), "- | Huber | 2 | 3,00 | H. | 05.06.2025");
+    EXPECT_EQ(reports.sum("ZUEGE"), base::Decimal(225, 2)) << "of all";
+    reports.copyField("ZUEGE", "ZUGESAGT");
+    reports.showOnly({});
+    EXPECT_EQ(cells(1), "- | - | 0 | 0,25 | . | -") << "copied while it was hidden";
+    EXPECT_EQ(cells(2), "- | Huber | 2 | 2,00 | H. | 05.06.2025");
+    reports.showOnly([](parts::KeyedRow&) { return false; });
+    EXPECT_EQ(reports.currentKey(), std::nullopt);
+    EXPECT_FALSE(reports.empty());
+}
+
 TEST_F(Reports, AreATextForASpreadsheet) {
     load(" ORDER BY ID");
     const parts::KeyedGrid::TextColumn columns[] = {{"Wer", "NAME"}, {"Züge", "ZUEGE"}, {"Schlüssel", "ID"}};
     EXPECT_EQ(reports.text(columns), "Wer\tZüge\tSchlüssel\r\nAuer\t\t3\r\n\t0\t5\r\nHuber\t13\t7");
+    reports.setValue(1, "NAME", std::string{"von\tder\r\nAu\n"});
+    EXPECT_NE(reports.text(columns).find("\r\nvon der Au \t0\t5\r\n"), std::string::npos) << "still one cell";
 }
 
 TEST_F(Reports, RowsComeAndChangePlaces) {
