@@ -10,6 +10,7 @@
 #include "standin/services/pickers/F_Calendar.h"
 #include "standin/services/pickers/F_ListPicker.h"
 #include "standin/services/pickers/F_LookupGrid.h"
+#include "standin/services/pickers/F_MultiSelection.h"
 #include "standin/services/pickers/F_PersonPicker.h"
 #include "standin/services/selection/F_Selection.h"
 #include "tests/standin/services/ServicesTest.h"
@@ -69,10 +70,11 @@ protected:
     const standin::SelectionWords words{services.localizer(), session, base::Locale::german()};
     standin::F_Selection selection{display, words, {}, {}};
     standin::F_LookupGrid codes{"", words.choiceCaptions(), {}, {}, true};
+    standin::F_MultiSelection several{"", {}, {}, {}};
     deductions::F_Abschlag deductionLines{host};
     standin::F_Models models{display, standin::ModelStore{*session.connection, "ABSCHLAG"}, {}, {}, {}, ""};
-    const std::vector<ui::Form*> forms{&editor,     &header,    &list,  &calendar,       &persons, &prices,
-                                       &quantities, &selection, &codes, &deductionLines, &models};
+    const std::vector<ui::Form*> forms{&editor,     &header,    &list,  &calendar, &persons,        &prices,
+                                       &quantities, &selection, &codes, &several,  &deductionLines, &models};
 };
 
 TEST_F(Localizing, EveryCaptionHasAnEnglishText) {
