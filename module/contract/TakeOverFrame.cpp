@@ -7,6 +7,7 @@
 #include "module/host/module_state.h"
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/ShownProgress.h"
 #include "module/ui/controls/caption.h"
 
 #include <stdexcept>
@@ -23,21 +24,6 @@ constexpr const char* contractList = "VERTRAG_GRID";
 constexpr const char* contractByName = "VERTRAG_VALID";
 constexpr const char* typeList = "TYPEOFVERTRAG_GRID";
 constexpr const char* typeByCode = "TYPEOFVERTRAG_VALID";
-
-/// Shows the progress bar as long as it lives.
-class ShownProgress {
-public:
-    ShownProgress(ui::ProgressBar& bar, int maximum) : bar_(bar) {
-        bar_.setProgress(0, maximum);
-        bar_.setVisible(true);
-    }
-    ~ShownProgress() { bar_.setVisible(false); }
-    ShownProgress(const ShownProgress&) = delete;
-    ShownProgress& operator=(const ShownProgress&) = delete;
-
-private:
-    ui::ProgressBar& bar_;
-};
 
 } // namespace
 
@@ -219,13 +205,9 @@ void TakeOverFrame::takeOver() {
 }
 
 void TakeOverFrame::copy(lines::TakeOver& lines) {
-    const ui::BusyPointer busy{services().display};
-    const ShownProgress shown{ProgressBar1, lines.total()};
+    parts::ShownProgress progress{services().display, ProgressBar1, lines.total()};
     try {
-        lines.run([&] {
-            ProgressBar1.setProgress(lines.done(), lines.total());
-            services().display.refresh();
-        });
+        lines.run([&] { progress.step(); });
     } catch (const std::exception& error) {
         const std::string some =
             words(OwnText::someTakenOver, {std::to_string(lines.done()), std::to_string(lines.total())});
