@@ -40,7 +40,24 @@ void PersonBox::pick() {
         session_, choice_.pickerMode, choice_.accessLevel(), context.g_intStandardMandanten,
         base::wholeNumber<std::int32_t>(number_.tag()).value_or(0), context.blnOK);
     if (person <= 0) return;
-    if (const auto number = personNumber(*session_.connection, person)) number_.setText(*number);
+    const auto number = personNumber(*session_.connection, person);
+    if (!number) return;
+    number_.setText(*number);
+    if (!choice_.chosen) return;
+    base::StatementText query{"SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = "};
+    const auto name = session_.connection->open(query.number(person).text());
+    number_.setTag(std::to_string(person));
+    shortName_.setText(name->atEnd() ? "" : name->text("KURZBEZEICHNUNG"));
+    tell();
+    resolvedNumber_ = *number;
+}
+
+void PersonBox::tell() {
+    if (!choice_.chosen) return;
+    // Until whoever is told has done with it, the number counts as not looked up: after a failure the same
+    // one can be chosen again.
+    resolvedNumber_.reset();
+    choice_.chosen();
 }
 
 bool PersonBox::leave() {
@@ -53,10 +70,11 @@ bool PersonBox::leave() {
                                   ? std::string{}
                                   : services_.personQuery.build(session_, "PERSONAL", number_.text(),
                                                                 choice_.accessLevel(), choice_.validFilter);
-    if (!services_.lookupValidation.resolve(session_, query, number_, &shortName_, "KURZBEZEICHNUNG"))
-        return false;
-    resolvedNumber_ = number_.text();
-    return true;
+    const bool found =
+        services_.lookupValidation.resolve(session_, query, number_, &shortName_, "KURZBEZEICHNUNG");
+    tell();
+    if (found) resolvedNumber_ = number_.text();
+    return found;
 }
 
 } // namespace tellurix::parts

@@ -24,6 +24,9 @@ public:
         std::string pickerMode;           ///< mode of the person picker: "2PVM", "2PVAP"
         std::string validFilter;          ///< filter of the person query: "PERSONAL_VALID", …
         std::function<int()> accessLevel; ///< of the contract, asked for when it is needed
+        /// Told of another person, or of none any more. With it a picked person counts at once, without it
+        /// on leaving the box.
+        std::function<void()> chosen = {};
     };
 
     PersonBox(ui::TextBox& number, ui::TextBox& shortName, host::HostServices& services,
@@ -37,6 +40,7 @@ public:
 private:
     void pick();
     bool leave();
+    void tell();
 
     ui::TextBox& number_;
     ui::TextBox& shortName_;
