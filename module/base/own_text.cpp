@@ -134,6 +134,26 @@ constexpr Words wordsOf(OwnText text) {
         return {"Sollen die eingegebenen Zeilen durch das Modell „{}“ ersetzt werden?",
                 "Replace the lines that were typed by the model \"{}\"?"};
 
+    case OwnText::noQuantity:
+        return {
+            "Das ist keine Menge. Bitte eine ganze Zahl bis 99.999.998 eingeben, auch mit Punkten zwischen "
+            "den Tausendern.",
+            "This is no quantity. Please type a whole number up to 99.999.998, points between the thousands "
+            "are fine."};
+    case OwnText::quantitiesChanged:
+        return {"Jemand anderer hat inzwischen Mengen geändert, die auch hier geändert sind: in {} Zeilen, "
+                "zuerst bei „{}“. Sollen sie überschrieben werden?",
+                "Someone else has changed quantities in the meantime that are changed here, too: in {} rows, "
+                "\"{}\" first. Overwrite them?"};
+    case OwnText::savingStopped:
+        return {
+            "Das Speichern brach bei „{}“ ab. Geschrieben sind {} von {} geänderten Zeilen. Die übrigen sind "
+            "mit * markiert; „Speichern“ schreibt sie.",
+            "Saving stopped at \"{}\". {} of {} changed rows are written. The others are marked with *; "
+            "\"Save\" writes them."};
+    case OwnText::rowsGone:
+        return {"Jemand anderer hat inzwischen gelöscht: {}. Dafür wurde nichts gespeichert.",
+                "Someone else has deleted in the meantime: {}. Nothing was saved for it."};
     case OwnText::serviceFailed:
         return {"Der Dienst {} ({}) ist gescheitert: {}", "The service {} ({}) has failed: {}"};
     case OwnText::refusedValue:

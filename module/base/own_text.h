@@ -61,7 +61,12 @@ enum class OwnText {
     closeChanged,     ///< a question
     closePartlySaved, ///< a question: how many, of how many
     replaceByModel,   ///< a question: the model's name
-    serviceFailed, ///< a service of the host: class, operation, what it says
+    // Quantities of the forest helpers
+    noQuantity,
+    quantitiesChanged, ///< a question: in how many rows, what the first is called
+    savingStopped,     ///< at which row, how many are written, of how many
+    rowsGone,          ///< their names
+    serviceFailed,     ///< a service of the host: class, operation, what it says
     // Values that no statement can carry
     refusedValue,   ///< begins the message: the value
     refusedInField, ///< begins the message: the field's label, the value

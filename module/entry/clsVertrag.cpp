@@ -3,6 +3,7 @@
 #include "module/base/text.h"
 #include "module/contract/F_Vertrag.h"
 #include "module/host/contract_type.h"
+#include "module/logistics/F_VertragMengenmeldung_WVO.h"
 
 namespace tellurix::host {
 
@@ -13,11 +14,8 @@ constexpr const char* quantityReportScreen = "F_VertragMengenmeldung_WVO";
 
 } // namespace
 
-clsVertrag::clsVertrag(HostServices& services, ReportScreenFactory provisionReport,
-                       ReportScreenFactory quantityReport)
-    : services_(services),
-      provisionReport_(std::move(provisionReport)),
-      quantityReport_(std::move(quantityReport)) {}
+clsVertrag::clsVertrag(HostServices& services, ReportScreenFactory provisionReport)
+    : services_(services), provisionReport_(std::move(provisionReport)) {}
 
 std::shared_ptr<ReportScreen> clsVertrag::reportScreen(const std::string& name,
                                                        const ReportScreenFactory& create) {
@@ -33,7 +31,10 @@ void clsVertrag::F_Bereitstellung_WVO_Run(TlxVar& session, std::int16_t modul) {
 }
 
 void clsVertrag::F_VertragMengenmeldung_WVO_Run(TlxVar& session, std::int16_t modul) {
-    reportScreen(quantityReportScreen, quantityReport_)->Run(session, modul);
+    const auto create = [](HostServices& services) {
+        return std::make_unique<logistics::F_VertragMengenmeldung_WVO>(services);
+    };
+    reportScreen(quantityReportScreen, create)->Run(session, modul);
     // The host relies on the quantity reports being as it left them, and on fresh provision reports.
     moduleState().release(provisionReportScreen);
 }

@@ -18,10 +18,9 @@ namespace tellurix::host {
 class clsVertrag {
 public:
     /// @param services live as long as the calling thread's module state
-    /// @param provisionReport, quantityReport make the two report screens. Without one, its
-    ///        operation throws NotAvailable.
-    explicit clsVertrag(HostServices& services, ReportScreenFactory provisionReport = {},
-                        ReportScreenFactory quantityReport = {});
+    /// @param provisionReport makes the screen of the provision reports. Without it, its operation throws
+    ///        NotAvailable.
+    explicit clsVertrag(HostServices& services, ReportScreenFactory provisionReport = {});
 
     /// Opens the weekly provision reports. Every call gets a fresh screen.
     void F_Bereitstellung_WVO_Run(TlxVar& session, std::int16_t modul);
@@ -58,7 +57,6 @@ private:
 
     HostServices& services_;
     ReportScreenFactory provisionReport_;
-    ReportScreenFactory quantityReport_;
 };
 
 } // namespace tellurix::host

@@ -113,6 +113,12 @@ void TestHost::openContract(std::int32_t id, const std::string& type, bool newVe
     run(session, id, type, newVertrag);
 }
 
+void TestHost::openQuantityReports() {
+    call_ = Call{session, 0, ""};
+    host::TlxVar lent = session;
+    module_.F_VertragMengenmeldung_WVO_Run(lent, 1);
+}
+
 void TestHost::showAnotherContract(std::int32_t than) {
     const auto remembering = [](auto&... members) {
         return [&members..., before = std::tuple{members...}]() mutable {
@@ -200,7 +206,7 @@ std::int32_t TestHost::choose(const host::TlxVar& with, const std::string& mode,
                               std::int16_t client, std::int32_t currentPerson, host::Boolean16& confirmed) {
     expectOwn(with);
     expectLevel(accessLevel);
-    EXPECT_EQ(client, standardClient);
+    EXPECT_EQ(client, call_->contract == 0 ? 0 : standardClient) << "told when a contract is opened";
     const auto* box = ui::as<ui::TextBox>(display.top()->focused());
     if (box != nullptr) {
         EXPECT_EQ(std::to_string(currentPerson), box->tag().empty() ? "0" : box->tag());
@@ -313,6 +319,16 @@ std::string TestHost::toSql(const std::string& text, const host::TlxVar& with) {
 std::string TestHost::text(const host::TlxVar& with, const std::string& name) {
     expectOwn(with);
     return name.ends_with("_GRID") ? "layout of " + name : settings.at(name);
+}
+
+void TestHost::save(const host::TlxVar& with, const ui::Grid& grid, const std::string& key) {
+    expectOwn(with);
+    layouts.push_back("save/" + grid.name() + "/" + key);
+}
+
+void TestHost::restore(const host::TlxVar& with, ui::Grid& grid, const std::string& key) {
+    expectOwn(with);
+    layouts.push_back("restore/" + grid.name() + "/" + key);
 }
 
 int TestHost::of(const host::TlxVar& with, const std::string& table, const std::string& column) {

@@ -71,6 +71,9 @@ public:
     /// The way the host calls the module for a contract of the given type.
     void openContract(std::int32_t id, const std::string& type = "R", bool newVertrag = false);
 
+    /// The way the host calls the module for the quantity reports, which belong to no contract.
+    void openQuantityReports();
+
     /// The contracts that a test works on. What belongs to others has to stay as it is.
     std::set<std::int32_t> contracts;
 
@@ -117,6 +120,7 @@ public:
     std::int32_t pickedArticle = 0;        ///< what the catalogue answers next
     std::vector<std::string> translations; ///< selection values translated
     std::vector<std::string> typeAheads;   ///< boxes bound: "box/column/query"
+    std::vector<std::string> layouts;      ///< of grids: "save/grid/key", "restore/grid/key"
     std::string personRestriction;         ///< what limits the persons of a query, for every user
 
     /// A multi-selection list that was shown.
@@ -179,8 +183,8 @@ private:
                       int accessLevel, const std::string& filter) override;
     std::string toSql(const std::string& text, const host::TlxVar&) override;
     std::string text(const host::TlxVar&, const std::string& name) override;
-    void save(const host::TlxVar& with, const ui::Grid&, const std::string&) override { expectOwn(with); }
-    void restore(const host::TlxVar& with, ui::Grid&, const std::string&) override { expectOwn(with); }
+    void save(const host::TlxVar& with, const ui::Grid& grid, const std::string& key) override;
+    void restore(const host::TlxVar& with, ui::Grid& grid, const std::string& key) override;
     int of(const host::TlxVar&, const std::string& table, const std::string& column) override;
     void set(const host::TlxVar&, const std::string& table, const std::string& column,
              const std::string& value, const std::string& condition) override;

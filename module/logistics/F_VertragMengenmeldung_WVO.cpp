@@ -1,0 +1,168 @@
+#include "module/logistics/F_VertragMengenmeldung_WVO.h"
+
+#include "module/base/number_format.h"
+#include "module/base/whole_number.h"
+#include "module/logistics/quantity_cell.h"
+#include "module/logistics/quantity_listings.h"
+#include "module/logistics/quantity_report_statements.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
+
+#include <exception>
+
+namespace tellurix::logistics {
+
+namespace {
+
+constexpr const char* quantityReportLayout = "F_VERTRAGMENGENMELDUNG_WVO";
+constexpr const char* helperSearch = "2PVA2";
+
+} // namespace
+
+F_VertragMengenmeldung_WVO::F_VertragMengenmeldung_WVO(host::HostServices& services)
+    : Form("F_VertragMengenmeldung_WVO", "Vertrag Mengenmeldung"),
+      services_(services),
+      person_(txtWaldhelfer, txtWaldhelferName, services_, session_,
+              {.pickerMode = helperSearch,
+               .validFilter = "PERSONAL_VALID",
+               .accessLevel = [this] { return session_.accessLevel; },
+               .chosen = [this] { load(); }}),
+      contracts_(MSFG),
+      quantities_(
+          MSFG, contracts_, txtEdit, ProgressBar1,
+          {.condition = GuardedQuantities::ofHelper,
+           .editing = [this] { return !mode_.viewing(); },
+           .nameOf = [](parts::KeyedRow& contract) { return contract.text(quantity_report::contractField); },
+           .changed = [this] { showSums(); }}),
+      mode_({.edit = &btnBearbeiten, .save = &btnSpeichern, .cancel = &btnAbbrechen},
+            {.inView = {&txtWaldhelfer, &btnExcel, &btnSchliesen}, .whileEdited = {&btnAllezusagen}},
+            [this] { return !contracts_.empty(); }) {
+    connect();
+    arrange();
+}
+
+void F_VertragMengenmeldung_WVO::connect() {
+    btnBearbeiten.onClick = [this] { edit(); };
+    btnSpeichern.onClick = [this] { save(); };
+    btnAbbrechen.onClick = [this] { cancel(); };
+    btnAllezusagen.onClick = [this] { quantities_.confirmAll(); };
+    btnExcel.onClick = [this] { exportListings(); };
+    btnSchliesen.onClick = [this] { unload(); };
+    btnSchliesen.setCausesValidation(false);
+    mode_.onEnter = [this] { setCancelButton(mode_.viewing() ? btnSchliesen : btnAbbrechen); };
+}
+
+void F_VertragMengenmeldung_WVO::arrange() {
+    setLayout(ui::column({
+        ui::row({ui::field(lblVertrag, txtWaldhelfer, txtWaldhelferName)}),
+        ui::Layout{MSFG}.growing(),
+        ui::row({lblSummeCol2, lblCol2, lblSummeCol3, lblCol3}),
+        ProgressBar1,
+        ui::row({btnBearbeiten, btnSpeichern, btnAbbrechen, btnAllezusagen, btnExcel, btnSchliesen}),
+    }));
+}
+
+std::vector<parts::KeyedGrid::Column> F_VertragMengenmeldung_WVO::columns() {
+    const auto readOnly = [](const char* caption, const char* field) {
+        parts::KeyedGrid::Column column = GuardedQuantities::column(caption, field);
+        column.editable = false;
+        return column;
+    };
+    const auto unnamed = [](const char* caption, int width, std::size_t field) {
+        return parts::KeyedGrid::Column{
+            .caption = caption, .width = width, .shown = [field](parts::KeyedRow& contract) {
+                return contract.text(field);
+            }};
+    };
+    return {quantities_.markColumn(),
+            unnamed("Vertrag / Mengeneinheit", 42, quantity_report::contractField),
+            GuardedQuantities::column("Menge angem.", GuardedQuantities::announced),
+            GuardedQuantities::column("Menge best.", GuardedQuantities::confirmed),
+            readOnly("Menge WB angem.", quantity_report::ownersField),
+            readOnly("Menge geliefert", quantity_report::deliveredField),
+            unnamed("Laufzeit", 24, quantity_report::runningTimeField)};
+}
+
+void F_VertragMengenmeldung_WVO::Run(const host::TlxVar& session, std::int16_t /*modul*/) {
+    session_ = session;
+    contracts_.setColumns(columns());
+    services_.localizer.localize(session_, *this);
+    services_.gridLayouts.restore(session_, MSFG, quantityReportLayout);
+    load();
+    services_.display.showModal(*this);
+    keepLayout();
+}
+
+host::ScreenMemory F_VertragMengenmeldung_WVO::memory() const {
+    if (person_.key().empty()) return {};
+    return {{"helper", person_.key()}, {"number", txtWaldhelfer.text()}, {"name", txtWaldhelferName.text()}};
+}
+
+void F_VertragMengenmeldung_WVO::resume(const host::ScreenMemory& memory) {
+    person_.show(memory.at("helper"), memory.at("number"), memory.at("name"));
+}
+
+std::int32_t F_VertragMengenmeldung_WVO::helper() const {
+    return base::wholeNumber<std::int32_t>(person_.key()).value_or(0);
+}
+
+void F_VertragMengenmeldung_WVO::load() {
+    std::vector<parts::KeyedRow> contracts;
+    try {
+        contracts =
+            parts::KeyedRows::read(*session_.connection, quantity_report::contractsOf(helper()), "ID").rows;
+    } catch (...) {
+        // Another helper's contracts must not stand under this one's name.
+        quantities_.show({});
+        mode_.enter(State::view);
+        throw;
+    }
+    quantities_.show(std::move(contracts));
+    mode_.enter(State::view);
+}
+
+void F_VertragMengenmeldung_WVO::showSums() {
+    const auto shown = [this](const char* field) {
+        return base::formatNumber(contracts_.sum(field), quantityMask, base::Locale::german());
+    };
+    lblCol2.setCaption(shown(GuardedQuantities::announced));
+    lblCol3.setCaption(shown(GuardedQuantities::confirmed));
+}
+
+void F_VertragMengenmeldung_WVO::edit() {
+    mode_.enter(State::edit);
+    quantities_.startEditing();
+}
+
+void F_VertragMengenmeldung_WVO::save() {
+    if (!quantities_.save(services_, session_, quantity_report::presentQuantities(helper()))) return;
+    load();
+    parts::SafeSetFocus(MSFG);
+}
+
+void F_VertragMengenmeldung_WVO::cancel() {
+    load();
+    parts::SafeSetFocus(MSFG);
+}
+
+void F_VertragMengenmeldung_WVO::exportListings() {
+    const ui::BusyPointer busy{services_.display};
+    for (const QuantityListing& listing : quantityListings())
+        services_.spreadsheets.exportTable(session_, listing.parameters(*session_.connection), listing.title);
+}
+
+bool F_VertragMengenmeldung_WVO::queryUnload() {
+    if (!quantities_.changed()) return true;
+    return parts::confirmed(services_.display, base::ownText(base::OwnText::closeChanged, session_.language));
+}
+
+void F_VertragMengenmeldung_WVO::keepLayout() {
+    try {
+        services_.gridLayouts.save(session_, MSFG, quantityReportLayout);
+    } catch (const std::exception& error) {
+        // The reports are written; widths that are not kept are no failure of the host's call.
+        services_.errors.report(error);
+    }
+}
+
+} // namespace tellurix::logistics

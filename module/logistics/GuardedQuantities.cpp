@@ -1,0 +1,201 @@
+#include "module/logistics/GuardedQuantities.h"
+
+#include "module/base/StatementText.h"
+#include "module/base/date_format.h"
+#include "module/base/field_text.h"
+#include "module/logistics/quantity_cell.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/ShownProgress.h"
+#include "module/parts/questions.h"
+#include "module/ui/input/RefusedInput.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace tellurix::logistics {
+
+using base::OwnText;
+using base::StatementText;
+using base::Value;
+
+namespace {
+
+/// Whatever type the server keeps it in.
+bool sameQuantity(const Value& left, const Value& right) {
+    return base::numberIn(left) == base::numberIn(right);
+}
+
+void appendQuantity(StatementText& statement, const Value& quantity) {
+    const auto number = base::numberIn(quantity);
+    number ? statement.number(number->toString()) : statement.null();
+}
+
+void appendDiffers(StatementText& statement, std::string_view ifEmpty, std::string_view otherwise,
+                   const Value& quantity) {
+    const auto number = base::numberIn(quantity);
+    number ? statement.fixed(otherwise).number(number->toString()) : statement.fixed(ifEmpty);
+}
+
+} // namespace
+
+std::string GuardedQuantities::statement(std::string_view condition, std::int64_t key,
+                                         const Value& announcedQuantity, const Value& confirmedQuantity,
+                                         base::DateTime now) {
+    StatementText update{"UPDATE WVO_VERTRAG_WALDHELFER SET MENGE_ANG = "};
+    appendQuantity(update, announcedQuantity);
+    update.fixed(",MENGE_BES = ");
+    appendQuantity(update, confirmedQuantity);
+    update.fixed(", DATUM_CHANGE_ZENT = '")
+        .fixed(base::formatDate(now, "dd.mm.yyyy hh:mm:ss", base::Locale::german()))
+        .fixed("' ")
+        .fixed(condition);
+    // clang-format off
+    appendDiffers(update, " MENGE_BES is not null ", " ISNULL(MENGE_BES,99999999) <> ", confirmedQuantity);
+    update.fixed(" OR ");
+    appendDiffers(update, " MENGE_ANG is not null ", " ISNULL(MENGE_ANG,99999999) <> ", announcedQuantity);
+    update.fixed(" ) AND WVO_VERTRAG_WALDHELFER.ID = ").number(key);
+    // clang-format on
+    return update.text();
+}
+
+GuardedQuantities::GuardedQuantities(ui::Grid& grid, parts::KeyedGrid& rows, ui::TextBox& box,
+                                     ui::ProgressBar& bar, Screen screen)
+    : grid_(grid), rows_(rows), box_(box), bar_(bar), screen_(std::move(screen)), cell_(grid, box) {
+    takeQuantities(box_);
+    bar_.setVisible(false);
+    cell_.canEdit = [this](int, int column) { return screen_.editing() && rows_.editable(column); };
+    cell_.write = [this](int row, int column, const std::string& text) { return write(row, column, text); };
+}
+
+parts::KeyedGrid::Column GuardedQuantities::markColumn() {
+    return {.width = 3, .shown = [](parts::KeyedRow& row) { return row.touched() ? "*" : ""; }};
+}
+
+parts::KeyedGrid::Column GuardedQuantities::column(std::string caption, const char* field) {
+    return {.caption = std::move(caption),
+            .width = 14,
+            .field = field,
+            .mask = quantityMask,
+            .rightAligned = true,
+            .editable = true};
+}
+
+void GuardedQuantities::show(std::vector<parts::KeyedRow> rows) {
+    cell_.close();
+    read_.clear();
+    for (parts::KeyedRow& row : rows)
+        read_[row.key()] = {row.field(announced), row.field(confirmed)};
+    rows_.show(std::move(rows));
+    screen_.changed();
+}
+
+void GuardedQuantities::startEditing() {
+    int column = grid_.currentColumn();
+    if (!rows_.editable(column)) {
+        const auto first = std::ranges::find(rows_.columns(), true, &parts::KeyedGrid::Column::editable);
+        column = static_cast<int>(first - rows_.columns().begin());
+    }
+    grid_.setCurrent(grid_.currentRow(), column);
+    parts::SafeSetFocus(grid_);
+}
+
+bool GuardedQuantities::changed() const {
+    return std::ranges::any_of(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); });
+}
+
+std::string GuardedQuantities::write(int row, int column, const std::string& text) {
+    auto quantity = quantityIn(text);
+    if (!quantity) {
+        const std::string& heading = grid_.columns().at(static_cast<std::size_t>(column)).caption;
+        std::vector<base::Refused::Sentence> message = base::refusedValue(text, heading);
+        message.push_back({OwnText::noQuantity});
+        throw ui::RefusedInput{box_, std::move(message)};
+    }
+    rows_.setValue(row, rows_.columns().at(static_cast<std::size_t>(column)).field, std::move(*quantity));
+    screen_.changed();
+    return grid_.cell(row, column);
+}
+
+void GuardedQuantities::confirmAll() {
+    rows_.copyField(announced, confirmed);
+    screen_.changed();
+}
+
+GuardedQuantities::QuantitiesByKey GuardedQuantities::read(base::Connection& connection,
+                                                           const std::string& query) {
+    QuantitiesByKey quantities;
+    for (auto row = connection.open(query); !row->atEnd(); row->moveNext())
+        quantities[row->integer("ID")] = {row->field(announced), row->field(confirmed)};
+    return quantities;
+}
+
+bool GuardedQuantities::save(host::HostServices& services, const host::TlxVar& session,
+                             const std::string& present) {
+    const QuantitiesByKey now = read(*session.connection, present);
+    if (!mayOverwrite(services, session, now)) return false;
+    writeRows(services, session, now);
+    tellGone(services, session, now);
+    return true;
+}
+
+bool GuardedQuantities::mayOverwrite(host::HostServices& services, const host::TlxVar& session,
+                                     const QuantitiesByKey& present) {
+    int changed = 0;
+    std::string first;
+    for (parts::KeyedRow& row : rows_.rows()) {
+        const auto now = present.find(row.key());
+        if (now == present.end()) continue;
+        const Quantities& before = read_.at(row.key());
+        const bool overwrites =
+            (row.touched(announced) && !sameQuantity(before.announced, now->second.announced)) ||
+            (row.touched(confirmed) && !sameQuantity(before.confirmed, now->second.confirmed));
+        if (overwrites && changed++ == 0) first = screen_.nameOf(row);
+    }
+    return changed == 0 ||
+           parts::confirmed(services.display, base::ownText(OwnText::quantitiesChanged, session.language,
+                                                            {std::to_string(changed), first}));
+}
+
+void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxVar& session,
+                                  const QuantitiesByKey& present) {
+    parts::ShownProgress progress{services.display, bar_, rows_.rowCount()};
+    const base::DateTime moment = services.clock.now();
+    const auto all =
+        std::ranges::count_if(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); });
+    int written = 0;
+    for (parts::KeyedRow& row : rows_.rows()) {
+        const auto now = present.find(row.key());
+        if (now != present.end()) {
+            const Quantities quantities{row.touched(announced) ? row.field(announced) : now->second.announced,
+                                        row.touched(confirmed) ? row.field(confirmed)
+                                                               : now->second.confirmed};
+            try {
+                session.connection->execute(statement(screen_.condition, row.key(), quantities.announced,
+                                                      quantities.confirmed, moment));
+            } catch (const std::exception& error) {
+                rows_.redraw();
+                services.errors.report(error);
+                throw base::Refused{{{OwnText::savingStopped,
+                                      {screen_.nameOf(row), std::to_string(written), std::to_string(all)}}}};
+            }
+            written += row.touched() ? 1 : 0;
+            row.settle();
+            read_[row.key()] = quantities;
+        }
+        progress.step();
+    }
+}
+
+void GuardedQuantities::tellGone(host::HostServices& services, const host::TlxVar& session,
+                                 const QuantitiesByKey& present) {
+    std::string gone;
+    for (parts::KeyedRow& row : rows_.rows()) {
+        if (row.touched() && !present.contains(row.key()))
+            gone += (gone.empty() ? "" : ", ") + screen_.nameOf(row);
+    }
+    if (gone.empty()) return;
+    parts::ShowMessage(services.display, base::ownText(OwnText::rowsGone, session.language, {gone}),
+                       ui::box::exclamation);
+}
+
+} // namespace tellurix::logistics
