@@ -272,6 +272,14 @@ void Desktop::handle(Form&, const ScrollEvent& event) {
     if (Grid* grid = as<Grid>(event.control)) grid->onScroll();
 }
 
+void Desktop::handle(Form&, const ColumnSizedEvent& event) {
+    Grid* grid = as<Grid>(event.control);
+    if (grid == nullptr || !grid->usable()) return;
+    if (event.column < 0 || event.column >= static_cast<int>(grid->columns().size())) return;
+    grid->sizeColumn(event.column, event.width);
+    grid->onColumnSized();
+}
+
 void Desktop::handle(Form& form, const PickEvent& event) {
     if (event.control != nullptr) pick(form, *event.control);
 }

@@ -73,6 +73,7 @@ json drawColumns(const ui::Grid& grid) {
         columns.push_back({{"caption", column.caption},
                            {"width", column.width},
                            {"right", column.rightAligned},
+                           {"sized", column.sized},
                            {"visible", column.visible}});
     }
     return columns;

@@ -58,6 +58,8 @@ std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& c
         return ui::DoubleClickEvent{&control};
     case Kind::scroll:
         return ui::ScrollEvent{&control};
+    case Kind::columnSized:
+        return ui::ColumnSizedEvent{&control, message.column, message.width};
     case Kind::pick:
         return ui::PickEvent{&control};
     default:

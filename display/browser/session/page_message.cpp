@@ -72,6 +72,7 @@ Kind kindOf(const json& object) {
         {"select", Kind::select},
         {"doubleClick", Kind::doubleClick},
         {"scroll", Kind::scroll},
+        {"columnSized", Kind::columnSized},
         {"pick", Kind::pick},
         {"close", Kind::close},
         {"answer", Kind::answer},
@@ -130,6 +131,10 @@ PageMessage parsePageMessage(std::string_view message) {
     case Kind::select:
         parsed.index = smallInteger(object, "index");
         parsed.column = object.contains("column") ? smallInteger(object, "column") : 0;
+        break;
+    case Kind::columnSized:
+        parsed.column = smallInteger(object, "column");
+        parsed.width = smallInteger(object, "width");
         break;
     case Kind::answer:
         parsed.answer = smallInteger(object, "answer");

@@ -34,6 +34,7 @@ struct PageMessage {
         select,
         doubleClick,
         scroll,
+        columnSized,
         pick,
         close,
         answer, ///< of a message box
@@ -52,6 +53,7 @@ struct PageMessage {
     int length = 0;
     int index = 0; ///< item, page or row
     int column = 0;
+    int width = 0; ///< of a column, in average characters; 0 to fit its texts
     bool up = false;
     int answer = 0;
     /// Which connection asked for the redrawing; set by the session.

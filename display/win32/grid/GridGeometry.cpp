@@ -1,13 +1,14 @@
 #include "display/win32/grid/GridGeometry.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
 
 namespace tellurix::windows {
 
 int GridGeometry::roomOf(const ui::Grid::Column& column) const {
     // A caption that is longer than what stands below it has to be read as well.
-    const int caption = theme_.textSize(column.caption, false).cx;
+    const int caption = column.sized ? 0 : theme_.textSize(column.caption, false).cx;
     return std::max(column.width * theme_.characterWidth(), caption) + theme_.textEdges();
 }
 
@@ -23,19 +24,22 @@ void GridGeometry::fit(int width, int height) {
     windowHeight_ = height;
     widths_.clear();
     int flexible = 0; // how much the texts can give
+    int growing = 0;  // what the spare room is shared among
     for (const auto& column : grid_.columns()) {
         widths_.push_back(column.visible ? roomOf(column) : 0);
-        if (column.visible && !column.rightAligned) flexible += widths_.back() / 2;
+        if (!column.visible || column.sized) continue;
+        growing += widths_.back();
+        if (!column.rightAligned) flexible += widths_.back() / 2;
     }
     const int wanted = std::accumulate(widths_.begin(), widths_.end(), 0);
     const int missing = std::clamp(wanted - width, 0, flexible);
     const int spare = std::max(width - wanted, 0);
     for (std::size_t i = 0; i < widths_.size(); ++i) {
-        if (!visible(i)) continue;
+        if (!visible(i) || grid_.columns()[i].sized) continue;
         const bool text = !grid_.columns()[i].rightAligned;
         // Rounded so that no column is pushed out by a pixel.
         if (missing > 0 && text) widths_[i] -= (widths_[i] / 2 * missing + flexible - 1) / flexible;
-        if (spare > 0) widths_[i] += widths_[i] * spare / wanted;
+        if (spare > 0) widths_[i] += widths_[i] * spare / growing;
     }
     scrollTo(firstRow_, left_);
 }
@@ -91,6 +95,26 @@ GridGeometry::Place GridGeometry::at(POINT point) const {
         }
     }
     return found;
+}
+
+int GridGeometry::edgeAt(POINT point) const {
+    if (point.y >= rowHeight()) return -1;
+    const int reach = theme_.scaled(4);
+    int right = -left_;
+    int found = -1;
+    for (std::size_t i = 0; i < widths_.size(); ++i) {
+        right += widths_[i];
+        if (visible(i) && std::abs(point.x - right) <= reach) found = static_cast<int>(i);
+    }
+    return found;
+}
+
+void GridGeometry::pull(int column, int width) {
+    widths_.at(static_cast<std::size_t>(column)) = std::max(width, theme_.textEdges());
+}
+
+int GridGeometry::charactersIn(int width) const {
+    return std::max((width - theme_.textEdges()) / theme_.characterWidth(), 1);
 }
 
 } // namespace tellurix::windows

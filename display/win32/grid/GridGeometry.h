@@ -39,6 +39,12 @@ public:
     };
     /// The cell at a point; row or column are -1 outside the cells.
     Place at(POINT point) const;
+    /// The column whose right edge in the header row is at a point, -1 for none.
+    int edgeAt(POINT point) const;
+    /// Shows a column as wide as that, in pixels, until everything is fitted again.
+    void pull(int column, int width);
+    /// A column's width in average characters, if it were that wide in pixels.
+    int charactersIn(int width) const;
 
 private:
     bool visible(std::size_t column) const { return grid_.columns()[column].visible; }

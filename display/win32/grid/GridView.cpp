@@ -4,6 +4,7 @@
 #include "display/win32/grid/grid_painting.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tellurix::windows {
 
@@ -130,7 +131,34 @@ void GridView::paint() {
     EndPaint(handle(), &drawing);
 }
 
+bool GridView::takeEdge(POINT point, bool twice) {
+    const int column = geometry_.edgeAt(point);
+    if (column < 0) return false;
+    if (twice) {
+        tell(ui::ColumnSizedEvent{&grid_, column, ui::Grid::fitting});
+        return true;
+    }
+    pulled_ = column;
+    SetCapture(handle());
+    return true;
+}
+
+void GridView::pullEdge(POINT point) {
+    geometry_.pull(pulled_, point.x - static_cast<int>(geometry_.cell(-1, pulled_).left));
+    InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void GridView::leaveEdge() {
+    const RECT cell = geometry_.cell(-1, pulled_);
+    const int column = std::exchange(pulled_, -1);
+    fit();
+    const RECT before = geometry_.cell(-1, column);
+    if (widthOf(cell) == widthOf(before)) return;
+    tell(ui::ColumnSizedEvent{&grid_, column, geometry_.charactersIn(widthOf(cell))});
+}
+
 void GridView::pressed(POINT point, bool twice) {
+    if (takeEdge(point, twice)) return;
     const GridGeometry::Place cell = geometry_.at(point);
     if (cell.row < 0 || cell.column < 0) {
         tell(ui::FocusEvent{&grid_});
@@ -211,6 +239,23 @@ LRESULT GridView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDBLCLK:
         pressed(pointOf(lParam), message == WM_LBUTTONDBLCLK);
         return 0;
+    case WM_MOUSEMOVE:
+        if (pulled_ >= 0) pullEdge(pointOf(lParam));
+        return 0;
+    case WM_LBUTTONUP:
+        if (pulled_ >= 0) ReleaseCapture();
+        return 0;
+    case WM_CAPTURECHANGED:
+        if (pulled_ >= 0) leaveEdge();
+        return 0;
+    case WM_SETCURSOR: {
+        POINT point{};
+        GetCursorPos(&point);
+        ScreenToClient(handle(), &point);
+        if (geometry_.edgeAt(point) < 0) break;
+        SetCursor(LoadCursorW(nullptr, IDC_SIZEWE));
+        return TRUE;
+    }
     case WM_VSCROLL:
         scrollBar(SB_VERT, LOWORD(wParam));
         return 0;

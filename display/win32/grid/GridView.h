@@ -39,6 +39,10 @@ private:
     void showScrollBars();
     void showCurrentCell();
     void pressed(POINT point, bool twice);
+    /// The user has taken the edge of a column, and moves it.
+    bool takeEdge(POINT point, bool twice);
+    void pullEdge(POINT point);
+    void leaveEdge();
     void scrollBar(int bar, WORD request);
     /// @return false when there is nothing left to scroll to
     bool wheel(UINT message, WPARAM wParam);
@@ -49,6 +53,7 @@ private:
     ui::Grid& grid_;
     GridGeometry geometry_;
     Wheel wheel_;
+    int pulled_ = -1; ///< the column whose edge the user holds
 };
 
 } // namespace tellurix::windows

@@ -1,5 +1,7 @@
 #include "module/ui/controls/Grid.h"
 
+#include "module/base/text.h"
+
 #include <algorithm>
 
 namespace tellurix::ui {
@@ -20,6 +22,20 @@ void Grid::reveal() {
 
 void Grid::setColumns(std::vector<Column> columns) {
     columns_ = std::move(columns);
+    columnsDirty_ = true;
+    markDirty();
+}
+
+void Grid::sizeColumn(int column, int width) {
+    Column& sized = columns_.at(static_cast<std::size_t>(column));
+    if (width == fitting) {
+        std::size_t longest = base::decodeUtf8(sized.caption).size();
+        for (const Row& row : rows_)
+            longest = std::max(longest, base::decodeUtf8(row.at(static_cast<std::size_t>(column))).size());
+        width = static_cast<int>(longest);
+    }
+    sized.width = std::clamp(width, 1, widestColumn);
+    sized.sized = true;
     columnsDirty_ = true;
     markDirty();
 }

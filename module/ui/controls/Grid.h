@@ -19,6 +19,7 @@ public:
         int width = 10; ///< room for how many average characters
         bool rightAligned = false;
         bool visible = true;
+        bool sized = false; ///< by the user: it is as wide as it says, however much room there is
     };
     using Row = std::vector<std::string>;
 
@@ -32,6 +33,11 @@ public:
     int visibleRows() const { return visibleRows_; }
     const std::vector<Column>& columns() const { return columns_; }
     void setColumns(std::vector<Column> columns);
+    /// Instead of a width: as wide as the longest text.
+    static constexpr int fitting = 0;
+    static constexpr int widestColumn = 200;
+    /// Gives a column the width that the user wants, in average characters.
+    void sizeColumn(int column, int width);
     const std::vector<Row>& rows() const { return rows_; }
     /// Replaces all rows; the current row stays where it was as far as there is one.
     void setRows(std::vector<Row> rows);
@@ -70,6 +76,8 @@ public:
     Handlers<void()> onDoubleClick;
     /// A character was typed while the grid had the focus.
     Handlers<void(char32_t)> onKeyPress;
+    /// The user made a column wider or narrower.
+    Handlers<void()> onColumnSized;
     /// The user scrolled while a cell was being edited, which ends with it; told at other times it means
     /// nothing.
     Handlers<void()> onScroll;

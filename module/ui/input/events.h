@@ -71,6 +71,12 @@ struct DoubleClickEvent {
 struct ScrollEvent {
     Control* control = nullptr;
 };
+/// The user pulled the edge of a grid's column, or wants it to fit its texts.
+struct ColumnSizedEvent {
+    Control* control = nullptr;
+    int column = 0;
+    int width = 0; ///< in average characters; 0 to fit
+};
 /// The small button beside a box that has a picker.
 struct PickEvent {
     Control* control = nullptr;
@@ -80,6 +86,6 @@ struct CloseEvent {};
 
 using Event = std::variant<KeyDownEvent, PickKeyEvent, KeyPressEvent, AccessKeyEvent, FocusEvent,
                            TextEditedEvent, SelectionEvent, PasteEvent, ClickEvent, StepEvent, SelectEvent,
-                           DoubleClickEvent, ScrollEvent, PickEvent, CloseEvent>;
+                           DoubleClickEvent, ScrollEvent, ColumnSizedEvent, PickEvent, CloseEvent>;
 
 } // namespace tellurix::ui

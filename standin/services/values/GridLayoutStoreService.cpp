@@ -15,7 +15,7 @@ std::string layoutOf(const ui::Grid& grid) {
     std::string layout;
     for (const ui::Grid::Column& column : grid.columns()) {
         if (!layout.empty()) layout += ' ';
-        layout += std::to_string(column.width) + (column.visible ? "" : "-");
+        layout += std::to_string(column.width) + (column.sized ? "=" : "") + (column.visible ? "" : "-");
     }
     return layout;
 }
@@ -53,6 +53,7 @@ void GridLayoutStoreService::restore(const host::TlxVar& session, ui::Grid& grid
         int characters = 0;
         if (!(layout >> width) || !(std::istringstream{width} >> characters) || characters < 1) return;
         column.width = characters;
+        column.sized = width.find('=') != std::string::npos;
         column.visible = !width.ends_with('-');
     }
     std::string more;

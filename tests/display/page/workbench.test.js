@@ -269,6 +269,25 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await until(async () => (await offset()) === 0 || offset(), 'the first row is in sight');
   });
 
+  test('a column is as wide as its edge was pulled, and fits its texts when that is pressed twice', async () => {
+    await openPrices();
+    const heading = control(page, 'MSFlexGrid1').getByRole('columnheader').nth(1);
+    const width = async () => (await heading.boundingBox())?.width;
+    const before = await width();
+    const edge = await heading.locator('.column-edge').boundingBox();
+    await page.mouse.move(edge.x + 3, edge.y + 5);
+    await page.mouse.down();
+    await page.mouse.move(edge.x - 57, edge.y + 5);
+    await page.mouse.up();
+    await until(async () => Math.abs((await width()) - before + 60) < 8 || [before, await width()], 'narrower by what it was pulled');
+    const pulled = await width();
+    await page.reload();
+    await top('F_VertragPreise');
+    await until(async () => Math.abs((await width()) - pulled) < 2 || width(), 'the session knows it');
+    await heading.locator('.column-edge').dblclick();
+    await until(async () => Math.abs((await width()) - pulled) > 5 || width(), 'as wide as its longest text');
+  });
+
   test('on a low page the table of prices gives way to the change of all prices', async () => {
     await openPrices();
     await control(page, 'btnPreiseAendern').click();

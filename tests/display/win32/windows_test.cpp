@@ -253,6 +253,36 @@ TEST(WindowsOfScreens, TheGridFollowsTheWheel) {
     EXPECT_FALSE(host.join().ended);
 }
 
+TEST(Tables, AColumnIsAsWideAsItsEdgeWasPulled) {
+    EditedTable form;
+    int told = 0;
+    form.grdTable.onColumnSized = [&] { ++told; };
+    HostThread host{[&](windows::Win32Display& display) { display.showModal(form); }};
+    WindowsUser user{host.id()};
+    ASSERT_TRUE(isOpen(user, "EditedTable"));
+    HWND grid = user.control("grdTable");
+    const auto edge = [&] {
+        RECT cell{};
+        SendMessageW(grid, windows::gridMessages().cellPlace, MAKEWPARAM(0, 0), reinterpret_cast<LPARAM>(&cell));
+        return static_cast<int>(cell.right);
+    };
+    const int before = edge();
+    const auto mouse = [&](UINT message, int x) { SendMessageW(grid, message, MK_LBUTTON, MAKELPARAM(x, 4)); };
+    mouse(WM_LBUTTONDOWN, before - 1);
+    mouse(WM_LBUTTONUP, before - 1);
+    EXPECT_EQ(edge(), before) << "pressed, but not pulled";
+    mouse(WM_LBUTTONDOWN, before - 1);
+    mouse(WM_MOUSEMOVE, before + 60);
+    mouse(WM_LBUTTONUP, before + 60);
+    EXPECT_NEAR(edge(), before + 60, 12) << "rounded to characters";
+    mouse(WM_LBUTTONDBLCLK, edge() - 1);
+    EXPECT_NE(edge(), before + 60) << "as wide as its longest text";
+    user.close();
+    EXPECT_FALSE(host.join().ended);
+    EXPECT_EQ(told, 2);
+    EXPECT_TRUE(form.grdTable.columns()[0].sized);
+}
+
 TEST(EditingInPlace, TheBoxFloatsOverItsCell) {
     HostThread host{[](windows::Win32Display& display) {
         EditedTable form;

@@ -28,7 +28,7 @@ protected:
         host.gridLayouts.restore(session, form.grid, key);
         std::string text;
         for (const ui::Grid::Column& column : form.grid.columns())
-            text += std::to_string(column.width) + (column.visible ? " " : "h ");
+            text += std::to_string(column.width) + (column.sized ? "=" : "") + (column.visible ? " " : "h ");
         return text;
     }
 };
@@ -44,6 +44,10 @@ TEST_F(StoredValues, GridLayoutsAreKeptByUserAndKey) {
     EXPECT_EQ(widths(3), "12 30h 7 ");
     save({wide(13), wide(31), wide(8)});
     EXPECT_EQ(widths(3), "13 31 8 ") << "saving again replaces";
+    form.grid.sizeColumn(1, 20);
+    host.gridLayouts.save(session, form.grid, "F_TEST");
+    EXPECT_EQ(widths(3), "13 20= 8 ") << "what the user sized stays sized";
+    save({wide(13), wide(31), wide(8)});
     EXPECT_EQ(widths(3, "F_OTHER"), "10 10 10 ");
     EXPECT_EQ(widths(2), "10 10 ") << "a layout of more columns is from another version";
     EXPECT_EQ(widths(4), "10 10 10 10 ") << "as is one of fewer";

@@ -2,6 +2,7 @@
 // them, and the current one, which screen readers are told about wherever it is: so that a changed cell
 // in a long table costs no more than in a short one. Rows have a fixed height, which gives each its
 // place and the whole its height to scroll.
+import { ColumnEdge } from './column_edge.js';
 import { newElementId, View } from './view.js';
 
 const rowsBeyond = 8; // drawn above and below those that are seen: scrolling shows no gaps
@@ -58,19 +59,27 @@ export class Grid extends View {
 
   #drawColumns() {
     const visible = this.state.columns.filter((column) => column.visible);
-    // Where room is short, texts give way before numbers: half a name can still be recognised.
-    const widths = visible.map(({ width, right }) => {
+    // Where room is short, texts give way before numbers: half a name can still be recognised. What the
+    // user has sized does neither give way nor grow.
+    const widths = visible.map(({ width, right, sized }) => {
       const room = width + 2;
-      return `minmax(${right ? room : Math.ceil(room / 2)}ch, ${room}fr)`;
+      return sized ? `${room}ch` : `minmax(${right ? room : Math.ceil(room / 2)}ch, ${room}fr)`;
     });
     this.element.style.setProperty('--columns', widths.join(' ') || '1fr');
     this.element.style.setProperty('--width', visible.reduce((sum, column) => sum + column.width + 2, 0));
-    this.#head.replaceChildren(...visible.map((column) => {
+    this.#head.replaceChildren(...visible.map((column, place) => {
       const cell = document.createElement('div');
       cell.setAttribute('role', 'columnheader');
       cell.classList.toggle('right', column.right);
       cell.textContent = column.caption;
       cell.title = column.caption;
+      new ColumnEdge(cell, {
+        pulled: (track) => this.element.style.setProperty('--columns', widths.with(place, track).join(' ')),
+        sized: (width) => {
+          if (!this.usable) return this.#drawColumns();
+          return this.perform({ type: 'columnSized', column: this.state.columns.indexOf(column), width });
+        },
+      });
       return cell;
     }));
     this.element.setAttribute('aria-colcount', visible.length);
