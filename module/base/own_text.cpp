@@ -108,6 +108,29 @@ constexpr Words wordsOf(OwnText text) {
     case OwnText::logsClaimed:
         return {"Zeile {}: {} Stämme", "Line {}: {} logs"};
 
+    case OwnText::driveWithoutShare:
+        return {"Für das Laufwerk {} ist keine Netzwerkfreigabe eingestellt ({}). Der Pfad wird gespeichert, "
+                "wie er ist.",
+                "There is no network share set for the drive {} ({}). The path is saved as it is."};
+    case OwnText::replaceDocument:
+        return {"Auf dem Webserver gibt es schon eine andere Datei „{}“. Soll sie ersetzt werden?",
+                "There already is another file \"{}\" on the web server. Replace it?"};
+    case OwnText::settingMissing:
+        return {"Die Einstellung {} fehlt.", "The setting {} is missing."};
+    case OwnText::noFileName:
+        return {"Das ist kein Name einer Datei.", "This is no name of a file."};
+    case OwnText::weekOutsidePeriod:
+        return {"Jahr und Woche müssen im Lieferzeitraum liegen: {}!",
+                "Year and week have to lie in the delivery period: {}!"};
+    case OwnText::weekIsGone:
+        return {"Diese Woche hat inzwischen jemand anderer gelöscht. Alle Eingaben sind noch da: „Speichern“ "
+                "legt sie neu an.",
+                "Someone else has deleted this week in the meantime. Everything typed is still there: \"Save\" "
+                "creates it anew."};
+    case OwnText::weeksGenerated:
+        return {"Wochen neu: {}, schon vorhanden: {}. Ersetzte Planmengen: {}.",
+                "New weeks: {}, already there: {}. Plan quantities replaced: {}."};
+
     case OwnText::statisticMissing:
         return {"In dieser Zeile fehlt die Statistik.", "This line has no statistic."};
     case OwnText::valueMissing:

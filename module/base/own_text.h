@@ -50,6 +50,14 @@ enum class OwnText {
     noMeasureInUnit,
     oneLogClaimed, ///< line
     logsClaimed,   ///< line, how many
+    // Settings and calendar weeks of the logistics
+    driveWithoutShare, ///< the drive, the setting that is missing
+    replaceDocument,   ///< a question: the name of the file
+    settingMissing,    ///< its name
+    noFileName,
+    weekOutsidePeriod, ///< first and last week
+    weekIsGone,
+    weeksGenerated, ///< how many are new, how many were there, how many plan quantities were replaced
     // Surcharges and deductions
     statisticMissing,
     valueMissing,

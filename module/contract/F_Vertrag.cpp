@@ -10,6 +10,7 @@
 #include "module/deductions/F_Abschlag.h"
 #include "module/host/contract_type.h"
 #include "module/host/text_numbers.h"
+#include "module/logistics/F_Vertrag_WVO.h"
 #include "module/parts/M_Common.h"
 
 namespace tellurix::contract {
@@ -38,10 +39,7 @@ F_Vertrag::F_Vertrag(host::HostServices& services)
     txtAbschlag.setLocked(true);
     btnDeleteMan.setToolTip("Kunde aus dem Vertrag entfernen");
     txtMessage.setVisible(false);
-    // Their screens are not part of the module yet.
-    const std::initializer_list<ui::Control*> later{&btnLieferprofil_WVO, &btnWord};
-    for (ui::Control* control : later)
-        control->setEnabled(false);
+    btnWord.setEnabled(false); // its document is not part of the module yet
     connect();
     arrange();
 }
@@ -53,6 +51,7 @@ void F_Vertrag::connect() {
     PreisButton.onClick = [this] { showPriceLines(true); };
     PosButton.onClick = [this] { showQuantityLines(true); };
     btnAbschlag.onClick = [this] { openDeductions(); };
+    btnLieferprofil_WVO.onClick = [this] { openLogistics(); };
     btnSpeichern.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { unload(); };
     setCancelButton(btnAbbrechen);
@@ -206,6 +205,16 @@ void F_Vertrag::openDeductions() {
     auto& deductions = host::moduleState().screen<deductions::F_Abschlag>(
         "F_Abschlag", [this] { return std::make_unique<deductions::F_Abschlag>(services_); });
     txtAbschlag.setText(deductions.Run(session_, deductionsOfContract, name_));
+}
+
+void F_Vertrag::openLogistics() {
+    StatementText query{"SELECT ID_VERTRAG FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    // The form makes a record for whatever contract it is given.
+    requireContract(*session_.connection->open(query.number(id_).text()));
+    host::moduleState()
+        .screen<logistics::F_Vertrag_WVO>(
+            "F_Vertrag_WVO", [this] { return std::make_unique<logistics::F_Vertrag_WVO>(services_); })
+        .Run(id_, session_);
 }
 
 void F_Vertrag::loadFlags() {

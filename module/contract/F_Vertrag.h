@@ -59,6 +59,7 @@ private:
     void showDeductionModel();
     /// @throws base::Refused with that reason, and nothing is sent
     void openDeductions();
+    void openLogistics();
     lines::F_VertragPreise& priceLines();
     lines::F_VertragMengen& quantityLines();
     /// Loads the lines into the overview, with or without showing their screen first.

@@ -2,6 +2,7 @@
 
 #include "module/base/StatementText.h"
 #include "module/ui/Form.h"
+#include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Label.h"
 #include "module/ui/controls/caption.h"
 #include "module/ui/input/RefusedInput.h"
@@ -10,13 +11,18 @@ namespace tellurix::parts {
 
 namespace {
 
+/// What a box is called: by its label, or else by the frame that it stands in.
+std::string nameOf(const ui::TextBox& box) {
+    if (const ui::Label* label = box.form().labelOf(box)) return ui::plainCaption(label->caption());
+    const ui::Frame* frame = ui::as<ui::Frame>(box.container());
+    return frame == nullptr ? std::string{} : ui::plainCaption(frame->caption());
+}
+
 std::string composed(ui::TextBox& box, const base::StatementText& piece) {
     try {
         return piece.text();
     } catch (const base::StatementError& error) {
-        const ui::Label* label = box.form().labelOf(box);
-        std::vector<base::Refused::Sentence> message =
-            base::refusedValue(error.value(), label == nullptr ? "" : ui::plainCaption(label->caption()));
+        std::vector<base::Refused::Sentence> message = base::refusedValue(error.value(), nameOf(box));
         message.push_back({error.reason()});
         throw ui::RefusedInput{box, std::move(message)};
     }

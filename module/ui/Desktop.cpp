@@ -268,6 +268,12 @@ void Desktop::handle(Form& form, const DoubleClickEvent& event) {
     if (ListBox* list = as<ListBox>(event.control)) list->onDoubleClick();
 }
 
+void Desktop::handle(Form& form, const HeadingEvent& event) {
+    Grid* grid = as<Grid>(event.control);
+    if (grid == nullptr || !grid->usable() || !grid->onHeadingClick || !moveFocus(form, *grid)) return;
+    grid->onHeadingClick(event.column);
+}
+
 void Desktop::handle(Form&, const ScrollEvent& event) {
     if (Grid* grid = as<Grid>(event.control)) grid->onScroll();
 }

@@ -55,6 +55,7 @@ private:
     void handle(Form& form, const StepEvent& event);
     void handle(Form& form, const SelectEvent& event);
     void handle(Form& form, const DoubleClickEvent& event);
+    void handle(Form& form, const HeadingEvent& event);
     void handle(Form& form, const ScrollEvent& event);
     void handle(Form& form, const ColumnSizedEvent& event);
     void handle(Form& form, const PickEvent& event);

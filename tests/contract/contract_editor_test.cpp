@@ -61,9 +61,8 @@ TEST_F(ContractEditor, ShowsTheContract) {
             value(
                 "SELECT ABS_MODEL FROM ABSCHLAG WHERE RECH_NAME = 'R-2025-001 Fichte Wolfsberg' AND VER_TYPE = 'V'"));
         EXPECT_FALSE(user.checked("chkAbgeschlossen"));
-        for (const char* later : {"btnLieferprofil_WVO", "btnWord"}) {
-            EXPECT_FALSE(user.usable(later)) << later;
-        }
+        EXPECT_TRUE(user.usable("btnLieferprofil_WVO"));
+        EXPECT_FALSE(user.usable("btnWord")) << "not part of the module yet";
         user.close();
     });
 }

@@ -62,6 +62,8 @@ public:
     bool quiet() const { return quiet_; }
     void setQuiet(bool quiet) { change(quiet_, quiet); }
 
+    /// The frame or tabs around this control, as the layout says it; null at the top.
+    Control* container() const { return container_; }
     /// Enabled and visible together with every frame and tab page around it: usable by the user.
     bool usable() const;
     /// Visible together with every frame and tab page around it.

@@ -74,6 +74,8 @@ public:
     Handlers<void()> onCurrentChange;
     /// A double click on the current cell, or Enter on it.
     Handlers<void()> onDoubleClick;
+    /// A click on the heading of a column. Only where somebody is told do displays offer it.
+    Handlers<void(int column)> onHeadingClick;
     /// A character was typed while the grid had the focus.
     Handlers<void(char32_t)> onKeyPress;
     /// The user made a column wider or narrower.

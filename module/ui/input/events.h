@@ -68,6 +68,11 @@ struct SelectEvent {
 struct DoubleClickEvent {
     Control* control = nullptr;
 };
+/// A click on the heading of a grid's column.
+struct HeadingEvent {
+    Control* control = nullptr;
+    int column = 0;
+};
 struct ScrollEvent {
     Control* control = nullptr;
 };
@@ -86,6 +91,7 @@ struct CloseEvent {};
 
 using Event = std::variant<KeyDownEvent, PickKeyEvent, KeyPressEvent, AccessKeyEvent, FocusEvent,
                            TextEditedEvent, SelectionEvent, PasteEvent, ClickEvent, StepEvent, SelectEvent,
-                           DoubleClickEvent, ScrollEvent, ColumnSizedEvent, PickEvent, CloseEvent>;
+                           DoubleClickEvent, HeadingEvent, ScrollEvent, ColumnSizedEvent, PickEvent,
+                           CloseEvent>;
 
 } // namespace tellurix::ui

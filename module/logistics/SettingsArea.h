@@ -1,0 +1,116 @@
+#pragma once
+
+#include "module/base/StatementText.h"
+#include "module/host/services.h"
+#include "module/logistics/Area.h"
+#include "module/logistics/calendar_weeks.h"
+#include "module/parts/EnteredChanges.h"
+#include "module/parts/LookupBox.h"
+#include "module/parts/NumberField.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/CheckBox.h"
+
+#include <optional>
+#include <string>
+
+namespace tellurix::logistics {
+
+/// The logistics settings of the contract: its row in `WVO_VERTRAG`.
+class SettingsArea final : public Area {
+public:
+    SettingsArea(ui::Form& form, host::HostServices& services);
+
+    ui::Layout layout() override;
+    void open(const LogisticsContract& contract) override;
+    /// @throws base::Refused when a colleague has deleted the contract
+    void reload(std::optional<std::int64_t> key) override;
+    parts::EditMode& mode() override { return mode_; }
+    bool changed() const override { return !mode_.viewing() && changes_.any(); }
+
+    /// The delivery period of the contract's head, as it was read last; nothing while an end is missing.
+    const std::optional<DeliveryPeriod>& deliveryPeriod() const { return period_; }
+    /// Warns of settings without which the helpers' web pages cannot work.
+    void warnOnClosing();
+
+private:
+    void connect();
+    void LoadSettings();
+    void startEdit();
+    void save();
+    void cancel();
+    /// Whether the dates are there that announced quantities need; the user has been told otherwise.
+    bool datesAreThere();
+    void warnOfMissingUnit();
+    /// What is written for the path: its drive is one that other machines do not have.
+    /// @throws ui::RefusedInput when no statement can carry the text
+    std::string originalPath();
+    std::string updateStatement();
+    void forgetLogisticsProcess();
+    void showWeekday(parts::LookupBox& box, base::Recordset& row, std::string_view column);
+    void tell(const std::string& message);
+
+    host::HostServices& services_;
+    LogisticsContract contract_;
+    std::optional<DeliveryPeriod> period_;
+    parts::EnteredChanges changes_;
+
+    ui::Frame frmSchalter;
+    ui::CheckBox chkAngemeldeteMenge;
+    ui::CheckBox chkGesperrt;
+    ui::CheckBox chkMengenauf;
+    ui::CheckBox chkErforderlich;
+    ui::CheckBox chkAktive;
+    ui::CheckBox chkVermarktung;
+    ui::CheckBox chkSichtbar;
+    ui::CheckBox chkHandabmas;
+    ui::CheckBox chkVertragMGSichtbar;
+    ui::CheckBox chkGeschaeftsfeldNeu;
+    ui::CheckBox chkVorvertrag;
+    ui::CheckBox chkKeine_Mengenmeldung_Auf_WB;
+    ui::CheckBox chkLieferungAusserhalbmoeglich;
+
+    ui::Frame frmEinstellungen;
+    ui::Label lblAngemeldete;
+    ui::TextBox txtAngemeldete;
+    ui::Label lblMengenmeldung;
+    ui::TextBox txtMengenmeldung;
+    ui::Label lblUberlieferung;
+    ui::TextBox txtUberlieferung;
+    ui::Label lblBereitstellung;
+    ui::TextBox txtBereitstellung;
+    ui::TextBox txtBereitstellungTime;
+    ui::Label lblBereitstellungTime;
+    ui::Label lblBelieferung;
+    ui::TextBox txtBelieferung;
+    ui::Label lblLieferparitat;
+    ui::TextBox txtLieferparitat;
+
+    ui::Frame frmBemerkung;
+    ui::TextBox txtBemerkung;
+    ui::Frame frmOriginal;
+    ui::TextBox txtOriginal;
+    ui::Button btnOriginal;
+
+    ui::Frame frmFhpLogistik;
+    ui::CheckBox chkFHPLogistikVerweden;
+    ui::CheckBox chkWaldverbandLogistikkoordinator;
+    ui::CheckBox chkWaldhelferKannFraechterAendern;
+    ui::CheckBox chkWaldhelferKannTransportauftraegeTeilen;
+    ui::Label lblTransportauftraege;
+    ui::TextBox txtTransportauftraege;
+    ui::TextBox txtTransportauftragTime;
+    ui::Label lblTransportauftragTime;
+
+    ui::Button btnBearbeiten;
+    ui::Button btnSpeichern;
+    ui::Button btnAbbrechen;
+
+    parts::NumberField uberlieferung_;
+    parts::LookupBox belieferung_;
+    parts::LookupBox lieferparitat_;
+    parts::LookupBox bereitstellung_;
+    parts::LookupBox transportauftraege_;
+    parts::EditMode mode_;
+};
+
+} // namespace tellurix::logistics
