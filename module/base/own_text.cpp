@@ -177,6 +177,26 @@ constexpr Words wordsOf(OwnText text) {
     case OwnText::rowsGone:
         return {"Jemand anderer hat inzwischen gelöscht: {}. Dafür wurde nichts gespeichert.",
                 "Someone else has deleted in the meantime: {}. Nothing was saved for it."};
+
+    case OwnText::reportMissing:
+        return {"fehlt", "missing"};
+    case OwnText::helpersReported:
+        return {"{} von {} haben gemeldet", "{} of {} have reported"};
+    case OwnText::loadsWanted:
+        return {"Bitte eine ganze Zahl von 0 bis {} eingeben.", "Please type a whole number from 0 to {}."};
+    case OwnText::reportsGone:
+        return {
+            "Jemand anderer hat die Meldung inzwischen gelöscht: {}. Alle anderen Zeilen sind gespeichert. "
+            "Die Eingaben sind noch da und markiert: „Speichern“ legt die Meldung neu an.",
+            "Someone else has deleted the report in the meantime: {}. All other rows are saved. What was "
+            "typed is still there and marked: \"Save\" makes a new report."};
+    case OwnText::reportsNotTaken:
+        return {
+            "Nicht alles gespeichert wurde bei: {}. Eine gelöschte Zahl und eine 0 werden nur gespeichert, "
+            "wenn sich in der Zeile auch etwas anderes ändert.",
+            "Not everything was saved for: {}. A number that was removed and a 0 are only saved when "
+            "something else changes in the row as well."};
+
     case OwnText::serviceFailed:
         return {"Der Dienst {} ({}) ist gescheitert: {}", "The service {} ({}) has failed: {}"};
     case OwnText::refusedValue:

@@ -74,7 +74,13 @@ enum class OwnText {
     quantitiesChanged, ///< a question: in how many rows, what the first is called
     savingStopped,     ///< at which row, how many are written, of how many
     rowsGone,          ///< their names
-    serviceFailed,     ///< a service of the host: class, operation, what it says
+    // Weekly provision reports
+    reportMissing,   ///< marks a helper
+    helpersReported, ///< how many, of how many
+    loadsWanted,     ///< the most loads
+    reportsGone,     ///< the helpers
+    reportsNotTaken, ///< the helpers
+    serviceFailed,   ///< a service of the host: class, operation, what it says
     // Values that no statement can carry
     refusedValue,   ///< begins the message: the value
     refusedInField, ///< begins the message: the field's label, the value

@@ -3,6 +3,7 @@
 #include "module/base/text.h"
 #include "module/contract/F_Vertrag.h"
 #include "module/host/contract_type.h"
+#include "module/logistics/F_Bereitstellung_WVO.h"
 #include "module/logistics/F_VertragMengenmeldung_WVO.h"
 
 namespace tellurix::host {
@@ -12,31 +13,33 @@ namespace {
 constexpr const char* provisionReportScreen = "F_Bereitstellung_WVO";
 constexpr const char* quantityReportScreen = "F_VertragMengenmeldung_WVO";
 
-} // namespace
+/// The next provision reports begin anew, however those before have ended.
+struct FreshProvisionReports {
+    FreshProvisionReports() = default;
+    ~FreshProvisionReports() { moduleState().release(provisionReportScreen); }
+    FreshProvisionReports(const FreshProvisionReports&) = delete;
+    FreshProvisionReports& operator=(const FreshProvisionReports&) = delete;
+};
 
-clsVertrag::clsVertrag(HostServices& services, ReportScreenFactory provisionReport)
-    : services_(services), provisionReport_(std::move(provisionReport)) {}
-
-std::shared_ptr<ReportScreen> clsVertrag::reportScreen(const std::string& name,
-                                                       const ReportScreenFactory& create) {
-    return moduleState().heldScreen<ReportScreen>(name, [&] {
-        if (!create) throw NotAvailable{name + " is not available in this version of the contract module"};
-        return create(services_);
-    });
+/// The screen lives until its call returns, also when another call lets go of it meanwhile.
+template <typename Screen>
+void runReport(const std::string& name, HostServices& services, const TlxVar& session, std::int16_t modul) {
+    const auto screen = moduleState().heldScreen<ReportScreen>(
+        name, [&services]() -> std::shared_ptr<ReportScreen> { return std::make_shared<Screen>(services); });
+    screen->Run(session, modul);
 }
 
+} // namespace
+
 void clsVertrag::F_Bereitstellung_WVO_Run(TlxVar& session, std::int16_t modul) {
-    reportScreen(provisionReportScreen, provisionReport_)->Run(session, modul);
-    moduleState().release(provisionReportScreen);
+    const FreshProvisionReports fresh;
+    runReport<logistics::F_Bereitstellung_WVO>(provisionReportScreen, services_, session, modul);
 }
 
 void clsVertrag::F_VertragMengenmeldung_WVO_Run(TlxVar& session, std::int16_t modul) {
-    const auto create = [](HostServices& services) {
-        return std::make_unique<logistics::F_VertragMengenmeldung_WVO>(services);
-    };
-    reportScreen(quantityReportScreen, create)->Run(session, modul);
     // The host relies on the quantity reports being as it left them, and on fresh provision reports.
-    moduleState().release(provisionReportScreen);
+    const FreshProvisionReports fresh;
+    runReport<logistics::F_VertragMengenmeldung_WVO>(quantityReportScreen, services_, session, modul);
 }
 
 void clsVertrag::Vertrag_Run(TlxVar& session, std::int32_t id, const std::string& name,

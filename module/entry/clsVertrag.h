@@ -1,6 +1,7 @@
 #pragma once
 
-#include "module/host/ReportScreen.h"
+#include "module/host/module_state.h"
+#include "module/host/services.h"
 #include "module/host/variant.h"
 
 #include <cstdint>
@@ -18,11 +19,10 @@ namespace tellurix::host {
 class clsVertrag {
 public:
     /// @param services live as long as the calling thread's module state
-    /// @param provisionReport makes the screen of the provision reports. Without it, its operation throws
-    ///        NotAvailable.
-    explicit clsVertrag(HostServices& services, ReportScreenFactory provisionReport = {});
+    explicit clsVertrag(HostServices& services) : services_(services) {}
 
     /// Opens the weekly provision reports. Every call gets a fresh screen.
+    /// @param modul the contract kind that the host works on; only contracts of that kind are offered
     void F_Bereitstellung_WVO_Run(TlxVar& session, std::int16_t modul);
 
     /// Opens the quantity reports. The screen is kept and finds its members as the previous call
@@ -52,11 +52,9 @@ public:
     std::string GetVertragType(const std::string& strVerType) const;
 
 private:
-    std::shared_ptr<ReportScreen> reportScreen(const std::string& name, const ReportScreenFactory& create);
     void notifyHost(const TlxVar& session);
 
     HostServices& services_;
-    ReportScreenFactory provisionReport_;
 };
 
 } // namespace tellurix::host

@@ -34,6 +34,10 @@ void KeyedRow::set(std::string_view name, base::Value value) {
     touched_[field] = true;
 }
 
+void KeyedRow::refresh(std::string_view name, base::Value value) {
+    values_[fieldIndex(name)] = std::move(value);
+}
+
 bool KeyedRow::touched(std::string_view name) const {
     return touched_[fieldIndex(name)];
 }

@@ -24,6 +24,8 @@ public:
     base::Value field(std::size_t index) override { return values_[index]; }
     /// Gives a field another value, as when the user has typed it.
     void set(std::string_view name, base::Value value);
+    /// Takes over what the database has by now.
+    void refresh(std::string_view name, base::Value value);
     /// Whether a field has been set since the row was read, to whatever value.
     bool touched(std::string_view name) const;
     bool touched() const;

@@ -1,5 +1,6 @@
 #include "module/entry/C_Version.h"
 #include "module/entry/clsVertrag.h"
+#include "module/host/ReportScreen.h"
 #include "tests/support/ContractTest.h"
 
 #include <thread>
@@ -84,9 +85,9 @@ TEST_F(EntryClass, HandsTheFlagsBack) {
     EXPECT_THROW(host.openContract(1), std::invalid_argument);
 }
 
-/// A report screen that counts how often the host made it and says with what it was called.
-struct CountingScreen final : host::ReportScreen {
-    CountingScreen(int& made, std::string& seen) : seen_(seen) { ++made; }
+/// A report screen that says with what it was called.
+struct RecordingScreen final : host::ReportScreen {
+    explicit RecordingScreen(std::string& seen) : seen_(seen) {}
     void Run(const host::TlxVar&, std::int16_t modul) override {
         seen_ = calls_ += std::to_string(modul) + " ";
     }
@@ -97,29 +98,29 @@ private:
 };
 
 TEST_F(EntryClass, OfTheReportScreensOnlyThatOfQuantitiesIsKept) {
-    int provisions = 0;
-    int quantities = 0;
     std::string seen;
-    const auto counting = [&seen](int& made) {
-        return [&](auto&) { return std::make_unique<CountingScreen>(made, seen); };
+    host::clsVertrag module{host.services};
+    host::moduleState().screens["F_VertragMengenmeldung_WVO"] = std::make_shared<RecordingScreen>(seen);
+    const auto held = [] { return host::moduleState().screens.contains("F_Bereitstellung_WVO"); };
+    const auto openProvisions = [&] {
+        host.display.onWindow("F_Bereitstellung_WVO", [&](User& user) {
+            EXPECT_TRUE(held());
+            EXPECT_EQ(user.text("txtWaldhelfer"), "") << "a fresh screen";
+            user.type("txtWaldhelfer", "Huber");
+            module.F_VertragMengenmeldung_WVO_Run(host.session, 1);
+            EXPECT_FALSE(held());
+            user.close();
+        });
+        module.F_Bereitstellung_WVO_Run(host.session, 2);
+        EXPECT_FALSE(held());
     };
-    host::clsVertrag module{host.services, counting(provisions)};
-    host::moduleState().screens["F_VertragMengenmeldung_WVO"] = counting(quantities)(host.services);
-    host::moduleState().screens["F_Bereitstellung_WVO"] = counting(provisions)(host.services);
-    module.F_VertragMengenmeldung_WVO_Run(host.session, 1);
-    EXPECT_FALSE(host::moduleState().screens.contains("F_Bereitstellung_WVO"));
-    module.F_Bereitstellung_WVO_Run(host.session, 2);
-    EXPECT_EQ(seen, "2 ") << "a fresh screen";
-    module.F_Bereitstellung_WVO_Run(host.session, 3);
-    EXPECT_EQ(seen, "3 ") << "a fresh one again";
-    module.F_VertragMengenmeldung_WVO_Run(host.session, 4);
-    EXPECT_EQ(seen, "1 4 ") << "the kept screen, as the first call left it";
-    EXPECT_EQ(provisions, 3);
-    EXPECT_EQ(quantities, 1);
+    openProvisions();
+    openProvisions();
+    EXPECT_EQ(seen, "1 1 ") << "the kept screen, as the first call left it";
 
-    host::clsVertrag without{host.services};
-    host::moduleState().screens.clear();
-    EXPECT_THROW(without.F_Bereitstellung_WVO_Run(host.session, 1), host::NotAvailable);
+    host.database.failOn("FROM WVO_VERTRAG_WALDHELFER");
+    EXPECT_THROW(module.F_Bereitstellung_WVO_Run(host.session, 2), base::DatabaseError);
+    EXPECT_FALSE(held()) << "one that failed is not kept either";
 }
 
 TEST_F(EntryClass, ThreadsShareNoValues) {

@@ -119,6 +119,12 @@ void TestHost::openQuantityReports() {
     module_.F_VertragMengenmeldung_WVO_Run(lent, 1);
 }
 
+void TestHost::openProvisionReports(std::int16_t modul) {
+    call_ = Call{session, 0, ""};
+    host::TlxVar lent = session;
+    module_.F_Bereitstellung_WVO_Run(lent, modul);
+}
+
 void TestHost::showAnotherContract(std::int32_t than) {
     const auto remembering = [](auto&... members) {
         return [&members..., before = std::tuple{members...}]() mutable {
@@ -230,7 +236,7 @@ std::string TestHost::choose(const host::TlxVar& with, const std::string& query,
     const bool asks = title.find("„" + focusedBox().text() + "“") != std::string::npos;
     EXPECT_EQ(current, asks ? "" : focusedBox().text());
     EXPECT_TRUE(asks || ui::plainCaption(title).ends_with(captionOfFocused())) << title;
-    EXPECT_EQ(query == calendar ? "SHORT" : inner_.open(query)->fieldName(0), "SHORT");
+    if (query != calendar) inner_.open(query); // one that the database takes
     picks.push_back(query + "/" + title);
     return pickedText.empty() ? current : pickedText;
 }
@@ -277,8 +283,9 @@ bool TestHost::resolve(const host::TlxVar& with, std::int32_t option, const std:
     EXPECT_TRUE(option == -1 && third == nullptr && text.empty());
     EXPECT_EQ(shown != nullptr, !displayColumn.empty());
     box.setTag("");
+    const bool empty = box.text().empty();
     if (shown != nullptr) shown->setText("");
-    if (box.text().empty()) return true;
+    if (empty) return true;
     const auto row = with.connection->open(query);
     if (row->atEnd()) return false;
     box.setTag(row->text(row->fieldName(0)));

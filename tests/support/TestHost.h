@@ -74,6 +74,10 @@ public:
     /// The way the host calls the module for the quantity reports, which belong to no contract.
     void openQuantityReports();
 
+    /// The way the host calls the module for the provision reports, which belong to no contract.
+    /// @param modul the contract kind
+    void openProvisionReports(std::int16_t modul = 1);
+
     /// The contracts that a test works on. What belongs to others has to stay as it is.
     std::set<std::int32_t> contracts;
 

@@ -1,0 +1,235 @@
+#include "module/logistics/F_Bereitstellung_WVO.h"
+
+#include "module/base/field_text.h"
+#include "module/base/number_format.h"
+#include "module/base/whole_number.h"
+#include "module/logistics/ProvisionSaving.h"
+#include "module/logistics/spreadsheet_parameters.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
+#include "module/ui/controls/caption.h"
+
+namespace tellurix::logistics {
+
+using base::OwnText;
+using parts::KeyedRow;
+
+namespace {
+
+constexpr const char* table = "WVO_BEREITMELDUNG_KW";
+constexpr const char* layoutKey = "F_BEREITSTELLUNG_WVO";
+
+std::string listed(const std::vector<std::string>& names) {
+    std::string list;
+    for (const std::string& name : names)
+        list += (list.empty() ? "" : ", ") + name;
+    return list;
+}
+
+} // namespace
+
+F_Bereitstellung_WVO::F_Bereitstellung_WVO(host::HostServices& services)
+    : Form("F_Bereitstellung_WVO", "Bereitstellungsmeldung"),
+      services_(services),
+      contractBox_(txtVertrag, services, session_, [this] { return ui::plainCaption(lblVertrag.caption()); },
+                   {.list = [this] { return reportingContracts(modul_); },
+                    .resolution = contractOfName,
+                    .shown = "VERTRAG_NAME"}),
+      weekBox_(txtKalender, services, session_, [this] { return ui::plainCaption(lblKalender.caption()); },
+               {.list = [this] { return ProvisionStatements{chosenWeek()}.weeks(); },
+                .resolution =
+                    [this](ui::TextBox& box) { return ProvisionStatements{chosenWeek()}.weekOfText(box); },
+                .shown = "LONG",
+                .beside = &txtKalenderTage}),
+      table_(MSFG, txtEdit, chkOhneMeldung, services.locale),
+      mode_({.edit = &btnBearbeiten, .save = &btnSpeichern, .cancel = &btnAbbrechen},
+            {.inView = {&txtVertrag, &txtKalender, &txtWaldhelfer, &txtWHNummer, &chkOhneMeldung,
+                        &btnFHPExport, &btnSchliesen},
+             .onRow = {&btnExcel, &btnExcelAlles},
+             .whileEdited = {&btnAllezusagen}},
+            [this] { return week_.chosen() && !table_.empty(); }) {
+    txtKalenderTage.setLocked(true);
+    pgbSpeichern.setVisible(false);
+    connect();
+    arrange();
+}
+
+void F_Bereitstellung_WVO::connect() {
+    connectChoice();
+    connectFilter(txtWaldhelfer);
+    connectFilter(txtWHNummer);
+    table_.onChange = [this] { showSums(); };
+    mode_.onEnter = [this] {
+        table_.setEditing(!mode_.viewing());
+        setCancelButton(mode_.viewing() ? btnSchliesen : btnAbbrechen);
+    };
+    btnBearbeiten.onClick = [this] { startEdit(); };
+    btnSpeichern.onClick = [this] { save(); };
+    btnAbbrechen.onClick = [this] { cancel(); };
+    btnAllezusagen.onClick = [this] { table_.confirmAll(); };
+    btnExcel.onClick = [this] { exportTable(false); };
+    btnExcelAlles.onClick = [this] { exportTable(true); };
+    btnFHPExport.onClick = [this] { parts::ShowMessage(services_.display, "FHP Exporttabelle fehlerhaft."); };
+    btnSchliesen.onClick = [this] { unload(); };
+    // A contract that is not found keeps nobody here.
+    btnSchliesen.setCausesValidation(false);
+}
+
+void F_Bereitstellung_WVO::connectChoice() {
+    for (ui::TextBox* box : {&txtVertrag, &txtKalender}) {
+        // Rows of another contract or week must not stand below a choice that leads to none.
+        box->onLeave.before([this] {
+            if (loaded_ == choice()) return true;
+            loaded_.reset();
+            table_.clear();
+            showSums();
+            return true;
+        });
+        box->onLeave.after([this, box] {
+            if (loaded_) return true;
+            if (box == &txtVertrag) keepWeek();
+            reload();
+            return true;
+        });
+    }
+}
+
+void F_Bereitstellung_WVO::connectFilter(ui::TextBox& box) {
+    box.setMaxLength(60);
+    box.onLeave = [this] {
+        reload();
+        return true;
+    };
+    box.onKeyDown = [this](ui::KeyDown& key) {
+        if (key.key != ui::Key::enter) return;
+        key.key = ui::Key::none;
+        reload();
+        parts::SafeSetFocus(MSFG);
+    };
+}
+
+void F_Bereitstellung_WVO::arrange() {
+    setLayout(ui::column({
+        ui::row({ui::field(lblVertrag, txtVertrag), ui::field(lblKalender, txtKalender, txtKalenderTage)}),
+        ui::row(
+            {ui::field(lblWaldhelfer, txtWaldhelfer), ui::field(lblWHNummer, txtWHNummer), chkOhneMeldung}),
+        ui::Layout{MSFG}.growing(),
+        ui::row({lblGemeldet, pgbSpeichern}),
+        ui::frame(frmSummen, {ui::row({ui::table(3, {ui::row({}), lblZuege, lblZugesagt, //
+                                                     lblWH1, lblWH2, lblWH3,             //
+                                                     lblZ1, lblZ2, lblZ3}),
+                                       lblVS})}),
+        ui::row({btnBearbeiten, btnSpeichern, btnAbbrechen, btnAllezusagen, btnExcel, btnExcelAlles,
+                 btnFHPExport, btnSchliesen}),
+    }));
+}
+
+void F_Bereitstellung_WVO::Run(const host::TlxVar& session, std::int16_t modul) {
+    session_ = session;
+    modul_ = modul;
+    table_.open(session_.language, services_.columnWidth.of(session_, table, reportField::carrier));
+    services_.localizer.localize(session_, *this);
+    services_.gridLayouts.restore(session_, MSFG, layoutKey);
+    reload();
+    services_.display.showModal(*this);
+    try {
+        services_.gridLayouts.save(session_, MSFG, layoutKey);
+    } catch (const std::exception& error) {
+        // The reports are as the user left them; what the columns look like is no failure of the call.
+        services_.errors.report(error);
+    }
+}
+
+ReportWeek F_Bereitstellung_WVO::chosenWeek() const {
+    constexpr int weeksPerYear = 100; // in the key of a week
+    const int week = base::wholeNumber<int>(weekBox_.key()).value_or(0);
+    return {.contract = contractBox_.key(), .year = week / weeksPerYear, .week = week % weeksPerYear};
+}
+
+void F_Bereitstellung_WVO::keepWeek() {
+    if (txtKalender.text().empty()) return;
+    const auto week = session_.connection->open(ProvisionStatements{chosenWeek()}.weekOfText(txtKalender));
+    const bool found = !week->atEnd();
+    weekBox_.show(found ? week->text("KW") : "", found ? week->text("ID") : "");
+    txtKalenderTage.setText(found ? week->text("LONG") : "");
+}
+
+void F_Bereitstellung_WVO::reload() {
+    const ReportWeek chosen = chosenWeek();
+    const ProvisionStatements statements{chosen};
+    std::vector<KeyedRow> rows =
+        parts::KeyedRows::read(*session_.connection, statements.helpers(txtWaldhelfer, txtWHNummer),
+                               reportField::helper)
+            .rows;
+    otherAnnounced_ = otherConfirmed_ = {};
+    if (chosen.chosen()) {
+        const auto sums = session_.connection->open(statements.otherReports());
+        otherAnnounced_ = base::numberIn(sums->field(0)).value_or(base::Decimal{});
+        otherConfirmed_ = base::numberIn(sums->field(1)).value_or(base::Decimal{});
+    }
+    week_ = chosen;
+    statements_ = statements;
+    table_.show(std::move(rows), week_.chosen());
+    loaded_ = choice();
+    mode_.enter(parts::EditMode::State::view);
+    showSums();
+}
+
+void F_Bereitstellung_WVO::showSums() {
+    const auto shown = [this](ui::Label& label, const base::Decimal& sum) {
+        label.setCaption(loaded_ && week_.chosen() ? base::formatNumber(sum, "##,##0", services_.locale)
+                                                   : "");
+    };
+    shown(lblWH2, table_.announced());
+    shown(lblWH3, table_.confirmed());
+    shown(lblZ2, table_.announced() + otherAnnounced_);
+    shown(lblZ3, table_.confirmed() + otherConfirmed_);
+    lblGemeldet.setCaption(loaded_ && week_.chosen() && !table_.empty()
+                               ? own(OwnText::helpersReported, {std::to_string(table_.reported()),
+                                                                std::to_string(table_.rows().size())})
+                               : "");
+}
+
+void F_Bereitstellung_WVO::startEdit() {
+    mode_.enter(parts::EditMode::State::edit);
+    table_.goToFirstCell();
+    parts::SafeSetFocus(MSFG);
+}
+
+void F_Bereitstellung_WVO::cancel() {
+    reload();
+    parts::SafeSetFocus(MSFG);
+}
+
+void F_Bereitstellung_WVO::save() {
+    ProvisionSaving saving{services_, session_, statements_, table_};
+    try {
+        saving.write(pgbSpeichern);
+    } catch (...) {
+        showSums();
+        throw;
+    }
+    if (const auto gone = saving.gone(); !gone.empty()) {
+        showSums();
+        throw base::Refused{{{OwnText::reportsGone, {listed(gone)}}}};
+    }
+    const auto notTaken = saving.notTaken();
+    reload();
+    parts::SafeSetFocus(MSFG);
+    if (!notTaken.empty())
+        parts::ShowMessage(services_.display, own(OwnText::reportsNotTaken, {listed(notTaken)}),
+                           ui::box::exclamation);
+}
+
+void F_Bereitstellung_WVO::exportTable(bool internal) {
+    const std::string title = "Vertrag: " + txtVertrag.text() + "                Kalender: KW" +
+                              std::to_string(week_.week) + " (" + txtKalenderTage.text() + ")";
+    services_.spreadsheets.exportTable(session_,
+                                       spreadsheetParameters("0;;;0;;;;0;;0;", table_.text(internal)), title);
+}
+
+bool F_Bereitstellung_WVO::queryUnload() {
+    return !table_.hasTyped() || parts::confirmed(services_.display, own(OwnText::closeChanged));
+}
+
+} // namespace tellurix::logistics

@@ -1,0 +1,80 @@
+#include "module/logistics/ProvisionSaving.h"
+
+#include "module/parts/ShownProgress.h"
+
+#include <algorithm>
+
+namespace tellurix::logistics {
+
+using base::OwnText;
+using parts::KeyedRow;
+using parts::KeyedRows;
+
+namespace {
+
+bool isEmpty(KeyedRow& row) {
+    return row.text(reportField::announced).empty() && row.text(reportField::confirmed).empty() &&
+           row.text(reportField::carrier).empty();
+}
+
+} // namespace
+
+void ProvisionSaving::write(ui::ProgressBar& bar) {
+    const std::vector<KeyedRow*> gone = table_.refresh(
+        KeyedRows::read(*session_.connection, statements_.reports(), reportField::report).rows);
+    for (KeyedRow* row : gone)
+        gone_.push_back(ProvisionTable::nameOf(*row));
+    table_.requireCarriers();
+
+    const int changed = table_.changed();
+    parts::ShownProgress progress{services_.display, bar, static_cast<int>(table_.rows().size())};
+    for (KeyedRow& row : table_.rows()) {
+        progress.step();
+        if (std::ranges::find(gone, &row) != gone.end()) continue;
+        try {
+            writeRow(row);
+        } catch (const std::exception& error) {
+            const int written = changed - table_.changed();
+            table_.redraw();
+            services_.errors.report(error);
+            throw base::Refused{
+                {{OwnText::savingStopped,
+                  {ProvisionTable::nameOf(row), std::to_string(written), std::to_string(changed)}}}};
+        }
+        row.settle();
+    }
+    table_.redraw();
+}
+
+void ProvisionSaving::writeRow(KeyedRow& row) {
+    const auto report = row.integer(reportField::report);
+    if (isEmpty(row)) {
+        // Also one of which the helper has said nothing but a remark: so the centre wants it.
+        if (report != 0) session_.connection->execute(ProvisionStatements::deletion(report));
+        row.refresh(reportField::report, base::Null{});
+        return;
+    }
+    // What somebody else stored and nobody typed over need not be sent, where it cannot be.
+    if (!row.touched() && !ProvisionTable::canCarry(row)) return;
+    if (report == 0) {
+        const auto made = session_.connection->open(statements_.creation(row.key()));
+        row.refresh(reportField::report, made->integer(0));
+    }
+    const auto result = session_.connection->execute(ProvisionStatements::change(row, services_.clock.now()));
+    // The batches of this screen have the server count nothing, for the rest of the session.
+    if (result.rowsAffected < 1 && row.touched()) uncertain_.push_back(&row);
+}
+
+std::vector<std::string> ProvisionSaving::notTaken() {
+    std::vector<std::string> names;
+    if (uncertain_.empty()) return names;
+    auto stored = KeyedRows::read(*session_.connection, statements_.reports(), reportField::report).rows;
+    for (KeyedRow* row : uncertain_) {
+        const auto found = std::ranges::find(stored, row->integer(reportField::report), &KeyedRow::key);
+        if (found == stored.end() || !ProvisionTable::isStored(*row, *found))
+            names.push_back(ProvisionTable::nameOf(*row));
+    }
+    return names;
+}
+
+} // namespace tellurix::logistics
