@@ -30,7 +30,9 @@ public:
     virtual ~LookupValidation() = default;
     /// Runs the query, stores the first column of the found row as the `tag` of the box and shows
     /// `displayColumn` in the second box. An empty box has no key and needs no query.
-    /// @param shown a second box to fill, or null
+    /// @param query or the key of a list of the host in which the text is looked up:
+    /// "WVO_T_BELIEFERUNG_VALID", …
+    /// @param shown a second box to fill, or the box itself, or null
     /// @return false when nothing was found: the user has been told, the tag is empty, the text stays
     bool resolve(const TlxVar& session, const std::string& query, ui::TextBox& box, ui::TextBox* shown,
                  const std::string& displayColumn) {

@@ -33,7 +33,8 @@ public:
     static constexpr const char* calendar = "DATUM";
 
     virtual ~ListPicker() = default;
-    /// @param query an SQL text whose first column has the texts, or `calendar`
+    /// @param query an SQL text whose first column has the texts, the key of a list of the host
+    ///        ("WVO_T_BELIEFERUNG_GRID", …), or `calendar`
     /// @param current the text in the box now
     /// @return the chosen text, or `current` when the user cancelled
     std::string choose(const TlxVar& session, const std::string& query, const std::string& title,

@@ -32,6 +32,14 @@ INSERT INTO VERTRAEGE (ID_VERTRAG, VERTRAG_NAME, VER_TYPE, ID_FAKTART, INVDATE, 
 INSERT INTO VERTRAEGE (ID_VERTRAG, VERTRAG_NAME, VER_TYPE, ID_FAKTART, INVDATE, DATE1, DATE2, DATE3, LIEFERVON, LIEFERBIS, KOPF1, KOPF2, KOPF3, KOPF4, KOPF5, KOPF6, KOPF7, KOPF8, KOPF9, KOPF10, NUMM1, NUMM2, NUMM3, NUMM4, NUMM5, NUMM6, NUMM7, NUMM8, NUMM9, NUMM10, RART_ID, BUCHNR_ID, EURO, ID_PERSONAL, ID_PERSONAL_LIEFERADRESSE, ID_MANDANTEN, ID_ACCESS_LEVELS, ACL_EMPTY, ABGESCHLOSSEN, ZUSATZTEXT, ZUSATZTEXT_1, ZUSATZTEXT_2) VALUES
 (18, 'A6-2024-001 Stockkauf Obdach', 'A6', 7, '20240201', '20240202', '20240203', '20240204', '20240205', '20241206', 'Schlag Tannhof', 'Zahlung in drei Raten', 'Rinde beim Käufer', 'Auszeige durch den Förster', 'Rückegassen ausgesteckt', 'Bringung bei Frost', 'Waldort Abteilung 7', 'Schlagruhe im April', 'Reisig bleibt liegen', 'Haftung beim Käufer', 1.01, 20.02, 300.03, 4000.04, 50000.05, 6.06, 70.07, 800.08, 9000.09, 10000.1, 5, 4, 0, 33, 53, 2, 6, 0, 1, 'Stockkauf nach Hieb', 'Grenzen bezeichnet', 'Kaution hinterlegt'),
 (19, 'A3-2024-002 Fracht Rohrbach', 'A3', 4, NULL, '20240302', NULL, '20240304', NULL, '20241106', 'Fracht nur tagsüber', NULL, 'Maut beim Auftraggeber', NULL, 'Ladezeit eine Stunde', NULL, 'Anmeldung per Telefon', NULL, 'Standgeld nach Tarif', NULL, 11.5, NULL, 13.25, NULL, 15.75, NULL, 17.05, NULL, 19.95, NULL, NULL, 5, 1, NULL, 54, NULL, NULL, 1, 1, NULL, 'Kette mitführen', NULL)
+
+-- For the logistics coordination: 20 lasts over the turn of a year with 53 weeks, 21 has sixty helpers, 22 is a
+-- purchase that takes provision reports, 23 has an apostrophe in its name and no lines.
+INSERT INTO VERTRAEGE (ID_VERTRAG, VERTRAG_NAME, VER_TYPE, ID_FAKTART, INVDATE, LIEFERVON, LIEFERBIS, KOPF1, KOPF2, NUMM1, RART_ID, BUCHNR_ID, EURO, ID_PERSONAL, ID_PERSONAL_LIEFERADRESSE, ID_MANDANTEN, ID_ACCESS_LEVELS, ACL_EMPTY, ABGESCHLOSSEN) VALUES
+(20, 'R-2026-003 Faserholz Sankt Veit', 'R', 1, '20261012', '20261123', '20270117', 'Lieferung frei Werk über den Jahreswechsel', 'Zahlung 45 Tage netto', 4.5, 3, 1, 1, 13, 53, 2, NULL, NULL, 0),
+(21, 'R-2025-006 Industrieholz Bruck', 'R', 1, '20241216', '20241230', '20251228', 'Zufuhr nach Wochenplan', 'Zahlung 28 Tage netto', 28, 1, 2, 1, 12, 50, 1, NULL, NULL, NULL),
+(22, 'A1-2025-002 Einkauf Sankt Lambrecht', 'A1', 2, '20250224', '20250303', '20250323', 'Übernahme an der Waage', 'Gutschrift binnen 10 Tagen', 10, 2, 3, 1, 33, NULL, 2, NULL, NULL, 0),
+(23, 'A1-2025-003 Einkauf D''Angelo', 'A1', 2, '20250610', '20250701', NULL, NULL, NULL, NULL, NULL, 3, NULL, 30, NULL, 1, NULL, NULL, NULL)
 SET IDENTITY_INSERT VERTRAEGE OFF
 GO
 
@@ -97,7 +105,13 @@ INSERT INTO VERTRAG_MENGEN (ID, ID_VERTRAG, ORDNUNG, BEZEICHNUNG, SELEKTION_VALU
 (23, 19, 2, 'Rückfracht', NULL, NULL, 7),
 (24, 18, 1, 'Fichte', '83 IN (''FI'') ;', 10.25, 2),
 (25, 19, 1, 'Hinfracht', '83 IN (''TA'') ;', 44.4, NULL),
-(26, 18, 2, 'Lärche', '83 IN (''LA'') ;', 200.125, 4)
+(26, 18, 2, 'Lärche', '83 IN (''LA'') ;', 200.125, 4),
+(27, 20, 2, 'Faserholz Lärche', '83 IN (''LA'') ;', 320, 1),
+(28, 21, 1, 'Industrieholz Nadel', '83 IN (''FI'', ''TA'', ''KI'') ;', 4800, 4),
+(29, 20, 1, 'Faserholz Nadel', '83 IN (''FI'', ''KI'') ;', 640.5, 1),
+(30, 22, 2, 'Käferholz, Einheit offen', NULL, 15, NULL),
+(31, 21, 2, 'Industrieholz Laub', '83 IN (''BU'') ;', 380, 5),
+(32, 22, 1, 'Käferholz', '90 IN (''CX'') ;', 75.25, 2)
 SET IDENTITY_INSERT VERTRAG_MENGEN OFF
 GO
 

@@ -28,6 +28,70 @@ INSERT INTO PERSONAL (ID_PERSONAL, NUMMER, KURZBEZEICHNUNG, ANREDE, [NAME], VORN
 (25, 3006, 'Straßer Günther', 'Herr', 'Straßer', 'Günther', 'Lindenallee 3', '8720', 'Knittelfeld', 'guenther.strasser@helfer.example', NULL, '+43 664 555 0025', 0, 1),
 (26, 3007, 'Ünal Deniz', 'Herr', 'Ünal', 'Deniz', 'Murweg 12', '8740', 'Zeltweg', NULL, NULL, '+43 664 555 0026', NULL, 1)
 
+-- Sixty more, all on one contract. Their numbers run in another order than their keys, some
+-- are called by their farm, every ninth has no mail address.
+INSERT INTO PERSONAL (ID_PERSONAL, NUMMER, KURZBEZEICHNUNG, ANREDE, [NAME], VORNAME, STRASSE, PLZ, ORT, EMAIL, TELEFON, HANDY, [DISABLE], ABRECH2) VALUES
+(60, 3011, 'Abfalter Anton', 'Herr', 'Abfalter', 'Anton', 'Almweg 1', '4082', 'Aschach', 'anton.abfalter@helfer.example', '+43 3000 555 100', '+43 664 555 1000', NULL, 1),
+(61, 3048, 'Baumgartner Brigitte', 'Frau', 'Baumgartner', 'Brigitte', 'Erlengrund 6', '8190', 'Birkfeld', 'brigitte.baumgartner@helfer.example', NULL, '+43 664 555 1003', 0, 1),
+(62, 3027, 'Czerny Christian', 'Herr', 'Czerny', 'Christian', 'Hammerweg 11', '8700', 'Donawitz', 'christian.czerny@helfer.example', '+43 3014 555 102', NULL, NULL, 1),
+(63, 3064, 'Dornauer vlg. Bergerhof', 'Frau', 'Dornauer', 'Doris', 'Mühlgang 16', '8820', 'Dürnstein', 'doris.dornauer@helfer.example', '+43 3021 555 103', '+43 664 555 1009', 0, 1),
+(64, 3043, 'Ebner Eduard', 'Herr', 'Ebner', 'Eduard', 'Bachgasse 21', '8790', 'Eisenerz', NULL, '+43 3028 555 104', '+43 664 555 1012', NULL, 1),
+(65, 3022, 'Feichtinger Franziska', 'Frau', 'Feichtinger', 'Franziska', 'Forstweg 26', '8694', 'Frein', 'franziska.feichtinger@helfer.example', NULL, '+43 664 555 1015', 0, 1),
+(66, 3059, 'Gasser Gottfried', 'Herr', 'Gasser', 'Gottfried', 'Kirchplatz 31', '8731', 'Gaal', 'gottfried.gasser@helfer.example', '+43 3042 555 106', '+43 664 555 1018', NULL, 1),
+(67, 3038, 'Hasler Hermine', 'Frau', 'Hasler', 'Hermine', 'Oberdorf 36', '8774', 'Hinterberg', 'hermine.hasler@helfer.example', '+43 3049 555 107', NULL, 0, 1),
+(68, 3017, 'Innerhofer Isidor', 'Herr', 'Innerhofer', 'Isidor', 'Dorfstraße 41', '8952', 'Irdning', 'isidor.innerhofer@helfer.example', '+43 3056 555 108', '+43 664 555 1024', NULL, 1),
+(69, 3054, 'Jungwirth Johanna', 'Frau', 'Jungwirth', 'Johanna', 'Grubenstraße 3', '8912', 'Johnsbach', 'johanna.jungwirth@helfer.example', NULL, '+43 664 555 1027', 0, 1),
+(70, 3033, 'Kaltenegger vlg. Hiasbauer', 'Herr', 'Kaltenegger', 'Konrad', 'Lindenweg 8', '8775', 'Kalwang', 'konrad.kaltenegger@helfer.example', '+43 3070 555 110', '+43 664 555 1030', NULL, 1),
+(71, 3012, 'Leitgeb Leopoldine', 'Frau', 'Leitgeb', 'Leopoldine', 'Almweg 13', '8931', 'Landl', 'leopoldine.leitgeb@helfer.example', '+43 3077 555 111', '+43 664 555 1033', 0, 1),
+(72, 3049, 'Moser Matthäus', 'Herr', 'Moser', 'Matthäus', 'Erlengrund 18', '8774', 'Mautern', 'matthaeus.moser@helfer.example', '+43 3084 555 112', NULL, NULL, 1),
+(73, 3028, 'Neuhold Notburga', 'Frau', 'Neuhold', 'Notburga', 'Hammerweg 23', '8692', 'Neuberg', NULL, NULL, '+43 664 555 1039', 0, 1),
+(74, 3065, 'Obersteiner Oswald', 'Herr', 'Obersteiner', 'Oswald', 'Mühlgang 28', '8762', 'Oberzeiring', 'oswald.obersteiner@helfer.example', '+43 3098 555 114', '+43 664 555 1042', NULL, 1),
+(75, 3044, 'Pichler Paula', 'Frau', 'Pichler', 'Paula', 'Bachgasse 33', '8761', 'Pöls', 'paula.pichler@helfer.example', '+43 3105 555 115', '+43 664 555 1045', 0, 1),
+(76, 3023, 'Quester Quirin', 'Herr', 'Quester', 'Quirin', 'Forstweg 38', '8720', 'Rachau', 'quirin.quester@helfer.example', '+43 3112 555 116', '+43 664 555 1048', NULL, 1),
+(77, 3060, 'Reiter vlg. Moarhof', 'Frau', 'Reiter', 'Rosalia', 'Kirchplatz 43', '8786', 'Rottenmann', 'rosalia.reiter@helfer.example', NULL, NULL, 0, 1),
+(78, 3039, 'Schweiger Sepp', 'Herr', 'Schweiger', 'Sepp', 'Oberdorf 5', '8732', 'Seckau', 'sepp.schweiger@helfer.example', '+43 3126 555 118', '+43 664 555 1054', NULL, 1),
+(79, 3018, 'Tiefenbacher Theresia', 'Frau', 'Tiefenbacher', 'Theresia', 'Dorfstraße 10', '8784', 'Trieben', 'theresia.tiefenbacher@helfer.example', '+43 3133 555 119', '+43 664 555 1057', 0, 1),
+(80, 3055, 'Unterberger Ulrich', 'Herr', 'Unterberger', 'Ulrich', 'Grubenstraße 15', '8800', 'Unzmarkt', 'ulrich.unterberger@helfer.example', '+43 3140 555 120', '+43 664 555 1060', NULL, 1),
+(81, 3034, 'Vollmann Valerie', 'Frau', 'Vollmann', 'Valerie', 'Lindenweg 20', '8664', 'Veitsch', 'valerie.vollmann@helfer.example', NULL, '+43 664 555 1063', 0, 1),
+(82, 3013, 'Wieser Wendelin', 'Herr', 'Wieser', 'Wendelin', 'Almweg 25', '8781', 'Wald am Schoberpaß', NULL, '+43 3154 555 122', NULL, NULL, 1),
+(83, 3050, 'Zeiler Zita', 'Frau', 'Zeiler', 'Zita', 'Erlengrund 30', '8820', 'Zeutschach', 'zita.zeiler@helfer.example', '+43 3161 555 123', '+43 664 555 1069', 0, 1),
+(84, 3029, 'Auer vlg. Oberreit', 'Herr', 'Auer', 'Albin', 'Hammerweg 35', '8623', 'Aflenz', 'albin.auer@helfer.example', '+43 3168 555 124', '+43 664 555 1072', NULL, 1),
+(85, 3066, 'Brandstätter Berta', 'Frau', 'Brandstätter', 'Berta', 'Mühlgang 40', '2673', 'Breitenstein', 'berta.brandstaetter@helfer.example', NULL, '+43 664 555 1075', 0, 1),
+(86, 3045, 'Dirnböck Dominik', 'Herr', 'Dirnböck', 'Dominik', 'Bachgasse 2', '8143', 'Dobl', 'dominik.dirnboeck@helfer.example', '+43 3182 555 126', '+43 664 555 1078', NULL, 1),
+(87, 3024, 'Eder Elfriede', 'Frau', 'Eder', 'Elfriede', 'Forstweg 7', '8583', 'Edelschrott', 'elfriede.eder@helfer.example', '+43 3189 555 127', NULL, 0, 1),
+(88, 3061, 'Fuchs Ferdinand', 'Herr', 'Fuchs', 'Ferdinand', 'Kirchplatz 12', '8753', 'Fohnsdorf', 'ferdinand.fuchs@helfer.example', '+43 3196 555 128', '+43 664 555 1084', NULL, 1),
+(89, 3040, 'Grabner Gerlinde', 'Frau', 'Grabner', 'Gerlinde', 'Oberdorf 17', '8922', 'Gams', 'gerlinde.grabner@helfer.example', NULL, '+43 664 555 1087', 0, 1),
+(90, 3019, 'Hölzl Heinrich', 'Herr', 'Hölzl', 'Heinrich', 'Dorfstraße 22', '8920', 'Hieflau', 'heinrich.hoelzl@helfer.example', '+43 3210 555 130', '+43 664 555 1090', NULL, 1),
+(91, 3056, 'Illmaier vlg. Steinwender', 'Frau', 'Illmaier', 'Ingeborg', 'Grubenstraße 27', '8262', 'Ilz', NULL, '+43 3217 555 131', '+43 664 555 1093', 0, 1),
+(92, 3035, 'Jöbstl Jakob', 'Herr', 'Jöbstl', 'Jakob', 'Lindenweg 32', '8091', 'Jagerberg', 'jakob.joebstl@helfer.example', '+43 3224 555 132', NULL, NULL, 1),
+(93, 3014, 'Koller Katharina', 'Frau', 'Koller', 'Katharina', 'Almweg 37', '8650', 'Kindberg', 'katharina.koller@helfer.example', NULL, '+43 664 555 1099', 0, 1),
+(94, 3051, 'Lechner Ludwig', 'Herr', 'Lechner', 'Ludwig', 'Erlengrund 42', '8665', 'Langenwang', 'ludwig.lechner@helfer.example', '+43 3238 555 134', '+43 664 555 1102', NULL, 1),
+(95, 3030, 'Mitteregger Martha', 'Frau', 'Mitteregger', 'Martha', 'Hammerweg 4', '8630', 'Mariazell', 'martha.mitteregger@helfer.example', '+43 3245 555 135', '+43 664 555 1105', 0, 1),
+(96, 3067, 'Nöst Norbert', 'Herr', 'Nöst', 'Norbert', 'Mühlgang 9', '8712', 'Niklasdorf', 'norbert.noest@helfer.example', '+43 3252 555 136', '+43 664 555 1108', NULL, 1),
+(97, 3046, 'Ofner Otti', 'Frau', 'Ofner', 'Otti', 'Bachgasse 14', '8600', 'Oberaich', 'otti.ofner@helfer.example', NULL, NULL, 0, 1),
+(98, 3025, 'Prettenthaler vlg. Taxbauer', 'Herr', 'Prettenthaler', 'Pankraz', 'Forstweg 19', '8132', 'Pernegg', 'pankraz.prettenthaler@helfer.example', '+43 3266 555 138', '+43 664 555 1114', NULL, 1),
+(99, 3062, 'Ranftl Renate', 'Frau', 'Ranftl', 'Renate', 'Kirchplatz 24', '8673', 'Ratten', 'renate.ranftl@helfer.example', '+43 3273 555 139', '+43 664 555 1117', 0, 1),
+(100, 3041, 'Sailer Siegfried', 'Herr', 'Sailer', 'Siegfried', 'Oberdorf 29', '8684', 'Spital', NULL, '+43 3280 555 140', '+43 664 555 1120', NULL, 1),
+(101, 3020, 'Taferner Trude', 'Frau', 'Taferner', 'Trude', 'Dorfstraße 34', '8833', 'Teufenbach', 'trude.taferner@helfer.example', NULL, '+43 664 555 1123', 0, 1),
+(102, 3057, 'Uller Urban', 'Herr', 'Uller', 'Urban', 'Grubenstraße 39', '8600', 'Utsch', 'urban.uller@helfer.example', '+43 3294 555 142', NULL, NULL, 1),
+(103, 3036, 'Vogl Veronika', 'Frau', 'Vogl', 'Veronika', 'Lindenweg 1', '8570', 'Voitsberg', 'veronika.vogl@helfer.example', '+43 3301 555 143', '+43 664 555 1129', 0, 1),
+(104, 3015, 'Wagner Walter', 'Herr', 'Wagner', 'Walter', 'Almweg 6', '8633', 'Weichselboden', 'walter.wagner@helfer.example', '+43 3308 555 144', '+43 664 555 1132', NULL, 1),
+(105, 3052, 'Zechner vlg. Zirmhof', 'Frau', 'Zechner', 'Zäzilia', 'Erlengrund 11', '8740', 'Zeltweg', 'zaezilia.zechner@helfer.example', NULL, '+43 664 555 1135', 0, 1),
+(106, 3031, 'Aigelsreiter Alfons', 'Herr', 'Aigelsreiter', 'Alfons', 'Hammerweg 16', '8691', 'Altenberg', 'alfons.aigelsreiter@helfer.example', '+43 3322 555 146', '+43 664 555 1138', NULL, 1),
+(107, 3068, 'Bacher Barbara', 'Frau', 'Bacher', 'Barbara', 'Mühlgang 21', '8763', 'Bretstein', 'barbara.bacher@helfer.example', '+43 3329 555 147', NULL, 0, 1),
+(108, 3047, 'Ellmaier Ernst', 'Herr', 'Ellmaier', 'Ernst', 'Bachgasse 26', '8622', 'Etmißl', 'ernst.ellmaier@helfer.example', '+43 3336 555 148', '+43 664 555 1144', NULL, 1),
+(109, 3026, 'Froschauer Friederike', 'Frau', 'Froschauer', 'Friederike', 'Forstweg 31', '8841', 'Frojach', NULL, NULL, '+43 664 555 1147', 0, 1),
+(110, 3063, 'Grössing Georg', 'Herr', 'Grössing', 'Georg', 'Kirchplatz 36', '8734', 'Großlobming', 'georg.groessing@helfer.example', '+43 3350 555 150', '+43 664 555 1150', NULL, 1),
+(111, 3042, 'Hirzberger Hedwig', 'Frau', 'Hirzberger', 'Hedwig', 'Oberdorf 41', '8785', 'Hohentauern', 'hedwig.hirzberger@helfer.example', '+43 3357 555 151', '+43 664 555 1153', 0, 1),
+(112, 3021, 'Jansenberger vlg. Bergerhof', 'Frau', 'Jansenberger', 'Josefa', 'Dorfstraße 3', '8750', 'Judenburg', 'josefa.jansenberger@helfer.example', '+43 3364 555 152', NULL, NULL, 1),
+(113, 3058, 'Kreuzer Kilian', 'Herr', 'Kreuzer', 'Kilian', 'Grubenstraße 8', '8854', 'Krakaudorf', 'kilian.kreuzer@helfer.example', NULL, '+43 664 555 1159', 0, 1),
+(114, 3037, 'Lackner Lukas', 'Herr', 'Lackner', 'Lukas', 'Lindenweg 13', '8770', 'Liesingau', 'lukas.lackner@helfer.example', '+43 3378 555 154', '+43 664 555 1162', NULL, 1),
+(115, 3016, 'Mandl Magdalena', 'Frau', 'Mandl', 'Magdalena', 'Almweg 18', '8693', 'Krampen', 'magdalena.mandl@helfer.example', '+43 3385 555 155', '+43 664 555 1165', 0, 1),
+(116, 3053, 'Oberer Ottokar', 'Herr', 'Oberer', 'Ottokar', 'Erlengrund 23', '8742', 'Obdach', 'ottokar.oberer@helfer.example', '+43 3392 555 156', '+43 664 555 1168', NULL, 1),
+(117, 3032, 'Schrittwieser Sophie', 'Frau', 'Schrittwieser', 'Sophie', 'Hammerweg 28', '8684', 'Spital am Semmering', 'sophie.schrittwieser@helfer.example', NULL, NULL, 0, 1),
+(118, 3070, 'Trummer Tobias', 'Herr', 'Trummer', 'Tobias', 'Mühlgang 33', '8625', 'Turnau', NULL, '+43 3406 555 158', '+43 664 555 1174', NULL, 1),
+(119, 3069, 'Winkler vlg. Hiasbauer', 'Frau', 'Winkler', 'Walburga', 'Bachgasse 38', '8924', 'Wildalpen', 'walburga.winkler@helfer.example', '+43 3413 555 159', '+43 664 555 1177', 0, 1)
+
 -- Forest owners, from whom timber is bought (type A1); two of them also sell on the stump (type A6).
 INSERT INTO PERSONAL (ID_PERSONAL, NUMMER, KURZBEZEICHNUNG, ANREDE, [NAME], VORNAME, STRASSE, PLZ, ORT, EMAIL, [DISABLE], ABRECH1, ABRECH6) VALUES
 (30, 4001, 'Gruber Maria', 'Frau', 'Gruber', 'Maria', 'Hochegg 1', '8614', 'Breitenau', 'maria.gruber@wald.example', NULL, 1, 0),
@@ -219,10 +283,24 @@ INSERT INTO WVO_T_BEREITSELLUNGS (ID, [SHORT], [LONG]) VALUES
 GO
 
 -- MESZAHL 1 shows the measure-number column of the price lines; ARTIKEL 1 takes the article columns of
--- the deduction models; STANDARDMANDANT is the client that the host starts with.
+-- the deduction models; STANDARDMANDANT is the client that the host starts with. PATHOFWVOWEBVERTRAEGE is the
+-- folder for original contract documents, UNCOFDRIVEM the share that the drive M: of their paths stands for;
+-- MAILRECIPIENTS how serial mail names its recipients: BCC, TO or CC. FAKTART1 … FAKTART9 name the
+-- contract kinds (VERTRAEGE.ID_FAKTART) of the provision reports.
 INSERT INTO WORKBENCH_SETTING ([NAME], [VALUE]) VALUES
 ('MESZAHL', '0'),
 ('ARTIKEL', '0'),
 ('STANDARDMANDANT', '1'),
-('PATHOFWVOWEBVERTRAEGE', 'vertragsdokumente')
+('PATHOFWVOWEBVERTRAEGE', 'vertragsdokumente'),
+('UNCOFDRIVEM', '\\dateiserver\vertrag'),
+('MAILRECIPIENTS', 'BCC'),
+('FAKTART1', 'Verkauf'),
+('FAKTART2', 'Einkauf'),
+('FAKTART3', 'Betreuung'),
+('FAKTART4', 'Fracht'),
+('FAKTART5', 'Holzernte'),
+('FAKTART6', 'Seilbringung'),
+('FAKTART7', 'Stockkauf'),
+('FAKTART8', 'Vermessung'),
+('FAKTART9', 'Vermittlung')
 GO

@@ -246,20 +246,20 @@ TEST_F(QuantityLines, NewEditAndDeleteWriteTheirTable) {
         user.type("txtLange", "");
         user.click("cmdSpeichern");
         EXPECT_EQ(cells(user.grid("MSFlexGrid1"), 1), ">>|Zweite|-0,50|Fm");
-        EXPECT_EQ(row("SELECT ORDNUNG,MENGE,SELEKTION_VALUE FROM VERTRAG_MENGEN WHERE ID = 27"),
+        EXPECT_EQ(row("SELECT ORDNUNG,MENGE,SELEKTION_VALUE FROM VERTRAG_MENGEN WHERE ID = 33"),
                   "2 | -0.500 | 83 IN ('KI') ;");
         user.click("cmdBearbeiten");
         user.type("txtMenge", "0");
         user.click("cmdSpeichern");
-        EXPECT_EQ(value("SELECT MENGE FROM VERTRAG_MENGEN WHERE ID = 27"), "0.000")
+        EXPECT_EQ(value("SELECT MENGE FROM VERTRAG_MENGEN WHERE ID = 33"), "0.000")
             << "zero is not asked for";
         user.click("cmdSelect");
-        EXPECT_EQ(host.selections.back(), "27VERTM/R");
+        EXPECT_EQ(host.selections.back(), "33VERTM/R");
         user.select("MSFlexGrid1", 0, 1);
         user.click("cmdLoschen");
         user.click("cmdOk");
     });
-    EXPECT_EQ(rows("VERTRAG_MENGEN", "ID,ORDNUNG", 2), "[27 | 1]");
+    EXPECT_EQ(rows("VERTRAG_MENGEN", "ID,ORDNUNG", 2), "[33 | 1]");
     EXPECT_TRUE(host.display.messages().empty());
 }
 

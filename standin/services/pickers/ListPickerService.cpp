@@ -5,6 +5,7 @@
 #include "module/base/text.h"
 #include "standin/services/pickers/F_Calendar.h"
 #include "standin/services/pickers/F_ListPicker.h"
+#include "standin/services/pickers/named_lists.h"
 
 namespace tellurix::standin {
 
@@ -41,7 +42,7 @@ std::string ListPickerService::choose(const host::TlxVar& session, const std::st
 
 std::string ListPickerService::chooseEntry(const host::TlxVar& session, const std::string& query,
                                            const std::string& title, const std::string& current) {
-    F_ListPicker::List list = listOf(*session.connection->open(query));
+    F_ListPicker::List list = listOf(*session.connection->open(choicesOf(query).value_or(query)));
     for (std::string& heading : list.headings)
         heading = headingOf(session, heading);
     F_ListPicker form{

@@ -6,7 +6,7 @@
 
 namespace tellurix::standin {
 
-/// Shows the rows of a query in a list that can be narrowed, or a calendar.
+/// Shows the rows of a query or of a named list in a list that can be narrowed, or a calendar.
 class ListPickerService final : public host::ListPicker {
 public:
     ListPickerService(ui::Display& display, const base::Clock& clock, Localizer& localizer,

@@ -3,6 +3,7 @@
 #include "module/base/text.h"
 #include "module/parts/questions.h"
 #include "module/ui/Form.h"
+#include "standin/services/pickers/named_lists.h"
 
 namespace tellurix::standin {
 
@@ -12,13 +13,14 @@ bool LookupValidationService::resolve(const host::TlxVar& session, std::int32_t 
                                       const std::string& /*text*/) {
     const auto answer = [&](const std::string& key, const std::string& display) {
         box.setTag(key);
-        if (shown != nullptr) shown->setText(display);
+        if (shown != nullptr && (shown != &box || !key.empty())) shown->setText(display);
     };
     if (base::trim(box.text()).empty()) {
         answer("", "");
         return true;
     }
-    const auto found = session.connection->open(query);
+    const auto named = choiceNamed(query, std::string{base::trim(box.text())});
+    const auto found = session.connection->open(named ? named->text() : query);
     if (!found->atEnd()) {
         answer(found->text(0), displayColumn.empty() ? std::string{} : found->text(displayColumn));
         return true;

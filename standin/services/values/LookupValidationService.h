@@ -4,8 +4,8 @@
 
 namespace tellurix::standin {
 
-/// Resolves typed texts with the query that the screen gives. A text that is not found is told with
-/// text 223 and the name of the box; the key and the second box are emptied then, the text stays.
+/// Resolves typed texts with the query that the screen gives, or in the named list. A text that is not found
+/// is told with text 223 and the name of the box; the key and a second box are emptied then, the text stays.
 class LookupValidationService final : public host::LookupValidation {
 public:
     LookupValidationService(ui::Display& display, Localizer& localizer)

@@ -88,6 +88,54 @@ TEST_F(Lookup, ThePickerOffersTheList) {
     display.showModal(form);
 }
 
+TEST_F(Lookup, TheListsOfTheLogisticsSettingsAreKnownByTheirKeys) {
+    struct Case {
+        const char* rule;
+        const char* list;
+        const char* typed;
+        const char* key;
+        const char* shown;
+        const char* message; ///< null for none
+    };
+    const Case cases[] = {
+        {"a kind of delivery", "WVO_T_BELIEFERUNG_VALID", "freie anlieferung", "3", "Freie Anlieferung",
+         nullptr},
+        {"by its short name", "WVO_T_BELIEFERUNG_VALID", " kw ", "2", "Gleichmäßig nach Kalenderwochen",
+         nullptr},
+        {"a parity", "WVO_T_LIEFERPARITAT_VALID", "Frei Werk", "2", "Frei Werk", nullptr},
+        {"the week begins on Sunday", "WVO_T_BEREITSELLUNGS_VALID", "Sonntag", "1", "Sonntag", nullptr},
+        {"and ends on Saturday", "WVO_T_BEREITSELLUNGS_VALID", "sa", "7", "Samstag", nullptr},
+        {"an unknown text stays, without a key", "WVO_T_BEREITSELLUNGS_VALID", "Feier'tag", "", "Feier'tag",
+         "Ungültige oder fehlende Eingabe! [Text]"},
+        {"an empty box has no key", "WVO_T_BEREITSELLUNGS_VALID", "", "", "", nullptr},
+    };
+    struct Typed final : ui::Form {
+        Typed() : Form("Typed") { setLayout(ui::field(lblText, txtText)); }
+        ui::Label lblText{*this, "lblText", "Text"};
+        ui::TextBox txtText{*this, "txtText"};
+    };
+    for (const Case& c : cases) {
+        Typed form;
+        form.txtText.setText(c.typed);
+        if (c.message != nullptr) display.onMessage(c.message);
+        EXPECT_EQ(host.lookupValidation.resolve(session, c.list, form.txtText, &form.txtText, "LONG"),
+                  c.message == nullptr)
+            << c.rule;
+        EXPECT_EQ(form.txtText.tag(), c.key) << c.rule;
+        EXPECT_EQ(form.txtText.text(), c.shown) << c.rule;
+    }
+    display.onWindow("F_ListPicker", [](User& picker) {
+        const ui::Grid& list = picker.grid("grdList");
+        EXPECT_EQ(list.columns().front().caption, "Bezeichnung");
+        ASSERT_EQ(list.rows().size(), 7U);
+        EXPECT_EQ(list.cell(0, 0), "Sonntag") << "in the order of the days";
+        EXPECT_EQ(list.cell(list.currentRow(), 0), "Mittwoch") << "starts on the text in the box";
+        picker.key(Key::down);
+        picker.key(Key::enter);
+    });
+    EXPECT_EQ(host.listPicker.choose(session, "WVO_T_BEREITSELLUNGS_GRID", "Tag", "Mittwoch"), "Donnerstag");
+}
+
 TEST_F(Lookup, TheCalendarStartsOnTheBoxOrToday) {
     struct Case {
         const char* rule;

@@ -10,14 +10,14 @@ using Keys = std::vector<std::int64_t>;
 
 class MultiSelection : public ServicesTest {
 protected:
-    /// What the user marked, among the forest helpers.
+    /// What the user marked, among the first forest helpers.
     std::optional<Keys> chosen(const Keys& marked, const ScriptedDisplay::Script& script) {
         display.onWindow("F_MultiSelection", script);
         return host.multiSelection.choose(session, "VERTRAG_KUNDE_WVO",
                                           "SELECT PERSONAL.ID_PERSONAL,PERSONAL.NUMMER AS [Nr.],"
                                           "PERSONAL.KURZBEZEICHNUNG AS [Kurz],PERSONAL.ORT AS [Ort]"
                                           " FROM PERSONAL WHERE PERSONAL.ABRECH2 = 1 AND "
-                                          " ISNULL(PERSONAL.DISABLE,0) = 0" +
+                                          " PERSONAL.NUMMER < 3010 AND ISNULL(PERSONAL.DISABLE,0) = 0" +
                                               host.personQuery.restriction(session, "PERSONAL"),
                                           marked);
     }

@@ -110,7 +110,7 @@ TEST_F(SqlCommand, MakesAMissingDatabaseWithSampleDataOrEmpty) {
     Program sample{folder,
                    {"sql", "--database", folder / "sample.db", "SELECT COUNT(*) AS N FROM VERTRAEGE"}};
     EXPECT_EQ(sample.wait(), 0) << sample.errors();
-    EXPECT_EQ(sample.output(), "{\"columns\": [\"N\"], \"rows\": [[19]]}\n");
+    EXPECT_EQ(sample.output(), "{\"columns\": [\"N\"], \"rows\": [[23]]}\n");
 
     // In the user's data folder when no file is named.
     Program atHome{folder, {"sql", "SELECT COUNT(*) AS N FROM VERTRAEGE"}};
@@ -139,7 +139,7 @@ TEST_F(SqlCommand, BuildsTheDatabaseOnceWhenSeveralStartAtOnce) {
     }
     Program count{folder, {"sql", "--database", folder / "new.db", "SELECT COUNT(*) AS N FROM VERTRAEGE"}};
     count.wait();
-    EXPECT_EQ(count.output(), "{\"columns\": [\"N\"], \"rows\": [[22]]}\n");
+    EXPECT_EQ(count.output(), "{\"columns\": [\"N\"], \"rows\": [[26]]}\n");
 }
 
 TEST_F(SqlCommand, ReportsWhatKeepsItFromRunning) {
