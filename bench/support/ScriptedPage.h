@@ -45,12 +45,14 @@ public:
     /// @throws std::out_of_range when there was none
     Clock::time_point drawnAt(const std::string& form) const { return drawn_.at(form); }
 
+    browser::SessionFiles& files() override { return files_; }
     browser::PageMessage next() override;
     void send(std::string drawing) override;
     void sendComplete(std::string drawing, const browser::PageMessage& redraw) override;
 
 private:
     PageState state_;
+    browser::SessionFiles files_;
     std::deque<Step> script_;
     std::map<std::string, Clock::time_point> drawn_;
     std::uint64_t number_ = 0;

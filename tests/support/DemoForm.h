@@ -14,6 +14,9 @@
 
 #include <atomic>
 #include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <thread>
 
 namespace tellurix::tests {
@@ -194,6 +197,20 @@ private:
             DemoForm another{display_};
             another.setTitle("Zweiter Vertrag");
             display_.showModal(another);
+        };
+        // Opens a file of the user's and gives it back.
+        btnDocument.onClick = [this] {
+            const auto path =
+                display_.openFile("Dokument wählen", "PDF (*.pdf)|*.pdf|Alle Dateien (*.*)|*.*");
+            if (!path) {
+                txtState.setText("keine Datei");
+                return;
+            }
+            const std::filesystem::path file{*path};
+            std::ifstream read{file, std::ios::binary};
+            const std::string content{std::istreambuf_iterator<char>{read}, {}};
+            txtState.setText(file.filename().string() + ": " + std::to_string(content.size()));
+            display_.presentFile("Kopie von " + file.filename().string(), content);
         };
         btnClose.onClick = [this] { unload(); };
     }

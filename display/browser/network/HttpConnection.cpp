@@ -6,6 +6,7 @@
 #include <boost/beast/http/write.hpp>
 #include <boost/beast/websocket/rfc6455.hpp>
 
+#include <limits>
 #include <utility>
 
 namespace tellurix::browser {
@@ -58,29 +59,68 @@ std::chrono::milliseconds HttpConnection::patience() const {
 void HttpConnection::read() {
     parser_.emplace();
     parser_->header_limit(mostHeaderBytes);
-    parser_->body_limit(mostBodyBytes);
+    // How long the body may be depends on what it is for.
+    parser_->body_limit(std::numeric_limits<std::uint64_t>::max());
     stream_.expires_after(patience());
+    http::async_read_header(stream_, buffer_, *parser_,
+                            handler([self = shared_from_this()](beast::error_code error, std::size_t) {
+                                // A request that is too long, malformed or never finished gets no answer.
+                                if (!error) self->headerRead();
+                            }));
+}
+
+void HttpConnection::headerRead() {
+    const SiteRequest asked = neutral(parser_->get());
+    if (!getsPlace(asked)) return;
+    if (UploadConnection::Target target = uploadOf(asked); target.upload) {
+        std::make_shared<UploadConnection>(std::move(stream_), std::move(buffer_), std::move(*parser_),
+                                           std::move(target), site_, std::move(place_),
+                                           limits_.known.patience)
+            ->start();
+        return;
+    }
+    if (const auto length = parser_->content_length(); length && *length > mostBodyBytes) return;
+    parser_->body_limit(mostBodyBytes);
     http::async_read(stream_, buffer_, *parser_,
                      handler([self = shared_from_this()](beast::error_code error, std::size_t) {
-                         // A request that is too long, malformed or never finished gets no answer.
                          if (!error) self->handle();
                      }));
+}
+
+bool HttpConnection::getsPlace(const SiteRequest& asked) {
+    if (known_ || !site_.knows(asked)) return true;
+    place_ = places_.forKnown();
+    known_ = static_cast<bool>(place_);
+    return known_;
+}
+
+UploadConnection::Target HttpConnection::uploadOf(const SiteRequest& asked) {
+    if (asked.method != "POST") return {};
+    const auto file = site_.fileAsked(asked);
+    auto session = file ? sessions_.find(file->session) : nullptr;
+    if (!session) return {};
+    auto upload = session->files().begin(file->number);
+    return {std::move(session), std::move(upload)};
+}
+
+SiteReply HttpConnection::answerTo(const SiteRequest& asked) {
+    if (const auto file = site_.fileAsked(asked); file && asked.method == "GET") {
+        const auto session = sessions_.find(file->session);
+        if (auto offered = session ? session->files().fetch(file->number) : std::nullopt)
+            return site_.file(offered->name, std::move(offered->content));
+    }
+    return site_.answer(asked);
 }
 
 void HttpConnection::handle() {
     const SocketConnection::Request request = parser_->release();
     const SiteRequest asked = neutral(request);
-    if (!known_ && site_.knows(asked)) {
-        place_ = places_.forKnown();
-        if (!place_) return;
-        known_ = true;
-    }
     if (site_.admitsConnection(asked)) {
         std::make_shared<SocketConnection>(std::move(stream_), sessions_, limits_.known, std::move(place_))
             ->start(request);
         return;
     }
-    const SiteReply reply = site_.answer(asked);
+    const SiteReply reply = answerTo(asked);
     Response response{static_cast<http::status>(reply.status), request.version()};
     response.set(http::field::content_type, reply.contentType);
     for (const auto& [name, value] : reply.headers)

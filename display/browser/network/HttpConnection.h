@@ -3,6 +3,7 @@
 #include "display/browser/network/Places.h"
 #include "display/browser/network/Site.h"
 #include "display/browser/network/SocketConnection.h"
+#include "display/browser/network/UploadConnection.h"
 #include "display/browser/session/PageSessions.h"
 
 #include <boost/asio/ip/tcp.hpp>
@@ -40,7 +41,13 @@ private:
     auto handler(Action action);
     std::chrono::milliseconds patience() const;
     void read();
+    void headerRead();
     void handle();
+    /// The file that the request is going to send, if it may.
+    UploadConnection::Target uploadOf(const SiteRequest& asked);
+    /// Whether the connection has or gets a place among those that have shown the key.
+    bool getsPlace(const SiteRequest& asked);
+    SiteReply answerTo(const SiteRequest& asked);
     void write(Response response);
     void close();
 

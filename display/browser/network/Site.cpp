@@ -6,6 +6,8 @@
 #include "page.h"
 
 #include <array>
+#include <cctype>
+#include <charconv>
 #include <stdexcept>
 
 namespace tellurix::browser {
@@ -24,14 +26,31 @@ std::string contentTypeOf(std::string_view name) {
         std::string_view ending;
         const char* contentType;
     };
-    constexpr std::array<Type, 4> types{{{".html", "text/html; charset=utf-8"},
-                                         {".css", "text/css; charset=utf-8"},
-                                         {".js", "text/javascript; charset=utf-8"},
-                                         {".svg", "image/svg+xml"}}};
+    constexpr std::array<Type, 5> types{
+        {{".xlsx", "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet"},
+         {".html", "text/html; charset=utf-8"},
+         {".css", "text/css; charset=utf-8"},
+         {".js", "text/javascript; charset=utf-8"},
+         {".svg", "image/svg+xml"}}};
     for (const Type& type : types) {
         if (name.ends_with(type.ending)) return type.contentType;
     }
     return "application/octet-stream";
+}
+
+/// As a header can say any text.
+std::string percentEncoded(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string encoded;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte < 0x80 && (std::isalnum(byte) != 0 || byte == '.' || byte == '-' || byte == '_')) {
+            encoded += character;
+        } else {
+            encoded += {'%', digits[byte >> 4], digits[byte & 15]};
+        }
+    }
+    return encoded;
 }
 
 void protect(SiteReply& reply, const std::string& host) {
@@ -62,6 +81,11 @@ std::string Site::address() const {
 
 bool Site::ownHost(std::string_view host) const {
     return host == byNumber_ || host == byName_;
+}
+
+bool Site::fromOwnPage(const SiteRequest& request) const {
+    // The origin is the page's own address, by the same name as the request's.
+    return request.origin == "http://" + request.host;
 }
 
 std::optional<std::string> Site::keyedName(std::string_view target) const {
@@ -99,13 +123,41 @@ SiteReply Site::page(const SiteRequest& request) const {
     }
 }
 
+std::optional<Site::FileName> Site::fileAsked(const SiteRequest& request) const {
+    const bool sends = request.method == "POST";
+    if (!ownHost(request.host) || (sends ? !fromOwnPage(request) : request.method != "GET"))
+        return std::nullopt;
+    const auto name = keyedName(request.target);
+    constexpr std::string_view folder = "file/";
+    if (!name || !name->starts_with(folder)) return std::nullopt;
+    const std::size_t slash = name->find('/', folder.size());
+    if (slash == std::string::npos) return std::nullopt;
+    FileName asked{.session = name->substr(folder.size(), slash - folder.size())};
+    const char* end = name->data() + name->size();
+    const auto [read, failure] = std::from_chars(name->data() + slash + 1, end, asked.number);
+    if (failure != std::errc{} || read != end) return std::nullopt;
+    return asked;
+}
+
+SiteReply Site::file(const std::string& name, std::string content) const {
+    SiteReply reply{200, contentTypeOf(name), std::move(content), {}};
+    protect(reply, byNumber_);
+    reply.headers.emplace_back("Content-Disposition", "attachment; filename*=UTF-8''" + percentEncoded(name));
+    return reply;
+}
+
+SiteReply Site::protectedReply(int status) const {
+    SiteReply reply{status, {}, {}, {}};
+    protect(reply, byNumber_);
+    return reply;
+}
+
 bool Site::knows(const SiteRequest& request) const {
     return ownHost(request.host) && keyedName(request.target).has_value();
 }
 
 bool Site::admitsConnection(const SiteRequest& request) const {
-    // The origin is the page's own address, by the same name as the request's.
-    return request.upgrade && ownHost(request.host) && request.origin == "http://" + request.host &&
+    return request.upgrade && ownHost(request.host) && fromOwnPage(request) &&
            keyedName(request.target) == connectionName;
 }
 

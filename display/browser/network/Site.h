@@ -40,6 +40,18 @@ public:
     SiteReply answer(const SiteRequest& request) const;
     /// Whether the request has the key, and so comes from the user.
     bool knows(const SiteRequest& request) const;
+    /// What a page asks for or sends as a file of its session: "/KEY/file/SESSION/NUMBER".
+    struct FileName {
+        std::string session;
+        int number = 0;
+    };
+    /// Nothing when the request is none for a file, or has no key. To send one, it has to come from
+    /// the own page.
+    std::optional<FileName> fileAsked(const SiteRequest& request) const;
+    /// A file of a session, to be saved under its name.
+    SiteReply file(const std::string& name, std::string content) const;
+    /// An answer without content.
+    SiteReply protectedReply(int status) const;
     /// Whether this asks for the page's connection and may have it. Otherwise `answer` it.
     bool admitsConnection(const SiteRequest& request) const;
 
@@ -47,6 +59,7 @@ private:
     /// The name of the file that the target asks for, or nothing when its key is wrong.
     std::optional<std::string> keyedName(std::string_view target) const;
     bool ownHost(std::string_view host) const;
+    bool fromOwnPage(const SiteRequest& request) const;
     SiteReply page(const SiteRequest& request) const;
 
     const std::string key_;

@@ -54,6 +54,11 @@ export class Connection {
     return this.#drawn && this.#awaited.length === 0;
   }
 
+  /** Where a file of the session goes, or comes from. */
+  addressOf(file) {
+    return new URL(`file/${this.#session}/${file}`, import.meta.url);
+  }
+
   start() {
     const address = new URL('session', import.meta.url);
     address.protocol = 'ws:';

@@ -28,6 +28,7 @@ connection.onDrawing = (drawing) => {
   if (drawing.language) setLanguage(drawing.language);
   desktop.apply(drawing);
   if (drawing.box !== undefined) box.show(drawing.box);
+  if (drawing.files) notices.offer(drawing.files.map(({ id, name }) => ({ name, address: connection.addressOf(id) })));
   // A message has the focus as long as it stands there.
   if (!box.shown) desktop.placeFocus();
 };

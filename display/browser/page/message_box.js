@@ -1,13 +1,17 @@
 // A message that has to be answered before anything else goes on. Only what the user does while it
-// can be seen answers it: keys that were typed before wait for the window behind it.
+// can be seen answers it: keys that were typed before wait for the window behind it. Some ask for a file,
+// which is sent before they count as answered.
 import { accessKey, announceAccessKey, showCaption } from './caption.js';
 import { picture } from './pictures.js';
+import { text } from './texts.js';
+import { Upload } from './upload.js';
 
 export class MessageBox {
   #root;
   #connection;
   #message = null;
   #answered = false;
+  #upload = null;
 
   constructor(root, connection) {
     this.#root = root;
@@ -25,6 +29,8 @@ export class MessageBox {
 
   /** @param message what the session says, or null when it has its answer */
   show(message) {
+    this.#upload?.cancel();
+    this.#upload = null;
     this.#message = message;
     this.#answered = false;
     document.getElementById('desktop').inert = message !== null;
@@ -44,14 +50,14 @@ export class MessageBox {
     const body = document.createElement('div');
     body.className = 'message-body';
     const icon = picture(message.icon);
-    const text = document.createElement('p');
-    text.id = 'message-text';
-    text.textContent = message.text;
-    body.append(...(icon ? [icon] : []), text);
+    const words = document.createElement('p');
+    words.id = 'message-text';
+    words.textContent = message.text;
+    body.append(...(icon ? [icon] : []), words);
     const buttons = document.createElement('div');
     buttons.className = 'message-buttons';
     buttons.append(...message.buttons.map((button) => this.#button(button)));
-    panel.append(title, body, buttons);
+    panel.append(title, body, ...(message.file ? [this.#fileParts(message.file)] : []), buttons);
     this.#root.replaceChildren(panel);
     buttons.children[message.default].classList.add('default');
     buttons.children[message.default].focus();
@@ -88,8 +94,58 @@ export class MessageBox {
     return button;
   }
 
+  /** The browser's own dialog, and how far the file has come. */
+  #fileParts({ endings }) {
+    const parts = document.createElement('div');
+    parts.className = 'message-file';
+    const input = document.createElement('input');
+    input.type = 'file';
+    input.hidden = true;
+    input.accept = endings.join(',');
+    input.addEventListener('change', () => {
+      if (input.files.length > 0) this.#send(input.files[0]);
+      // The same one can be chosen again.
+      input.value = '';
+    });
+    const progress = document.createElement('progress');
+    progress.max = 1;
+    progress.hidden = true;
+    const note = document.createElement('p');
+    note.setAttribute('role', 'status');
+    parts.append(input, progress, note);
+    return parts;
+  }
+
+  #send(file) {
+    const note = this.#root.querySelector('.message-file p');
+    const progress = this.#root.querySelector('progress');
+    if (file.size > this.#message.file.bytes) {
+      note.textContent = text('fileTooLarge');
+      return;
+    }
+    const { id } = this.#message;
+    note.textContent = `${text('fileSending')} ${file.name}`;
+    progress.hidden = false;
+    progress.value = 0;
+    this.#upload = new Upload(this.#connection.addressOf(id), file, (part) => { progress.value = part; }, (status) => {
+      this.#upload = null;
+      if (this.#message?.id !== id) return;
+      progress.hidden = true;
+      if (status === 204) {
+        this.#answered = true;
+        this.#connection.say({ type: 'file', window: id, text: file.name });
+      } else {
+        note.textContent = text(status === 413 ? 'fileTooLarge' : 'fileNotSent');
+      }
+    });
+  }
+
   #answer(answer) {
     if (this.#answered) return;
+    if (this.#message.file && answer !== this.#message.escape) {
+      if (!this.#upload) this.#root.querySelector('input[type=file]').click();
+      return;
+    }
     this.#answered = true;
     this.#connection.say({ type: 'answer', window: this.#message.id, answer });
   }

@@ -7,6 +7,7 @@ export class Notices {
 
   #banner = document.getElementById('banner');
   #ended = document.getElementById('ended');
+  #offered = new Map(); // links to the files that have not been dismissed, by their numbers
 
   interrupted(is) {
     if (is === this.blocking) return;
@@ -17,12 +18,38 @@ export class Notices {
 
   /** A note that stays until it is dismissed and is in nobody's way. */
   tell(name) {
+    this.#note(text(name));
+  }
+
+  /**
+   * Files that were made for the user. Each is saved at once; the links stay for browsers that save
+   * only what was asked for by hand.
+   * @param files [{ name, address }]
+   */
+  offer(files) {
+    const links = files.filter(({ address }) => !this.#offered.has(String(address))).map(({ name, address }) => {
+      const link = document.createElement('a');
+      link.href = address;
+      link.download = name;
+      link.textContent = name;
+      this.#offered.set(String(address), link);
+      return link;
+    });
+    if (links.length === 0) return;
+    this.#note(text('fileMade'), ...this.#offered.values());
+    for (const link of links) link.click();
+  }
+
+  #note(...content) {
     const dismiss = document.createElement('button');
     dismiss.textContent = '×';
     dismiss.tabIndex = -1;
     dismiss.setAttribute('aria-label', text('dismiss'));
-    dismiss.addEventListener('click', () => this.#banner.replaceChildren());
-    this.#banner.replaceChildren(text(name), dismiss);
+    dismiss.addEventListener('click', () => {
+      this.#banner.replaceChildren();
+      this.#offered.clear();
+    });
+    this.#banner.replaceChildren(...content, dismiss);
   }
 
   ended(reason) {

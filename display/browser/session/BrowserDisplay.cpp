@@ -6,11 +6,33 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <sstream>
 #include <utility>
 
 namespace tellurix::browser {
 
 using nlohmann::json;
+
+namespace {
+
+/// The endings in a filter such as "PDF file (*.pdf)|*.pdf|Alle Dateien (*.*)|*.*", without that for all.
+std::vector<std::string> endingsIn(const std::string& filter) {
+    std::vector<std::string> endings;
+    std::istringstream parts{filter};
+    std::string name;
+    std::string patterns;
+    while (std::getline(parts, name, '|') && std::getline(parts, patterns, '|')) {
+        std::istringstream each{patterns};
+        for (std::string pattern; std::getline(each, pattern, ';');) {
+            if (!pattern.starts_with("*.") || pattern == "*.*") continue;
+            if (std::ranges::find(endings, pattern.substr(1)) == endings.end())
+                endings.push_back(pattern.substr(1));
+        }
+    }
+    return endings;
+}
+
+} // namespace
 
 BrowserDisplay::BrowserDisplay(PageChannel& page) : page_(page) {}
 
@@ -49,21 +71,25 @@ ui::Event BrowserDisplay::nextEvent() {
     }
 }
 
-ui::Answer BrowserDisplay::messageBox(const std::string& text, int flags, const std::string& title) {
-    struct Asking {
-        Asking(BrowserDisplay& display, Question question) : display_(display) {
-            display_.question_ = std::move(question);
-            display_.questionDrawn_ = false;
-        }
-        ~Asking() {
-            display_.question_.reset();
-            display_.questionDrawn_ = false;
-        }
-        Asking(const Asking&) = delete;
-        Asking& operator=(const Asking&) = delete;
-        BrowserDisplay& display_;
-    } asking{*this, {++lastId_, text, flags, title}};
+class BrowserDisplay::Asking {
+public:
+    Asking(BrowserDisplay& display, Question question) : display_(display) {
+        display_.question_ = std::move(question);
+        display_.questionDrawn_ = false;
+    }
+    ~Asking() {
+        display_.question_.reset();
+        display_.questionDrawn_ = false;
+    }
+    Asking(const Asking&) = delete;
+    Asking& operator=(const Asking&) = delete;
 
+private:
+    BrowserDisplay& display_;
+};
+
+ui::Answer BrowserDisplay::messageBox(const std::string& text, int flags, const std::string& title) {
+    const Asking asking{*this, {++lastId_, text, flags, title}};
     const std::vector<ui::Answer> answers = answersOf(flags);
     for (;;) {
         const PageMessage message = wait();
@@ -73,15 +99,31 @@ ui::Answer BrowserDisplay::messageBox(const std::string& text, int flags, const 
     }
 }
 
-std::optional<std::string> BrowserDisplay::openFile(const std::string& title, const std::string&) {
-    messageBox(language_ == "en" ? "Files cannot be opened in the browser."
-                                 : "Im Browser können keine Dateien geöffnet werden.",
-               ui::box::ok | ui::box::information, title);
-    return std::nullopt;
+std::optional<std::string> BrowserDisplay::openFile(const std::string& title, const std::string& filter) {
+    const int id = ++lastId_;
+    const Asking asking{*this,
+                        {id,
+                         language_ == "en" ? "Choose a file of your computer, of 32 MB at most."
+                                           : "Wählen Sie eine Datei Ihres Rechners, höchstens 32 MB groß.",
+                         ui::box::okCancel, title, endingsIn(filter)}};
+    struct Awaiting {
+        Awaiting(SessionFiles& files, int id) : files(files) { files.await(id); }
+        ~Awaiting() { files.await(0); }
+        Awaiting(const Awaiting&) = delete;
+        Awaiting& operator=(const Awaiting&) = delete;
+        SessionFiles& files;
+    } const awaiting{page_.files(), id};
+    for (;;) {
+        const PageMessage message = wait();
+        if (message.window != id) continue;
+        if (message.kind == PageMessage::Kind::answer) return std::nullopt;
+        if (message.kind != PageMessage::Kind::file) continue;
+        if (auto path = awaiting.files.take(id, message.text)) return path;
+    }
 }
 
-void BrowserDisplay::presentFile(const std::string& name, const std::string&) {
-    throw std::runtime_error{"Im Browser können keine Dateien übergeben werden: " + name};
+void BrowserDisplay::presentFile(const std::string& name, const std::string& content) {
+    page_.files().offer(name, content); // and told with the next drawing
 }
 
 void BrowserDisplay::setBusy(bool busy) {
@@ -128,14 +170,32 @@ void BrowserDisplay::drawWindows(json& message, bool complete) {
     if (!closed_.empty()) message["closed"] = std::exchange(closed_, {});
 }
 
+void BrowserDisplay::drawOffers(json& message, bool complete) {
+    json offers = json::array();
+    for (const auto& [id, name] : page_.files().waiting()) {
+        // One that the page was told of while it was interrupted is told again.
+        if (!complete && id <= lastOffer_) continue;
+        offers.push_back({{"id", id}, {"name", name}});
+        lastOffer_ = std::max(lastOffer_, id);
+    }
+    if (!offers.empty()) message["files"] = std::move(offers);
+}
+
 void BrowserDisplay::draw(bool acknowledge) {
     const bool complete = acknowledge && redraw_.has_value();
     json message = json::object();
     drawWindows(message, complete);
+    drawOffers(message, complete);
     if (complete || !questionDrawn_) {
         message["box"] = question_ ? drawMessageBox(question_->id, question_->text, question_->flags,
                                                     question_->title, language_)
                                    : json();
+        if (question_ && question_->fileEndings) {
+            message["box"]["buttons"][0]["caption"] =
+                language_ == "en" ? "&Choose a file …" : "Datei &wählen …";
+            message["box"]["file"] = {{"endings", *question_->fileEndings},
+                                      {"bytes", SessionFiles::mostBytes}};
+        }
         questionDrawn_ = true;
     }
     if (complete || busy_ != busyDrawn_) {

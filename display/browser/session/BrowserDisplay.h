@@ -30,9 +30,10 @@ public:
 
     void showModal(ui::Form& form) override;
     ui::Answer messageBox(const std::string& text, int flags, const std::string& title) override;
-    /// Tells the user that files cannot be opened here, and answers nothing: a page has no paths of
-    /// the user's files to give, only their contents, and no screen reads those yet.
+    /// Lets the user choose a file of their machine, which the page sends.
+    /// @return the path of a copy that stays as long as the session
     std::optional<std::string> openFile(const std::string& title, const std::string& filter) override;
+    /// Offers it for download.
     void presentFile(const std::string& name, const std::string& content) override;
     void setBusy(bool busy) override;
     void refresh() override;
@@ -48,7 +49,11 @@ private:
         std::string text;
         int flags;
         std::string title;
+        /// What the page may let the user choose, where it asks for a file.
+        std::optional<std::vector<std::string>> fileEndings = std::nullopt;
     };
+    /// Shows a question as long as it lives.
+    class Asking;
 
     ui::Event nextEvent();
     /// Shows how things are and waits for the page.
@@ -56,6 +61,7 @@ private:
     /// Sends what changed; with `acknowledge`, also which messages have been handled.
     void draw(bool acknowledge);
     void drawWindows(nlohmann::json& message, bool complete);
+    void drawOffers(nlohmann::json& message, bool complete);
 
     PageChannel& page_;
     ui::DisplayErrors errors_{*this};
@@ -64,6 +70,7 @@ private:
     std::vector<int> closed_;     ///< windows that the page does not know to be closed
     std::optional<Question> question_;
     bool questionDrawn_ = true;
+    int lastOffer_ = 0; ///< number of the last file that the page has been told of
     int lastId_ = 0;
     std::string language_ = "de";
     bool languageDrawn_ = true;

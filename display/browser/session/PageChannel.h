@@ -1,5 +1,6 @@
 #pragma once
 
+#include "display/browser/session/SessionFiles.h"
 #include "display/browser/session/page_message.h"
 
 #include <string>
@@ -21,6 +22,9 @@ public:
     /// Waits for the next thing the user does.
     /// @throws SessionEnded
     virtual PageMessage next() = 0;
+
+    /// The files that go between the session and its page.
+    virtual SessionFiles& files() = 0;
 
     /// Sends a drawing. While no page is connected it goes nowhere: a page that connects asks for
     /// everything.

@@ -67,6 +67,7 @@ public:
     /// @param reason told to the page: "stopped", …
     void end(std::string reason);
 
+    SessionFiles& files() override { return files_; }
     PageMessage next() override;
     void send(std::string drawing) override;
     void sendComplete(std::string drawing, const PageMessage& redraw) override;
@@ -80,6 +81,7 @@ private:
 
     const std::string id_;
     const Limits limits_;
+    SessionFiles files_;
     SmallThread thread_;
 
     mutable std::mutex mutex_;

@@ -82,6 +82,7 @@ std::optional<ui::Event> toEvent(const PageMessage& message, const ui::Form& for
     case Kind::close:
         return ui::CloseEvent{};
     case Kind::answer:
+    case Kind::file:
     case Kind::redraw:
         return std::nullopt;
     default:

@@ -76,6 +76,7 @@ Kind kindOf(const json& object) {
         {"pick", Kind::pick},
         {"close", Kind::close},
         {"answer", Kind::answer},
+        {"file", Kind::file},
         {"redraw", Kind::redraw},
     };
     const auto found = kinds.find(text(object, "type"));
@@ -123,6 +124,7 @@ PageMessage parsePageMessage(std::string_view message) {
         parsed.length = smallInteger(object, "length");
         break;
     case Kind::paste:
+    case Kind::file:
         parsed.text = text(object, "text");
         break;
     case Kind::step:

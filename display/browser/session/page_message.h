@@ -38,6 +38,7 @@ struct PageMessage {
         pick,
         close,
         answer, ///< of a message box
+        file,   ///< has been sent, for a message box that asks for one
         redraw  ///< a page that has just connected asks for everything
     };
 

@@ -112,7 +112,7 @@ json RawPage::say(json event) {
             if (message.contains(kind))
                 all[kind].insert(all[kind].end(), message[kind].begin(), message[kind].end());
         }
-        for (const char* kind : {"box", "focus", "busy", "ended"}) {
+        for (const char* kind : {"box", "focus", "busy", "files", "ended"}) {
             if (message.contains(kind)) all[kind] = message[kind];
         }
         if (message.contains("ended") || (message.contains("ack") && message["ack"] >= number)) return all;

@@ -1,5 +1,6 @@
 // The browser display in a real browser, over a form with every kind of control.
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import { after, before, beforeEach, afterEach, describe, test } from 'node:test';
 import * as support from './support.js';
 import { control, open, serve, startBrowser, until } from './support.js';
@@ -367,5 +368,48 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await page.waitForSelector('.window');
     await ended.waitFor({ state: 'detached' });
     assert.equal(await value('txtName'), '');
+  });
+
+  test('a file of the user is sent, and one made for the user is saved', async () => {
+    // Somebody listens all the time: the browser's own dialog must not open before the driver takes it.
+    page.on('filechooser', () => {});
+    const note = () => page.locator('.message-file p').textContent();
+    const ask = async () => {
+      await control(page, 'btnDocument').click();
+      await message().waitFor();
+    };
+    const choose = async (file, ...keys) => {
+      const chooser = page.waitForEvent('filechooser');
+      await press(...keys);
+      await (await chooser).setFiles(file);
+    };
+    const large = { name: 'groß.pdf', mimeType: 'application/pdf', buffer: Buffer.alloc(32 * 1024 * 1024 + 1) };
+    const small = { name: 'Vertrag ä #1.pdf', mimeType: 'application/pdf', buffer: Buffer.from('content') };
+
+    await ask();
+    await press('Escape');
+    await state('keine Datei');
+    await ask();
+    await choose(large, 'Enter');
+    await until(async () => (await note()).includes('zu groß') || note(), 'the file is refused');
+    const save = page.waitForEvent('download');
+    await choose(small, 'w');
+    await state('Vertrag ä #1.pdf: 7');
+    const saved = await save;
+    assert.equal(saved.suggestedFilename(), 'Kopie von Vertrag ä #1.pdf');
+    assert.equal(readFileSync(await saved.path(), 'utf8'), 'content');
+    assert.equal(await page.locator('#banner a').textContent(), 'Kopie von Vertrag ä #1.pdf');
+
+    // The same file once more, after a try that got no answer.
+    await page.route('**/file/**', (route) => route.abort(), { times: 1 });
+    await ask();
+    await choose(small, 'Enter');
+    await until(async () => (await note()).includes('noch einmal') || note(), 'the failure is told');
+    problems.length = 0; // the browser notes the failed request
+    const again = page.waitForEvent('download');
+    await choose(small, 'Enter');
+    await again;
+    await until(async () => (await page.locator('#banner a').count()) === 2, 'both files are named');
+    await message().waitFor({ state: 'detached' });
   });
 });
