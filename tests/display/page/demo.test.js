@@ -1,6 +1,8 @@
 // The browser display in a real browser, over a form with every kind of control.
 import assert from 'node:assert/strict';
-import { readFileSync } from 'node:fs';
+import { mkdtempSync, readFileSync, rmSync, truncateSync, writeFileSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
 import { after, before, beforeEach, afterEach, describe, test } from 'node:test';
 import * as support from './support.js';
 import { control, open, serve, startBrowser, until } from './support.js';
@@ -370,7 +372,7 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     assert.equal(await value('txtName'), '');
   });
 
-  test('a file of the user is sent, and one made for the user is saved', async () => {
+  test('a file of the user is sent, and one made for the user is saved', async (t) => {
     // Somebody listens all the time: the browser's own dialog must not open before the driver takes it.
     page.on('filechooser', () => {});
     const note = () => page.locator('.message-file p').textContent();
@@ -383,7 +385,11 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
       await press(...keys);
       await (await chooser).setFiles(file);
     };
-    const large = { name: 'groß.pdf', mimeType: 'application/pdf', buffer: Buffer.alloc(32 * 1024 * 1024 + 1) };
+    const folder = mkdtempSync(join(tmpdir(), 'tellurix-'));
+    t.after(() => rmSync(folder, { recursive: true }));
+    const large = join(folder, 'groß.pdf');
+    writeFileSync(large, '');
+    truncateSync(large, 32 * 1024 * 1024 + 1);
     const small = { name: 'Vertrag ä #1.pdf', mimeType: 'application/pdf', buffer: Buffer.from('content') };
 
     await ask();
