@@ -123,10 +123,11 @@ constexpr Words wordsOf(OwnText text) {
         return {"Jahr und Woche müssen im Lieferzeitraum liegen: {}!",
                 "Year and week have to lie in the delivery period: {}!"};
     case OwnText::weekIsGone:
-        return {"Diese Woche hat inzwischen jemand anderer gelöscht. Alle Eingaben sind noch da: „Speichern“ "
-                "legt sie neu an.",
-                "Someone else has deleted this week in the meantime. Everything typed is still there: \"Save\" "
-                "creates it anew."};
+        return {
+            "Diese Woche hat inzwischen jemand anderer gelöscht. Alle Eingaben sind noch da: „Speichern“ "
+            "legt sie neu an.",
+            "Someone else has deleted this week in the meantime. Everything typed is still there: \"Save\" "
+            "creates it anew."};
     case OwnText::weeksGenerated:
         return {"Wochen neu: {}, schon vorhanden: {}. Ersetzte Planmengen: {}.",
                 "New weeks: {}, already there: {}. Plan quantities replaced: {}."};
@@ -196,7 +197,26 @@ constexpr Words wordsOf(OwnText text) {
             "wenn sich in der Zeile auch etwas anderes ändert.",
             "Not everything was saved for: {}. A number that was removed and a 0 are only saved when "
             "something else changes in the row as well."};
-
+    case OwnText::memberNumber:
+        return {"Mitgl.Nr.", "Member no."};
+    case OwnText::memberName:
+        return {"Mitglied Name", "Member"};
+    case OwnText::salutation:
+        return {"Anrede", "Salutation"};
+    case OwnText::familyName:
+        return {"Name", "Last name"};
+    case OwnText::firstName:
+        return {"Vorname", "First name"};
+    case OwnText::postCode:
+        return {"PLZ", "Postcode"};
+    case OwnText::town:
+        return {"Ort", "Town"};
+    case OwnText::street:
+        return {"Straße", "Street"};
+    case OwnText::someHelpersChanged:
+        return {
+            "Hinzugefügt sind {} von {} Waldhelfern, entfernt {} von {}. Die Liste zeigt den neuen Stand.",
+            "{} of {} forest helpers are added, {} of {} are removed. The list shows how things are now."};
     case OwnText::serviceFailed:
         return {"Der Dienst {} ({}) ist gescheitert: {}", "The service {} ({}) has failed: {}"};
     case OwnText::refusedValue:

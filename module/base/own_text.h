@@ -80,7 +80,17 @@ enum class OwnText {
     loadsWanted,     ///< the most loads
     reportsGone,     ///< the helpers
     reportsNotTaken, ///< the helpers
-    serviceFailed,   ///< a service of the host: class, operation, what it says
+    // Choosing the forest helpers: the headings of the list, and what became of it
+    memberNumber,
+    memberName,
+    salutation,
+    familyName,
+    firstName,
+    postCode,
+    town,
+    street,
+    someHelpersChanged, ///< how many are added, of how many; how many are removed, of how many
+    serviceFailed,      ///< a service of the host: class, operation, what it says
     // Values that no statement can carry
     refusedValue,   ///< begins the message: the value
     refusedInField, ///< begins the message: the field's label, the value

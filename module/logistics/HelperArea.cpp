@@ -1,22 +1,248 @@
 #include "module/logistics/HelperArea.h"
 
+#include "module/base/field_text.h"
+#include "module/base/number_format.h"
+#include "module/base/whole_number.h"
+#include "module/host/module_state.h"
+#include "module/host/text_numbers.h"
+#include "module/logistics/helper_statements.h"
+#include "module/logistics/quantity_cell.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
+#include "module/parts/typed_text.h"
+
+#include <exception>
+#include <utility>
+
 namespace tellurix::logistics {
 
-HelperArea::HelperArea(ui::Form& form, host::HostServices& /*services*/)
-    : frmWaldhelfer(form, "frmWaldhelfer", "Waldhelfer"),
+namespace {
+
+constexpr const char* helperLayout = "F_VERTRAG_WVO_WH";
+constexpr const char* helperSearch = "2PVA2";
+constexpr const char* plannedMask = "##,###"; ///< nothing planned is shown as nothing
+constexpr const char* stampMask = "dd.MM.yyyy hh:mm";
+constexpr int longestFilter = 60;
+
+} // namespace
+
+HelperArea::HelperArea(ui::Form& form, host::HostServices& services)
+    : services_(services),
+      frmWaldhelfer(form, "frmWaldhelfer", "Waldhelfer"),
+      lblFilter(form, "lblFilter", "Ansicht nach Nummer oder Name Filtern ..."),
+      txtFilter(form, "txtFilter", 24),
+      MSFG(form, "MSFG", 12),
+      txtEdit(form, "txtEdit", 12),
+      ProgressBar1(form, "ProgressBar1"),
+      frmSummen(form, "frmSummen"),
+      lblSumme(form, "lblSumme", "SUMME:"),
+      lbldruchschn(form, "lbldruchschn", "Ø ME geplant"),
+      lbldruchschnMenge(form, "lbldruchschnMenge"),
+      lblangem(form, "lblangem", "ME angemeldet"),
+      lblangemMenge(form, "lblangemMenge"),
+      lblangemWB(form, "lblangemWB", "ME angem. WB"),
+      lblangemWBMenge(form, "lblangemWBMenge"),
+      lblbest(form, "lblbest", "ME bestätigt"),
+      lblbestMenge(form, "lblbestMenge"),
       lblMengeneinheit(form, "lblMengeneinheit", "Einheit"),
       lblEinheit(form, "lblEinheit"),
-      mode_({}, {}, [] { return false; }) {}
+      btnNeu2(form, "btnNeu2", "&Neu"),
+      btnBearbeiten2(form, "btnBearbeiten2", "&Bearbeiten"),
+      btnSpeichern2(form, "btnSpeichern2", "&Speichern"),
+      btnAbbrechen2(form, "btnAbbrechen2", "Bearb.&Abbr."),
+      btnLoschen2(form, "btnLoschen2", "&Löschen"),
+      btnWaldhelfer(form, "btnWaldhelfer", "mehrere Waldhelfer &hinzufügen"),
+      btnAMB(form, "btnAMB", "alle angem. &Mengen bestät..."),
+      btnAWBMB(form, "btnAWBMB", "&alle angem. WB Mengen bestät..."),
+      btnXLS(form, "btnXLS", "&EXCEL"),
+      btnSerienmail(form, "btnSerienmail", "Serienmail and &Waldhelfer senden ..."),
+      helpers_(MSFG),
+      quantities_(MSFG, helpers_, txtEdit, ProgressBar1,
+                  {.condition = GuardedQuantities::ofContract,
+                   .editing = [this] { return !mode_.viewing(); },
+                   .nameOf = [](parts::KeyedRow& helper) { return helper.text(helpers::nameField); },
+                   .changed = [this] { showSums(); }}),
+      selection_(ProgressBar1),
+      mode_({.create = &btnNeu2,
+             .edit = &btnBearbeiten2,
+             .save = &btnSpeichern2,
+             .cancel = &btnAbbrechen2,
+             .remove = &btnLoschen2},
+            {.inView = {&txtFilter, &btnWaldhelfer, &btnAMB, &btnAWBMB}},
+            [this] { return !helpers_.empty(); }) {
+    connect();
+}
+
+void HelperArea::connect() {
+    txtFilter.setMaxLength(longestFilter);
+    txtFilter.onLeave = [this] {
+        applyFilter();
+        return true;
+    };
+    btnNeu2.onClick = [this] { addOne(); };
+    btnBearbeiten2.onClick = [this] { edit(); };
+    btnSpeichern2.onClick = [this] { save(); };
+    btnAbbrechen2.onClick = [this] { cancel(); };
+    btnLoschen2.onClick = [this] { removeCurrent(); };
+    btnWaldhelfer.onClick = [this] { chooseAll(); };
+    btnAMB.onClick = [this] { confirm(helpers::confirmAnnounced(contract_.record)); };
+    btnAWBMB.onClick = [this] { confirm(helpers::confirmOwners(contract_.record)); };
+    btnXLS.setEnabled(false);
+    btnSerienmail.setEnabled(false);
+}
 
 ui::Layout HelperArea::layout() {
-    return ui::frame(frmWaldhelfer, {ui::row({lblMengeneinheit, lblEinheit})}).growing();
+    return ui::frame(frmWaldhelfer,
+                     {ui::row({ui::field(lblFilter, txtFilter)}), ui::Layout{MSFG}.growing(), ProgressBar1,
+                      ui::frame(frmSummen, {ui::row({lblSumme, lbldruchschn, lbldruchschnMenge, lblangem,
+                                                     lblangemMenge, lblangemWB, lblangemWBMenge, lblbest,
+                                                     lblbestMenge, lblMengeneinheit, lblEinheit})}),
+                      ui::row({btnNeu2, btnBearbeiten2, btnSpeichern2, btnAbbrechen2, btnLoschen2, btnXLS}),
+                      ui::row({btnWaldhelfer, btnAMB, btnAWBMB, btnSerienmail})})
+        .growing();
+}
+
+std::vector<parts::KeyedGrid::Column> HelperArea::columns() const {
+    const auto quantity = [](const char* caption, const char* field, const char* mask) {
+        return parts::KeyedGrid::Column{
+            .caption = caption, .width = 13, .field = field, .mask = mask, .rightAligned = true};
+    };
+    const auto stamp = [](const char* caption, const char* field) {
+        return parts::KeyedGrid::Column{.caption = caption, .width = 16, .field = field, .mask = stampMask};
+    };
+    return {GuardedQuantities::markColumn(),
+            {.caption = "Mitgl.Nr.", .width = 9, .field = helpers::numberField, .rightAligned = true},
+            {.caption = "Mitglied Name", .width = 26, .field = helpers::nameField},
+            quantity("ME geplant", helpers::plannedField, plannedMask),
+            GuardedQuantities::column("ME angem.", GuardedQuantities::announced),
+            quantity("ME angem. WB", helpers::ownersField, quantityMask),
+            GuardedQuantities::column("ME best.", GuardedQuantities::confirmed),
+            stamp("WH Änderung", helpers::changedByHelperField),
+            stamp("Zent. Änderung", helpers::changedByCentreField)};
 }
 
 void HelperArea::open(const LogisticsContract& contract) {
+    contract_ = contract;
+    txtFilter.setText("");
+    filter_.clear();
     lblEinheit.setCaption(contract.unit);
+    helpers_.setColumns(columns());
+    quantities_.show({});
     mode_.reset();
 }
 
-void HelperArea::reload(std::optional<std::int64_t> /*key*/) {}
+void HelperArea::restoreColumns() {
+    services_.gridLayouts.restore(contract_.session, MSFG, helperLayout);
+}
+
+void HelperArea::saveColumns() {
+    services_.gridLayouts.save(contract_.session, MSFG, helperLayout);
+}
+
+void HelperArea::reload(std::optional<std::int64_t> key) {
+    auto read =
+        parts::KeyedRows::read(contract_.connection(), helpers::list(contract_.record, filter_), "ID");
+    // A contract without helpers answers with a row that is none.
+    std::erase_if(read.rows, [](parts::KeyedRow& row) { return row.key() == 0; });
+    quantities_.show(std::move(read.rows));
+    if (key) helpers_.select(*key);
+    mode_.enter(State::view);
+}
+
+void HelperArea::applyFilter() {
+    if (txtFilter.text() == filter_) return;
+    const std::string before = std::exchange(filter_, parts::typedText(txtFilter));
+    try {
+        reload(std::nullopt);
+    } catch (...) {
+        filter_ = before;
+        throw;
+    }
+}
+
+void HelperArea::showSums() {
+    const auto shown = [this](const char* field) {
+        return base::formatNumber(helpers_.sum(field), quantityMask, base::Locale::german());
+    };
+    // Every helper is planned the same.
+    lbldruchschnMenge.setCaption(helpers_.empty()
+                                     ? std::string{}
+                                     : base::numberText(helpers_.rows().front().field(helpers::plannedField),
+                                                        plannedMask, base::Locale::german()));
+    lblangemMenge.setCaption(shown(GuardedQuantities::announced));
+    lblangemWBMenge.setCaption(shown(helpers::ownersField));
+    lblbestMenge.setCaption(shown(GuardedQuantities::confirmed));
+}
+
+void HelperArea::edit() {
+    mode_.enter(State::edit);
+    quantities_.startEditing();
+}
+
+void HelperArea::save() {
+    if (!quantities_.save(services_, contract_.session, helpers::presentQuantities(contract_.record))) return;
+    reload(std::nullopt);
+    parts::SafeSetFocus(MSFG);
+}
+
+void HelperArea::cancel() {
+    reload(std::nullopt);
+    parts::SafeSetFocus(MSFG);
+}
+
+void HelperArea::addOne() {
+    host::HostContext& context = host::moduleState().context;
+    const std::string level = services_.dataAccess.readValue(
+        contract_.session, "ID_ACCESS_LEVELS", "VERTRAEGE", " ID_VERTRAG = " + std::to_string(contract_.id));
+    const std::int32_t person =
+        services_.personalPicker.choose(contract_.session, helperSearch,
+                                        base::wholeNumber<int>(level).value_or(contract_.session.accessLevel),
+                                        context.g_intStandardMandanten, 0, context.blnOK);
+    if (person <= 0) return;
+    const auto rowOfPerson = [&]() -> std::optional<std::int64_t> {
+        const auto row = contract_.connection().open(helpers::rowsOf(contract_.record, person));
+        return row->atEnd() ? std::nullopt : std::optional{row->integer("ID")};
+    };
+    if (!rowOfPerson()) contract_.connection().execute(helpers::add(contract_.record, person));
+    // The new row has to be seen, whatever the filter says.
+    txtFilter.setText("");
+    filter_.clear();
+    reload(rowOfPerson());
+    parts::SafeSetFocus(MSFG);
+}
+
+void HelperArea::chooseAll() {
+    try {
+        if (!selection_.run(contract_)) return;
+    } catch (const base::Refused&) {
+        // What was written before the failure is shown; should that fail too, the message says how much it
+        // is.
+        try {
+            reload(std::nullopt);
+        } catch (const std::exception& error) {
+            services_.errors.report(error);
+        }
+        throw;
+    }
+    reload(std::nullopt);
+}
+
+void HelperArea::removeCurrent() {
+    const auto key = helpers_.currentKey();
+    if (!key) return;
+    std::string question;
+    for (const int number :
+         {host::textNumber::removeHelper, host::textNumber::deleteRecord, host::textNumber::helperIsLost})
+        question += (question.empty() ? "" : "\n") + services_.localizer.text(number, contract_.session);
+    if (!parts::confirmed(services_.display, question, ui::box::exclamation)) return;
+    contract_.connection().execute(helpers::remove(*key));
+    reload(std::nullopt);
+}
+
+void HelperArea::confirm(const std::string& statement) {
+    contract_.connection().execute(statement);
+    parts::ShowMessage(services_.display, "Aktualisieren beendet.", ui::box::information);
+    reload(std::nullopt);
+}
 
 } // namespace tellurix::logistics

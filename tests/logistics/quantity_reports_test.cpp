@@ -1,6 +1,6 @@
 #include "module/host/module_state.h"
 #include "module/logistics/GuardedQuantities.h"
-#include "tests/support/ContractTest.h"
+#include "tests/logistics/QuantityTest.h"
 
 namespace tellurix::tests {
 namespace {
@@ -17,10 +17,8 @@ constexpr int announcedColumn = 2;
 constexpr int confirmedColumn = 3;
 
 /// The quantity reports, opened as the host does.
-class QuantityReports : public ContractTest {
+class QuantityReports : public QuantityTest {
 protected:
-    QuantityReports() { ownTables = {"WVO_VERTRAG_WALDHELFER"}; }
-
     /// Chooses a helper and works on his reports, which are closed afterwards.
     void reports(std::int32_t helper, const ScriptedDisplay::Script& script) {
         host.display.onWindow("F_VertragMengenmeldung_WVO", [&, helper](User& user) {
@@ -42,39 +40,6 @@ protected:
             user.click("btnBearbeiten");
             script(user);
         });
-    }
-
-    static void typeCell(User& user, int row, int column, const std::string& text) {
-        user.select("MSFG", row, column);
-        user.doubleClick("MSFG");
-        user.replaceText("txtEdit", text);
-        user.key(Key::enter);
-    }
-    /// The rows as the user sees them, one a line.
-    static std::string shown(User& user) {
-        std::string all;
-        for (const ui::Grid::Row& row : user.grid("MSFG").rows()) {
-            for (const std::string& cell : row)
-                all += cell + "|";
-            all += "\n";
-        }
-        return all;
-    }
-    static std::string cell(User& user, int row, int column) { return user.grid("MSFG").cell(row, column); }
-    /// Announced, confirmed, and when the centre changed them.
-    std::string stored(int key) {
-        return row("SELECT MENGE_ANG,MENGE_BES,DATUM_CHANGE_ZENT FROM WVO_VERTRAG_WALDHELFER WHERE ID = " +
-                   std::to_string(key));
-    }
-    void colleague(const std::string& change, int key) {
-        host.database.execute("UPDATE WVO_VERTRAG_WALDHELFER SET " + change +
-                              " WHERE ID = " + std::to_string(key));
-    }
-    std::vector<std::string> updates() const {
-        std::vector<std::string> all;
-        for (const std::string& statement : host.statements)
-            if (statement.starts_with("UPDATE")) all.push_back(statement);
-        return all;
     }
 };
 
@@ -246,9 +211,10 @@ TEST_F(QuantityReports, WhatNobodyTypedKeepsItsDecimalsAndItsStamp) {
         user.key(Key::enter); // looked at
         typeCell(user, 0, confirmedColumn, "351");
         user.click("btnSpeichern");
-        ASSERT_EQ(updates().size(), 3U) << "every row is sent, and guards itself";
-        EXPECT_EQ(updates()[1].find("UPDATE WVO_VERTRAG_WALDHELFER SET MENGE_ANG = 80.50,MENGE_BES = 0.00, "),
-                  0U);
+        ASSERT_EQ(sent("UPDATE").size(), 3U) << "every row is sent, and guards itself";
+        EXPECT_EQ(
+            sent("UPDATE")[1].find("UPDATE WVO_VERTRAG_WALDHELFER SET MENGE_ANG = 80.50,MENGE_BES = 0.00, "),
+            0U);
         EXPECT_EQ(stored(6), halves);
 
         // Typed is typed, even where it looks the same.
@@ -266,7 +232,7 @@ TEST_F(QuantityReports, ConfirmingAllCopiesTheQuantitiesWithTheirDecimals) {
                       cell(user, 2, confirmedColumn),
                   "400|81|0");
         EXPECT_EQ(user.caption("lblCol3"), "481");
-        EXPECT_EQ(updates().size(), 0U) << "written on saving";
+        EXPECT_EQ(sent("UPDATE").size(), 0U) << "written on saving";
         user.click("btnAbbrechen");
         EXPECT_EQ(user.caption("lblCol3"), "350");
 
@@ -343,7 +309,7 @@ TEST_F(QuantityReports, WhatAColleagueHasEnteredMeanwhile) {
             host.statements.clear();
             user.click("btnSpeichern");
             const bool refused = c.answer == Answer::no;
-            EXPECT_EQ(updates().size(), refused ? 0U : c.change == nullptr ? 2U : 3U);
+            EXPECT_EQ(sent("UPDATE").size(), refused ? 0U : c.change == nullptr ? 2U : 3U);
             EXPECT_EQ(user.usable("btnSpeichern"), refused);
         });
         EXPECT_EQ(stored(1), c.stored);
