@@ -393,6 +393,15 @@ TEST_F(QuantityReports, AHelperWhoseContractsCannotBeReadHasNone) {
         user.type("txtWaldhelfer", "3004");
         user.key(Key::tab);
         EXPECT_EQ(user.grid("MSFG").rows().size(), 1U) << "the same number once more";
+
+        host.pickedPerson = baeumler;
+        host.database.failOn("sum(c.MENGEWB)");
+        user.focus("txtWaldhelfer");
+        user.ctrl();
+        EXPECT_EQ(shown(user), "");
+        host.database.failOn("");
+        user.key(Key::tab);
+        EXPECT_EQ(user.grid("MSFG").rows().size(), 1U) << "the same helper, found by the search";
     });
 }
 
