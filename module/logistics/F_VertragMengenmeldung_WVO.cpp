@@ -1,6 +1,7 @@
 #include "module/logistics/F_VertragMengenmeldung_WVO.h"
 
 #include "module/base/number_format.h"
+#include "module/base/own_text.h"
 #include "module/base/whole_number.h"
 #include "module/logistics/quantity_cell.h"
 #include "module/logistics/quantity_listings.h"

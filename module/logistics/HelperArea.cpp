@@ -19,9 +19,9 @@ namespace tellurix::logistics {
 namespace {
 
 constexpr const char* helperLayout = "F_VERTRAG_WVO_WH";
-constexpr const char* helperSearch = "2PVA2";
+constexpr const char* searchForHelpers = "2PVA2";
 constexpr const char* plannedMask = "##,###"; ///< nothing planned is shown as nothing
-constexpr const char* stampMask = "dd.MM.yyyy hh:mm";
+constexpr const char* helperStampMask = "dd.MM.yyyy hh:mm";
 constexpr int longestFilter = 60;
 
 } // namespace
@@ -108,7 +108,8 @@ std::vector<parts::KeyedGrid::Column> HelperArea::columns() const {
             .caption = caption, .width = 13, .field = field, .mask = mask, .rightAligned = true};
     };
     const auto stamp = [](const char* caption, const char* field) {
-        return parts::KeyedGrid::Column{.caption = caption, .width = 16, .field = field, .mask = stampMask};
+        return parts::KeyedGrid::Column{
+            .caption = caption, .width = 16, .field = field, .mask = helperStampMask};
     };
     return {GuardedQuantities::markColumn(),
             {.caption = "Mitgl.Nr.", .width = 9, .field = helpers::numberField, .rightAligned = true},
@@ -195,7 +196,7 @@ void HelperArea::addOne() {
     const std::string level = services_.dataAccess.readValue(
         contract_.session, "ID_ACCESS_LEVELS", "VERTRAEGE", " ID_VERTRAG = " + std::to_string(contract_.id));
     const std::int32_t person =
-        services_.personalPicker.choose(contract_.session, helperSearch,
+        services_.personalPicker.choose(contract_.session, searchForHelpers,
                                         base::wholeNumber<int>(level).value_or(contract_.session.accessLevel),
                                         context.g_intStandardMandanten, 0, context.blnOK);
     if (person <= 0) return;
