@@ -58,8 +58,21 @@ void AdditionalTexts::load() {
 }
 
 void AdditionalTexts::toggle() {
-    picZusatzText.setVisible(!picZusatzText.visible());
-    parts::SafeSetFocus(picZusatzText.visible() ? static_cast<ui::Control&>(txtZusatz) : opener_);
+    if (picZusatzText.visible()) {
+        picZusatzText.setVisible(false);
+        parts::SafeSetFocus(opener_);
+    } else {
+        show();
+        parts::SafeSetFocus(txtZusatz);
+    }
+}
+
+void AdditionalTexts::show() {
+    // Asked for only here: most visits to a contract do not look at them.
+    for (Text& text : texts_)
+        text.box.setMaxLength(
+            contract_.services->columnWidth.of(contract_.session, "VERTRAEGE", text.column));
+    picZusatzText.setVisible(true);
 }
 
 void AdditionalTexts::write() {

@@ -39,6 +39,7 @@ private:
     };
 
     void toggle();
+    void show();
     void write(Text& text);
 
     parts::OpenContract contract_;

@@ -7,8 +7,9 @@ namespace tellurix::parts {
 
 void makeDateBox(ui::TextBox& box, host::HostServices& services, const host::TlxVar& session,
                  std::function<std::string()> title) {
-    ui::makeDateBox(box,
-                    [&services, &session] { tellInvalid(services.display, services.localizer, session); });
+    ui::makeDateBox(
+        box, [&services] { return services.clock.today(); },
+        [&services, &session] { tellInvalid(services.display, services.localizer, session); });
     box.onPick = [&box, &services, &session, title = std::move(title)] {
         box.setText(services.listPicker.choose(session, host::ListPicker::calendar, title(), box.text()));
     };

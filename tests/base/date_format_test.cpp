@@ -1,4 +1,5 @@
 #include "module/base/date_format.h"
+#include "module/base/typed_date.h"
 
 #include <stdexcept>
 
@@ -49,6 +50,12 @@ TEST(DateFormat, ShowsDaysAtTheEdgesOfTheCalendar) {
               "01.01.1900 23:59");
     EXPECT_EQ(formatDate(Date(1900y / 1 / 1), "dddd", Locale::german()), "Montag")
         << "day 2 of the weekday boxes";
+}
+
+TEST(TypedDate, IsNoneWhereNoDayIsMeant) {
+    for (const char* text :
+         {"", " ", "+", "-", "+-3", "+1.5", "+10000", "heut", "31.2.", "5", "5/6.", "29.2."})
+        EXPECT_FALSE(typedDate(text, 2025y / 12 / 30)) << text;
 }
 
 TEST(DateFormat, ReadsADateAsTypedTheDayFirst) {

@@ -290,6 +290,7 @@ TEST_F(ContractEditor, RemovingAndChoosingTheCustomerWritesAtOnce) {
 }
 
 TEST_F(ContractEditor, AdditionalTextsAreWrittenWhenTheyAreLeft) {
+    host.columnWidths["VERTRAEGE.ZUSATZTEXT_2"] = 12;
     edit(1, [&](User& user) {
         EXPECT_FALSE(user.usable("txtZusatz"));
         user.click("btnZusatz");
@@ -309,6 +310,9 @@ TEST_F(ContractEditor, AdditionalTextsAreWrittenWhenTheyAreLeft) {
         EXPECT_FALSE(user.usable("txtZusatz"));
         user.click("btnZusatz");
         user.type("txtZusatz", "zuletzt getippt");
+        user.type("txtZusatzText(1)", "so lang, wie die Spalte ist");
+        EXPECT_EQ(user.text("txtZusatzText(1)"), "so lang, wie") << "the width of its column";
+        user.type("txtZusatzText(1)", "");
         user.close();
     });
     EXPECT_EQ(row("SELECT ZUSATZTEXT,ZUSATZTEXT_1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"),

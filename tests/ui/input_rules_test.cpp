@@ -20,7 +20,9 @@ using ui::Key;
 class Order final : public ui::Form {
 public:
     Order() : Form("Order", "Bestellung") {
-        ui::makeDateBox(txtDatum, [this] { ++invalidDates; });
+        ui::makeDateBox(
+            txtDatum, [] { return base::Date{std::chrono::year{2025} / 12 / 30}; },
+            [this] { ++invalidDates; });
         ui::makeNumberBox(txtMenge, "#####0.00", base::Locale::german());
         txtKunde.onPick = [this] {
             ++picks;
@@ -201,6 +203,18 @@ TEST_F(InputRules, ADateIsRewrittenAndABadOneKeepsTheFocusAndTheText) {
         user.type("txtDatum", "5.6.25");
         user.key(Key::tab);
         EXPECT_EQ(user.text("txtDatum"), "05.06.2025");
+        for (const auto& [typed, date] :
+             std::vector<std::pair<const char*, const char*>>{{"15.1.", "15.01.2025"},
+                                                              {"1.12", "01.12.2025"},
+                                                              {"h", "30.12.2025"},
+                                                              {"Heute", "30.12.2025"},
+                                                              {"+7", "06.01.2026"},
+                                                              {"-30", "30.11.2025"},
+                                                              {"150125", "15.01.2025"}}) {
+            user.type("txtDatum", typed);
+            user.focus("txtName");
+            EXPECT_EQ(user.text("txtDatum"), date) << typed;
+        }
         user.type("txtDatum", "31.02.2025x");
         EXPECT_EQ(user.text("txtDatum"), "31.02.2025") << "letters are no part of a date";
         user.key(Key::tab);
