@@ -71,7 +71,7 @@ std::vector<parts::KeyedGrid::Column> F_VertragMengenmeldung_WVO::columns() {
     };
     const auto unnamed = [](const char* caption, int width, std::size_t field) {
         return parts::KeyedGrid::Column{
-            .caption = caption, .width = width, .shown = [field](parts::KeyedRow& contract) {
+            .caption = caption, .width = width, .sorts = true, .shown = [field](parts::KeyedRow& contract) {
                 return contract.text(field);
             }};
     };

@@ -77,7 +77,8 @@ parts::KeyedGrid::Column GuardedQuantities::column(std::string caption, const ch
             .field = field,
             .mask = quantityMask,
             .rightAligned = true,
-            .editable = true};
+            .editable = true,
+            .sorts = true};
 }
 
 void GuardedQuantities::show(std::vector<parts::KeyedRow> rows) {

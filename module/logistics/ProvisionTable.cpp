@@ -80,23 +80,31 @@ void ProvisionTable::open(const std::string& language, int carrierWidth) {
                                         .field = field,
                                         .mask = "0",
                                         .rightAligned = true,
-                                        .editable = true};
+                                        .editable = true,
+                                        .sorts = true};
     };
     const auto quantity = [](const char* caption, const char* field) {
-        return parts::KeyedGrid::Column{
-            .caption = caption, .width = 14, .field = field, .mask = quantityMask, .rightAligned = true};
+        return parts::KeyedGrid::Column{.caption = caption,
+                                        .width = 14,
+                                        .field = field,
+                                        .mask = quantityMask,
+                                        .rightAligned = true,
+                                        .sorts = true};
     };
     const auto stamp = [](const char* field) {
         return parts::KeyedGrid::Column{.field = field, .mask = stampMask, .hidden = true};
     };
     grid_.setColumns({
-        {.caption = "WH-Nr.", .width = 8, .field = "NUMMER"},
-        {.caption = "Waldhelfer", .width = 24, .field = nameColumn, .shown = name},
-        {.caption = "Meldung", .width = 9, .shown = [this](KeyedRow& row) { return mark(row); }},
+        {.caption = "WH-Nr.", .width = 8, .field = "NUMMER", .sorts = true},
+        {.caption = "Waldhelfer", .width = 24, .field = nameColumn, .sorts = true, .shown = name},
+        {.caption = "Meldung",
+         .width = 9,
+         .sorts = true,
+         .shown = [this](KeyedRow& row) { return mark(row); }},
         loads("Züge", reportField::announced),
-        {.caption = "Bemerkung WH", .width = 28, .field = "BEMERKUNG"},
+        {.caption = "Bemerkung WH", .width = 28, .field = "BEMERKUNG", .sorts = true},
         loads("Züge zugesagt", reportField::confirmed),
-        {.caption = "Bemerkung", .width = 24, .field = reportField::carrier, .editable = true},
+        {.caption = "Bemerkung", .width = 24, .field = reportField::carrier, .editable = true, .sorts = true},
         quantity("Menge angem.", "MENGE_ANG"),
         quantity("Menge best.", "MENGE_BES"),
         quantity("Menge geliefert", "Geliefert"),

@@ -5,6 +5,7 @@
 #include "module/base/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tellurix::parts {
 
@@ -18,6 +19,21 @@ std::string oneCell(std::string text) {
     return text;
 }
 
+/// Which of two values of one column comes first; a value that is missing comes before all others.
+bool lessThan(const base::Value& left, const base::Value& right) {
+    const auto rank = [](const base::Value& value) {
+        return std::holds_alternative<base::Null>(value) ? 0 : 1;
+    };
+    if (rank(left) != rank(right) || rank(left) == 0) return rank(left) < rank(right);
+    const auto* text = std::get_if<std::string>(&left);
+    const auto* otherText = std::get_if<std::string>(&right);
+    if (text != nullptr && otherText != nullptr) return base::toUpper(*text) < base::toUpper(*otherText);
+    const auto* moment = std::get_if<base::DateTime>(&left);
+    const auto* otherMoment = std::get_if<base::DateTime>(&right);
+    if (moment != nullptr && otherMoment != nullptr) return *moment < *otherMoment;
+    return base::numberIn(left) < base::numberIn(right);
+}
+
 } // namespace
 
 void KeyedGrid::setColumns(std::vector<Column> columns) {
@@ -29,6 +45,26 @@ void KeyedGrid::setColumns(std::vector<Column> columns) {
                          .rightAligned = column.rightAligned,
                          .visible = !column.hidden});
     grid_.setColumns(std::move(shown));
+    sorting_.reset();
+    if (std::ranges::find(columns_, true, &Column::sorts) == columns_.end()) return;
+    grid_.onHeadingClick = [this](int column) {
+        if (!columns_.at(static_cast<std::size_t>(column)).sorts) return;
+        sortBy(column, sorting_ && sorting_->column == column && !sorting_->descending);
+    };
+}
+
+void KeyedGrid::sortBy(int column, bool descending) {
+    sorting_ = {column, descending};
+    grid_.markOrder(column, descending ? ui::Grid::Order::descending : ui::Grid::Order::ascending);
+    drawRows(currentKey());
+}
+
+bool KeyedGrid::comesBefore(std::size_t row, std::size_t other) {
+    const Column& column = columns_[static_cast<std::size_t>(sorting_->column)];
+    const auto [first, second] = sorting_->descending ? std::pair{other, row} : std::pair{row, other};
+    if (column.shown || column.field.empty())
+        return base::toUpper(cellText(rows_[first], column)) < base::toUpper(cellText(rows_[second], column));
+    return lessThan(rows_[first].field(column.field), rows_[second].field(column.field));
 }
 
 std::string KeyedGrid::cellText(KeyedRow& row, const Column& column) const {
@@ -73,10 +109,14 @@ void KeyedGrid::drawRows(std::optional<std::int64_t> current) {
     seen_.clear();
     std::vector<ui::Grid::Row> cells;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        if (condition_ && !condition_(rows_[i])) continue;
-        seen_.push_back(i);
-        cells.push_back(cellsOf(rows_[i]));
+        if (!condition_ || condition_(rows_[i])) seen_.push_back(i);
     }
+    if (sorting_) {
+        std::ranges::stable_sort(
+            seen_, [this](std::size_t row, std::size_t other) { return comesBefore(row, other); });
+    }
+    for (const std::size_t row : seen_)
+        cells.push_back(cellsOf(rows_[row]));
     grid_.setRows(std::move(cells));
     if (const auto found = current ? find(*current) : std::nullopt) {
         grid_.setCurrent(*found, grid_.currentColumn());

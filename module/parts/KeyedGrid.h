@@ -16,8 +16,9 @@ namespace tellurix::parts {
 /// What a grid shows: rows of a query, each known by its key. It keeps the values as they were read
 /// beside the texts of the cells, which may show fewer decimals.
 ///
-/// Some of the rows can be hidden from the eye. A row's number is that of the grid, so it counts those
-/// that are seen; what works on the rows as a whole (sums, copying, the text) works on all of them.
+/// Some of the rows can be hidden from the eye, and those that are seen put into another order. A row's
+/// number is that of the grid; what works on the rows as a whole (sums, copying, the text) works on all of
+/// them, in the order of the query.
 class KeyedGrid {
 public:
     struct Column {
@@ -28,6 +29,7 @@ public:
         bool rightAligned = false;
         bool hidden = false;
         bool editable = false;
+        bool sorts = false; ///< a click on its heading orders the rows by it, another one the other way
         /// What the cell shows where it is not one field in a mask.
         std::function<std::string(KeyedRow&)> shown = {};
     };
@@ -35,6 +37,9 @@ public:
     /// @param locale for the numbers that are shown in a mask
     explicit KeyedGrid(ui::Grid& grid, const base::Locale& locale = base::Locale::german())
         : grid_(grid), locale_(locale) {}
+    // The grid calls it.
+    KeyedGrid(const KeyedGrid&) = delete;
+    KeyedGrid& operator=(const KeyedGrid&) = delete;
 
     /// The columns, for rows that are shown from now on.
     void setColumns(std::vector<Column> columns);
@@ -49,6 +54,10 @@ public:
     void redraw();
     /// Hides the rows that do not fulfil a condition, from now on and as they are now; none hides none.
     void showOnly(std::function<bool(KeyedRow&)> condition);
+
+    /// Orders the rows that are seen, from now on, by the values of a column: what is empty first, numbers
+    /// by their size, texts without regard to capital letters.
+    void sortBy(int column, bool descending);
 
     int rowCount() const { return static_cast<int>(seen_.size()); }
     bool empty() const { return rows_.empty(); }
@@ -88,6 +97,7 @@ public:
 
 private:
     std::string cellText(KeyedRow& row, const Column& column) const;
+    bool comesBefore(std::size_t row, std::size_t other);
     void drawRow(int row);
     void drawRows(std::optional<std::int64_t> current);
     ui::Grid::Row cellsOf(KeyedRow& row) const;
@@ -97,6 +107,11 @@ private:
     std::vector<Column> columns_;
     std::vector<KeyedRow> rows_;
     std::function<bool(KeyedRow&)> condition_;
+    struct Sorting {
+        int column;
+        bool descending;
+    };
+    std::optional<Sorting> sorting_;
     std::vector<std::size_t> seen_; ///< beside the rows of the grid: which of the rows they are
 };
 

@@ -43,14 +43,15 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
     const auto status = [this](base::Fields& contract) {
         return named(contract.flag("ABGESCHLOSSEN") ? "start.isClosed" : "start.isOpen");
     };
-    contracts_.setColumns({{.caption = "Vertrag", .width = 34, .field = "VERTRAG_NAME"},
-                           {.caption = "Vertragsart", .width = 18, .shown = type},
-                           {.caption = "Kunde", .width = 26, .field = "KURZBEZEICHNUNG"},
-                           {.caption = "Lieferung von", .width = 14, .field = "LIEFERVON"},
-                           {.caption = "bis", .width = 11, .field = "LIEFERBIS"},
-                           {.caption = "Status", .width = 13, .shown = status},
-                           {.caption = "Preise", .width = 7, .field = "PREISE", .rightAligned = true},
-                           {.caption = "Mengen", .width = 8, .field = "MENGEN", .rightAligned = true}});
+    contracts_.setColumns(
+        {{.caption = "Vertrag", .width = 34, .field = "VERTRAG_NAME", .sorts = true},
+         {.caption = "Vertragsart", .width = 18, .sorts = true, .shown = type},
+         {.caption = "Kunde", .width = 26, .field = "KURZBEZEICHNUNG", .sorts = true},
+         {.caption = "Lieferung von", .width = 14, .field = "LIEFERVON", .sorts = true},
+         {.caption = "bis", .width = 11, .field = "LIEFERBIS", .sorts = true},
+         {.caption = "Status", .width = 13, .sorts = true, .shown = status},
+         {.caption = "Preise", .width = 7, .field = "PREISE", .rightAligned = true, .sorts = true},
+         {.caption = "Mengen", .width = 8, .field = "MENGEN", .rightAligned = true, .sorts = true}});
     grdNotifications.setColumns({{.caption = "Zeit", .width = 9},
                                  {.caption = "Code", .width = 9},
                                  {.caption = "Vertragsart", .width = 18}});

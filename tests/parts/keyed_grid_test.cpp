@@ -70,6 +70,37 @@ TEST_F(Reports, AreShownFieldByFieldAndKeepTheirCurrentRow) {
     EXPECT_FALSE(parts::KeyedRows::read(host.database, "SELECT ID FROM MELDUNG", "ID", 3).more);
 }
 
+TEST_F(Reports, AreOrderedByTheColumnWhoseHeadingIsClicked) {
+    auto columns = reports.columns();
+    for (parts::KeyedGrid::Column& column : columns)
+        column.sorts = !column.editable || column.field == "ZUEGE";
+    reports.setColumns(columns);
+    load(" ORDER BY ID");
+    EXPECT_TRUE(reports.select(7));
+    const auto clicked = [&](int column) {
+        list.grid.onHeadingClick(column);
+        std::string keys;
+        for (int row = 0; row < reports.rowCount(); ++row)
+            keys += std::to_string(reports.keyOf(row));
+        return keys;
+    };
+    EXPECT_EQ(clicked(1), "537") << "no name, Auer, Huber";
+    EXPECT_EQ(clicked(1), "735") << "the other way";
+    EXPECT_EQ(list.grid.columns()[1].order, ui::Grid::Order::descending);
+    EXPECT_EQ(clicked(2), "357") << "by the numbers, of which the cells show 0 and 13";
+    EXPECT_EQ(list.grid.columns()[1].order, ui::Grid::Order::none);
+    EXPECT_EQ(clicked(3), "357") << "this column does not sort";
+    EXPECT_EQ(clicked(4), "537") << "by what is shown";
+    EXPECT_EQ(reports.currentKey(), 7) << "the current row has moved with the others";
+    load(" ORDER BY ID");
+    EXPECT_EQ(reports.keyOf(0), 5) << "rows that are read again are ordered alike";
+    reports.setValue(0, "ZUEGE", base::Decimal{9});
+    EXPECT_EQ(cells(0).substr(0, 9), "- | - | 9") << "a row's number is that of the grid";
+    reports.copyField("ZUEGE", "ZUGESAGT");
+    const parts::KeyedGrid::TextColumn one[] = {{"Name", "NAME"}};
+    EXPECT_EQ(reports.text(one), "Name\r\nAuer\r\n\r\nHuber") << "as the query gives them";
+}
+
 TEST_F(Reports, KeepTheValuesThatTheCellsRound) {
     load(" ORDER BY ID DESC");
     EXPECT_EQ(reports.sum("ZUEGE"), base::Decimal(1275, 2)) << "not 13 + 0";

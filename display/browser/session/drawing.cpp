@@ -74,6 +74,7 @@ json drawColumns(const ui::Grid& grid) {
                            {"width", column.width},
                            {"right", column.rightAligned},
                            {"sized", column.sized},
+                           {"order", column.order},
                            {"visible", column.visible}});
     }
     return columns;

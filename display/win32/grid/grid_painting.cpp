@@ -41,6 +41,7 @@ private:
             const RECT cell = geometry_.cell(-1, column);
             if (cell.left == cell.right) continue;
             paintText(cell, columnAt(column).caption, columnAt(column).rightAligned);
+            paintOrder(cell, columnAt(column).order);
             line({cell.right - 1, cell.top + 2, cell.right, cell.bottom - 2}, COLOR_3DSHADOW);
         }
         line({0, bar.bottom - 1, area.right, bar.bottom}, COLOR_3DSHADOW);
@@ -78,6 +79,15 @@ private:
         DrawTextW(dc_, wide.c_str(), static_cast<int>(wide.size()), &cell,
                   DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS |
                       (rightAligned ? DT_RIGHT : DT_LEFT));
+    }
+
+    void paintOrder(RECT cell, ui::Grid::Order order) {
+        if (order == ui::Grid::Order::none) return;
+        cell.right -= theme_.scaled(2);
+        // The font of signs has its arrows in the places of two digits.
+        const Selected withFont{dc_, theme_.signFont()};
+        DrawTextW(dc_, order == ui::Grid::Order::ascending ? L"5" : L"6", 1, &cell,
+                  DT_SINGLELINE | DT_VCENTER | DT_RIGHT);
     }
 
     void paintCurrentCell(RECT cell) {

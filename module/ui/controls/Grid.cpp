@@ -26,6 +26,14 @@ void Grid::setColumns(std::vector<Column> columns) {
     markDirty();
 }
 
+void Grid::markOrder(int column, Order order) {
+    for (Column& other : columns_)
+        other.order = Order::none;
+    columns_.at(static_cast<std::size_t>(column)).order = order;
+    columnsDirty_ = true;
+    markDirty();
+}
+
 void Grid::sizeColumn(int column, int width) {
     Column& sized = columns_.at(static_cast<std::size_t>(column));
     if (width == fitting) {

@@ -14,12 +14,16 @@ class Grid final : public Control {
 public:
     static constexpr ControlKind ownKind = ControlKind::grid;
 
+    /// How a column orders the rows.
+    enum class Order { none, ascending, descending };
+
     struct Column {
         std::string caption;
         int width = 10; ///< room for how many average characters
         bool rightAligned = false;
         bool visible = true;
         bool sized = false; ///< by the user: it is as wide as it says, however much room there is
+        Order order = Order::none;
     };
     using Row = std::vector<std::string>;
 
@@ -36,6 +40,8 @@ public:
     /// Instead of a width: as wide as the longest text.
     static constexpr int fitting = 0;
     static constexpr int widestColumn = 200;
+    /// Marks the column that the rows are ordered by, and no other.
+    void markOrder(int column, Order order);
     /// Gives a column the width that the user wants, in average characters.
     void sizeColumn(int column, int width);
     const std::vector<Row>& rows() const { return rows_; }

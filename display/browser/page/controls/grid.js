@@ -5,6 +5,7 @@
 import { ColumnEdge } from './column_edge.js';
 import { newElementId, View } from './view.js';
 
+const orders = ['none', 'ascending', 'descending'];
 const rowsBeyond = 8; // drawn above and below those that are seen: scrolling shows no gaps
 
 export class Grid extends View {
@@ -73,6 +74,7 @@ export class Grid extends View {
       cell.classList.toggle('right', column.right);
       cell.textContent = column.caption;
       cell.title = column.caption;
+      if (column.order) cell.setAttribute('aria-sort', orders[column.order]);
       new ColumnEdge(cell, {
         pulled: (track) => this.element.style.setProperty('--columns', widths.with(place, track).join(' ')),
         sized: (width) => {
