@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/Refused.h"
 #include "module/logistics/ProvisionStatements.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/ui/controls/CheckBox.h"
