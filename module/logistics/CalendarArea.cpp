@@ -1,20 +1,384 @@
 #include "module/logistics/CalendarArea.h"
 
+#include "module/base/Refused.h"
+#include "module/base/field_text.h"
+#include "module/base/number_format.h"
+#include "module/base/whole_number.h"
+#include "module/host/text_numbers.h"
+#include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
+#include "module/ui/controls/caption.h"
+#include "module/ui/input/number_box.h"
+
+#include <cstdlib>
+
 namespace tellurix::logistics {
 
-CalendarArea::CalendarArea(ui::Form& form, host::HostServices& /*services*/,
-                           const std::optional<DeliveryPeriod>& /*period*/)
-    : frmKalenderwochen(form, "frmKalenderwochen", "Kalenderwochen"), mode_({}, {}, [] { return false; }) {}
+using base::OwnText;
+using ui::column;
+using ui::field;
+using ui::row;
+
+namespace {
+
+constexpr const char* layoutKey = "F_VERTRAG_WVO_KAL";
+constexpr const char* yearMask = "0000";
+constexpr const char* planMask = "#####0";
+constexpr const char* quantityMask = "##,##0.00";
+/// The number of the column with year and week in the list's query.
+constexpr int byWeek = 2;
+
+bool hasField(const base::Fields& row, std::string_view name) {
+    for (std::size_t i = 0; i < row.fieldCount(); ++i)
+        if (row.fieldName(i) == name) return true;
+    return false;
+}
+
+} // namespace
+
+CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
+                           const std::optional<DeliveryPeriod>& period)
+    : services_(services),
+      period_(period),
+      frmKalenderwochen(form, "frmKalenderwochen"),
+      DataGridKalendar(form, "DataGridKalendar", 16),
+      lblMeldung(form, "lblMeldung"),
+      frmKalendar(form, "frmKalendar", "Kalenderwoche"),
+      lblKW_Year(form, "lblKW_Year", "Jahr"),
+      txtJahr(form, "txtJahr", 6),
+      lblKW(form, "lblKW", "KW"),
+      txtWoche(form, "txtWoche", 6),
+      lblPlanmenge(form, "lblPlanmenge", "Planmenge"),
+      txtPlanmenge(form, "txtPlanmenge", 10),
+      frmVergleich(form, "frmVergleich", "Plan und Vertrag"),
+      lblPlan(form, "lblPlan", "Plan"),
+      lblPlanWert(form, "lblPlanWert"),
+      lblVertrag(form, "lblVertrag", "Vertrag"),
+      lblVertragWert(form, "lblVertragWert"),
+      lblDifferenz(form, "lblDifferenz", "Differenz"),
+      lblDifferenzWert(form, "lblDifferenzWert"),
+      btnNeu1(form, "btnNeu1", "Neu"),
+      btnBearbeiten1(form, "btnBearbeiten1", "Bearbeiten"),
+      btnSpeichern1(form, "btnSpeichern1", "Speichern"),
+      btnAbbrechen1(form, "btnAbbrechen1", "Bearb.Abbr."),
+      btnLoschen1(form, "btnLoschen1", "Löschen"),
+      btnGenWeek(form, "btnGenWeek", "autom. Erstellen"),
+      weeks_(DataGridKalendar, services.locale),
+      plan_(txtPlanmenge, planMask, services.locale),
+      mode_({.create = &btnNeu1,
+             .edit = &btnBearbeiten1,
+             .save = &btnSpeichern1,
+             .cancel = &btnAbbrechen1,
+             .remove = &btnLoschen1},
+            {.inView = {&DataGridKalendar, &btnGenWeek}, .whileEdited = {&frmKalendar}},
+            [this] { return weeks_.currentKey().has_value(); }) {
+    connect();
+}
+
+void CalendarArea::connect() {
+    ui::makeDigitBox(txtJahr);
+    txtJahr.setMaxLength(4);
+    ui::makeDigitBox(txtWoche);
+    txtWoche.setMaxLength(2);
+    txtJahr.onPick = [this] {
+        if (const DeliveryPeriod* period = requiredPeriod()) pick(txtJahr, lblKW_Year, yearChoices(*period));
+    };
+    txtWoche.onPick = [this] {
+        const DeliveryPeriod* period = requiredPeriod();
+        if (period == nullptr) return;
+        const auto year = base::wholeNumber<int>(txtJahr.text());
+        pick(txtWoche, lblKW, weekChoices(*period, year.value_or(static_cast<int>(period->from.year()))));
+    };
+    txtJahr.onLeave = [this] { return leaveYear(); };
+    txtWoche.onLeave = [this] { return leaveWeek(); };
+    DataGridKalendar.onHeadingClick = [this](int heading) { sortBy(heading); };
+    DataGridKalendar.onDoubleClick = [this] {
+        if (btnBearbeiten1.usable()) startEdit();
+    };
+    btnNeu1.onClick = [this] { startNew(); };
+    btnBearbeiten1.onClick = [this] { startEdit(); };
+    btnSpeichern1.onClick = [this] { save(); };
+    btnAbbrechen1.onClick = [this] { cancel(); };
+    btnLoschen1.onClick = [this] { removeWeek(); };
+    btnGenWeek.onClick = [this] { generate(); };
+    for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
+        changes_.watch(*box);
+}
 
 ui::Layout CalendarArea::layout() {
-    return ui::frame(frmKalenderwochen, {}).growing();
+    return ui::frame(
+               frmKalenderwochen,
+               {row({
+                        column({ui::Layout{DataGridKalendar}.growing(), lblMeldung}).growing(),
+                        column({
+                            ui::frame(frmKalendar,
+                                      {ui::fields(1, {field(lblKW_Year, txtJahr), field(lblKW, txtWoche),
+                                                      field(lblPlanmenge, txtPlanmenge)})}),
+                            ui::frame(frmVergleich, {ui::fields(1, {field(lblPlan, lblPlanWert),
+                                                                    field(lblVertrag, lblVertragWert),
+                                                                    field(lblDifferenz, lblDifferenzWert)})}),
+                        }),
+                    })
+                    .growing(),
+                row({btnNeu1, btnBearbeiten1, btnSpeichern1, btnAbbrechen1, btnLoschen1, btnGenWeek})})
+        .growing();
+}
+
+std::vector<parts::KeyedGrid::Column> CalendarArea::columns(base::Fields* week) {
+    std::vector<parts::KeyedGrid::Column> columns{
+        {.caption = "Jahr/Woche", .width = 12, .field = "JAHRWOCHE"},
+        {.caption = "Datum", .width = 24, .field = "DATUM"},
+        {.caption = "Planmenge",
+         .width = 14,
+         .field = "PLANMENGE",
+         .mask = quantityMask,
+         .rightAligned = true}};
+    for (const auto& [name, caption] : {std::pair{"WHANG", "WH-Ang."}, std::pair{"WHBES", "WH-Bes."}}) {
+        if (week != nullptr && hasField(*week, name))
+            columns.push_back(
+                {.caption = caption, .width = 14, .field = name, .mask = quantityMask, .rightAligned = true});
+    }
+    return columns;
 }
 
 void CalendarArea::open(const LogisticsContract& contract) {
     contract_ = contract;
+    statements_ = CalendarStatements{contract.id, contract.record};
+    sortColumn_ = byWeek;
+    editedKey_ = 0;
+    changes_.forget();
     mode_.reset();
+    frmKalenderwochen.setCaption("Kalenderwochen");
+    caption_.clear();
+    lblMeldung.setCaption("");
+    for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
+        box->show("");
+    weeks_.setColumns(columns(nullptr));
+    weeks_.clear();
 }
 
-void CalendarArea::reload(std::optional<std::int64_t> /*key*/) {}
+void CalendarArea::restoreColumns() {
+    services_.gridLayouts.restore(contract_.session, DataGridKalendar, layoutKey);
+}
+
+void CalendarArea::saveColumns() {
+    services_.gridLayouts.save(contract_.session, DataGridKalendar, layoutKey);
+}
+
+void CalendarArea::reload(std::optional<std::int64_t> key) {
+    const ui::BusyPointer busy{services_.display};
+    std::vector<parts::KeyedRow> rows =
+        parts::KeyedRows::read(contract_.connection(), statements_.list(sortColumn_), "ID").rows;
+    // The translated caption is there only after the form was opened.
+    if (caption_.empty()) caption_ = frmKalenderwochen.caption();
+    std::string caption = caption_;
+    if (!rows.empty()) {
+        base::Fields& first = rows.front();
+        if (auto found = columns(&first); found.size() != weeks_.columns().size())
+            weeks_.setColumns(std::move(found));
+        const std::string sum = base::numberText(first.field("PLANMENGEALL"), "0", services_.locale);
+        if (!sum.empty()) caption += "   " + sum;
+    }
+    frmKalenderwochen.setCaption(std::move(caption));
+    // A contract without weeks answers one row, which is none.
+    std::erase_if(rows, [](const parts::KeyedRow& week) { return week.key() == 0; });
+    weeks_.show(std::move(rows));
+    if (key) weeks_.select(*key);
+    showComparison();
+}
+
+void CalendarArea::showComparison() {
+    struct Quantity {
+        std::string unit;
+        base::Value sum;
+    };
+    std::vector<Quantity> quantities;
+    for (auto line = contract_.connection().open(statements_.contractQuantities()); !line->atEnd();
+         line->moveNext())
+        quantities.push_back({line->text("EINHEIT"), line->field("MENGE")});
+    // Quantities in several units, or in none, cannot be compared with one plan.
+    const bool comparable = quantities.size() == 1 && !quantities.front().unit.empty();
+    frmVergleich.setVisible(comparable);
+    if (!comparable) return;
+    const base::Decimal plan = weeks_.sum("PLANMENGE");
+    const base::Decimal agreed = base::numberIn(quantities.front().sum).value_or(base::Decimal{});
+    const auto show = [&](ui::Label& label, const base::Decimal& quantity) {
+        label.setCaption(base::formatNumber(quantity, quantityMask, services_.locale) + " " +
+                         quantities.front().unit);
+    };
+    show(lblPlanWert, plan);
+    show(lblVertragWert, agreed);
+    show(lblDifferenzWert, agreed - plan);
+}
+
+void CalendarArea::sortBy(int heading) {
+    // Dates are texts here and would sort by the day of the month; their weeks sort them by time.
+    const std::string& shown = weeks_.columns().at(static_cast<std::size_t>(heading)).field;
+    int number = byWeek;
+    if (shown != "DATUM" && !weeks_.empty())
+        number = static_cast<int>(weeks_.rows().front().fieldIndex(shown)) + 1;
+    sortColumn_ = sortColumn_ == number ? -number : number;
+    reload(std::nullopt);
+}
+
+void CalendarArea::startNew() {
+    for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
+        box->show("");
+    plan_.show(base::Null{});
+    edit(parts::EditMode::State::fresh, 0);
+}
+
+void CalendarArea::startEdit() {
+    parts::KeyedRow& week = weeks_.row(DataGridKalendar.currentRow());
+    txtJahr.show(base::numberText(week.field("JAHR"), yearMask, services_.locale));
+    txtWoche.show(week.text("WOCHE"));
+    plan_.show(week.field("PLANMENGE"));
+    edit(parts::EditMode::State::edit, week.key());
+}
+
+void CalendarArea::edit(parts::EditMode::State state, std::int64_t key) {
+    editedKey_ = key;
+    shownYear_ = txtJahr.text();
+    shownWeek_ = txtWoche.text();
+    changes_.forget();
+    lblMeldung.setCaption("");
+    mode_.enter(state);
+    parts::SafeSetFocus(txtJahr);
+}
+
+const DeliveryPeriod* CalendarArea::requiredPeriod() {
+    if (period_) return &*period_;
+    parts::ShowMessage(services_.display, "Es wurde im Vertragskopf kein Lieferzeitraum eingegeben.",
+                       ui::box::exclamation);
+    return nullptr;
+}
+
+void CalendarArea::pick(ui::TextBox& box, const ui::Label& label, const std::string& choices) {
+    // A period that ends before it begins has nothing to choose from.
+    if (choices.empty()) {
+        refuseWeek();
+        return;
+    }
+    box.setText(services_.listPicker.choose(contract_.session, choices, ui::plainCaption(label.caption()),
+                                            box.text()));
+}
+
+bool CalendarArea::sameWeek() const {
+    return txtJahr.text() == shownYear_ && txtWoche.text() == shownWeek_;
+}
+
+bool CalendarArea::leaveYear() {
+    txtJahr.setText(base::reformatNumber(txtJahr.text(), yearMask, services_.locale));
+    const auto year = base::wholeNumber<int>(txtJahr.text());
+    if (!year || !period_ || sameWeek()) return true;
+    return yearLiesIn(*period_, *year) || refuseWeek();
+}
+
+bool CalendarArea::leaveWeek() {
+    const auto year = base::wholeNumber<int>(txtJahr.text());
+    const auto week = base::wholeNumber<int>(txtWoche.text());
+    if (!year || !week || !period_ || sameWeek()) return true;
+    return weekLiesIn(*period_, {*year, *week}) || refuseWeek();
+}
+
+bool CalendarArea::refuseWeek() {
+    parts::ShowMessage(services_.display, words(OwnText::weekOutsidePeriod, {weeksText(*period_)}),
+                       ui::box::exclamation);
+    return false;
+}
+
+bool CalendarArea::complete() {
+    const auto missing = [this](const ui::Label& label, ui::TextBox& box) {
+        return parts::missing(services_, contract_.session, label, box);
+    };
+    if (txtJahr.text().empty()) return missing(lblKW_Year, txtJahr);
+    if (txtWoche.text().empty()) return missing(lblKW, txtWoche);
+    if (!plan_.number()) return missing(lblPlanmenge, txtPlanmenge);
+    const auto other =
+        contract_.connection().open(statements_.findOther(txtJahr.text(), txtWoche.text(), editedKey_));
+    return other->atEnd() || missing(lblKW, txtWoche);
+}
+
+void CalendarArea::save() {
+    if (!complete()) return;
+    base::Connection& connection = contract_.connection();
+    if (editedKey_ == 0) {
+        connection.execute(statements_.insert());
+        // Kept for the next attempt, if this one fails before the row has its values.
+        editedKey_ = connection.open(statements_.newest())->integer(std::size_t{0});
+    }
+    connection.execute(statements_.update(txtJahr.text(), txtWoche.text(), *plan_.number(), editedKey_));
+    reload(editedKey_);
+    if (!weeks_.find(editedKey_)) {
+        // What was typed can still be saved, as a new week.
+        editedKey_ = 0;
+        mode_.enter(parts::EditMode::State::fresh);
+        throw base::Refused{OwnText::weekIsGone};
+    }
+    mode_.enter(parts::EditMode::State::view);
+    parts::SafeSetFocus(DataGridKalendar);
+}
+
+void CalendarArea::cancel() {
+    if (mode_.state() == parts::EditMode::State::fresh && editedKey_ != 0) {
+        // A row that a failed save has left without values.
+        contract_.connection().execute(statements_.remove(editedKey_));
+        editedKey_ = 0;
+        reload(std::nullopt);
+    }
+    for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
+        box->show("");
+    mode_.enter(parts::EditMode::State::view);
+    parts::SafeSetFocus(DataGridKalendar);
+}
+
+void CalendarArea::removeWeek() {
+    if (!parts::confirmed(services_.display,
+                          services_.localizer.text(host::textNumber::deleteRecord, contract_.session),
+                          ui::box::exclamation))
+        return;
+    contract_.connection().execute(statements_.remove(weeks_.currentKey().value()));
+    lblMeldung.setCaption("");
+    reload(std::nullopt);
+    mode_.refresh();
+}
+
+void CalendarArea::generate() {
+    const DeliveryPeriod* period = requiredPeriod();
+    if (period == nullptr) return;
+    const ui::BusyPointer busy{services_.display};
+    lblMeldung.setCaption("");
+    std::string made;
+    try {
+        made = makeWeeks(generatedWeeks(*period));
+    } catch (const std::exception& error) {
+        // The weeks that were made are shown; the next generation makes the others.
+        services_.errors.report(error);
+    }
+    reload(std::nullopt);
+    mode_.refresh();
+    lblMeldung.setCaption(std::move(made));
+}
+
+std::string CalendarArea::makeWeeks(const std::vector<base::IsoWeek>& weeks) {
+    base::Connection& connection = contract_.connection();
+    std::size_t made = 0;
+    for (const base::IsoWeek& week : weeks) {
+        if (!connection.open(statements_.findGenerated(week))->atEnd()) continue;
+        connection.execute(statements_.insertGenerated(week));
+        ++made;
+    }
+    std::int64_t replaced = 0;
+    if (!weeks.empty()) {
+        replaced = connection.open(statements_.countPlanned())->integer("ANZAHL");
+        connection.execute(statements_.spread(weeks.size()));
+    }
+    return words(OwnText::weeksGenerated,
+                 {std::to_string(made), std::to_string(weeks.size() - made), std::to_string(replaced)});
+}
+
+std::string CalendarArea::words(OwnText text, const std::vector<std::string>& values) const {
+    return base::ownText(text, contract_.session.language, values);
+}
 
 } // namespace tellurix::logistics

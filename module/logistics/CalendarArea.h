@@ -1,12 +1,24 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/host/services.h"
 #include "module/logistics/Area.h"
+#include "module/logistics/CalendarStatements.h"
 #include "module/logistics/calendar_weeks.h"
+#include "module/parts/EnteredChanges.h"
+#include "module/parts/KeyedGrid.h"
+#include "module/parts/NumberField.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/Grid.h"
+
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace tellurix::logistics {
 
-/// The calendar weeks of the contract with their plan quantities.
+/// The calendar weeks of the contract with their plan quantities: a list, a week of which is edited in
+/// boxes beside it, and their generation from the delivery period.
 class CalendarArea final : public Area {
 public:
     /// @param period of the contract, as the settings area has read it
@@ -16,11 +28,78 @@ public:
     void open(const LogisticsContract& contract) override;
     void reload(std::optional<std::int64_t> key) override;
     parts::EditMode& mode() override { return mode_; }
-    bool changed() const override { return false; }
+    bool changed() const override { return !mode_.viewing() && changes_.any(); }
+    void restoreColumns() override;
+    void saveColumns() override;
+
+    /// The columns of the list; two more where the host's record set has their fields.
+    /// @param week a row of the record set, null for one without these fields
+    static std::vector<parts::KeyedGrid::Column> columns(base::Fields* week);
 
 private:
+    void connect();
+    void showComparison();
+    void sortBy(int column);
+    void startNew();
+    void startEdit();
+    void edit(parts::EditMode::State state, std::int64_t key);
+    void save();
+    void cancel();
+    void removeWeek();
+    void generate();
+    /// Makes the weeks that are missing and spreads the contract's quantity.
+    /// @return what the user is told of it
+    std::string makeWeeks(const std::vector<base::IsoWeek>& weeks);
+
+    /// The delivery period; nothing when there is none, and the user has been told.
+    const DeliveryPeriod* requiredPeriod();
+    void pick(ui::TextBox& box, const ui::Label& label, const std::string& choices);
+    /// Whether the boxes hold what they were filled with.
+    bool sameWeek() const;
+    bool leaveYear();
+    bool leaveWeek();
+    /// @return false
+    bool refuseWeek();
+    bool complete();
+    std::string words(base::OwnText text, const std::vector<std::string>& values = {}) const;
+
+    host::HostServices& services_;
+    const std::optional<DeliveryPeriod>& period_;
     LogisticsContract contract_;
+    CalendarStatements statements_;
+    int sortColumn_ = 0;
+    std::int64_t editedKey_ = 0; ///< of the week in the boxes; 0 for a new one that has no row yet
+    std::string shownYear_;      ///< what the boxes were filled with
+    std::string shownWeek_;
+    std::string caption_; ///< of the frame, without the sum
+    parts::EnteredChanges changes_;
+
     ui::Frame frmKalenderwochen;
+    ui::Grid DataGridKalendar;
+    ui::Label lblMeldung;
+    ui::Frame frmKalendar;
+    ui::Label lblKW_Year;
+    ui::TextBox txtJahr;
+    ui::Label lblKW;
+    ui::TextBox txtWoche;
+    ui::Label lblPlanmenge;
+    ui::TextBox txtPlanmenge;
+    ui::Frame frmVergleich;
+    ui::Label lblPlan;
+    ui::Label lblPlanWert;
+    ui::Label lblVertrag;
+    ui::Label lblVertragWert;
+    ui::Label lblDifferenz;
+    ui::Label lblDifferenzWert;
+    ui::Button btnNeu1;
+    ui::Button btnBearbeiten1;
+    ui::Button btnSpeichern1;
+    ui::Button btnAbbrechen1;
+    ui::Button btnLoschen1;
+    ui::Button btnGenWeek;
+
+    parts::KeyedGrid weeks_;
+    parts::NumberField plan_;
     parts::EditMode mode_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/host/ReportScreen.h"
 #include "module/logistics/ProvisionStatements.h"
 #include "module/logistics/ProvisionTable.h"

@@ -28,6 +28,11 @@ constexpr const char* percentMask = "#####0.00";
 /// A drive that only the machines of the office have, and the setting that says which share it is.
 constexpr const char* officeDrive = "M:";
 constexpr const char* shareOfDrive = "UNCOFDRIVEM";
+/// The folder that documents are copied into, and what the web server calls it.
+constexpr const char* documentFolder = "PATHOFWVOWEBVERTRAEGE";
+constexpr const char* folderOnTheServer = "c:\\VertragsdokumenteOriginal\\";
+constexpr const char* documentFilter = "PDF file (*.pdf)|*.pdf|DOC file (*.doc)|*.doc|"
+                                       "DOC and PDF files (*.pdf;*.doc)|*.doc;*.pdf|Alle Dateien (*.*)|*.*";
 
 /// The title of a picker is what the box is called.
 std::function<std::string()> captionOf(const ui::Label& label) {
@@ -123,6 +128,7 @@ void SettingsArea::connect() {
     chkFHPLogistikVerweden.onClick = [this] {
         if (!chkFHPLogistikVerweden.checked()) forgetLogisticsProcess();
     };
+    btnOriginal.onClick = [this] { chooseOriginal(); };
     btnBearbeiten.onClick = [this] { startEdit(); };
     btnSpeichern.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { cancel(); };
@@ -265,11 +271,11 @@ void SettingsArea::save() {
     if (!datesAreThere()) return;
     const std::string statement = updateStatement();
     warnOfMissingUnit();
-    if (contract_.connection().execute(statement).rowsAffected == 0)
-        throw base::Refused{OwnText::contractIsGone};
+    contract_.connection().execute(statement);
+    // Tells as well whether there still is a record that was written to.
+    LoadSettings();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(btnBearbeiten);
-    LoadSettings();
 }
 
 bool SettingsArea::datesAreThere() {
@@ -290,6 +296,42 @@ void SettingsArea::warnOfMissingUnit() {
              "Im Vertrag wurde bei den Mengen keine Mengeneinheit definiert!\n"
              "Bitte geben Sie die Mengeneinheit bei den Vertragsmengen ein!");
     }
+}
+
+void SettingsArea::chooseOriginal() {
+    const auto source = services_.display.openFile("File select...", documentFilter);
+    if (!source) return;
+    const std::string name = services_.files.fileName(*source);
+    try {
+        if (!copyDocument(*source, name)) return;
+        tell("Kopieren des Vertragesdokuments zum Webserver erfolgreich.", ui::box::information);
+    } catch (const std::exception& error) {
+        const auto* refused = dynamic_cast<const base::Refused*>(&error);
+        tell("Kopieren des Vertragesdokuments zum Webserver fehlgeschlagen.\n" +
+             (refused == nullptr ? error.what() : refused->message(contract_.session.language)));
+    }
+    if (name.empty()) return;
+    // Whatever became of the copy: this is where the web server looks for it.
+    txtOriginal.setText(folderOnTheServer + name);
+    changes_.note();
+}
+
+bool SettingsArea::copyDocument(const std::string& source, const std::string& name) {
+    using Present = host::DocumentFiles::Present;
+    if (name.empty()) throw base::Refused{OwnText::noFileName};
+    std::string folder = services_.settings.text(contract_.session, documentFolder);
+    if (folder.empty())
+        throw base::Refused{
+            std::vector<base::Refused::Sentence>{{OwnText::settingMissing, {documentFolder}}}};
+    if (!folder.ends_with('\\')) folder += '\\';
+    const Present present = services_.files.find(source, folder);
+    if (present == Present::different &&
+        !parts::confirmed(services_.display,
+                          base::ownText(OwnText::replaceDocument, contract_.session.language, {name})))
+        return false;
+    const ui::BusyPointer busy{services_.display};
+    if (present != Present::same) services_.files.copy(source, folder);
+    return true;
 }
 
 std::string SettingsArea::originalPath() {
@@ -356,8 +398,8 @@ void SettingsArea::warnOnClosing() {
          "Bitte ergänzen Sie ihre Eingaben, sonst kann es in der Webapplikation zu Anzeigeproblemen kommen.");
 }
 
-void SettingsArea::tell(const std::string& message) {
-    parts::ShowMessage(services_.display, message, ui::box::exclamation);
+void SettingsArea::tell(const std::string& message, int icon) {
+    parts::ShowMessage(services_.display, message, icon);
 }
 
 } // namespace tellurix::logistics

@@ -3,7 +3,8 @@
 namespace tellurix::logistics {
 
 /// The beginning of a batch: a table @temp of all days from 2015 to 2050 with their ISO week and year.
-/// The query that follows takes first and last days of weeks from it; other years have none.
+/// The query that follows takes first and last days of weeks from it; other years have none. The pieces
+/// stand on lines of their own: "@EndDate" and "begin" would run together otherwise.
 // clang-format off
 inline constexpr const char* dayTable =
     "SET NOCOUNT ON \r\n"

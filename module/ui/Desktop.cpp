@@ -174,7 +174,9 @@ bool Desktop::windowKey(Form& form, const KeyDown& key) {
 void Desktop::enter(Form& form, Control& control, const KeyDown& key) {
     if (as<Button>(&control) != nullptr) {
         press(form, control);
-    } else if (Grid* grid = as<Grid>(&control); grid != nullptr && grid->onDoubleClick) {
+    } else if (Grid* grid = as<Grid>(&control); grid != nullptr && key.ctrl && grid->onHeadingClick) {
+        grid->onHeadingClick(grid->currentColumn());
+    } else if (grid != nullptr && grid->onDoubleClick) {
         grid->onDoubleClick();
     } else if (ListBox* list = as<ListBox>(&control); list != nullptr && list->onDoubleClick) {
         list->onDoubleClick();

@@ -3,7 +3,6 @@
 #include "tests/support/ContractTest.h"
 
 #include <string>
-#include <vector>
 
 namespace tellurix::tests {
 
@@ -21,19 +20,6 @@ protected:
         });
         host.display.onWindow("F_Vertrag_WVO", script);
         host.openContract(contract, "R");
-    }
-
-    /// Begins to edit the settings of a contract, and closes afterwards.
-    void editSettings(std::int32_t contract, const ScriptedDisplay::Script& script) {
-        open(contract, [&](User& user) {
-            user.click("btnBearbeiten");
-            script(user);
-            user.click("btnClose");
-        });
-    }
-
-    std::vector<std::string> sentFrom(std::size_t first) const {
-        return {host.statements.begin() + static_cast<std::ptrdiff_t>(first), host.statements.end()};
     }
 };
 

@@ -4,7 +4,26 @@
 namespace tellurix::tests {
 namespace {
 
-class LogisticsSettings : public LogisticsTest {};
+class LogisticsSettings : public LogisticsTest {
+protected:
+    /// Begins to edit the settings of a contract, and closes afterwards.
+    void editSettings(std::int32_t contract, const ScriptedDisplay::Script& script) {
+        open(contract, [&](User& user) {
+            user.click("btnBearbeiten");
+            script(user);
+            user.click("btnClose");
+        });
+    }
+    /// The boxes with a tick.
+    static std::string ticked(User& user) {
+        std::string names;
+        for (ui::Control* control : user.window().controls()) {
+            if (const auto* box = ui::as<ui::CheckBox>(control); box != nullptr && box->checked())
+                names += box->name() + " ";
+        }
+        return names;
+    }
+};
 
 TEST_F(LogisticsSettings, OpeningReadsInTheGivenOrderAndShowsWhatItRead) {
     open(fibreWood, [&](User& user) {
@@ -70,6 +89,268 @@ TEST_F(LogisticsSettings, SavingWritesEverySettingInOneStatement) {
         EXPECT_EQ(user.text("txtBemerkung"), "Rampe bei D´Angelo") << "read again";
         EXPECT_FALSE(user.usable("btnSpeichern"));
         EXPECT_EQ(user.focused(), "btnBearbeiten");
+    });
+}
+
+TEST_F(LogisticsSettings, TheFirstOpeningMakesARecordWithTwoSettings) {
+    const std::string record = "SELECT COUNT(*),MAX(CAST(KEINE_MENGENMELDUNG_AUF_WB AS int)),"
+                               "MAX(CAST(GESCHAEFTSFELD_NEU AS int)) FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 2";
+    for (const char* visit : {"the first", "the second"}) {
+        open(2, [&](User& user) {
+            EXPECT_EQ(ticked(user), "chkGeschaeftsfeldNeu chkKeine_Mengenmeldung_Auf_WB ") << visit;
+            host.display.onMessage("Achtung!"); // neither date is there
+            user.click("btnClose");
+        });
+        EXPECT_EQ(row(record), "1 | 1 | 1") << visit;
+    }
+}
+
+TEST_F(LogisticsSettings, AnUntickedFlagIsNullAndAWeekdayOf0IsNone) {
+    editSettings(16, [&](User& user) { // a flag stored as 0, a weekday of 0
+        EXPECT_FALSE(user.checked("chkAngemeldeteMenge"));
+        EXPECT_EQ(user.text("txtBereitstellung"), "");
+        user.click("chkSichtbar");
+        user.click("btnSpeichern");
+        EXPECT_FALSE(user.checked("chkSichtbar"));
+    });
+    EXPECT_EQ(row("SELECT ANGEMELDETEMENGE,SICHTBAR,BEREITSELLUNGS,UBERLIEFERUNG,ID_WVO_T_LIEFERPARITAT FROM "
+                  "WVO_VERTRAG WHERE ID_VERTRAEGE = 16"),
+              "NULL | NULL | NULL | 2.50 | 3");
+}
+
+TEST_F(LogisticsSettings, BothDatesAreNeededWhereQuantitiesAreNotConfirmedAtOnce) {
+    struct Case {
+        const char* rule;
+        bool confirmedAtOnce;
+        const char* confirmed;
+        const char* reported;
+        const char* message; ///< empty: it is saved
+        const char* focus;
+    };
+    const Case cases[] = {
+        {"neither", false, "", "", "Text 223 [Angemeldete Menge wird zugesagt am]", "txtAngemeldete"},
+        {"the first is missing", false, "", "1.5.2025", "Text 223 [Angemeldete Menge wird zugesagt am]",
+         "txtAngemeldete"},
+        {"the second is missing", false, "1.5.2025", "", "Text 223 [Mengenmeldung bis zum]",
+         "txtMengenmeldung"},
+        {"both", false, "1.5.2025", "2.5.2025", "", "btnBearbeiten"},
+        {"confirmed at once", true, "", "", "", "btnBearbeiten"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        editSettings(fibreWood, [&](User& user) {
+            if (user.checked("chkAngemeldeteMenge") != c.confirmedAtOnce) user.click("chkAngemeldeteMenge");
+            user.type("txtAngemeldete", c.confirmed);
+            user.type("txtMengenmeldung", c.reported);
+            host.statements.clear();
+            if (*c.message != '\0') host.display.onMessage(c.message);
+            user.click("btnSpeichern");
+            EXPECT_EQ(user.focused(), c.focus);
+            EXPECT_EQ(host.statements.empty(), *c.message != '\0');
+            if (*c.message == '\0') return;
+            host.display.onMessage("nicht gespeichert", Answer::yes);
+            if (*c.confirmed == '\0') host.display.onMessage("Achtung!");
+        });
+    }
+    EXPECT_EQ(row("SELECT ANGEMELDETE,MENGENMELDUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"), "NULL | NULL");
+}
+
+TEST_F(LogisticsSettings, AContractWithoutAUnitIsWarnedOfAndSavedAllTheSame) {
+    struct Case {
+        const char* rule;
+        std::int32_t contract;
+        bool warns;
+    };
+    const Case cases[] = {
+        {"all lines have one", 2, false}, {"a line has none", 7, true}, {"no line", 17, true}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        editSettings(c.contract, [&](User& user) {
+            user.click("chkAngemeldeteMenge");
+            if (c.warns)
+                host.display.onMessage("Achtung!\n"
+                                       "Im Vertrag wurde bei den Mengen keine Mengeneinheit definiert!\n"
+                                       "Bitte geben Sie die Mengeneinheit bei den Vertragsmengen ein!");
+            user.click("btnSpeichern");
+        });
+        EXPECT_EQ(value("SELECT ANGEMELDETEMENGE FROM WVO_VERTRAG WHERE ID_VERTRAEGE = " +
+                        std::to_string(c.contract)),
+                  "true");
+    }
+}
+
+TEST_F(LogisticsSettings, BoxesTakeWhatTheyAreFor) {
+    struct Case {
+        const char* rule;
+        const char* box;
+        const char* typed;
+        const char* shown;
+        const char* message; ///< empty: it is taken
+    };
+    const Case cases[] = {
+        {"a time", "txtBereitstellungTime", "23:59", "23:59", ""},
+        {"a short time", "txtTransportauftragTime", "7:5", "07:05", ""},
+        {"midnight", "txtBereitstellungTime", "0:00", "00:00", ""},
+        {"no time", "txtTransportauftragTime", "", "", ""},
+        {"an hour too many", "txtBereitstellungTime", "24:00", "24:00",
+         "Text 223 [Bereitstellungsmeldung bis]"},
+        {"a minute too many", "txtBereitstellungTime", "12:60", "12:60",
+         "Text 223 [Bereitstellungsmeldung bis]"},
+        {"half a time", "txtTransportauftragTime",
+         "12:", "12:", "Text 223 [Nicht versandte Transportaufträge automatisch versenden am:]"},
+        {"no colon", "txtBereitstellungTime", "0730", "0730", "Text 223 [Bereitstellungsmeldung bis]"},
+        {"letters are not typed", "txtBereitstellungTime", "a7:b30", "07:30", ""},
+        {"a date", "txtMengenmeldung", "5.6.25", "05.06.2025", ""},
+        {"no date", "txtMengenmeldung", "31.2.2025", "31.2.2025", "Text 223"},
+        {"a percentage", "txtUberlieferung", "7,5", "7,50", ""},
+    };
+    editSettings(fibreWood, [&](User& user) {
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.rule);
+            user.type(c.box, c.typed);
+            if (*c.message != '\0') host.display.onMessage(c.message);
+            user.key(ui::Key::tab);
+            EXPECT_EQ(user.text(c.box), c.shown);
+            EXPECT_EQ(user.focused() == c.box, *c.message != '\0');
+            user.replaceText(c.box, "");
+        }
+        host.display.onMessage("nicht gespeichert", Answer::yes);
+    });
+}
+
+TEST_F(LogisticsSettings, LookupBoxesChooseFromTheHostsNamedLists) {
+    struct Case {
+        const char* box;
+        const char* list;
+        const char* title;
+        const char* typed;
+        const char* shown;
+    };
+    const Case cases[] = {
+        {"txtBelieferung", "WVO_T_BELIEFERUNG", "Belieferung", "FR", "Freie Anlieferung/3"},
+        {"txtLieferparitat", "WVO_T_LIEFERPARITAT", "Lieferparität", "Frei Werk", "Frei Werk/2"},
+        {"txtBereitstellung", "WVO_T_BEREITSELLUNGS", "Bereitstellungsmeldung bis", "So", "Sonntag/1"},
+        {"txtTransportauftraege", "WVO_T_BEREITSELLUNGS",
+         "Nicht versandte Transportaufträge automatisch versenden am:", "Samstag", "Samstag/7"},
+    };
+    editSettings(fibreWood, [&](User& user) {
+        for (const Case& c : cases) {
+            user.focus(c.box);
+            host.pickedText = c.typed;
+            user.ctrl();
+            EXPECT_EQ(host.picks.back(), std::string{c.list} + "_GRID/" + c.title);
+            user.key(ui::Key::tab);
+            EXPECT_EQ(user.text(c.box) + "/" + user.tag(c.box), c.shown) << c.box;
+        }
+        user.type("txtBelieferung", "gibt es nicht");
+        user.key(ui::Key::tab);
+        EXPECT_EQ(user.focused() + "/" + user.tag("txtBelieferung"), "txtBelieferung/");
+        user.type("txtBelieferung", "");
+        user.click("btnSpeichern");
+    });
+    EXPECT_EQ(row("SELECT ID_WVO_T_BELIEFERUNG,ID_WVO_T_LIEFERPARITAT,BEREITSELLUNGS,FHP_TA_SENDETAG FROM "
+                  "WVO_VERTRAG WHERE ID_VERTRAEGE = 3"),
+              "NULL | 2 | 1 | 7");
+}
+
+TEST_F(LogisticsSettings, WithoutTheLogisticsProcessItsSettingsGo) {
+    editSettings(fibreWood, [&](User& user) {
+        user.click("chkWaldhelferKannFraechterAendern");
+        user.click("chkFHPLogistikVerweden");
+        EXPECT_FALSE(user.checked("chkWaldverbandLogistikkoordinator"));
+        EXPECT_FALSE(user.checked("chkWaldhelferKannFraechterAendern"));
+        EXPECT_FALSE(user.checked("chkWaldhelferKannTransportauftraegeTeilen"));
+        EXPECT_EQ(user.text("txtTransportauftraege") + user.tag("txtTransportauftraege") +
+                      user.text("txtTransportauftragTime"),
+                  "");
+        user.click("chkFHPLogistikVerweden");
+        EXPECT_FALSE(user.checked("chkWaldverbandLogistikkoordinator")) << "ticking changes nothing else";
+        user.click("btnAbbrechen");
+        EXPECT_TRUE(user.checked("chkWaldverbandLogistikkoordinator")) << "read again";
+        EXPECT_EQ(user.text("txtTransportauftragTime"), "06:30");
+    });
+}
+
+TEST_F(LogisticsSettings, TheOfficesDriveIsWrittenAsItsShare) {
+    struct Case {
+        const char* rule;
+        const char* share;
+        const char* typed;
+        const char* stored;
+        bool tells;
+    };
+    const Case cases[] = {
+        {"the drive", R"(\\srv\verkauf)", R"(M:\2025\a.pdf)", R"(\\srv\verkauf\2025\a.pdf)", false},
+        {"every occurrence", R"(\\srv\v)", "M:a M:b", R"(\\srv\va \\srv\vb)", false},
+        {"another drive", R"(\\srv\v)", R"(c:\a.pdf)", R"(c:\a.pdf)", false},
+        {"no share is set", "", R"(M:\a.pdf)", R"(M:\a.pdf)", true},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        editSettings(fibreWood, [&](User& user) {
+            host.settings["UNCOFDRIVEM"] = c.share;
+            user.type("txtOriginal", c.typed);
+            if (c.tells)
+                host.display.onMessage("Für das Laufwerk M: ist keine Netzwerkfreigabe eingestellt "
+                                       "(UNCOFDRIVEM).");
+            user.click("btnSpeichern");
+            EXPECT_EQ(user.text("txtOriginal"), c.stored);
+        });
+    }
+}
+
+TEST_F(LogisticsSettings, ATextThatCannotBeWrittenIsRefusedByItsFrame) {
+    editSettings(fibreWood, [&](User& user) {
+        user.type("txtOriginal", "c:\\d'Angelo.pdf");
+        host.statements.clear();
+        user.click("btnSpeichern");
+        ASSERT_EQ(host.display.errors().size(), 1u);
+        EXPECT_TRUE(
+            host.display.errors().back().starts_with("Original-Verkaufsdokument wählen „c:\\d'Angelo.pdf“:"))
+            << host.display.errors().back();
+        EXPECT_EQ(user.focused(), "txtOriginal");
+        EXPECT_TRUE(host.statements.empty());
+        user.type("txtOriginal", "c:\\Angelo.pdf");
+        user.click("btnSpeichern");
+        EXPECT_EQ(user.focused(), "btnBearbeiten");
+    });
+    EXPECT_EQ(value("SELECT ORIGINAL FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"), "c:\\Angelo.pdf");
+}
+
+TEST_F(LogisticsSettings, ClosingAsksForWhatWasEnteredAndWarnsOfAMissingDate) {
+    open(fibreWood, [&](User& user) {
+        user.click("btnBearbeiten");
+        user.click("chkGesperrt");
+        user.click("chkGesperrt"); // entered, even though it looks the same
+        host.display.onMessage("nicht gespeichert", Answer::no);
+        user.close();
+        EXPECT_TRUE(user.usable("btnSpeichern"));
+        user.type("txtAngemeldete", "");
+        host.display.onMessage("nicht gespeichert", Answer::yes);
+        host.display.onMessage("Achtung!\n"
+                               "Bei zugeordneten Waldhelfern müssen die Eingaben im Reiter Vertragsoptionen "
+                               "gefüllt werden.\n"
+                               "Bitte ergänzen Sie ihre Eingaben, sonst kann es in der Webapplikation zu "
+                               "Anzeigeproblemen kommen.");
+        user.close();
+    });
+    EXPECT_EQ(host.display.messages().back().flags, ui::box::exclamation);
+    EXPECT_EQ(value("SELECT ANGEMELDETE FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"), "2025-04-25");
+}
+
+TEST_F(LogisticsSettings, EditingBeginsWithWhatAColleagueHasSaved) {
+    open(fibreWood, [&](User& user) {
+        host.database.execute("UPDATE WVO_VERTRAG SET BEMERKUNG = 'von der Kollegin' WHERE ID_VERTRAEGE = 3");
+        user.click("btnBearbeiten");
+        EXPECT_EQ(user.text("txtBemerkung"), "von der Kollegin");
+        user.click("chkGesperrt");
+        host.database.execute("DELETE FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3");
+        user.click("btnSpeichern");
+        EXPECT_TRUE(host.display.errors().back().starts_with("Diesen Vertrag gibt es nicht mehr."))
+            << host.display.errors().back();
+        EXPECT_TRUE(user.checked("chkGesperrt")) << "everything entered is still there";
+        host.display.onMessage("nicht gespeichert", Answer::yes);
+        user.click("btnClose");
     });
 }
 

@@ -92,6 +92,10 @@ void User::doubleClick(std::string_view control) {
     desktop_.dispatch(ui::DoubleClickEvent{&find(control)});
 }
 
+void User::clickHeading(std::string_view control, int column) {
+    desktop_.dispatch(ui::HeadingEvent{&find(control), column});
+}
+
 void User::scroll(std::string_view control) {
     desktop_.dispatch(ui::ScrollEvent{&find(control)});
 }

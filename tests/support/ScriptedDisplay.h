@@ -33,6 +33,7 @@ public:
     void paste(std::string_view control, std::string_view text);
     void select(std::string_view control, int index, int column = 0);
     void doubleClick(std::string_view control);
+    void clickHeading(std::string_view control, int column);
     void scroll(std::string_view control);
     /// The window's close box.
     void close();

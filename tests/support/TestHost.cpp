@@ -240,7 +240,8 @@ std::string TestHost::choose(const host::TlxVar& with, const std::string& query,
     const bool asks = title.find("„" + focusedBox().text() + "“") != std::string::npos;
     EXPECT_EQ(current, asks ? "" : focusedBox().text());
     EXPECT_TRUE(asks || ui::plainCaption(title).ends_with(captionOfFocused())) << title;
-    if (query != calendar) inner_.open(query); // one that the database takes
+    // A calendar, a list that the host knows by name, or a query that the database takes.
+    if (query != calendar && !query.ends_with("_GRID")) inner_.open(query);
     picks.push_back(query + "/" + title);
     return pickedText.empty() ? current : pickedText;
 }
@@ -287,10 +288,13 @@ bool TestHost::resolve(const host::TlxVar& with, std::int32_t option, const std:
     EXPECT_TRUE(option == -1 && third == nullptr && text.empty());
     EXPECT_EQ(shown != nullptr, !displayColumn.empty());
     box.setTag("");
-    const bool empty = box.text().empty();
-    if (shown != nullptr) shown->setText("");
-    if (empty) return true;
-    const auto row = with.connection->open(query);
+    const std::string typed = box.text();
+    if (shown != nullptr && shown != &box) shown->setText("");
+    if (typed.empty()) return true;
+    // A list that the host knows by name is a table of that name here.
+    const std::string list = query.ends_with("_VALID") ? query.substr(0, query.size() - 6) : "";
+    const auto row = with.connection->open(
+        list.empty() ? query : "SELECT ID,LONG FROM " + list + " WHERE '" + typed + "' IN (LONG,SHORT)");
     if (row->atEnd()) return false;
     box.setTag(row->text(row->fieldName(0)));
     if (shown != nullptr) shown->setText(row->text(displayColumn));
@@ -335,6 +339,7 @@ std::string TestHost::text(const host::TlxVar& with, const std::string& name) {
 void TestHost::save(const host::TlxVar& with, const ui::Grid& grid, const std::string& key) {
     expectOwn(with);
     layouts.push_back("save/" + grid.name() + "/" + key);
+    if (!layoutFailure.empty()) throw std::runtime_error{layoutFailure};
 }
 
 void TestHost::restore(const host::TlxVar& with, ui::Grid& grid, const std::string& key) {

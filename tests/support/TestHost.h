@@ -125,6 +125,7 @@ public:
     std::vector<std::string> translations; ///< selection values translated
     std::vector<std::string> typeAheads;   ///< boxes bound: "box/column/query"
     std::vector<std::string> layouts;      ///< of grids: "save/grid/key", "restore/grid/key"
+    std::string layoutFailure;             ///< what keeping a layout fails with; empty when it does not
     std::string personRestriction;         ///< what limits the persons of a query, for every user
 
     /// A multi-selection list that was shown.

@@ -85,6 +85,7 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     out["current"] = {grid.currentRow(), grid.currentColumn()};
     out["visibleRows"] = grid.visibleRows();
     out["reveal"] = grid.reveals();
+    out["headings"] = static_cast<bool>(grid.onHeadingClick);
     out["editor"] = nullptr;
     if (const ui::TextBox* box = grid.cellEditor()) {
         out["editor"] = {{"control", box->id()}, {"row", grid.editedRow()}, {"column", grid.editedColumn()}};

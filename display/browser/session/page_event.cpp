@@ -56,6 +56,11 @@ std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& c
         return ui::SelectEvent{&control, message.index, message.column};
     case Kind::doubleClick:
         return ui::DoubleClickEvent{&control};
+    case Kind::heading:
+        if (const auto* grid = ui::as<ui::Grid>(&control);
+            grid == nullptr || message.column >= static_cast<int>(grid->columns().size()))
+            return std::nullopt;
+        return ui::HeadingEvent{&control, message.column};
     case Kind::scroll:
         return ui::ScrollEvent{&control};
     case Kind::columnSized:

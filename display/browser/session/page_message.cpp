@@ -71,6 +71,7 @@ Kind kindOf(const json& object) {
         {"step", Kind::step},
         {"select", Kind::select},
         {"doubleClick", Kind::doubleClick},
+        {"heading", Kind::heading},
         {"scroll", Kind::scroll},
         {"columnSized", Kind::columnSized},
         {"pick", Kind::pick},
@@ -137,6 +138,9 @@ PageMessage parsePageMessage(std::string_view message) {
     case Kind::columnSized:
         parsed.column = smallInteger(object, "column");
         parsed.width = smallInteger(object, "width");
+        break;
+    case Kind::heading:
+        parsed.column = smallInteger(object, "column");
         break;
     case Kind::answer:
         parsed.answer = smallInteger(object, "answer");

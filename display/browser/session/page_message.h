@@ -33,6 +33,7 @@ struct PageMessage {
         step,
         select,
         doubleClick,
+        heading,
         scroll,
         columnSized,
         pick,

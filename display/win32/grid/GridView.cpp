@@ -160,6 +160,10 @@ void GridView::leaveEdge() {
 void GridView::pressed(POINT point, bool twice) {
     if (takeEdge(point, twice)) return;
     const GridGeometry::Place cell = geometry_.at(point);
+    if (grid_.onHeadingClick && point.y < geometry_.rowHeight() && cell.column >= 0) {
+        tell(ui::HeadingEvent{&grid_, cell.column});
+        return;
+    }
     if (cell.row < 0 || cell.column < 0) {
         tell(ui::FocusEvent{&grid_});
         return;

@@ -80,7 +80,8 @@ public:
     Handlers<void()> onCurrentChange;
     /// A double click on the current cell, or Enter on it.
     Handlers<void()> onDoubleClick;
-    /// A click on the heading of a column. Only where somebody is told do displays offer it.
+    /// A click on the heading of a column, or Ctrl and Enter in it. Only where somebody is told do displays
+    /// offer it.
     Handlers<void(int column)> onHeadingClick;
     /// A character was typed while the grid had the focus.
     Handlers<void(char32_t)> onKeyPress;

@@ -35,12 +35,20 @@ export class Grid extends View {
       if (event.target.closest('.cell-editor')) return;
       if (this.usable && event.target.closest('[role=gridcell]')) this.perform({ type: 'doubleClick' });
     });
+    this.#head.addEventListener('mousedown', (event) => {
+      if (this.state.headings) event.preventDefault();
+    });
+    this.#head.addEventListener('click', (event) => {
+      const cell = event.target.closest('.pressable > [role=columnheader]');
+      if (cell && this.usable) this.perform({ type: 'heading', column: Number(cell.dataset.column) });
+    });
     element.addEventListener('scroll', () => this.#scrolled());
     new ResizeObserver(() => this.#resized()).observe(element);
   }
 
   draw(changes, before) {
     if (changes.columns) this.#drawColumns();
+    if (changes.headings !== before.headings) this.#head.classList.toggle('pressable', this.state.headings);
     if (changes.content) this.#takeRows();
     if (changes.visibleRows !== before.visibleRows) this.element.style.setProperty('--rows', changes.visibleRows);
     // The browser is asked for places before anything changes, or it would have to lay out twice. To take
@@ -71,6 +79,7 @@ export class Grid extends View {
     this.#head.replaceChildren(...visible.map((column, place) => {
       const cell = document.createElement('div');
       cell.setAttribute('role', 'columnheader');
+      cell.dataset.column = this.state.columns.indexOf(column);
       cell.classList.toggle('right', column.right);
       cell.textContent = column.caption;
       cell.title = column.caption;
