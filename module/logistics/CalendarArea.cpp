@@ -21,7 +21,7 @@ using ui::row;
 
 namespace {
 
-constexpr const char* layoutKey = "F_VERTRAG_WVO_KAL";
+constexpr const char* columnsOfWeeks = "F_VERTRAG_WVO_KAL";
 constexpr const char* yearMask = "0000";
 constexpr const char* planMask = "#####0";
 constexpr const char* quantityMask = "##,##0.00";
@@ -158,11 +158,11 @@ void CalendarArea::open(const LogisticsContract& contract) {
 }
 
 void CalendarArea::restoreColumns() {
-    services_.gridLayouts.restore(contract_.session, DataGridKalendar, layoutKey);
+    services_.gridLayouts.restore(contract_.session, DataGridKalendar, columnsOfWeeks);
 }
 
 void CalendarArea::saveColumns() {
-    services_.gridLayouts.save(contract_.session, DataGridKalendar, layoutKey);
+    services_.gridLayouts.save(contract_.session, DataGridKalendar, columnsOfWeeks);
 }
 
 void CalendarArea::reload(std::optional<std::int64_t> key) {

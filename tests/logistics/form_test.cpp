@@ -80,11 +80,13 @@ TEST_F(LogisticsForm, NothingOfAnEarlierVisitStays) {
 
 TEST_F(LogisticsForm, TheColumnsOfTheWeeksAreRestoredBeforeThoseOfTheHelpers) {
     open(fibreWood, [&](User& user) {
-        EXPECT_EQ(host.layouts, (std::vector<std::string>{"restore/DataGridKalendar/F_VERTRAG_WVO_KAL"}));
+        EXPECT_EQ(host.layouts, (std::vector<std::string>{"restore/DataGridKalendar/F_VERTRAG_WVO_KAL",
+                                                          "restore/MSFG/F_VERTRAG_WVO_WH"}));
         host.layouts.clear();
         user.close();
     });
-    EXPECT_EQ(host.layouts, (std::vector<std::string>{"save/DataGridKalendar/F_VERTRAG_WVO_KAL"}));
+    EXPECT_EQ(host.layouts, (std::vector<std::string>{"save/DataGridKalendar/F_VERTRAG_WVO_KAL",
+                                                      "save/MSFG/F_VERTRAG_WVO_WH"}));
 }
 
 TEST_F(LogisticsForm, AServerThatIsGoneKeepsNobodyInside) {

@@ -4,6 +4,8 @@
 namespace tellurix::tests {
 namespace {
 
+using ui::Answer;
+
 class LogisticsSettings : public LogisticsTest {
 protected:
     /// Begins to edit the settings of a contract, and closes afterwards.
@@ -352,6 +354,82 @@ TEST_F(LogisticsSettings, EditingBeginsWithWhatAColleagueHasSaved) {
         host.display.onMessage("nicht gespeichert", Answer::yes);
         user.click("btnClose");
     });
+}
+
+TEST_F(LogisticsSettings, TheOriginalDocumentIsCopiedIntoTheWebFolder) {
+    using Present = host::DocumentFiles::Present;
+    struct Case {
+        const char* rule;
+        std::optional<std::string> chosen;
+        const char* folder;
+        Present present;
+        std::optional<Answer> replaces; ///< what the user says to replacing another file
+        const char* failure;            ///< of the copying
+        const char* message;            ///< how it begins; null for none
+        const char* copiedTo;           ///< null: nothing is copied
+        const char* path;               ///< in the box afterwards
+    };
+    const char* const before = "c:\\VertragsdokumenteOriginal\\R-2025-003.pdf";
+    const char* const after = "c:\\VertragsdokumenteOriginal\\neu ä.pdf";
+    const std::string source = "/home/anna/neu ä.pdf";
+    const char* const done = "Kopieren des Vertragesdokuments zum Webserver erfolgreich.";
+    const Case cases[] = {
+        {"cancelled", std::nullopt, "\\\\web\\docs", Present::no, {}, "", nullptr, nullptr, before},
+        {"copied", source, "\\\\web\\docs", Present::no, {}, "", done, "\\\\web\\docs\\", after},
+        {"the folder ends in a backslash", source, "d:\\", Present::no, {}, "", done, "d:\\", after},
+        {"the same file is there", source, "d:\\", Present::same, {}, "", done, nullptr, after},
+        {"another file is replaced", source, "d:", Present::different, Answer::yes, "", done, "d:\\", after},
+        {"another file is kept", source, "d:", Present::different, Answer::no, "", nullptr, nullptr, before},
+        {"the copying fails",
+         source,
+         "d:",
+         Present::no,
+         {},
+         "Permission denied",
+         "Kopieren des Vertragesdokuments zum Webserver fehlgeschlagen.\nPermission denied",
+         "d:\\",
+         after},
+        {"no folder is set",
+         source,
+         "",
+         Present::no,
+         {},
+         "",
+         "Kopieren des Vertragesdokuments zum Webserver fehlgeschlagen.\nDie Einstellung "
+         "PATHOFWVOWEBVERTRAEGE fehlt.",
+         nullptr,
+         after},
+        {"no file",
+         "/home/anna/",
+         "d:",
+         Present::no,
+         {},
+         "",
+         "Kopieren des Vertragesdokuments zum Webserver fehlgeschlagen.\nDas ist kein Name einer Datei.",
+         nullptr,
+         before},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        editSettings(fibreWood, [&](User& user) {
+            host.settings["PATHOFWVOWEBVERTRAEGE"] = c.folder;
+            host.documents.present = c.present;
+            host.documents.copyFailure = c.failure;
+            host.documents.copies.clear();
+            host.display.onOpenFile("File select...", c.chosen);
+            if (c.replaces) host.display.onMessage("„neu ä.pdf“", *c.replaces);
+            if (c.message != nullptr) host.display.onMessage(c.message);
+            user.click("btnOriginal");
+            ASSERT_EQ(host.documents.copies.size(), c.copiedTo == nullptr ? 0u : 1u);
+            if (c.copiedTo != nullptr) {
+                EXPECT_EQ(host.documents.copies[0].source, source);
+                EXPECT_EQ(host.documents.copies[0].folder, c.copiedTo);
+            }
+            EXPECT_EQ(user.text("txtOriginal"), c.path);
+            if (std::string{c.path} == after) host.display.onMessage("nicht gespeichert", Answer::yes);
+        });
+    }
+    EXPECT_EQ(value("SELECT ORIGINAL FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"), before) << "not saved";
 }
 
 } // namespace
