@@ -1,11 +1,173 @@
 #include "standin/services/mail/MailService.h"
 
+#include "module/base/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
 #include <stdexcept>
 
 namespace tellurix::standin {
 
-void MailService::signOn(const host::TlxVar&) {
-    throw std::runtime_error{"Mail is not available yet."};
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view scheme = "SMTP:";
+
+MailServer::Security securityOf(const std::string& setting) {
+    const std::string security = base::toUpper(base::trim(setting));
+    if (security.empty() || security == "STARTTLS") return MailServer::Security::startTls;
+    if (security == "TLS") return MailServer::Security::tls;
+    if (security == "NONE") return MailServer::Security::none;
+    throw std::runtime_error{"MAILSECURITY = " + setting};
+}
+
+int portOf(const std::string& setting) {
+    int port = 0;
+    const auto [end, failure] = std::from_chars(setting.data(), setting.data() + setting.size(), port);
+    if (!setting.empty() && (failure != std::errc{} || *end != '\0' || port < 1 || port > 65535))
+        throw std::runtime_error{"MAILPORT = " + setting};
+    return port;
+}
+
+bool sameMessage(const MailMessage& one, const MailMessage& other) {
+    return one.recipients == other.recipients && one.subject == other.subject && one.text == other.text;
+}
+
+} // namespace
+
+MailServer MailService::server() {
+    MailServer server{.host = setting("MAILSERVER"),
+                      .port = portOf(setting("MAILPORT")),
+                      .security = securityOf(setting("MAILSECURITY")),
+                      .user = setting("MAILUSER"),
+                      .certificates = setting("MAILCERTIFICATES")};
+    if (server.user.empty()) return server;
+    const fs::path file = setting("MAILPASSWORDFILE");
+    std::error_code failure;
+    const fs::perms others =
+        fs::status(file, failure).permissions() & (fs::perms::group_all | fs::perms::others_all);
+    if (failure) throw std::runtime_error{file.string() + ": " + failure.message()};
+    if (others != fs::perms::none)
+        throw std::runtime_error{base::filled(words("mail.passwordOpen"), {file.string()})};
+    std::ifstream read{file};
+    std::getline(read, server.password);
+    return server;
+}
+
+void MailService::signOn(const host::TlxVar& session) {
+    session_ = session;
+    recipientKindOf(setting("MAILRECIPIENTS"));
+    if (setting("MAILSERVER").empty()) return;
+    server();
+    if (!canBeAddress(setting("MAILFROM"))) throw std::runtime_error{words("mail.noSender")};
+}
+
+void MailService::compose() {
+    recipients_.clear();
+    subject_.clear();
+    text_.clear();
+}
+
+void MailService::addRecipient(const std::string& address) {
+    const bool named = base::toUpper(address).starts_with(scheme);
+    std::string recipient{base::trim(std::string_view{address}.substr(named ? scheme.size() : 0))};
+    // One mailbox in two spellings would get the mail twice.
+    const auto same = [&](const std::string& other) {
+        return base::toUpper(other) == base::toUpper(recipient);
+    };
+    if (std::ranges::none_of(recipients_, same)) recipients_.push_back(std::move(recipient));
+}
+
+F_Mail::Draft MailService::draft() const {
+    F_Mail::Draft draft{{}, subject_, text_};
+    for (const std::string& address : recipients_) {
+        const bool reachable = canBeAddress(address);
+        const bool refused = refused_.contains(address);
+        draft.recipients.push_back({.address = address,
+                                    .note = !reachable ? words("mail.noAddress")
+                                            : refused  ? words("mail.refused")
+                                                       : "",
+                                    .reachable = reachable,
+                                    .gets = reachable && !refused});
+    }
+    // Those who do not get the mail are seen at once.
+    std::ranges::stable_partition(draft.recipients, [](const auto& recipient) { return !recipient.gets; });
+    return draft;
+}
+
+bool MailService::send() {
+    const RecipientKind kind = recipientKindOf(setting("MAILRECIPIENTS"));
+    const char* kindWords = kind == RecipientKind::blindCopy ? "mail.bcc"
+                            : kind == RecipientKind::copy    ? "mail.cc"
+                                                             : "mail.to";
+    F_Mail form{draft(),
+                {.title = words("mail.title"), .kind = words(kindWords), .count = words("mail.count")}};
+    localizer_.localize(session_, form);
+    display_.showModal(form);
+    if (!form.sent()) return false;
+    MailMessage message{newMessageId(),       setting("MAILFROM"), kind, {},
+                        form.sent()->subject, form.sent()->text};
+    for (const F_Mail::Recipient& recipient : form.sent()->recipients)
+        message.recipients.push_back(recipient.address);
+    if (open_ && sameMessage(*open_, message)) {
+        // Under the same identification, by which a mailbox that has it already can tell.
+        message.id = open_->id;
+        if (maybeSent_ && display_.messageBox(words("mail.again"),
+                                              ui::box::yesNo | ui::box::exclamation | ui::box::defaultButton2,
+                                              words("mail.title")) != ui::Answer::yes)
+            return false;
+    }
+    const ui::BusyPointer busy{display_};
+    try {
+        deliver(message);
+    } catch (const NotSent& failure) {
+        open_ = message;
+        maybeSent_ = failure.uncertain();
+        if (!failure.refused().empty()) refused_.insert(failure.refused());
+        if (!failure.uncertain()) throw;
+        throw std::runtime_error{std::string{failure.what()} + "\r\n" + words("mail.maybeSent")};
+    }
+    open_.reset();
+    return true;
+}
+
+void MailService::deliver(const MailMessage& message) {
+    if (setting("MAILSERVER").empty()) {
+        leaveAsFile(message);
+        return;
+    }
+    const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    sendByServer(server(), message, internetMessage(message, now, false));
+}
+
+void MailService::leaveAsFile(const MailMessage& message) {
+    const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    // Mail programs open it as a message that has yet to be sent.
+    const std::string text = "X-Unsent: 1\r\n" + internetMessage(message, now, true);
+    const std::string name = message.id.substr(0, message.id.find('@')) + ".eml";
+    const std::string outbox = setting("MAILOUTBOX");
+    if (outbox.empty()) {
+        display_.presentFile(name, text);
+        return;
+    }
+    const fs::path file = fs::path{outbox} / name;
+    fs::path beside = file;
+    beside += ".tmp";
+    std::error_code failure;
+    std::ofstream written{beside, std::ios::binary};
+    if (!written) failure = {errno, std::generic_category()};
+    written << text;
+    written.close();
+    if (!written && !failure) failure = {errno, std::generic_category()};
+    if (!failure) fs::rename(beside, file, failure);
+    if (!failure) return;
+    std::error_code ignored;
+    fs::remove(beside, ignored);
+    throw NotSent{file.string() + ": " + failure.message(), "", false};
 }
 
 } // namespace tellurix::standin

@@ -6,6 +6,7 @@
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Label.h"
+#include "standin/services/mail/F_Mail.h"
 #include "standin/services/models/F_Models.h"
 #include "standin/services/pickers/F_Calendar.h"
 #include "standin/services/pickers/F_ListPicker.h"
@@ -45,7 +46,7 @@ std::string captionOf(const ui::Control& control) {
 bool setByTheScreen(const std::string& name) {
     for (const char* start :
          {"lblNumber", "LabelKopf", "lblDate", "lblRechnungsArt", "lblBuchnungsArt", "lblWahrung", "lblCount",
-          "lblMonth", "lblDay", "btnPrevious", "btnNext", "Label1(", "Command1("}) {
+          "lblKind", "lblMonth", "lblDay", "btnPrevious", "btnNext", "Label1(", "Command1("}) {
         if (name.starts_with(start)) return true;
     }
     return false;
@@ -70,11 +71,13 @@ protected:
     const standin::SelectionWords words{services.localizer(), session, base::Locale::german()};
     standin::F_Selection selection{display, words, {}, {}};
     standin::F_LookupGrid codes{"", words.choiceCaptions(), {}, {}, true};
+    standin::F_Mail mail{{}, {}};
     standin::F_MultiSelection several{"", {}, {}, {}};
     deductions::F_Abschlag deductionLines{host};
     standin::F_Models models{display, standin::ModelStore{*session.connection, "ABSCHLAG"}, {}, {}, {}, ""};
-    const std::vector<ui::Form*> forms{&editor,     &header,    &list,  &calendar, &persons,        &prices,
-                                       &quantities, &selection, &codes, &several,  &deductionLines, &models};
+    const std::vector<ui::Form*> forms{&editor, &header,         &list,      &calendar, &persons,
+                                       &prices, &quantities,     &selection, &codes,    &several,
+                                       &mail,   &deductionLines, &models};
 };
 
 TEST_F(Localizing, EveryCaptionHasAnEnglishText) {

@@ -1,0 +1,66 @@
+#include "standin/services/mail/F_Mail.h"
+
+#include "module/base/text.h"
+
+#include <algorithm>
+
+namespace tellurix::standin {
+
+namespace {
+
+constexpr const char* getsIt = "✓";
+constexpr int textLines = 10;
+
+} // namespace
+
+F_Mail::F_Mail(Draft draft, Words words)
+    : Form("F_Mail", std::move(words.title)),
+      recipients_(std::move(draft.recipients)),
+      count_(std::move(words.count)) {
+    lblKind.setCaption(std::move(words.kind));
+    grdRecipients.setColumns({{.caption = getsIt, .width = 3},
+                              {.caption = "Empfänger", .width = 44},
+                              {.caption = "Hinweis", .width = 26}});
+    txtText.setLines(textLines);
+    txtSubject.setText(std::move(draft.subject));
+    txtText.setText(std::move(draft.text));
+    grdRecipients.onKeyDown = [this](ui::KeyDown& key) {
+        if (key.key != ui::Key::space || key.ctrl || key.alt) return;
+        key.key = ui::Key::none;
+        toggle();
+    };
+    grdRecipients.onDoubleClick = [this] { toggle(); };
+    btnSend.onClick = [this] { send(); };
+    btnCancel.onClick = [this] { unload(); };
+    setCancelButton(btnCancel);
+    setLayout(ui::column({lblKind, grdRecipients, lblCount, ui::field(lblSubject, txtSubject),
+                          ui::field(lblText, txtText), ui::row({btnSend, btnCancel})}));
+    showRecipients();
+    grdRecipients.setCurrent(0, 1);
+}
+
+void F_Mail::toggle() {
+    if (grdRecipients.currentRow() == ui::Grid::none) return;
+    Recipient& recipient = recipients_[static_cast<std::size_t>(grdRecipients.currentRow())];
+    if (!recipient.reachable) return;
+    recipient.gets = !recipient.gets;
+    showRecipients();
+}
+
+void F_Mail::showRecipients() {
+    std::vector<ui::Grid::Row> rows;
+    for (const Recipient& recipient : recipients_)
+        rows.push_back({recipient.gets ? getsIt : "", recipient.address, recipient.note});
+    grdRecipients.setRows(std::move(rows));
+    const auto count = std::ranges::count_if(recipients_, &Recipient::gets);
+    lblCount.setCaption(base::filled(count_, {std::to_string(count), std::to_string(recipients_.size())}));
+    btnSend.setEnabled(count > 0);
+}
+
+void F_Mail::send() {
+    sent_ = Draft{{}, txtSubject.text(), txtText.text()};
+    std::ranges::copy_if(recipients_, std::back_inserter(sent_->recipients), &Recipient::gets);
+    unload();
+}
+
+} // namespace tellurix::standin

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "module/ui/Form.h"
+#include "module/ui/controls/Button.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/TextBox.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tellurix::standin {
+
+/// Shows a mail before it goes: who gets it, subject and text, which the user may change. Space takes a
+/// recipient out, or back in; those that cannot be reached stay out.
+class F_Mail final : public ui::Form {
+public:
+    struct Recipient {
+        std::string address;
+        std::string note; ///< why it does not get the mail, or empty
+        bool reachable = true;
+        bool gets = true;
+    };
+    struct Draft {
+        std::vector<Recipient> recipients;
+        std::string subject;
+        std::string text;
+    };
+    struct Words {
+        std::string title;
+        std::string kind;  ///< how the recipients are named in it
+        std::string count; ///< of those who get it, and of all
+    };
+
+    F_Mail(Draft draft, Words words);
+
+    /// What the user sends, with those who get it; nothing when it was cancelled.
+    const std::optional<Draft>& sent() const { return sent_; }
+
+private:
+    void toggle();
+    void showRecipients();
+    void send();
+
+    std::vector<Recipient> recipients_;
+    std::string count_;
+    std::optional<Draft> sent_;
+
+    ui::Label lblKind{*this, "lblKind"};
+    ui::Grid grdRecipients{*this, "grdRecipients", 8};
+    ui::Label lblCount{*this, "lblCount"};
+    ui::Label lblSubject{*this, "lblSubject", "&Betreff"};
+    ui::TextBox txtSubject{*this, "txtSubject", 70};
+    ui::Label lblText{*this, "lblText", "&Text"};
+    ui::TextBox txtText{*this, "txtText", 70};
+    ui::Button btnSend{*this, "btnSend", "&Senden"};
+    ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};
+};
+
+} // namespace tellurix::standin
