@@ -26,7 +26,7 @@ struct Outgoing {
     bool done = false; ///< all of it has been handed over
 };
 
-extern "C" std::size_t readMail(char* buffer, std::size_t size, std::size_t count, void* user) {
+std::size_t readMail(char* buffer, std::size_t size, std::size_t count, void* user) {
     Outgoing& outgoing = *static_cast<Outgoing*>(user);
     const std::size_t length = std::min(size * count, outgoing.text.size() - outgoing.at);
     std::memcpy(buffer, outgoing.text.data() + outgoing.at, length);
@@ -42,7 +42,7 @@ struct Talk {
     std::string refused;   ///< the recipient that it was about
 };
 
-extern "C" int listen(CURL*, curl_infotype kind, char* data, std::size_t size, void* user) {
+int overhear(CURL*, curl_infotype kind, char* data, std::size_t size, void* user) {
     Talk& talk = *static_cast<Talk*>(user);
     std::string line{data, size};
     while (!line.empty() && (line.back() == '\n' || line.back() == '\r'))
@@ -107,7 +107,7 @@ void sendByServer(const MailServer& server, const MailMessage& message, const st
     set(curl, CURLOPT_READFUNCTION, &readMail);
     set(curl, CURLOPT_READDATA, static_cast<void*>(&outgoing));
     set(curl, CURLOPT_VERBOSE, 1L);
-    set(curl, CURLOPT_DEBUGFUNCTION, &listen);
+    set(curl, CURLOPT_DEBUGFUNCTION, &overhear);
     set(curl, CURLOPT_DEBUGDATA, static_cast<void*>(&talk));
     set(curl, CURLOPT_ERRORBUFFER, words.data());
     // Signals belong to the program, which has other threads.
