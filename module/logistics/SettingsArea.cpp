@@ -162,10 +162,10 @@ ui::Layout SettingsArea::layout() {
                                              field(lblBelieferung, txtBelieferung),
                                              field(lblLieferparitat, txtLieferparitat)})}),
                        frame(frmOriginal, {row({txtOriginal, btnOriginal})}),
+                       frame(frmBemerkung, {ui::Layout{txtBemerkung}.growing()}).growing(),
                    })
                 .growing(),
         }),
-        frame(frmBemerkung, {ui::Layout{txtBemerkung}.growing()}).growing(),
         frame(frmFhpLogistik, {chkFHPLogistikVerweden, chkWaldverbandLogistikkoordinator,
                                chkWaldhelferKannFraechterAendern, chkWaldhelferKannTransportauftraegeTeilen,
                                field(lblTransportauftraege, txtTransportauftraege, txtTransportauftragTime,

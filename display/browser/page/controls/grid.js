@@ -70,8 +70,9 @@ export class Grid extends View {
     const visible = this.state.columns.filter((column) => column.visible);
     // Where room is short, texts give way before numbers: half a name can still be recognised. What the
     // user has sized does neither give way nor grow.
-    const widths = visible.map(({ width, right, sized }) => {
-      const room = width + 2;
+    const widths = visible.map(({ width, right, sized, caption }) => {
+      // A caption that is longer than what stands below it has to be read as well; it is bold.
+      const room = (sized ? width : Math.max(width, Math.ceil(1.15 * caption.length))) + 2;
       return sized ? `${room}ch` : `minmax(${right ? room : Math.ceil(room / 2)}ch, ${room}fr)`;
     });
     this.element.style.setProperty('--columns', widths.join(' ') || '1fr');
