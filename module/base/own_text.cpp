@@ -165,10 +165,11 @@ constexpr Words wordsOf(OwnText text) {
             "This is no quantity. Please type a whole number up to 99.999.998, points between the thousands "
             "are fine."};
     case OwnText::quantitiesChanged:
-        return {"Jemand anderer hat inzwischen Mengen geändert, die auch hier geändert sind: in {} Zeilen, "
-                "zuerst bei „{}“. Sollen sie überschrieben werden?",
-                "Someone else has changed quantities in the meantime that are changed here, too: in {} rows, "
-                "\"{}\" first. Overwrite them?"};
+        return {
+            "Jemand anderer hat inzwischen Mengen geändert, die auch hier geändert sind (Zeilen: {}, zuerst "
+            "„{}“). Sollen sie überschrieben werden?",
+            "Someone else has changed quantities in the meantime that are changed here, too (rows: {}, first "
+            "\"{}\"). Overwrite them?"};
     case OwnText::savingStopped:
         return {
             "Das Speichern brach bei „{}“ ab. Geschrieben sind {} von {} geänderten Zeilen. Die übrigen sind "

@@ -50,6 +50,8 @@ void F_VertragMengenmeldung_WVO::connect() {
     btnExcel.onClick = [this] { exportListings(); };
     btnSchliesen.onClick = [this] { unload(); };
     btnSchliesen.setCausesValidation(false);
+    for (ui::Label* sum : {&lblCol2, &lblCol3})
+        sum->setHighlighted(true);
     mode_.onEnter = [this] { setCancelButton(mode_.viewing() ? btnSchliesen : btnAbbrechen); };
 }
 
@@ -66,6 +68,7 @@ void F_VertragMengenmeldung_WVO::arrange() {
 std::vector<parts::KeyedGrid::Column> F_VertragMengenmeldung_WVO::columns() {
     const auto readOnly = [](const char* caption, const char* field) {
         parts::KeyedGrid::Column column = GuardedQuantities::column(caption, field);
+        column.width = 17;
         column.editable = false;
         return column;
     };

@@ -101,6 +101,7 @@ void GuardedQuantities::startEditing() {
 }
 
 bool GuardedQuantities::changed() const {
+    if (cell_.open() && box_.touched()) return true;
     return std::ranges::any_of(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); });
 }
 

@@ -62,7 +62,7 @@ public:
     void show(std::vector<parts::KeyedRow> rows);
     /// Goes to the grid, to a cell that can be edited.
     void startEditing();
-    /// Whether something typed is not written yet.
+    /// Whether something typed is not written yet, in a cell that is still open or in any other.
     bool changed() const;
 
     /// Gives every row its announced quantity as confirmed one, with all its decimals. Nothing is written.

@@ -87,6 +87,8 @@ void HelperArea::connect() {
     btnWaldhelfer.onClick = [this] { chooseAll(); };
     btnAMB.onClick = [this] { confirm(helpers::confirmAnnounced(contract_.record)); };
     btnAWBMB.onClick = [this] { confirm(helpers::confirmOwners(contract_.record)); };
+    for (ui::Label* sum : {&lbldruchschnMenge, &lblangemMenge, &lblangemWBMenge, &lblbestMenge, &lblEinheit})
+        sum->setHighlighted(true);
     btnXLS.setEnabled(false);
     btnSerienmail.setEnabled(false);
 }
@@ -103,9 +105,9 @@ ui::Layout HelperArea::layout() {
 }
 
 std::vector<parts::KeyedGrid::Column> HelperArea::columns() const {
-    const auto quantity = [](const char* caption, const char* field, const char* mask) {
+    const auto quantity = [](const char* caption, int width, const char* field, const char* mask) {
         return parts::KeyedGrid::Column{
-            .caption = caption, .width = 13, .field = field, .mask = mask, .rightAligned = true};
+            .caption = caption, .width = width, .field = field, .mask = mask, .rightAligned = true};
     };
     const auto stamp = [](const char* caption, const char* field) {
         return parts::KeyedGrid::Column{
@@ -114,9 +116,9 @@ std::vector<parts::KeyedGrid::Column> HelperArea::columns() const {
     return {GuardedQuantities::markColumn(),
             {.caption = "Mitgl.Nr.", .width = 9, .field = helpers::numberField, .rightAligned = true},
             {.caption = "Mitglied Name", .width = 26, .field = helpers::nameField},
-            quantity("ME geplant", helpers::plannedField, plannedMask),
+            quantity("ME geplant", 13, helpers::plannedField, plannedMask),
             GuardedQuantities::column("ME angem.", GuardedQuantities::announced),
-            quantity("ME angem. WB", helpers::ownersField, quantityMask),
+            quantity("ME angem. WB", 16, helpers::ownersField, quantityMask),
             GuardedQuantities::column("ME best.", GuardedQuantities::confirmed),
             stamp("WH Änderung", helpers::changedByHelperField),
             stamp("Zent. Änderung", helpers::changedByCentreField)};

@@ -173,7 +173,7 @@ TEST_F(ForestHelpers, QuantitiesAreEditedInPlaceAndGuarded) {
     edit(fibreWood, [&](User& user) {
         typeCell(user, 0, announcedCell, "5");
         colleague("MENGE_ANG = 6", 1);
-        host.display.onMessage("zuerst bei „Huber Josef“", Answer::no);
+        host.display.onMessage("zuerst „Huber Josef“", Answer::no);
         user.click("btnSpeichern2");
         host.display.onMessage("noch nicht gespeichert", Answer::yes);
         user.close();
@@ -230,6 +230,10 @@ TEST_F(ForestHelpers, AFailureWhileManyAreAddedSaysHowManyThereAre) {
         EXPECT_EQ(numbers(user), "3001 3002 3003 3004 ") << "as it is now";
         EXPECT_FALSE(user.usable("ProgressBar1"));
         host.database.failOn("");
+        host.whileSeveralArePicked = [&] {
+            host.database.execute(
+                "INSERT INTO WVO_VERTRAG_WALDHELFER (ID_WVO_VERTRAG,ID_PERSONAL) VALUES (1,26)");
+        };
         user.click("btnWaldhelfer");
     });
     EXPECT_EQ(persons(1), "20 21 22 23 25 26 ") << "nobody twice";

@@ -304,7 +304,7 @@ TEST_F(QuantityReports, WhatAColleagueHasEnteredMeanwhile) {
                 colleague(c.change, 1);
             }
             if (c.answer)
-                host.display.onMessage("in 1 Zeilen, zuerst bei „R-2025-003 Faserholz Judenburg / lutro-t“",
+                host.display.onMessage("(Zeilen: 1, zuerst „R-2025-003 Faserholz Judenburg / lutro-t“",
                                        *c.answer);
             host.statements.clear();
             user.click("btnSpeichern");
@@ -359,9 +359,11 @@ TEST_F(QuantityReports, WhatCanBeUsedWhen) {
 TEST_F(QuantityReports, ClosingAsksAndTheNextCallFindsTheHelper) {
     reports(huber, [&](User& user) {
         user.click("btnBearbeiten");
-        typeCell(user, 0, confirmedColumn, "77");
+        user.select("MSFG", 0, confirmedColumn);
+        user.type("77");
         host.display.onMessage("noch nicht gespeichert", Answer::no);
-        user.close();
+        user.close(); // the cell is still open
+        user.key(Key::enter);
         EXPECT_EQ(cell(user, 0, confirmedColumn), "77");
         host.display.onMessage("noch nicht gespeichert", Answer::yes);
         user.select("MSFG", 1, announcedColumn);

@@ -323,6 +323,7 @@ std::optional<std::vector<std::int64_t>> TestHost::choose(const host::TlxVar& wi
     expectOwn(with);
     inner_.open(query); // one that the database takes
     multiSelections.push_back({list, query, marked});
+    if (whileSeveralArePicked) whileSeveralArePicked();
     return pickedSeveral;
 }
 

@@ -137,6 +137,7 @@ public:
     std::vector<MultiSelection> multiSelections;
     /// What the user marks in the next one; nothing cancels it.
     std::optional<std::vector<std::int64_t>> pickedSeveral;
+    std::function<void()> whileSeveralArePicked; ///< what happens meanwhile
 
 private:
     /// What the host handed over when it called the module.

@@ -36,6 +36,7 @@ protected:
             user.click("btnSpeichern");
             user.click("btnAbbrechen");
         });
+        openQuantityReports();
         for (std::size_t i = before; i < display.messages().size(); ++i) {
             add(display.messages()[i].text);
             add(display.messages()[i].title);
@@ -53,6 +54,11 @@ private:
         host::clsVertrag module{host};
         module.Vertrag_Run(session, contract, "", "R", ".", ",", "", blnOK, euroChange, services.mainWindow(),
                            1, false, "-", false);
+    }
+
+    void openQuantityReports() {
+        display.onWindow("F_VertragMengenmeldung_WVO", [this](User& user) { editQuantityReports(user); });
+        host::clsVertrag{host}.F_VertragMengenmeldung_WVO_Run(session, 1);
     }
 
     void expectMessage(Answer answer = Answer::ok) { display.onMessage("", answer); }
@@ -122,6 +128,23 @@ private:
         user.click("cmdOk");
     }
 
+    void editQuantityReports(User& user) {
+        user.type("txtWaldhelfer", "3001");
+        user.key(ui::Key::enter);
+        gather(user);
+        user.click("btnBearbeiten");
+        user.type("99999999");
+        expectMessage();
+        user.key(ui::Key::enter);
+        user.replaceText("txtEdit", "4711");
+        user.key(ui::Key::enter);
+        db("UPDATE WVO_VERTRAG_WALDHELFER SET MENGE_ANG = ISNULL(MENGE_ANG,0) + 1 WHERE ID = 1");
+        expectMessage(Answer::no);
+        user.click("btnSpeichern");
+        expectMessage(Answer::yes);
+        user.close();
+    }
+
     void gather(User& user) {
         ui::Form& form = user.window();
         add(form.title().substr(0, form.title().find(" ("))); // without the contract's name
@@ -173,7 +196,9 @@ TEST_F(Languages, InEnglishNothingButTheGivenTextsIsGerman) {
     }
     for (const char* seen :
          {"too large", "Over-delivery: 37,50 delivered, 0,00 permitted", "Claimed by earlier lines",
-          "The text could not be saved. Discard it?", "Delivery period"})
+          "The text could not be saved. Discard it?", "Delivery period",
+          "Someone else has changed quantities in the meantime that are changed here, too (rows: 1, first "
+          "\"R-2025-003 Faserholz Judenburg / lutro-t\"). Overwrite them?"})
         EXPECT_TRUE(english.contains(seen)) << seen;
 }
 
