@@ -67,8 +67,8 @@ SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services)
       lblUberlieferung(form, "lblUberlieferung", "Überlieferung in %"),
       txtUberlieferung(form, "txtUberlieferung", 11),
       lblBereitstellung(form, "lblBereitstellung", "Bereitstellungsmeldung bis"),
-      txtBereitstellung(form, "txtBereitstellung", 14),
-      txtBereitstellungTime(form, "txtBereitstellungTime", 6),
+      txtBereitstellung(form, "txtBereitstellung", 16),
+      txtBereitstellungTime(form, "txtBereitstellungTime", 8),
       lblBereitstellungTime(form, "lblBereitstellungTime", timeFormat),
       lblBelieferung(form, "lblBelieferung", "Belieferung"),
       txtBelieferung(form, "txtBelieferung", 34),
@@ -93,8 +93,8 @@ SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services)
           "teilen"),
       lblTransportauftraege(form, "lblTransportauftraege",
                             "Nicht versandte Transportaufträge automatisch versenden am:"),
-      txtTransportauftraege(form, "txtTransportauftraege", 14),
-      txtTransportauftragTime(form, "txtTransportauftragTime", 6),
+      txtTransportauftraege(form, "txtTransportauftraege", 16),
+      txtTransportauftragTime(form, "txtTransportauftragTime", 8),
       lblTransportauftragTime(form, "lblTransportauftragTime", timeFormat),
       btnBearbeiten(form, "btnBearbeiten", "&Bearbeiten"),
       btnSpeichern(form, "btnSpeichern", "&Speichern"),
@@ -111,7 +111,7 @@ SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services)
       mode_({.edit = &btnBearbeiten, .save = &btnSpeichern, .cancel = &btnAbbrechen},
             {.whileEdited = {&frmSchalter, &frmEinstellungen, &frmBemerkung, &frmOriginal, &frmFhpLogistik}},
             [] { return true; }) {
-    txtBemerkung.setLines(3);
+    txtBemerkung.setLines(2);
     connect();
 }
 
@@ -157,12 +157,13 @@ ui::Layout SettingsArea::layout() {
                              {ui::fields(1, {field(lblAngemeldete, txtAngemeldete),
                                              field(lblMengenmeldung, txtMengenmeldung),
                                              field(lblUberlieferung, txtUberlieferung),
-                                             field(lblBereitstellung, txtBereitstellung,
-                                                   txtBereitstellungTime, lblBereitstellungTime),
+                                             field(lblBereitstellung, txtBereitstellung),
+                                             field(lblBereitstellungTime, txtBereitstellungTime),
                                              field(lblBelieferung, txtBelieferung),
                                              field(lblLieferparitat, txtLieferparitat)})}),
                        frame(frmOriginal, {row({txtOriginal, btnOriginal})}),
                        frame(frmBemerkung, {ui::Layout{txtBemerkung}.growing()}).growing(),
+                       row({btnBearbeiten, btnSpeichern, btnAbbrechen}),
                    })
                 .growing(),
         }),
@@ -170,7 +171,6 @@ ui::Layout SettingsArea::layout() {
                                chkWaldhelferKannFraechterAendern, chkWaldhelferKannTransportauftraegeTeilen,
                                field(lblTransportauftraege, txtTransportauftraege, txtTransportauftragTime,
                                      lblTransportauftragTime)}),
-        row({btnBearbeiten, btnSpeichern, btnAbbrechen}),
     });
 }
 

@@ -452,5 +452,35 @@ TEST_F(InputRules, GridsAndListsAreWorkedByKeys) {
     display.showModal(lists);
 }
 
+TEST_F(InputRules, AHeadingIsPressedWithThePointerOrByKeysOnceTheBoxMayBeLeft) {
+    struct Table final : ui::Form {
+        Table() : Form("Table", "Tabelle") {
+            grid.setColumns({{"Art"}, {"Menge"}});
+            grid.setRows({{"Fichte", "1"}});
+            grid.onHeadingClick = [this](int column) { pressed += std::to_string(column); };
+            box.onLeave = [this] { return !box.text().empty(); };
+            setLayout(ui::column({box, grid}));
+        }
+        ui::TextBox box{*this, "box"};
+        ui::Grid grid{*this, "grid", 5};
+        std::string pressed;
+    } table;
+    ui::Desktop desktop{display};
+    desktop.runModal(table, [&]() -> ui::Event {
+        desktop.dispatch(ui::HeadingEvent{&table.grid, 1});
+        EXPECT_EQ(table.pressed, "") << "the box keeps the focus";
+        table.box.setText("da");
+        desktop.dispatch(ui::HeadingEvent{&table.grid, 1});
+        EXPECT_EQ(table.focused(), &table.grid);
+        table.grid.setCurrent(0, 0);
+        desktop.dispatch(ui::KeyDownEvent{{.key = Key::enter, .ctrl = true}});
+        EXPECT_EQ(table.pressed, "10");
+        table.grid.setEnabled(false);
+        desktop.dispatch(ui::HeadingEvent{&table.grid, 0});
+        EXPECT_EQ(table.pressed, "10");
+        return ui::CloseEvent{};
+    });
+}
+
 } // namespace
 } // namespace tellurix::tests

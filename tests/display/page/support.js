@@ -82,7 +82,7 @@ export function control(page, name) {
 
 /** Name of the control that has the browser's focus. */
 export function focused(page) {
-  return page.evaluate(() => document.activeElement?.dataset.control ?? '');
+  return page.evaluate(() => document.activeElement?.closest('[data-control]')?.dataset.control ?? '');
 }
 
 /** Waits until that control has the focus. */
