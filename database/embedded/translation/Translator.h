@@ -111,8 +111,12 @@ private:
     /// Whether its WHERE asks for one key, so that there cannot be two rows.
     bool choosesOneRow(const SelectBranch& branch) const;
     void addStar(Branch& branch, const SelectItem& item);
-    std::string fromText(const List<FromItem>& from, Scope& scope);
+    std::string fromText(const List<FromItem>& from, const Expression* where, Scope& scope);
     std::string fromItemText(const FromItem& item, Scope& scope);
+    /// Has a derived table make no groups but those that can meet a row of the answer; see carried_keys.h.
+    void narrow(const List<FromItem>& from, const Expression* where, const FromItem& item,
+                const Scope& scope);
+    bool isWholeNumber(const Expression& fixedValue) const;
     std::string orderText(const Query& query, const std::vector<OutputColumn>& columns, const Branch* branch);
     int orderedColumn(const Expression& expression, const std::vector<OutputColumn>& columns) const;
     std::string topText(const SelectBranch& branch);
@@ -219,7 +223,9 @@ private:
     /// Source and column of every use of a column so far.
     std::vector<std::pair<int, int>> usedColumns_;
     std::vector<int> parameters_;
-    Arena defaults_; ///< syntax trees of columns' defaults
+    /// What else the WHERE of a derived table asks.
+    std::vector<std::pair<const SelectBranch*, Expression*>> narrowing_;
+    Arena defaults_; ///< syntax trees that no text holds: columns' defaults, conditions of `narrowing_`
 };
 
 class Translator::Depth {

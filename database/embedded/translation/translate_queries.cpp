@@ -1,4 +1,5 @@
 #include "database/embedded/translation/Translator.h"
+#include "database/embedded/translation/carried_keys.h"
 #include "database/embedded/values/Fault.h"
 #include "database/embedded/values/names.h"
 
@@ -150,8 +151,19 @@ Translator::QueryText Translator::unionText(const Query& query, bool named) {
 void Translator::fillBranch(Branch& branch, const SelectBranch& source, const EditItem& edit) {
     Scope& scope = branch.scope;
     branch.distinct = source.distinct;
-    if (!source.from.empty()) branch.rest = fromText(source.from, scope);
-    if (source.where != nullptr) branch.rest += " WHERE " + condition(source.where, "WHERE").sql;
+    if (!source.from.empty()) branch.rest = fromText(source.from, source.where, scope);
+    std::string where;
+    if (source.where != nullptr) where = condition(source.where, "WHERE").sql;
+    for (const auto& [narrowed, asked] : narrowing_) {
+        if (narrowed != &source) continue;
+        const Scope::Place group = scope.find(*asked->operands[0]);
+        if (group.scope != &scope ||
+            !group.source->columnType(static_cast<std::size_t>(group.column)).isIntegral())
+            continue;
+        const std::string key = condition(asked, "WHERE").sql;
+        where = where.empty() ? key : "(" + where + ") AND " + key;
+    }
+    if (!where.empty()) branch.rest += " WHERE " + where;
     for (std::size_t index = 0; index < source.groupBy.size(); ++index) {
         Fragment group = value(*source.groupBy[index]);
         if (group.literal != Fragment::Literal::none)
@@ -239,9 +251,10 @@ std::string Translator::branchText(const Branch& branch, bool named) {
     return sql;
 }
 
-std::string Translator::fromText(const List<FromItem>& from, Scope& scope) {
+std::string Translator::fromText(const List<FromItem>& from, const Expression* where, Scope& scope) {
     std::string sql = " FROM ";
     for (const FromItem& item : from) {
+        narrow(from, where, item, scope);
         switch (item.join) {
         case JoinKind::none:
             break;
@@ -259,6 +272,39 @@ std::string Translator::fromText(const List<FromItem>& from, Scope& scope) {
         if (item.on != nullptr) sql += " ON " + condition(item.on, "ON").sql;
     }
     return sql;
+}
+
+bool Translator::isWholeNumber(const Expression& fixedValue) const {
+    if (fixedValue.kind != ExpressionKind::variable) return true;
+    const int number = variables_.find(fixedValue.name.folded);
+    return number != Variables::none &&
+           variables_.scalars[static_cast<std::size_t>(number)].type.isIntegral();
+}
+
+/// Whole numbers alone: they are equal to each other whatever their types are.
+void Translator::narrow(const List<FromItem>& from, const Expression* where, const FromItem& item,
+                        const Scope& scope) {
+    for (const CarriedKey& key : carriedKeys(from, where, item)) {
+        if (!isWholeNumber(*key.value)) continue;
+        if (key.fixed != nullptr) {
+            const Source* const source = scope.findSource(key.fixed->qualifier.folded);
+            const int column =
+                source == nullptr ? Table::noColumn : source->findColumn(key.fixed->name.folded);
+            if (column == Table::noColumn ||
+                !source->columnType(static_cast<std::size_t>(column)).isIntegral())
+                continue;
+        }
+        auto* const group =
+            defaults_.make<Expression>(defaults_, ExpressionKind::column, key.group->position);
+        group->qualifier = key.group->qualifier;
+        group->name = key.group->name;
+        auto* const asked =
+            defaults_.make<Expression>(defaults_, ExpressionKind::comparison, key.value->position);
+        asked->op = Operator::equal;
+        asked->operands.push_back(group);
+        asked->operands.push_back(key.value);
+        narrowing_.emplace_back(item.derived->branches.front(), asked);
+    }
 }
 
 std::string Translator::fromItemText(const FromItem& item, Scope& scope) {

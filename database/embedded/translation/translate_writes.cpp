@@ -34,6 +34,7 @@ void Translator::start() {
     rememberedCount_ = 0;
     depth_ = deepest_ = 0;
     usedColumns_.clear();
+    narrowing_.clear();
 }
 
 Translation Translator::finish(std::string sql) {
@@ -225,7 +226,7 @@ Translation Translator::edit(const std::string& tableName, const std::vector<Edi
 std::string Translator::joinedUpdate(const UpdateStatement& update) {
     Scope scope(nullptr);
     const EnteredScope inside(scope_, &scope);
-    const std::string from = fromText(update.from, scope);
+    const std::string from = fromText(update.from, update.where, scope);
     const Source* const source = scope.findSource(update.target.folded);
     if (source == nullptr || source->table == nullptr)
         failUnknownName("The table " + std::string(update.target.written) + " does not stand in FROM",
