@@ -10,6 +10,20 @@ Batch::Batch(std::string_view text) : text_(text), tableVariables_(arena_.memory
     block_ = Parser(text_, arena_).parseBatch();
     collect(*block_);
     computedStatements_ = computedPart(*block_);
+    computedSize_ = text_.size();
+    if (computedStatements_ == 0 || computedStatements_ == block_->statements.size()) return;
+    const auto* const* const select = std::get_if<SelectStatement*>(&block_->statements[computedStatements_]);
+    if (select != nullptr) computedSize_ = (*select)->query->position;
+}
+
+bool Batch::use(std::shared_ptr<const Computed> computed) {
+    if (computed && computed == computed_) return false;
+    computed_ = std::move(computed);
+    // What has been compiled names the tables of before.
+    compiled_.clear();
+    variables_.tables.clear();
+    if (computed_) variables_.tables = computed_->tables;
+    return true;
 }
 
 void Batch::collect(const Block& block) {

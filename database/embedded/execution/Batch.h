@@ -7,7 +7,7 @@
 #include "database/embedded/translation/Translator.h"
 #include "database/embedded/values/packed.h"
 
-#include <optional>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -24,12 +24,14 @@ struct Compiled {
     std::vector<SqliteStatement> idle; ///< prepared and not running now
 };
 
-/// What the first statements of a batch have computed, for the options that they ran under.
+/// What the first statements of a batch have computed, for the options that they ran under. Batches that
+/// begin with the same text share it.
 struct Computed {
     SessionOptions before;
     SessionOptions after;
     std::vector<Cell> frame;
     std::int64_t rowsAffected = -1;
+    NameMap<std::shared_ptr<const Table>> tables;
 };
 
 /// A statement text once it has been parsed, and what has been compiled of it so far: statements
@@ -42,10 +44,16 @@ public:
     const std::string& text() const { return text_; }
     Block& block() { return *block_; }
     Variables& variables() { return variables_; }
+    const Variables& variables() const { return variables_; }
     const List<TableDefinition*>& tableVariables() const { return tableVariables_; }
     /// How many of the first statements `computed` stands for; see computed_part.h.
     std::size_t computedStatements() const { return computedStatements_; }
-    std::optional<Computed>& computed() { return computed_; }
+    /// The text of those statements; all of the text where what follows them could mean more by the same
+    /// words.
+    std::string_view computedText() const { return std::string_view(text_).substr(0, computedSize_); }
+    /// What the batch works with from now on: its table variables are those of `computed`, or none yet.
+    /// @return false when it did so before
+    bool use(std::shared_ptr<const Computed> computed);
 
     /// @param node the part of the syntax tree that is meant
     Compiled& compiled(const void* node) { return compiled_[node]; }
@@ -68,7 +76,8 @@ private:
     Variables variables_;
     List<TableDefinition*> tableVariables_;
     std::size_t computedStatements_ = 0;
-    std::optional<Computed> computed_;
+    std::size_t computedSize_ = 0;
+    std::shared_ptr<const Computed> computed_;
     std::unordered_map<const void*, Compiled> compiled_;
     std::set<std::vector<std::pair<int, std::int64_t>>> editNodes_;
 };

@@ -181,17 +181,28 @@ void Engine::prepareTableVariables(Batch& batch) {
     }
 }
 
+std::shared_ptr<const Computed> Engine::computed(const Batch& batch) const {
+    const auto found = computed_.find(batch.computedText());
+    auto computed = found == computed_.end() ? nullptr : found->second.lock();
+    return computed && computed->before == connection_.session().options ? computed : nullptr;
+}
+
+void Engine::keep(const Batch& batch, const std::shared_ptr<const Computed>& computed) {
+    std::erase_if(computed_, [](const auto& entry) { return entry.second.expired(); });
+    computed_.insert_or_assign(std::string(batch.computedText()), computed);
+}
+
 void Engine::indexTableVariables(Batch& batch) {
     for (const auto& [name, table] : batch.variables().tables) {
         std::string columns;
         for (const std::string_view column : comparedColumns(batch.block()))
             if (const int number = table->findColumn(column); number != Table::noColumn)
                 columns += (columns.empty() ? "" : ",") + quoteName(table->column(number).name);
-        // temp."@1" gets temp."@1 index" on "@1".
+        // temp."@1" gets an index on "@1"; each batch that uses it may look for other columns.
         const std::string own = table->sqlName().substr(table->sqlName().find('.') + 1);
         if (!columns.empty())
-            connection_.run("CREATE INDEX IF NOT EXISTS temp." + own.substr(0, own.size() - 1) +
-                            " index\" ON " + own + " (" + columns + ")");
+            connection_.run("CREATE INDEX IF NOT EXISTS temp." + quoteName(own + columns) + " ON " + own +
+                            " (" + columns + ")");
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/embedded/execution/Batch.h"
+#include "database/embedded/execution/Calculation.h"
 #include "database/embedded/execution/StatementCache.h"
 #include "database/embedded/sqlite/SqliteConnection.h"
 #include "database/embedded/sqlite/cell.h"
@@ -10,6 +11,7 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -24,9 +26,6 @@ struct Task {
     const void* node = nullptr;
     std::function<Translation(Translator&)> translate;
 };
-
-/// The values of a batch's variables while it runs.
-using Frame = std::vector<Cell>;
 
 /// A statement that has been compiled for one run.
 struct Running {
@@ -79,6 +78,9 @@ public:
 
     /// Makes the tables of a batch's table variables, or empties them when it has run before.
     void prepareTableVariables(Batch& batch);
+    /// What a batch with this computed text, under these options, has left; null when there is nothing.
+    std::shared_ptr<const Computed> computed(const Batch& batch) const;
+    void keep(const Batch& batch, const std::shared_ptr<const Computed>& computed);
     /// Gives the batch's table variables an index over the columns by which its queries look into them.
     void indexTableVariables(Batch& batch);
     /// A table variable that is gone; its table is dropped at the next occasion.
@@ -95,6 +97,8 @@ private:
     int tableVariableCount_ = 0;
     std::vector<EmbeddedRecordset*> open_;
     std::vector<std::string> discarded_;
+    /// By the text that computes it, as long as one of its batches is there.
+    std::map<std::string, std::weak_ptr<const Computed>, std::less<>> computed_;
     StatementCache cache_;
 };
 

@@ -1,5 +1,6 @@
 #include "database/embedded/execution/Interpreter.h"
 
+#include "database/embedded/execution/CalculatedLoop.h"
 #include "database/embedded/execution/EmbeddedRecordset.h"
 #include "database/embedded/translation/definitions.h"
 #include "database/embedded/values/Fault.h"
@@ -11,10 +12,10 @@ Interpreter::Interpreter(std::shared_ptr<Engine> engine, std::shared_ptr<Batch> 
 
 base::ExecuteResult Interpreter::run() {
     const List<Statement>& statements = batch_->block().statements;
-    if (!restore()) {
+    if (batch_->computedStatements() == 0)
         engine_->prepareTableVariables(*batch_);
+    else if (!restore())
         compute();
-    }
     for (std::size_t index = batch_->computedStatements(); index < statements.size(); ++index)
         run(statements[index]);
     return std::move(result_);
@@ -22,30 +23,36 @@ base::ExecuteResult Interpreter::run() {
 
 /// Takes over what an earlier run of the same text has computed. Its table variables are still filled.
 bool Interpreter::restore() {
-    const std::optional<Computed>& computed = batch_->computed();
-    SessionOptions& options = engine_->session().options;
-    if (!computed || computed->before != options) return false;
-    options = computed->after;
+    auto computed = engine_->computed(*batch_);
+    if (!computed) return false;
+    engine_->session().options = computed->after;
     frame_ = computed->frame;
     result_.rowsAffected = computed->rowsAffected;
+    use(std::move(computed));
     return true;
 }
 
+void Interpreter::use(std::shared_ptr<const Computed> computed) {
+    engine_->readAllOpenRows();
+    if (batch_->use(std::move(computed))) engine_->indexTableVariables(*batch_);
+}
+
 void Interpreter::compute() {
-    const std::size_t count = batch_->computedStatements();
-    if (count == 0) return;
-    batch_->computed().reset();
+    use(nullptr);
+    engine_->prepareTableVariables(*batch_);
     const SessionOptions before = engine_->session().options;
     {
         // Nothing here touches the file, so that nobody waits for this; one end for all statements is
         // quicker.
         SqliteTransaction together(engine_->connection(), SqliteTransaction::Kind::variable);
-        for (std::size_t index = 0; index < count; ++index)
+        for (std::size_t index = 0; index < batch_->computedStatements(); ++index)
             run(batch_->block().statements[index]);
         together.commit();
     }
-    engine_->indexTableVariables(*batch_);
-    batch_->computed() = Computed{before, engine_->session().options, frame_, result_.rowsAffected};
+    auto computed = std::make_shared<const Computed>(Computed{
+        before, engine_->session().options, frame_, result_.rowsAffected, batch_->variables().tables});
+    engine_->keep(*batch_, computed);
+    use(std::move(computed));
 }
 
 void Interpreter::run(const Statement& statement) {
@@ -173,6 +180,11 @@ void Interpreter::run(const IfStatement& choice) {
 }
 
 void Interpreter::run(const WhileStatement& loop) {
+    if (auto calculated = CalculatedLoop::of(loop, *batch_)) {
+        const CalculatedLoop::End end = calculated->run(*engine_, frame_);
+        if (end.wrote) result_.rowsAffected = engine_->session().options.noCount ? -1 : 1;
+        if (end.reached) return;
+    }
     while (holds(*loop.condition))
         run(loop.body);
 }

@@ -19,6 +19,7 @@ public:
 private:
     bool restore();
     void compute();
+    void use(std::shared_ptr<const Computed> computed);
     void run(const Statement& statement);
     void run(const SelectStatement& select);
     void assign(const SelectStatement& select);

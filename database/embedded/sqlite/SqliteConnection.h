@@ -30,6 +30,7 @@ public:
                      const base::Clock& clock);
 
     SqlSession& session() { return session_; }
+    const SqlSession& session() const { return session_; }
     sqlite3* handle() { return handle_.get(); }
 
     /// @param lasting it will be run many times

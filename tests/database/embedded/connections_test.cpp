@@ -207,6 +207,34 @@ TEST_F(Connections, ABatchSentAgainAnswersAsIfItComputedAnew) {
     EXPECT_EQ(rows->integer("N"), 1);
 }
 
+TEST_F(Connections, BatchesThatBeginAlikeAnswerAsIfEachComputedForItself) {
+    const std::string loop =
+        "DECLARE @t TABLE (N int, M int) DECLARE @i int = 0 WHILE @i < 20 BEGIN "
+        "INSERT INTO @t VALUES (@i, DATEPART(weekday, '01.06.2025')) SET @i = @i + 1 END ";
+    const std::string ofNumber = loop + "SELECT SUM(M), @i FROM @t WHERE N = 3";
+    const std::string ofDay = loop + "SELECT COUNT(*), SUM(N) FROM @t WHERE M = 7";
+    const std::string alike = loop + "SELECT (SELECT COUNT(*) FROM @t A WHERE A.N = T.N) FROM T WHERE ID = ";
+    EXPECT_EQ(answer(*first_, ofNumber), "7 | 20");
+    EXPECT_EQ(answer(*first_, ofDay), "20 | 190");
+    EXPECT_EQ(answer(*first_, alike + "1"), "1");
+    // The rows of one of them are still being read while the others begin anew.
+    const auto rows = first_->execute(loop + "SELECT N FROM @t ORDER BY N").rows;
+    rows->moveNext();
+    first_->execute("SET DATEFIRST 7");
+    EXPECT_EQ(answer(*first_, ofDay), "0 | NULL");
+    EXPECT_EQ(answer(*first_, ofNumber), "1 | 20");
+    EXPECT_EQ(rows->integer("N"), 1);
+    first_->execute("SET DATEFIRST 1");
+    EXPECT_EQ(answer(*first_, ofNumber), "7 | 20");
+    EXPECT_EQ(answer(*first_, ofDay), "20 | 190");
+    // More texts than are kept, so that nobody has the computed rows any more.
+    for (int each = 0; each < 300; ++each)
+        EXPECT_EQ(
+            answer(*first_, alike + std::to_string(each % 3 + 1) + " AND N < " + std::to_string(9 + each)),
+            "1");
+    EXPECT_EQ(answer(*first_, ofNumber), "7 | 20");
+}
+
 TEST_F(Connections, ARowThatIsGoneCannotBeEdited) {
     const auto rows = first_->openUpdatable("SELECT * FROM T WHERE ID = 2");
     second_->execute("DELETE FROM T WHERE ID = 2");
