@@ -252,7 +252,7 @@ TEST_F(ProvisionReports, AreWrittenRowByRow) {
                       "(22,3,2025,23,GETDATE())\r\nSELECT IDENT_CURRENT('WVO_BEREITMELDUNG_KW')",
                       "UPDATE WVO_BEREITMELDUNG_KW SET WVO_BEREITMELDUNG_KW.ZUEGE = NULL,"
                       "WVO_BEREITMELDUNG_KW.ZUEG_ZUGESAGT = 9999,WVO_BEREITMELDUNG_KW.FRAECHTER_TEXT = "
-                      "'Kögl; 2''',DATUM_CHANGE_ZENT = '09.03.2026 08:00:00' WHERE ID = 8 AND   ( "
+                      "'Kögl; 2''',DATUM_CHANGE_ZENT = '09.03.2026 08:00:00' WHERE ID = 30 AND   ( "
                       "ISNULL(WVO_BEREITMELDUNG_KW.ZUEG_ZUGESAGT,0) <> 9999 OR "
                       "ISNULL(WVO_BEREITMELDUNG_KW.ZUEGE,0) <> NULL OR "
                       "ISNULL(WVO_BEREITMELDUNG_KW.FRAECHTER_TEXT,'') <> 'Kögl; 2''')"}));
@@ -536,7 +536,7 @@ TEST_F(ProvisionReports, GoToTheSpreadsheetAsTheyAreShown) {
         user.click("btnSpeichern");
         user.close();
     });
-    EXPECT_EQ(row("SELECT ID_VERTRAEGE,JAHR,WOCHE,ZUEGE FROM WVO_BEREITMELDUNG_KW WHERE ID > 7"),
+    EXPECT_EQ(row("SELECT ID_VERTRAEGE,JAHR,WOCHE,ZUEGE FROM WVO_BEREITMELDUNG_KW WHERE ID > 29"),
               "16 | 2026 | 1 | 2");
 }
 
