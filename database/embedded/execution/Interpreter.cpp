@@ -140,6 +140,13 @@ void Interpreter::run(const CreateIndexStatement& index) {
     engine_->refreshCatalogue();
 }
 
+void Interpreter::run(const AddColumnsStatement& alter) {
+    engine_->prepareToWrite();
+    engine_->refreshCatalogue();
+    addColumns(engine_->connection(), engine_->catalogue(), alter);
+    engine_->refreshCatalogue();
+}
+
 void Interpreter::run(const DropTableStatement& drop) {
     engine_->prepareToWrite();
     engine_->refreshCatalogue();

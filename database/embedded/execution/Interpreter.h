@@ -28,6 +28,7 @@ private:
     void run(const DeleteStatement& deletion);
     void run(const TableDefinition& table);
     void run(const CreateIndexStatement& index);
+    void run(const AddColumnsStatement& alter);
     void run(const DropTableStatement& drop);
     void run(const DeclareVariable& declaration);
     void run(const SetVariable& set);

@@ -42,6 +42,7 @@ private:
     Statement parseCreate();
     Statement parseCreateTable();
     Statement parseCreateIndex(bool unique);
+    Statement parseAlterTable();
     Statement parseDropTable();
     void parseTableBody(TableDefinition& table);
     ColumnDefinition parseColumn();

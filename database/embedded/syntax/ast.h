@@ -213,6 +213,13 @@ struct CreateIndexStatement {
     List<IndexedColumn> columns;
 };
 
+struct AddColumnsStatement {
+    explicit AddColumnsStatement(Arena& arena) : columns(arena.memory()) {}
+
+    Name table;
+    List<ColumnDefinition> columns;
+};
+
 struct DropTableStatement {
     Name table;
     bool ifExists = false;
@@ -242,9 +249,10 @@ struct Block;
 struct IfStatement;
 struct WhileStatement;
 
-using Statement = std::variant<SelectStatement*, InsertStatement*, UpdateStatement*, DeleteStatement*,
-                               TableDefinition*, CreateIndexStatement*, DropTableStatement*, DeclareVariable*,
-                               SetVariable*, SetOption*, Block*, IfStatement*, WhileStatement*>;
+using Statement =
+    std::variant<SelectStatement*, InsertStatement*, UpdateStatement*, DeleteStatement*, TableDefinition*,
+                 CreateIndexStatement*, AddColumnsStatement*, DropTableStatement*, DeclareVariable*,
+                 SetVariable*, SetOption*, Block*, IfStatement*, WhileStatement*>;
 
 /// BEGIN … END, and the text as a whole.
 struct Block {

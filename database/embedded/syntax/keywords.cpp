@@ -16,7 +16,9 @@ constexpr std::size_t longestKeyword = 17;
 
 const KeywordTable& keywordTable() {
     static const KeywordTable table{
+        {"add", Keyword::addKeyword},
         {"all", Keyword::allKeyword},
+        {"alter", Keyword::alterKeyword},
         {"and", Keyword::andKeyword},
         {"as", Keyword::asKeyword},
         {"asc", Keyword::ascKeyword},
@@ -84,7 +86,6 @@ const KeywordTable& keywordTable() {
         {"with", Keyword::withKeyword},
         // Were they names, a misplaced one would be taken for an alias and the rest of its clause
         // for something else.
-        {"alter", Keyword::unsupported},
         {"any", Keyword::unsupported},
         {"backup", Keyword::unsupported},
         {"break", Keyword::unsupported},

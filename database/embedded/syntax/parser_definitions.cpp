@@ -140,6 +140,23 @@ Statement Parser::parseCreateIndex(bool unique) {
     return index;
 }
 
+/// A table gets new columns, and nothing else about it changes. Its rows hold NULL there.
+Statement Parser::parseAlterTable() {
+    take();
+    expect(Keyword::tableKeyword, "TABLE");
+    auto* const alter = arena_.make<AddColumnsStatement>(arena_);
+    alter->table = parseTableName();
+    expect(Keyword::addKeyword, "ADD");
+    do {
+        alter->columns.push_back(parseColumn());
+        const ColumnDefinition& column = alter->columns.back();
+        if (!column.nullable || column.unique || column.defaultValue != nullptr)
+            failSyntax("A column that is added later takes NULL and has no key and no default",
+                       column.name.position);
+    } while (accept(Symbol::comma));
+    return alter;
+}
+
 Statement Parser::parseDropTable() {
     take();
     expect(Keyword::tableKeyword, "TABLE");

@@ -48,6 +48,8 @@ Statement Parser::parseStatement() {
         return parseBlock();
     case Keyword::createKeyword:
         return parseCreate();
+    case Keyword::alterKeyword:
+        return parseAlterTable();
     case Keyword::dropKeyword:
         return parseDropTable();
     case Keyword::unsupported:

@@ -10,7 +10,9 @@ namespace tellurix::embedded {
 /// name of a table or column without brackets.
 enum class Keyword : std::uint8_t {
     none,
+    addKeyword,
     allKeyword,
+    alterKeyword,
     andKeyword,
     asKeyword,
     ascKeyword,

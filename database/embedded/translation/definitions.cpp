@@ -55,13 +55,18 @@ void requireSensible(const TableDefinition& table) {
     if (primaryKeys > 1) failSyntax("A table has at most one PRIMARY KEY", table.table.position);
 }
 
+std::string typeText(const ColumnDefinition& column) {
+    std::string text = " " + declarationOf(column.typeName.folded, column.type);
+    if (column.type.isText()) text += std::string(" COLLATE ") + Collation::name;
+    return text;
+}
+
 std::string columnText(const TableDefinition& table, const ColumnDefinition& column) {
     std::string text = quoteName(column.name.written);
     if (column.identity)
         // Exactly these words make SQLite give the keys, and never one of them again.
         return text + " INTEGER PRIMARY KEY AUTOINCREMENT";
-    text += " " + declarationOf(column.typeName.folded, column.type);
-    if (column.type.isText()) text += std::string(" COLLATE ") + Collation::name;
+    text += typeText(column);
     if (!column.nullable || isKeyOfPrimary(table, column)) text += " NOT NULL";
     if (column.primaryKey) text += " PRIMARY KEY";
     if (column.unique) text += " UNIQUE";
@@ -157,6 +162,24 @@ void createTable(SqliteConnection& connection, Catalogue& catalogue, const Table
             connection.run("INSERT INTO sqlite_sequence (name,seq) VALUES (" + quoteText(name) + "," +
                            std::to_string(column.seed - 1) + ")");
     createNullGuards(connection, definition);
+    transaction.commit();
+}
+
+void addColumns(SqliteConnection& connection, Catalogue& catalogue, const AddColumnsStatement& statement) {
+    const Table* const table = catalogue.find(statement.table.folded);
+    if (table == nullptr)
+        failUnknownName("There is no table " + std::string(statement.table.written),
+                        statement.table.position);
+    SqliteTransaction transaction(connection);
+    for (const ColumnDefinition& column : statement.columns) {
+        if (table->findColumn(column.name.folded) != Table::noColumn)
+            throw Fault(base::DatabaseErrorCategory::other,
+                        "The table " + table->name() + " already has a column " +
+                            std::string(column.name.written),
+                        column.name.position);
+        connection.run("ALTER TABLE " + table->sqlName() + " ADD COLUMN " + quoteName(column.name.written) +
+                       typeText(column));
+    }
     transaction.commit();
 }
 

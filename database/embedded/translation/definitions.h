@@ -12,6 +12,8 @@ namespace tellurix::embedded {
 
 /// @throws Fault when there already is such a table or index, or a name in the definition is wrong
 void createTable(SqliteConnection& connection, Catalogue& catalogue, const TableDefinition& definition);
+/// @throws Fault when there is no such table, or there already is such a column
+void addColumns(SqliteConnection& connection, Catalogue& catalogue, const AddColumnsStatement& statement);
 void createIndex(SqliteConnection& connection, Catalogue& catalogue, const CreateIndexStatement& statement);
 void dropTable(SqliteConnection& connection, Catalogue& catalogue, const DropTableStatement& statement);
 
