@@ -477,6 +477,11 @@ CREATE TABLE WORKBENCH_MODEL_LINE (
 )
 GO
 
+-- Which version of this schema a database has. It counts on with every table, column and index that comes; a
+-- database of an earlier version gets what it lacks when it is opened. So a column that comes later takes NULL.
+INSERT INTO WORKBENCH_SETTING ([NAME], [VALUE]) VALUES ('SCHEMA', '2')
+GO
+
 -- Indexes
 
 CREATE INDEX IX_VERTRAEGE_NAME ON VERTRAEGE (VERTRAG_NAME)

@@ -1,6 +1,8 @@
 #include "com/server/ServedClass.h"
+#include "database/embedded/Database.h"
 #include "standin/ado_objects/embedded_connection.h"
 #include "standin/home/database_file.h"
+#include "standin/home/schema_step.h"
 #include "standin/library/ServiceObject.h"
 
 #include <Tellurix_Loc.h>
@@ -20,6 +22,7 @@ ComPtr<IUnknown> embeddedConnection() {
     static const standin::SystemClock clock;
     const auto makeSample = [](const std::filesystem::path& file) {
         standin::createWhenMissing(file, standin::DatabaseContents::sample, clock);
+        standin::addWhatIsMissing(*embedded::Database{file, clock}.connect());
     };
     return ComPtr<IUnknown>(
         ado::createEmbeddedConnection(clock, makeSample, __uuidof(_EmbeddedConnection)).get());

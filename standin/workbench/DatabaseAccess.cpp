@@ -1,6 +1,7 @@
 #include "standin/workbench/DatabaseAccess.h"
 
 #include "standin/home/database_file.h"
+#include "standin/home/schema_step.h"
 
 #include <unistd.h>
 
@@ -74,6 +75,7 @@ fs::path databaseFile(const CommandLine& line, const base::Clock& clock) {
 } // namespace
 
 DatabaseAccess::DatabaseAccess(const CommandLine& line) : database_(databaseFile(line, clock_), clock_) {
+    addWhatIsMissing(*database_.connect());
     if (!line.traceFile.empty()) trace_.emplace(line.traceFile);
 }
 

@@ -1,6 +1,8 @@
 #include "standin/home/database_file.h"
 
 #include "database/embedded/Database.h"
+#include "standin/home/schema_step.h"
+#include "tests/support/SampleDatabase.h"
 #include "tests/support/StandingClock.h"
 #include "tests/support/TestFolder.h"
 
@@ -61,6 +63,47 @@ TEST_F(DatabaseFile, OnAFullDiskThereIsNoFileOrAWholeOne) {
         EXPECT_EQ(WEXITSTATUS(status), 1);
         EXPECT_EQ(folder_.files(), std::set<std::string>{});
     }
+}
+
+TEST_F(DatabaseFile, OneOfAnEarlierVersionGetsWhatItLacks) {
+    create();
+    const embedded::Database database(file_, clock_);
+    const auto connection = database.connect();
+    const auto value = [&](const std::string& query) { return firstRow(*connection, query); };
+    const std::string present = value("SELECT VALUE FROM WORKBENCH_SETTING WHERE NAME = 'SCHEMA'");
+    // As a file was before there were models, and articles for certain contract types.
+    for (
+        const char* statement :
+        {"DROP TABLE WORKBENCH_MODEL", "DROP TABLE WORKBENCH_MODEL_LINE", "DROP TABLE WARENKATALOG",
+         "CREATE TABLE WARENKATALOG (ART_ID int IDENTITY(1,1) NOT NULL PRIMARY KEY, BEZEICH1 nvarchar(60) NULL)",
+         "INSERT INTO WARENKATALOG (BEZEICH1) VALUES ('Fracht')",
+         "DELETE FROM WORKBENCH_SETTING WHERE NAME = 'SCHEMA'"})
+        connection->execute(statement);
+    const std::string contracts = value("SELECT COUNT(*), MAX(VERTRAG_NAME) FROM VERTRAEGE");
+
+    standin::addWhatIsMissing(*connection);
+    EXPECT_EQ(value("SELECT * FROM WARENKATALOG"), "1 | Fracht | NULL | NULL | NULL | NULL | NULL | NULL");
+    connection->execute("UPDATE WARENKATALOG SET EINHPREIS = 1.23456, VER_TYPE = 'A1', DISABLE = 1");
+    EXPECT_EQ(value("SELECT EINHPREIS,VER_TYPE,DISABLE FROM WARENKATALOG WHERE VER_TYPE = 'a1'"),
+              "1.2346 | A1 | true");
+    connection->execute("INSERT INTO WORKBENCH_MODEL (CATEGORY,MODEL) VALUES ('ABSCHLAG','Frei')");
+    EXPECT_THROW(
+        connection->execute("INSERT INTO WORKBENCH_MODEL (CATEGORY,MODEL) VALUES ('ABSCHLAG','FREI')"),
+        base::DatabaseError)
+        << "the index is there, too";
+    EXPECT_EQ(value("SELECT COUNT(*), MAX(VERTRAG_NAME) FROM VERTRAEGE"), contracts);
+    EXPECT_EQ(value("SELECT VALUE FROM WORKBENCH_SETTING WHERE NAME = 'SCHEMA'"), present);
+    // Once is enough, and a file of a later version is nothing for us.
+    for (const std::string& version : {present, std::string{"999"}}) {
+        connection->execute("UPDATE WORKBENCH_SETTING SET VALUE = '" + version + "' WHERE NAME = 'SCHEMA'");
+        connection->execute("DROP TABLE IF EXISTS WORKBENCH_MODEL_LINE");
+        standin::addWhatIsMissing(*connection);
+        EXPECT_THROW(connection->open("SELECT * FROM WORKBENCH_MODEL_LINE"), base::DatabaseError) << version;
+    }
+    // Nor is somebody else's.
+    connection->execute("DROP TABLE WORKBENCH_SETTING");
+    standin::addWhatIsMissing(*connection);
+    EXPECT_THROW(connection->open("SELECT * FROM WORKBENCH_SETTING"), base::DatabaseError);
 }
 
 TEST_F(DatabaseFile, WhatAKilledStartLeftBehindIsRemoved) {
