@@ -3,6 +3,7 @@
 // a year apart measure the same thing. Everything is made by the server's own set statements; not one
 // row travels from here.
 
+#include "bench/generate_logistics.h"
 #include "database/embedded/Database.h"
 #include "database/embedded/script.h"
 #include "database_files.h"
@@ -20,6 +21,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -27,12 +29,19 @@ namespace {
 using tellurix::base::Connection;
 
 constexpr std::string_view usage = R"(generate_database FILE --contracts N --lines N --logs N [--booked N]
+    [--logistics N --helpers N --weeks N [--persons N] [--invoiced N] [--notes N]]
 
   FILE         the database file to make; it must not exist
   --contracts  contracts, of the types R, A1 … A8 in turn
   --lines      price lines and as many quantity lines of each contract
   --logs       delivered logs
   --booked     how many of the logs are booked, to the contracts in turn (all of them by default)
+  --logistics  how many of the contracts are in the logistics coordination; all logs are booked to them then
+  --helpers    forest helpers of each of them
+  --weeks      calendar weeks of each, with a report of every helper
+  --persons    forest helpers in all (as many as one contract has by default)
+  --invoiced   rows of invoiced quantities
+  --notes      takeover notes
 )";
 
 /// The time of generation is no part of the data.
@@ -47,6 +56,7 @@ struct Sizes {
     std::int64_t lines = 0;
     std::int64_t logs = 0;
     std::int64_t booked = 0;
+    tellurix::bench::LogisticsSizes logistics;
 };
 
 std::int64_t numberOf(std::string_view option, std::string_view text) {
@@ -64,7 +74,12 @@ std::int64_t numberOf(std::string_view option, std::string_view text) {
 
 Sizes sizesFrom(std::span<const std::string> arguments) {
     Sizes sizes;
-    std::optional<std::int64_t> contracts, lines, logs, booked;
+    std::optional<std::int64_t> contracts, lines, logs, booked, logistics, helpers, weeks, persons, invoiced,
+        notes;
+    const std::pair<std::string_view, std::optional<std::int64_t>*> options[] = {
+        {"--contracts", &contracts}, {"--lines", &lines},     {"--logs", &logs},   {"--booked", &booked},
+        {"--logistics", &logistics}, {"--helpers", &helpers}, {"--weeks", &weeks}, {"--persons", &persons},
+        {"--invoiced", &invoiced},   {"--notes", &notes}};
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
         if (!argument.starts_with("--")) {
@@ -72,14 +87,11 @@ Sizes sizesFrom(std::span<const std::string> arguments) {
             sizes.file = argument;
             continue;
         }
-        auto* number = argument == "--contracts" ? &contracts
-                       : argument == "--lines"   ? &lines
-                       : argument == "--logs"    ? &logs
-                       : argument == "--booked"  ? &booked
-                                                 : nullptr;
-        if (!number) throw std::invalid_argument{"unknown option " + argument};
+        const auto* const option =
+            std::ranges::find(options, argument, [](const auto& each) { return each.first; });
+        if (option == std::end(options)) throw std::invalid_argument{"unknown option " + argument};
         if (i + 1 == arguments.size()) throw std::invalid_argument{argument + " needs a number"};
-        *number = numberOf(argument, arguments[++i]);
+        *option->second = numberOf(argument, arguments[++i]);
     }
     if (sizes.file.empty()) throw std::invalid_argument{"no file given"};
     if (!contracts || !lines || !logs)
@@ -91,6 +103,17 @@ Sizes sizesFrom(std::span<const std::string> arguments) {
     if (sizes.booked > sizes.logs) throw std::invalid_argument{"more logs booked than there are logs"};
     if (sizes.booked > 0 && sizes.contracts == 0)
         throw std::invalid_argument{"logs are booked to contracts, there is none"};
+    sizes.logistics = {.contracts = logistics.value_or(0),
+                       .helpers = helpers.value_or(0),
+                       .persons = persons.value_or(helpers.value_or(0)),
+                       .weeks = weeks.value_or(0),
+                       .invoiced = invoiced.value_or(0),
+                       .notes = notes.value_or(0)};
+    if (sizes.logistics.contracts > sizes.contracts)
+        throw std::invalid_argument{"more contracts in the logistics coordination than there are contracts"};
+    if (sizes.logistics.contracts > 0 &&
+        (sizes.logistics.helpers == 0 || sizes.logistics.persons < sizes.logistics.helpers))
+        throw std::invalid_argument{"a contract needs helpers, and no more than there are persons"};
     return sizes;
 }
 
@@ -221,11 +244,15 @@ void generate(const Sizes& sizes) {
     }
     embedded::runScript(*connection, files::file("sample_reference.sql"));
 
-    makeNumbers(*connection, std::max({sizes.contracts, sizes.lines, sizes.logs, std::int64_t{1}}));
+    const tellurix::bench::LogisticsSizes& logistics = sizes.logistics;
+    makeNumbers(*connection,
+                std::max({sizes.contracts, sizes.lines, sizes.logs, logistics.persons, logistics.weeks,
+                          logistics.invoiced, logistics.notes, std::int64_t{1}}));
     if (sizes.contracts > 0) makeContracts(*connection, sizes.contracts);
     if (sizes.lines > 0) makeLines(*connection, sizes.lines);
     if (sizes.logs > 0) makeLogs(*connection, sizes.logs);
-    if (sizes.booked > 0) bookLogs(*connection, sizes.booked, sizes.contracts);
+    if (sizes.booked > 0 && logistics.contracts == 0) bookLogs(*connection, sizes.booked, sizes.contracts);
+    if (logistics.contracts > 0) tellurix::bench::makeLogistics(*connection, logistics);
     connection->execute("DROP TABLE BENCH_NUMBER");
     for (const std::string_view batch : indexes)
         connection->execute(batch);

@@ -32,4 +32,12 @@ void ContractSession::open(std::int32_t contract, const std::string& type, bool 
                         services_.mainWindow(), 0, newContract, "Vertrag", false);
 }
 
+void ContractSession::openProvisionReports(std::int16_t kind) {
+    module_.F_Bereitstellung_WVO_Run(session_, kind);
+}
+
+void ContractSession::openQuantityReports() {
+    module_.F_VertragMengenmeldung_WVO_Run(session_, 0);
+}
+
 } // namespace tellurix::bench

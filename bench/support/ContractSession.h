@@ -22,6 +22,9 @@ public:
 
     /// Opens a contract as the host does; returns when the page's script has closed it.
     void open(std::int32_t contract, const std::string& type, bool newContract = false);
+    /// @param kind of the contracts that are offered
+    void openProvisionReports(std::int16_t kind);
+    void openQuantityReports();
 
 private:
     const standin::TextCatalogue catalogue_ = standin::TextCatalogue::builtIn();

@@ -3,11 +3,12 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
-#include <array>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 extern char** environ;
 
@@ -39,14 +40,25 @@ GeneratedFile::~GeneratedFile() {
 }
 
 void GeneratedFile::generate(const Sizes& sizes) const {
-    std::array<std::string, 10> words{program,       file_.string(),
-                                      "--contracts", std::to_string(sizes.contracts),
-                                      "--lines",     std::to_string(sizes.lines),
-                                      "--logs",      std::to_string(sizes.logs),
-                                      "--booked",    std::to_string(sizes.booked)};
-    std::array<char*, 11> arguments{};
-    for (std::size_t i = 0; i < words.size(); ++i)
-        arguments[i] = words[i].data();
+    std::vector<std::string> words{program, file_.string()};
+    for (const auto& [option, number] : std::initializer_list<std::pair<const char*, std::int64_t>>{
+             {"--contracts", sizes.contracts},
+             {"--lines", sizes.lines},
+             {"--logs", sizes.logs},
+             {"--booked", sizes.booked},
+             {"--logistics", sizes.logistics.contracts},
+             {"--helpers", sizes.logistics.helpers},
+             {"--persons", sizes.logistics.persons},
+             {"--weeks", sizes.logistics.weeks},
+             {"--invoiced", sizes.logistics.invoiced},
+             {"--notes", sizes.logistics.notes}}) {
+        words.emplace_back(option);
+        words.push_back(std::to_string(number));
+    }
+    std::vector<char*> arguments;
+    for (std::string& word : words)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
     pid_t process = -1;
     const int error = ::posix_spawn(&process, program, nullptr, nullptr, arguments.data(), environ);
     if (error != 0)

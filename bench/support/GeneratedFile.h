@@ -1,5 +1,7 @@
 #pragma once
 
+#include "bench/generate_logistics.h"
+
 #include <cstdint>
 #include <filesystem>
 
@@ -13,6 +15,7 @@ public:
         std::int64_t lines = 0; ///< price lines and as many quantity lines of each contract
         std::int64_t logs = 0;
         std::int64_t booked = 0; ///< logs that are booked, to the contracts in turn
+        LogisticsSizes logistics = {};
     };
 
     /// @throws std::exception when it could not be made; what is wrong has been told on standard error
