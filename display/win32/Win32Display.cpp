@@ -4,6 +4,7 @@
 #include "display/win32/WindowFrame.h"
 #include "display/win32/native/endings.h"
 #include "display/win32/native/file_dialog.h"
+#include "display/win32/native/present_file.h"
 
 #include <stdexcept>
 #include <utility>
@@ -105,8 +106,9 @@ std::optional<std::string> Win32Display::openFile(const std::string& title, cons
     return chosen;
 }
 
-void Win32Display::presentFile(const std::string& name, const std::string&) {
-    throw std::runtime_error{"Files cannot be opened: " + name};
+void Win32Display::presentFile(const std::string& name, const std::string& content) {
+    draw();
+    openWithItsProgram(topWindow(), name, content);
 }
 
 void Win32Display::setBusy(bool busy) {

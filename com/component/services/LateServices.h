@@ -45,7 +45,7 @@ private:
     std::unique_ptr<host::CatalogueSelection> catalogueSelection_ = lateCatalogueSelection();
     std::unique_ptr<host::MultiSelectionList> multiSelection_ = lateMultiSelection();
     std::unique_ptr<host::SpreadsheetExport> spreadsheets_ = lateSpreadsheets();
-    std::unique_ptr<host::MailSession> mail_ = systemMail();
+    std::unique_ptr<host::MailSession> mail_ = systemMail(*settings_);
     std::unique_ptr<host::DocumentFiles> files_ = systemFiles();
     host::HostServices host_;
 };

@@ -120,7 +120,8 @@ private:
         const bool numeric = table_.isNumeric(column);
         if (look != Look::heading) {
             if (const auto number = numeric ? numberIn(text, locale_) : std::nullopt)
-                return worksheet_write_number(sheet_, row, column, number->value, format(look, number->mask));
+                return worksheet_write_number(sheet_, row, column, number->value,
+                                              format(look, number->mask, true));
             if (const auto date = numeric ? std::nullopt : dateIn(text)) {
                 lxw_datetime moment{static_cast<int>(date->day.year()),
                                     static_cast<int>(unsigned{date->day.month()}),
@@ -141,7 +142,8 @@ private:
         if (made != nullptr) return made;
         made = workbook_add_format(workbook_);
         if (!mask.empty()) format_set_num_format(made, mask.c_str());
-        if (right) format_set_align(made, LXW_ALIGN_RIGHT);
+        // Dates count as numbers, but stand among the texts.
+        format_set_align(made, right ? LXW_ALIGN_RIGHT : LXW_ALIGN_LEFT);
         if (look != Look::plain) format_set_bold(made);
         if (look == Look::heading) format_set_bottom(made, LXW_BORDER_THIN);
         if (look == Look::sum) format_set_top(made, LXW_BORDER_THIN);
