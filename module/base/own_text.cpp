@@ -184,6 +184,8 @@ constexpr Words wordsOf(OwnText text) {
         return {"fehlt", "missing"};
     case OwnText::helpersReported:
         return {"{} von {} haben gemeldet", "{} of {} have reported"};
+    case OwnText::carrier:
+        return {"Frächter", "Carrier"};
     case OwnText::loadsWanted:
         return {"Bitte eine ganze Zahl von 0 bis {} eingeben.", "Please type a whole number from 0 to {}."};
     case OwnText::reportsGone:

@@ -77,6 +77,7 @@ enum class OwnText {
     // Weekly provision reports
     reportMissing,   ///< marks a helper
     helpersReported, ///< how many, of how many
+    carrier,
     loadsWanted,     ///< the most loads
     reportsGone,     ///< the helpers
     reportsNotTaken, ///< the helpers

@@ -59,11 +59,16 @@ ProvisionTable::ProvisionTable(ui::Grid& grid, ui::TextBox& box, ui::CheckBox& o
     editor_.prepare = [this](ui::TextBox& cell, int column) {
         const bool carrier = grid_.columns()[static_cast<std::size_t>(column)].field == reportField::carrier;
         cell.setRightAligned(!carrier);
-        cell.setToolTip(carrier ? "Frächter" : "");
+        cell.setToolTip(carrier ? base::ownText(OwnText::carrier, language_) : "");
         if (!carrier) return ui::takeNumbers(cell, loadMask, locale_);
         cell.onKeyPress = std::function<void(char32_t&)>{};
         cell.onPaste = nullptr;
         cell.setMaxLength(carrierWidth_);
+    };
+    // What stands under "Bemerkung" is whoever carries the timber; only the tool tips say so.
+    shown_.onCurrentChange = [this] {
+        const bool carrier = shown_.currentColumn() == columnOf(reportField::carrier);
+        shown_.setToolTip(carrier ? base::ownText(OwnText::carrier, language_) : "");
     };
     editor_.write = [this](int row, int column, const std::string& typed) {
         return writeCell(row, column, typed);

@@ -15,12 +15,16 @@ struct ContractToOpen {
     std::int16_t standardClient = 0;
 };
 
-/// The way from the start page into the contract module.
+/// The ways from the start page into the contract module.
 class ContractOpener {
 public:
     virtual ~ContractOpener() = default;
     /// Shows the contract editor and returns when it is closed.
     virtual void open(const ContractToOpen& contract) = 0;
+    /// Shows the weekly provision reports, or the quantity reports, and returns when they are closed.
+    /// @param kind the contract kind that the host works on
+    virtual void openProvisionReports(std::int16_t kind) = 0;
+    virtual void openQuantityReports(std::int16_t kind) = 0;
 };
 
 } // namespace tellurix::standin

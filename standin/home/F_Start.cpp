@@ -76,6 +76,8 @@ void F_Start::connect() {
     cboLanguage.onChange = [this] { changeLanguage(); };
     btnOpen.onClick = [this] { openCurrent(); };
     btnNew.onClick = [this] { create(); };
+    btnProvisionReports.onClick = [this] { opener_.openProvisionReports(chosenKind()); };
+    btnQuantityReports.onClick = [this] { opener_.openQuantityReports(chosenKind()); };
     services_.moduleService().onNotification = [this](const Notification&) { showNotifications(); };
 }
 
@@ -94,6 +96,7 @@ void F_Start::arrange() {
              field(lblFrom, txtFrom), field(lblTo, txtTo), field(lblLanguage, cboLanguage)}),
         ui::Layout{grdContracts}.growing(),
         row({btnOpen, btnNew, lblCount}),
+        row({field(lblKind, cboKind), btnProvisionReports, btnQuantityReports}),
         ui::frame(frmNotifications, {grdNotifications}),
     }));
 }
@@ -120,6 +123,12 @@ void F_Start::fillLists() {
     cboClosed.add(named("start.closed"));
     cboClosed.select(closed == ui::ItemList::none ? static_cast<int>(ContractFilter::Closed::open) : closed);
 
+    const int kind = std::max(cboKind.selected(), 0);
+    cboKind.clear();
+    for (const ContractKind& offered : contractKinds(services_.host().settings, session_))
+        cboKind.add(offered.name, offered.kind);
+    cboKind.select(kind);
+
     const auto language = std::ranges::find(languages, session_.language);
     cboLanguage.select(language == languages.end() ? 0 : static_cast<int>(language - languages.begin()));
 }
@@ -138,6 +147,11 @@ std::string F_Start::chosenType() const {
     if (cboType.selected() == ui::ItemList::none) return {};
     const std::int64_t index = cboType.items()[static_cast<std::size_t>(cboType.selected())].itemData;
     return index == allTypes ? std::string{} : std::string{contractTypes[static_cast<std::size_t>(index)]};
+}
+
+std::int16_t F_Start::chosenKind() const {
+    const auto kind = static_cast<std::size_t>(std::max(cboKind.selected(), 0));
+    return static_cast<std::int16_t>(cboKind.items().at(kind).itemData);
 }
 
 ContractFilter F_Start::filter() const {

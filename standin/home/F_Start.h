@@ -18,8 +18,8 @@
 namespace tellurix::standin {
 
 /// The workbench's main window: the contracts, found by name, customer, type, delivery period and
-/// state, and the way into the contract module. What the module told the host in return is listed
-/// below them.
+/// state, and the way into the contract module: a contract, the provision and the quantity reports. What
+/// the module told the host in return is listed below them.
 class F_Start final : public ui::Form {
 public:
     /// How many contracts are listed at once; more can be reached by narrowing.
@@ -56,6 +56,8 @@ private:
     std::string named(std::string_view key) const { return services_.localizer().named(key, session_); }
     std::string chosenType() const;
 
+    /// The contract kind that the reports are opened for.
+    std::int16_t chosenKind() const;
     void openCurrent();
     void create();
     void open(std::int32_t id, const std::string& name, const std::string& type, bool newContract);
@@ -84,6 +86,11 @@ private:
     ui::Label lblCount{*this, "lblCount"};
     ui::Button btnOpen{*this, "btnOpen", "Ö&ffnen"};
     ui::Button btnNew{*this, "btnNew", "&Neu"};
+
+    ui::Label lblKind{*this, "lblKind", "Fakt&urart"};
+    ui::ComboBox cboKind{*this, "cboKind", 15};
+    ui::Button btnProvisionReports{*this, "btnProvisionReports", "Bereitstellungs&meldung"};
+    ui::Button btnQuantityReports{*this, "btnQuantityReports", "Men&genmeldung"};
 
     ui::Frame frmNotifications{*this, "frmNotifications", "Meldungen an den Host"};
     ui::Grid grdNotifications{*this, "grdNotifications", 4};

@@ -4,8 +4,10 @@
 #include "standin/services/texts/Localizer.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tellurix::standin {
 
@@ -18,5 +20,14 @@ std::string contractTypeText(std::string_view code, const Localizer& localizer, 
 
 /// Adds the contract types to a list, each with its index in `contractTypes` as item data.
 void addContractTypes(ui::ComboBox& combo, const Localizer& localizer, const host::TlxVar& session);
+
+/// A contract kind (`ID_FAKTART`), under which the host offers contracts in the reports.
+struct ContractKind {
+    std::int16_t kind;
+    std::string name;
+};
+
+/// The kinds that the settings FAKTART1 to FAKTART9 name; where there is none, kind 1 by its number.
+std::vector<ContractKind> contractKinds(host::NamedSettings& settings, const host::TlxVar& session);
 
 } // namespace tellurix::standin

@@ -10,8 +10,8 @@
 
 namespace tellurix::windows {
 
-/// Opens contracts as the host does: it creates the module's class through COM and calls it with the
-/// session record. It knows the module by its type library alone.
+/// Opens contracts and reports as the host does: it creates the module's class through COM and calls it with
+/// the session record. It knows the module by its type library alone.
 class ComContractOpener final : public standin::ContractOpener {
 public:
     /// @param connection the ADO connection that goes into the session record
@@ -26,6 +26,8 @@ public:
 
     /// @throws AutomationError when the module is not registered, or reports an error
     void open(const standin::ContractToOpen& contract) override;
+    void openProvisionReports(std::int16_t kind) override;
+    void openQuantityReports(std::int16_t kind) override;
 
 private:
     Dispatch connection_;

@@ -225,6 +225,8 @@ TEST_F(ProvisionReports, AreFilteredByNameAndNumber) {
 }
 
 TEST_F(ProvisionReports, AreWrittenRowByRow) {
+    const std::string made =
+        std::to_string(std::stoi(value("SELECT IDENT_CURRENT('WVO_BEREITMELDUNG_KW')")) + 1);
     edit([&](User& user) {
         enter(user, 0, carrier, "");
         enter(user, 1, announced, "");
@@ -252,10 +254,12 @@ TEST_F(ProvisionReports, AreWrittenRowByRow) {
                       "(22,3,2025,23,GETDATE())\r\nSELECT IDENT_CURRENT('WVO_BEREITMELDUNG_KW')",
                       "UPDATE WVO_BEREITMELDUNG_KW SET WVO_BEREITMELDUNG_KW.ZUEGE = NULL,"
                       "WVO_BEREITMELDUNG_KW.ZUEG_ZUGESAGT = 9999,WVO_BEREITMELDUNG_KW.FRAECHTER_TEXT = "
-                      "'Kögl; 2''',DATUM_CHANGE_ZENT = '09.03.2026 08:00:00' WHERE ID = 30 AND   ( "
-                      "ISNULL(WVO_BEREITMELDUNG_KW.ZUEG_ZUGESAGT,0) <> 9999 OR "
-                      "ISNULL(WVO_BEREITMELDUNG_KW.ZUEGE,0) <> NULL OR "
-                      "ISNULL(WVO_BEREITMELDUNG_KW.FRAECHTER_TEXT,'') <> 'Kögl; 2''')"}));
+                      "'Kögl; 2''',DATUM_CHANGE_ZENT = '09.03.2026 08:00:00' WHERE ID = " +
+                          made +
+                          " AND   ( "
+                          "ISNULL(WVO_BEREITMELDUNG_KW.ZUEG_ZUGESAGT,0) <> 9999 OR "
+                          "ISNULL(WVO_BEREITMELDUNG_KW.ZUEGE,0) <> NULL OR "
+                          "ISNULL(WVO_BEREITMELDUNG_KW.FRAECHTER_TEXT,'') <> 'Kögl; 2''')"}));
         EXPECT_FALSE(user.usable("btnSpeichern")) << "in view mode again";
         EXPECT_EQ(user.caption("lblGemeldet"), "2 von 4 haben gemeldet");
         EXPECT_EQ(user.focused(), "MSFG");
@@ -315,7 +319,8 @@ TEST_F(ProvisionReports, SayWhatBecomesOfARow) {
             user.click("btnSpeichern"); // once more, with nothing typed
         });
         EXPECT_EQ(stored("ID_PERSONAL_WH,ZUEGE,ZUEG_ZUGESAGT,FRAECHTER_TEXT,DATUM_CHANGE_ZENT"), c.reports);
-        host.database.execute("DELETE FROM WVO_BEREITMELDUNG_KW WHERE ID > 7 OR ID IN (1,2)");
+        host.database.execute(
+            "DELETE FROM WVO_BEREITMELDUNG_KW WHERE ID_VERTRAEGE = 3 AND JAHR = 2025 AND WOCHE = 23");
         host.database.execute(
             "SET IDENTITY_INSERT WVO_BEREITMELDUNG_KW ON\nINSERT INTO WVO_BEREITMELDUNG_KW (ID, "
             "ID_PERSONAL_WH, ID_VERTRAEGE, JAHR, WOCHE, ZUEGE, ZUEG_ZUGESAGT, FRAECHTER_TEXT, "
@@ -340,6 +345,7 @@ TEST_F(ProvisionReports, TakeWholeLoadsAndCarriersThatCanBeQuoted) {
 
         // With a quote the cell stays open, and nothing else can be done before.
         user.select("MSFG", 2, carrier);
+        EXPECT_EQ(user.grid("MSFG").toolTip(), "Frächter");
         user.doubleClick("MSFG");
         EXPECT_EQ(user.control<ui::TextBox>("txtEdit").toolTip(), "Frächter");
         user.type("txtEdit", "D'Angelo");
@@ -536,7 +542,7 @@ TEST_F(ProvisionReports, GoToTheSpreadsheetAsTheyAreShown) {
         user.click("btnSpeichern");
         user.close();
     });
-    EXPECT_EQ(row("SELECT ID_VERTRAEGE,JAHR,WOCHE,ZUEGE FROM WVO_BEREITMELDUNG_KW WHERE ID > 29"),
+    EXPECT_EQ(row("SELECT ID_VERTRAEGE,JAHR,WOCHE,ZUEGE FROM WVO_BEREITMELDUNG_KW WHERE ID_VERTRAEGE = 16"),
               "16 | 2026 | 1 | 2");
 }
 

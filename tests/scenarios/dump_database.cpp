@@ -12,11 +12,19 @@
 namespace tellurix::tests {
 namespace {
 
-void dump(base::Connection& connection, const std::string& table) {
+/// Moments of this day without their time: the screens write when they have changed a row.
+std::string withoutTimes(std::string line, const std::string& today) {
+    constexpr std::string_view time = " 00:00:00";
+    for (std::size_t at = line.find(today + " "); at != std::string::npos; at = line.find(today + " ", at))
+        line.erase(at += today.size(), time.size());
+    return line;
+}
+
+void dump(base::Connection& connection, const std::string& table, const std::string& today) {
     base::StatementText query{"SELECT * FROM "};
     std::multiset<std::string> lines;
     for (auto row = connection.open(query.identifier(table).text()); !row->atEnd(); row->moveNext()) {
-        lines.insert(literalRow(*row));
+        lines.insert(withoutTimes(literalRow(*row), today));
     }
     for (const std::string& line : lines)
         std::cout << table << line << "\n";
@@ -36,8 +44,9 @@ int main(int count, char** arguments) {
     try {
         const tellurix::standin::SystemClock clock;
         const auto connection = tellurix::embedded::Database{arguments[1], clock}.connect();
+        const std::string today = tellurix::tests::written(tellurix::base::startOf(clock.today()));
         for (const std::string& table : tellurix::tests::tableNames())
-            tellurix::tests::dump(*connection, table);
+            tellurix::tests::dump(*connection, table, today);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << error.what() << "\n";

@@ -55,6 +55,19 @@ std::filesystem::path freshFile() {
             std::to_string(GetCurrentThreadId()) + "-" + std::to_string(GetTickCount64()) + ".db");
 }
 
+Outcome invoked(_clsVertrag& module, DISPID number, DISPPARAMS& parameters) {
+    EXCEPINFO error{};
+    Outcome outcome;
+    outcome.code = module.Invoke(number, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters, nullptr,
+                                 &error, &outcome.wrongArgument);
+    outcome.source = textOf(error.bstrSource);
+    outcome.description = textOf(error.bstrDescription);
+    if (outcome.code == DISP_E_EXCEPTION) outcome.code = error.scode;
+    SysFreeString(error.bstrSource);
+    SysFreeString(error.bstrDescription);
+    return outcome;
+}
+
 } // namespace
 
 Outcome callDirectly(_clsVertrag& module, RunCall& call) {
@@ -99,16 +112,16 @@ Outcome callByName(_clsVertrag& module, RunCall& call) {
                                       call.id,
                                       record};
     DISPPARAMS parameters{arguments.data(), &numbers[1], static_cast<UINT>(arguments.size()), 1};
-    EXCEPINFO error{};
-    Outcome outcome;
-    outcome.code = module.Invoke(numbers[0], IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters, nullptr,
-                                 &error, &outcome.wrongArgument);
-    outcome.source = textOf(error.bstrSource);
-    outcome.description = textOf(error.bstrDescription);
-    if (outcome.code == DISP_E_EXCEPTION) outcome.code = error.scode;
-    SysFreeString(error.bstrSource);
-    SysFreeString(error.bstrDescription);
-    return outcome;
+    return invoked(module, numbers[0], parameters);
+}
+
+Outcome callReportByName(_clsVertrag& module, const wchar_t* operation, ::TlxVar& record) {
+    auto name = const_cast<wchar_t*>(operation);
+    DISPID number = 0;
+    windows::check(module.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_NEUTRAL, &number), "GetIDsOfNames");
+    std::array<Variant, 2> arguments{std::int16_t{1}, Variant::reference(&record, *recordType(module))};
+    DISPPARAMS parameters{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
+    return invoked(module, number, parameters);
 }
 
 ComponentClient::Apartment::Apartment() {

@@ -33,6 +33,8 @@ struct RunCall {
 /// record as an argument of IDispatch::Invoke.
 Outcome callDirectly(_clsVertrag& module, RunCall& call);
 Outcome callByName(_clsVertrag& module, RunCall& call);
+/// Calls one of the two report operations by name, for the contract kind 1.
+Outcome callReportByName(_clsVertrag& module, const wchar_t* operation, ::TlxVar& record);
 
 /// A host on the calling thread: an apartment, a connection to a fresh sample database, a session
 /// record, and an ear for notifications.

@@ -108,6 +108,32 @@ TEST_F(Component, TellsTheHostWhatWentWrong) {
     EXPECT_TRUE(host.createModule().as<ISupportErrorInfo>());
 }
 
+TEST_F(Component, OpensBothReportsDirectlyAndByName) {
+    const struct {
+        const char* form;
+        HRESULT (STDMETHODCALLTYPE _clsVertrag::*run)(::TlxVar*, short);
+        const wchar_t* name;
+    } cases[] = {
+        {"F_Bereitstellung_WVO", &_clsVertrag::F_Bereitstellung_WVO_Run, L"F_Bereitstellung_WVO_Run"},
+        {"F_VertragMengenmeldung_WVO", &_clsVertrag::F_VertragMengenmeldung_WVO_Run,
+         L"F_VertragMengenmeldung_WVO_Run"},
+    };
+    ComponentClient host;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.form);
+        const auto module = host.createModule();
+        {
+            const Closer closer{c.form};
+            EXPECT_EQ((module.get()->*c.run)(&host.record(), 1), S_OK);
+            EXPECT_TRUE(closer.closed());
+        }
+        const Closer closer{c.form};
+        EXPECT_EQ(callReportByName(*module, c.name, host.record()).code, S_OK);
+        EXPECT_TRUE(closer.closed());
+    }
+    EXPECT_EQ(host.notifications, std::vector<std::string>{}) << "only contracts notify";
+}
+
 TEST_F(Component, NamesTheArgumentThatDoesNotFitBeforeAnythingIsOpened) {
     ComponentClient host;
     const auto module = host.createModule();

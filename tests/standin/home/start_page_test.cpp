@@ -111,6 +111,47 @@ TEST_F(StartPage, ShowsWhatAContractIs) {
     });
 }
 
+TEST_F(StartPage, OpensTheReportsForAContractKind) {
+    struct Case {
+        const char* rule;
+        const char* settings; ///< of the kinds
+        const char* kinds;    ///< offered, one a line
+        int chosen;
+        const char* contract; ///< the first that the provision reports offer; empty for none
+    };
+    const Case cases[] = {
+        {"the kinds that are named", "('FAKTART7','Tausch'),('FAKTART1','Verkauf')", "Verkauf\nTausch\n", 0,
+         "R-2025-003"},
+        {"another kind", "('FAKTART7','Tausch'),('FAKTART1','Verkauf')", "Verkauf\nTausch\n", 1, ""},
+        {"none is named", "('FAKTART0','Nichts')", "1\n", 0, "R-2025-003"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        session.connection->execute("DELETE FROM WORKBENCH_SETTING WHERE NAME LIKE 'FAKTART%'");
+        session.connection->execute("INSERT INTO WORKBENCH_SETTING (NAME,VALUE) VALUES " +
+                                    std::string{c.settings});
+        std::string first;
+        work([&](User& user) {
+            EXPECT_EQ(user.items("cboKind"), c.kinds);
+            user.select("cboKind", c.chosen);
+            display.onWindow("F_Bereitstellung_WVO", [&](User& reports) {
+                display.onWindow("F_ListPicker", [&](User& list) {
+                    const auto& rows = list.grid("grdList").rows();
+                    first = rows.empty() ? "" : rows.front().front();
+                    list.close();
+                });
+                reports.focus("txtVertrag");
+                reports.ctrl();
+                reports.close();
+            });
+            user.click("btnProvisionReports");
+            display.onWindow("F_VertragMengenmeldung_WVO", [](User& reports) { reports.close(); });
+            user.click("btnQuantityReports");
+        });
+        EXPECT_EQ(first.substr(0, first.find(' ')), c.contract);
+    }
+}
+
 TEST_F(StartPage, ABadDateKeepsTheFocusAndTheText) {
     display.onMessage("Ungültige");
     work([&](User& user) {

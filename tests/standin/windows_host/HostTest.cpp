@@ -57,12 +57,17 @@ HostTest::~HostTest() {
 }
 
 void HostTest::open(const standin::ContractToOpen& contract, const Script& script) {
+    work(
+        "F_Vertrag", [&] { opener_.open(contract); }, script);
+}
+
+void HostTest::work(const std::string& form, const std::function<void()>& opening, const Script& script) {
     const DWORD thread = GetCurrentThreadId();
     std::atomic<bool> over = false;
     auto work = std::async(std::launch::async, [&] {
         try {
             WindowsUser user{thread};
-            while (WindowsUser::nameOf(user.top()) != "F_Vertrag") {
+            while (WindowsUser::nameOf(user.top()) != form) {
                 if (over) return;
                 Sleep(1);
             }
@@ -76,7 +81,7 @@ void HostTest::open(const standin::ContractToOpen& contract, const Script& scrip
     });
     std::exception_ptr failure;
     try {
-        opener_.open(contract);
+        opening();
     } catch (...) {
         failure = std::current_exception();
     }

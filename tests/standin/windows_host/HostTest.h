@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <string>
 
 namespace tellurix::tests {
 
@@ -23,6 +24,8 @@ protected:
 
     /// Opens a contract; the script works its editor from a thread of its own and has to close it.
     void open(const standin::ContractToOpen& contract, const Script& script);
+    /// The same for a form that `opening` shows.
+    void work(const std::string& form, const std::function<void()>& opening, const Script& script);
 
     const std::filesystem::path& file() const { return file_; }
     HWND window() const { return window_; }

@@ -64,6 +64,26 @@ TEST_F(HostWindow, WaitsWhileAContractIsOpenAndIsBackAfterEveryWayOfClosing) {
     }
 }
 
+TEST_F(HostWindow, WaitsWhileReportsAreOpen) {
+    struct Case {
+        const char* form;
+        void (windows::ComContractOpener::*open)(std::int16_t);
+    };
+    for (const Case& c : {Case{"F_Bereitstellung_WVO", &windows::ComContractOpener::openProvisionReports},
+                          {"F_VertragMengenmeldung_WVO", &windows::ComContractOpener::openQuantityReports}}) {
+        SCOPED_TRACE(c.form);
+        bool waited = false;
+        work(
+            c.form, [&] { (opener().*c.open)(1); },
+            [&](WindowsUser& user) {
+                waited = !IsWindowEnabled(window());
+                user.close();
+            });
+        EXPECT_TRUE(waited);
+        EXPECT_TRUE(IsWindowEnabled(window()));
+    }
+}
+
 TEST_F(HostWindow, ADatabaseErrorLeavesTheScreenAsItIs) {
     open(wolfsberg, [&](WindowsUser& user) {
         user.click(user.control("chkAbgeschlossen"));
