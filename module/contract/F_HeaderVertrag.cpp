@@ -226,7 +226,7 @@ std::string F_HeaderVertrag::updateStatement() {
 }
 
 void F_HeaderVertrag::save() {
-    updateContract(*session_.connection, updateStatement());
+    updateContract(*session_.connection, updateStatement(), contract_);
     unload();
 }
 

@@ -282,7 +282,7 @@ void F_Vertrag::save() {
             .fixed(" END");
     }
     statement.fixed(" WHERE ID_VERTRAG = ").number(id_);
-    updateContract(*session_.connection, statement.text());
+    updateContract(*session_.connection, statement.text(), id_);
     notYetSaved_ = false;
     unload();
 }

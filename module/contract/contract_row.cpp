@@ -8,9 +8,14 @@ namespace tellurix::contract {
 using base::OwnText;
 using base::Refused;
 
-void updateContract(base::Connection& connection, const std::string& statement) {
-    // A server that was told not to count answers -1: then there is nothing to be told.
-    if (connection.execute(statement).rowsAffected == 0) throw Refused{OwnText::contractIsGone};
+void updateContract(base::Connection& connection, const std::string& statement, std::int32_t contract) {
+    const std::int64_t updated = connection.execute(statement).rowsAffected;
+    if (updated > 0) return;
+    // A server that was told not to count, as the batches of the logistics do for the rest of the session,
+    // is asked whether there was anything to update.
+    base::StatementText present{"SELECT ID_VERTRAG FROM VERTRAEGE WHERE ID_VERTRAG = "};
+    if (updated == 0 || connection.open(present.number(contract).text())->atEnd())
+        throw Refused{OwnText::contractIsGone};
 }
 
 void setContractField(base::Connection& connection, const std::string& column, const std::string& value,
@@ -18,7 +23,7 @@ void setContractField(base::Connection& connection, const std::string& column, c
     base::StatementText statement{"UPDATE VERTRAEGE SET "};
     statement.identifier(column).fixed(" = ").quotedAsItStandsOrNull(value);
     statement.fixed(" WHERE ID_VERTRAG = ").number(contract);
-    updateContract(connection, statement.text());
+    updateContract(connection, statement.text(), contract);
 }
 
 void discardContract(base::Connection& connection, std::int32_t contract) {

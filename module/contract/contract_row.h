@@ -8,7 +8,7 @@ namespace tellurix::contract {
 
 /// Sends an UPDATE of the row of one contract.
 /// @throws base::Refused when a colleague has deleted the contract, which is no error of the server's
-void updateContract(base::Connection& connection, const std::string& statement);
+void updateContract(base::Connection& connection, const std::string& statement, std::int32_t contract);
 
 /// Writes one column; an empty value becomes NULL. The value goes into the statement as it stands.
 /// @throws base::Refused when a colleague has deleted the contract

@@ -5,8 +5,10 @@
 #include "module/base/whole_number.h"
 #include "module/host/module_state.h"
 #include "module/host/text_numbers.h"
+#include "module/logistics/helper_export.h"
 #include "module/logistics/helper_statements.h"
 #include "module/logistics/quantity_cell.h"
+#include "module/logistics/serial_mail.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"
 #include "module/parts/typed_text.h"
@@ -68,7 +70,7 @@ HelperArea::HelperArea(ui::Form& form, host::HostServices& services)
              .save = &btnSpeichern2,
              .cancel = &btnAbbrechen2,
              .remove = &btnLoschen2},
-            {.inView = {&txtFilter, &btnWaldhelfer, &btnAMB, &btnAWBMB}},
+            {.inView = {&txtFilter, &btnWaldhelfer, &btnAMB, &btnAWBMB, &btnSerienmail}, .onRow = {&btnXLS}},
             [this] { return !helpers_.empty(); }) {
     connect();
 }
@@ -89,8 +91,11 @@ void HelperArea::connect() {
     btnAWBMB.onClick = [this] { confirm(helpers::confirmOwners(contract_.record)); };
     for (ui::Label* sum : {&lbldruchschnMenge, &lblangemMenge, &lblangemWBMenge, &lblbestMenge, &lblEinheit})
         sum->setHighlighted(true);
-    btnXLS.setEnabled(false);
-    btnSerienmail.setEnabled(false);
+    btnXLS.onClick = [this] {
+        services_.spreadsheets.exportTable(contract_.session, helperExport(helpers_, MSFG),
+                                           "Vertrag: " + contract_.name);
+    };
+    btnSerienmail.onClick = [this] { mailHelpers(contract_, contract_.record); };
 }
 
 ui::Layout HelperArea::layout() {

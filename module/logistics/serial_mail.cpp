@@ -45,7 +45,7 @@ void mailHelpers(const parts::OpenContract& contract, std::int64_t logistics) {
         mail.send();
     } catch (const std::runtime_error& error) {
         parts::ShowMessage(contract.services->display,
-                           std::string{"Automatisches Versenden fehlgeschlagen.\r\n"} + error.what(),
+                           std::string{"Automatisches Versenden fehlgeschlagen.\n"} + error.what(),
                            ui::box::exclamation);
     }
 }

@@ -399,18 +399,23 @@ TEST_F(ContractEditor, AContractThatAColleagueDeletedIsTold) {
         {"the head data", [](User& user) { user.click("btnHeader"); }},
     };
     host.pickedPerson = 11;
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.rule);
-        const std::int32_t id = newContract();
-        const auto errors = host.display.errors().size();
-        edit(id, [&](User& user) {
-            host.database.execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id));
-            c.act(user);
-            ASSERT_TRUE(user.window().loaded());
-            ASSERT_EQ(host.display.errors().size(), errors + 1);
-            EXPECT_NE(host.display.errors().back().find("inzwischen gelöscht"), std::string::npos);
-            user.click("btnAbbrechen");
-        });
+    // Where the logistics have been open before, the server counts no rows any more.
+    for (const char* counting : {"SET NOCOUNT OFF", "SET NOCOUNT ON"}) {
+        SCOPED_TRACE(counting);
+        host.database.execute(counting);
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.rule);
+            const std::int32_t id = newContract();
+            const auto errors = host.display.errors().size();
+            edit(id, [&](User& user) {
+                host.database.execute("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = " + std::to_string(id));
+                c.act(user);
+                ASSERT_TRUE(user.window().loaded());
+                ASSERT_EQ(host.display.errors().size(), errors + 1);
+                EXPECT_NE(host.display.errors().back().find("inzwischen gelöscht"), std::string::npos);
+                user.click("btnAbbrechen");
+            });
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "tests/logistics/QuantityTest.h"
 
 #include <algorithm>
+#include <set>
 
 namespace tellurix::tests {
 namespace {
@@ -65,7 +66,6 @@ TEST_F(ForestHelpers, AreListedWithTheirShareOfThePlan) {
                       user.caption("lblangemWBMenge") + "|" + user.caption("lblbestMenge") + "|" +
                       user.caption("lblEinheit"),
                   "375|750|286|450|atro-t");
-        EXPECT_FALSE(user.usable("btnXLS") || user.usable("btnSerienmail"));
     });
     for (const char* layout : {"restore/MSFG/F_VERTRAG_WVO_WH", "save/MSFG/F_VERTRAG_WVO_WH"})
         EXPECT_EQ(std::count(host.layouts.begin(), host.layouts.end(), layout), 1) << layout;
@@ -325,6 +325,68 @@ TEST_F(ForestHelpers, WhatCanBeUsedWhen) {
         user.click("btnAbbrechen2");
         expect(user, &Case::viewing);
         EXPECT_EQ(cell(user, 0, announcedCell), "400");
+    });
+}
+
+TEST_F(ForestHelpers, GoToTheSpreadsheetWithTheirSums) {
+    helpers(fibreWood, [&](User& user) {
+        user.click("btnXLS");
+        ASSERT_EQ(host.documents.exports.size(), 1U);
+        EXPECT_EQ(host.documents.exports[0].title, "Vertrag: R-2025-003 Faserholz Judenburg");
+        EXPECT_EQ(host.documents.exports[0].parameters,
+                  "FORMAT=0;;0;0;0;0;\r\nROW=1\r\nTABLE="
+                  "Mitgl.Nr.\tMitglied Name\tME geplant\tME angem.\tME angem. WB\tME best.\tWH "
+                  "Änderung\tZent. Änderung\r\n"
+                  "3001\tHuber Josef\t375\t400\t211\t350\t01.05.2025 08:15\t02.05.2025 10:30\r\n"
+                  "3002\tMüller Käthe\t375\t250\t75\t\t03.05.2025 17:45\t\r\n"
+                  "3003\tÖllinger Franz\t375\t\t\t\t\t\r\n"
+                  "3005\tSteiner Alois\t375\t100\t\t100\t01.05.2025 07:00\t02.05.2025 10:30\r\n"
+                  "\tSUMME:\t1.500\t750\t286\t450\t\t");
+        auto columns = user.grid("MSFG").columns();
+        columns[1].visible = columns[2].visible = columns[3].visible = false;
+        user.grid("MSFG").setColumns(columns);
+        user.type("txtFilter", "3001");
+        user.key(Key::tab);
+        user.click("btnXLS");
+        EXPECT_EQ(host.documents.exports[1].parameters,
+                  "FORMAT=0;0;0;\r\nROW=1\r\nTABLE=ME angem.\tME angem. WB\tME best.\tWH Änderung\tZent. "
+                  "Änderung\r\n400\t211\t350\t01.05.2025 08:15\t02.05.2025 10:30\r\n400\t211\t350\tSUMME:\t")
+            << "only what is seen";
+        user.click("btnBearbeiten2");
+        EXPECT_FALSE(user.usable("btnXLS") || user.usable("btnSerienmail"));
+    });
+    host.display.onMessage("Achtung!");
+    helpers(withoutHelpers, [](User& user) { EXPECT_FALSE(user.usable("btnXLS")); });
+}
+
+TEST_F(ForestHelpers, AreMailedTogether) {
+    helpers(fibreWood, [&](User& user) {
+        host.statements.clear();
+        user.click("btnSerienmail");
+        EXPECT_EQ(
+            host.statements,
+            std::vector<std::string>{
+                "SELECT  distinct isnull(PERSONAL.EMAIL,PERSONAL.NUMMER) as Mail  FROM (SELECT 1 AS ID) "
+                "KOPF  LEFT JOIN WVO_VERTRAG_WALDHELFER ON WVO_VERTRAG_WALDHELFER.ID_WVO_VERTRAG = "
+                "KOPF.ID  LEFT JOIN PERSONAL ON PERSONAL.ID_PERSONAL = "
+                "WVO_VERTRAG_WALDHELFER.ID_PERSONAL WHERE isnull(PERSONAL.EMAIL,PERSONAL.NUMMER) is not "
+                "null AND ISNULL(DISABLE,0) = 0 "});
+        ASSERT_EQ(host.documents.mails.size(), 1U);
+        const auto& mail = host.documents.mails.front();
+        EXPECT_EQ(std::set<std::string>(mail.recipients.begin(), mail.recipients.end()),
+                  (std::set<std::string>{"SMTP:josef.huber@helfer.example", "SMTP:3002",
+                                         "SMTP:franz.oellinger@helfer.example"}))
+            << "the member number where there is no address; nobody who is disabled";
+        EXPECT_EQ(mail.subject, "Information zum Vertrag R-2025-003 Faserholz Judenburg");
+        EXPECT_EQ(mail.text, "Sehr geehrter Waldhelfer,\r\n" + std::string(26, ' '));
+
+        host.documents.mailFailure = "no route to host";
+        host.display.onMessage("Automatisches Versenden fehlgeschlagen.\nno route to host");
+        user.click("btnSerienmail");
+        host.documents.mailFailure.clear();
+        host.documents.userSends = false;
+        user.click("btnSerienmail");
+        EXPECT_EQ(host.documents.mails.size(), 3U) << "what the user does not send is told by nobody";
     });
 }
 

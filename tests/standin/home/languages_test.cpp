@@ -37,6 +37,8 @@ protected:
             user.click("btnAbbrechen");
         });
         openQuantityReports();
+        display.onWindow("F_Bereitstellung_WVO", [this](User& user) { editReports(user); });
+        host::clsVertrag{host}.F_Bereitstellung_WVO_Run(session, 1);
         for (std::size_t i = before; i < display.messages().size(); ++i) {
             add(display.messages()[i].text);
             add(display.messages()[i].title);
@@ -145,6 +147,28 @@ private:
         user.close();
     }
 
+    void editReports(User& user) {
+        user.type("txtVertrag", "R-2025-003 Faserholz Judenburg");
+        user.key(ui::Key::tab);
+        user.type("txtKalender", "23/2025");
+        user.key(ui::Key::tab);
+        for (const ui::Grid::Row& row : user.grid("MSFG").rows())
+            add(row[2]);
+        user.click("btnBearbeiten");
+        user.select("MSFG", 0, 3);
+        user.doubleClick("MSFG");
+        expectMessage();
+        user.replaceText("txtEdit", "47110");
+        user.key(ui::Key::enter);
+        user.replaceText("txtEdit", "");
+        user.key(ui::Key::enter);
+        user.select("MSFG", 0, 6);
+        gather(user);
+        expectMessage();
+        user.click("btnSpeichern"); // a number alone cannot be emptied
+        user.close();
+    }
+
     void gather(User& user) {
         ui::Form& form = user.window();
         add(form.title().substr(0, form.title().find(" ("))); // without the contract's name
@@ -195,7 +219,8 @@ TEST_F(Languages, InEnglishNothingButTheGivenTextsIsGerman) {
             EXPECT_EQ(text.find(letter), std::string::npos) << text;
     }
     for (const char* seen :
-         {"too large", "Over-delivery: 37,50 delivered, 0,00 permitted", "Claimed by earlier lines",
+         {"missing", "Carrier", "2 of 4 have reported", "too large",
+          "Over-delivery: 37,50 delivered, 0,00 permitted", "Claimed by earlier lines",
           "The text could not be saved. Discard it?", "Delivery period",
           "Someone else has changed quantities in the meantime that are changed here, too (rows: 1, first "
           "\"R-2025-003 Faserholz Judenburg / lutro-t\"). Overwrite them?"})
