@@ -3,6 +3,7 @@
 #include "module/base/Refused.h"
 #include "module/base/field_text.h"
 #include "module/base/text.h"
+#include "module/logistics/original_document.h"
 #include "module/parts/Assignments.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/date_box.h"
@@ -25,15 +26,6 @@ namespace {
 constexpr const char* settingsTable = "WVO_VERTRAG";
 constexpr const char* timeFormat = "(Uhrzeit im Format 00:00)";
 constexpr const char* percentMask = "#####0.00";
-/// A drive that only the machines of the office have, and the setting that says which share it is.
-constexpr const char* officeDrive = "M:";
-constexpr const char* shareOfDrive = "UNCOFDRIVEM";
-/// The folder that documents are copied into, and what the web server calls it.
-constexpr const char* documentFolder = "PATHOFWVOWEBVERTRAEGE";
-constexpr const char* folderOnTheServer = "c:\\VertragsdokumenteOriginal\\";
-constexpr const char* documentFilter = "PDF file (*.pdf)|*.pdf|DOC file (*.doc)|*.doc|"
-                                       "DOC and PDF files (*.pdf;*.doc)|*.doc;*.pdf|Alle Dateien (*.*)|*.*";
-
 /// The title of a picker is what the box is called.
 std::function<std::string()> captionOf(const ui::Label& label) {
     return [&label] { return ui::plainCaption(label.caption()); };
@@ -128,7 +120,7 @@ void SettingsArea::connect() {
     chkFHPLogistikVerweden.onClick = [this] {
         if (!chkFHPLogistikVerweden.checked()) forgetLogisticsProcess();
     };
-    btnOriginal.onClick = [this] { chooseOriginal(); };
+    btnOriginal.onClick = [this] { chooseDocument(); };
     btnBearbeiten.onClick = [this] { startEdit(); };
     btnSpeichern.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { cancel(); };
@@ -298,53 +290,15 @@ void SettingsArea::warnOfMissingUnit() {
     }
 }
 
-void SettingsArea::chooseOriginal() {
-    const auto source = services_.display.openFile("File select...", documentFilter);
-    if (!source) return;
-    const std::string name = services_.files.fileName(*source);
-    try {
-        if (!copyDocument(*source, name)) return;
-        tell("Kopieren des Vertragesdokuments zum Webserver erfolgreich.", ui::box::information);
-    } catch (const std::exception& error) {
-        const auto* refused = dynamic_cast<const base::Refused*>(&error);
-        tell("Kopieren des Vertragesdokuments zum Webserver fehlgeschlagen.\n" +
-             (refused == nullptr ? error.what() : refused->message(contract_.session.language)));
-    }
-    if (name.empty()) return;
-    // Whatever became of the copy: this is where the web server looks for it.
-    txtOriginal.setText(folderOnTheServer + name);
+void SettingsArea::chooseDocument() {
+    const auto path = chooseOriginal(services_, contract_.session);
+    if (!path) return;
+    txtOriginal.setText(*path);
     changes_.note();
 }
 
-bool SettingsArea::copyDocument(const std::string& source, const std::string& name) {
-    using Present = host::DocumentFiles::Present;
-    if (name.empty()) throw base::Refused{OwnText::noFileName};
-    std::string folder = services_.settings.text(contract_.session, documentFolder);
-    if (folder.empty())
-        throw base::Refused{
-            std::vector<base::Refused::Sentence>{{OwnText::settingMissing, {documentFolder}}}};
-    if (!folder.ends_with('\\')) folder += '\\';
-    const Present present = services_.files.find(source, folder);
-    if (present == Present::different &&
-        !parts::confirmed(services_.display,
-                          base::ownText(OwnText::replaceDocument, contract_.session.language, {name})))
-        return false;
-    const ui::BusyPointer busy{services_.display};
-    if (present != Present::same) services_.files.copy(source, folder);
-    return true;
-}
-
-std::string SettingsArea::originalPath() {
-    std::string path = parts::typedText(txtOriginal);
-    if (path.find(officeDrive) == std::string::npos) return path;
-    const std::string share = services_.settings.text(contract_.session, shareOfDrive);
-    if (!share.empty()) return base::replaceAll(std::move(path), officeDrive, share);
-    tell(base::ownText(OwnText::driveWithoutShare, contract_.session.language, {officeDrive, shareOfDrive}));
-    return path;
-}
-
 std::string SettingsArea::updateStatement() {
-    const std::string original = originalPath();
+    const std::string original = pathForAll(services_, contract_.session, parts::typedText(txtOriginal));
     if (!txtUberlieferung.text().empty()) static_cast<void>(uberlieferung_.value()); // refuses what is none
     StatementText statement{"UPDATE WVO_VERTRAG SET "};
     parts::Assignments assign{statement, services_, contract_.session};
@@ -398,8 +352,8 @@ void SettingsArea::warnOnClosing() {
          "Bitte ergänzen Sie ihre Eingaben, sonst kann es in der Webapplikation zu Anzeigeproblemen kommen.");
 }
 
-void SettingsArea::tell(const std::string& message, int icon) {
-    parts::ShowMessage(services_.display, message, icon);
+void SettingsArea::tell(const std::string& message) {
+    parts::ShowMessage(services_.display, message, ui::box::exclamation);
 }
 
 } // namespace tellurix::logistics

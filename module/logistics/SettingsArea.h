@@ -41,16 +41,12 @@ private:
     /// Whether the dates are there that announced quantities need; the user has been told otherwise.
     bool datesAreThere();
     void warnOfMissingUnit();
-    void chooseOriginal();
-    /// @return false when the user keeps the file that is there under the same name
-    bool copyDocument(const std::string& source, const std::string& name);
-    /// What is written for the path: its drive is one that other machines do not have.
-    /// @throws ui::RefusedInput when no statement can carry the text
-    std::string originalPath();
+    void chooseDocument();
+    /// @throws ui::RefusedInput when no statement can carry a text
     std::string updateStatement();
     void forgetLogisticsProcess();
     void showWeekday(parts::LookupBox& box, base::Recordset& row, std::string_view column);
-    void tell(const std::string& message, int icon = ui::box::exclamation);
+    void tell(const std::string& message);
 
     host::HostServices& services_;
     LogisticsContract contract_;
