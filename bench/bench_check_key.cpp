@@ -1,10 +1,13 @@
 // What the check of a typed key against a database column costs, on a table of ten rows and on one of
-// a million: it needs the column's type only, so the time must not grow with the table.
+// a million: it needs the column's type only, so the time must not grow with the table. And what a long text
+// costs that is pasted into a box which filters each of its characters.
 
 #include "bench/support/SampleFile.h"
+#include "bench/support/ScriptedPage.h"
 #include "bench/support/measure.h"
 #include "bench/support/report.h"
 #include "database/embedded/Database.h"
+#include "display/browser/session/BrowserDisplay.h"
 #include "module/parts/M_Common.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/TextBox.h"
@@ -15,6 +18,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -94,6 +98,34 @@ void measure(const embedded::Database& database, std::array<MeasuredTable, 2>& t
     }
 }
 
+constexpr std::size_t pastedCharacters = 20'000;
+
+/// From the page's message to the session's next wait, with the box drawn.
+Durations timesToPaste() {
+    constexpr int pastes = 50;
+    int changes = 0;
+    Durations times;
+    for (int i = 0; i < pastes; ++i) {
+        KeyForm form;
+        form.box.onKeyPress = [](char32_t& typed) {
+            if (typed == U'x') typed = 0;
+        };
+        form.box.onChange = [&changes] { ++changes; };
+        bench::Step paste{"KeyForm", "box", {}};
+        paste.message.kind = browser::PageMessage::Kind::paste;
+        paste.message.text = std::string(pastedCharacters, 'a');
+        bench::ScriptedPage page;
+        std::vector<bench::Clock::time_point> waits;
+        page.onWait = [&waits] { waits.push_back(bench::Clock::now()); };
+        page.play({paste, bench::closeWindow("KeyForm")});
+        browser::BrowserDisplay display{page};
+        display.showModal(form);
+        times.add(waits.at(1) - waits.at(0));
+    }
+    if (changes != pastes) throw std::runtime_error{"a pasted text is not one change"};
+    return times;
+}
+
 } // namespace
 
 int main() {
@@ -114,6 +146,13 @@ int main() {
                         bench::fixed(table.next.percentile(95), 2), bench::fixed(table.first.median(), 1)});
         }
         report.print(std::cout);
+
+        const Durations pasting = timesToPaste();
+        bench::heading(std::cout, "Pasting 20,000 characters into a box with a filter, in milliseconds");
+        bench::Report pasted{{"median", "95 %", "longest"}};
+        pasted.add({bench::fixed(pasting.median() / 1000, 2), bench::fixed(pasting.percentile(95) / 1000, 2),
+                    bench::fixed(pasting.longest() / 1000, 2)});
+        pasted.print(std::cout);
         return EXIT_SUCCESS;
     } catch (const std::exception& error) {
         std::cerr << "bench_check_key: " << error.what() << '\n';

@@ -16,6 +16,11 @@ Batch::Batch(std::string_view text) : text_(text), tableVariables_(arena_.memory
     if (select != nullptr) computedSize_ = (*select)->query->position;
 }
 
+bool Batch::setsNoCountFirst() const {
+    const auto* const* const set = std::get_if<SetOption*>(&block_->statements.front());
+    return set != nullptr && (*set)->option == Option::noCount;
+}
+
 bool Batch::use(std::shared_ptr<const Computed> computed) {
     if (computed && computed == computed_) return false;
     computed_ = std::move(computed);

@@ -51,6 +51,8 @@ public:
     /// The text of those statements; all of the text where what follows them could mean more by the same
     /// words.
     std::string_view computedText() const { return std::string_view(text_).substr(0, computedSize_); }
+    /// Whether it begins with SET NOCOUNT, so that nothing depends on what was in force before.
+    bool setsNoCountFirst() const;
     /// What the batch works with from now on: its table variables are those of `computed`, or none yet.
     /// @return false when it did so before
     bool use(std::shared_ptr<const Computed> computed);

@@ -184,7 +184,10 @@ void Engine::prepareTableVariables(Batch& batch) {
 std::shared_ptr<const Computed> Engine::computed(const Batch& batch) const {
     const auto found = computed_.find(batch.computedText());
     auto computed = found == computed_.end() ? nullptr : found->second.lock();
-    return computed && computed->before == connection_.session().options ? computed : nullptr;
+    if (!computed) return {};
+    SessionOptions options = connection_.session().options;
+    if (batch.setsNoCountFirst()) options.noCount = computed->before.noCount;
+    return computed->before == options ? computed : nullptr;
 }
 
 void Engine::keep(const Batch& batch, const std::shared_ptr<const Computed>& computed) {

@@ -227,6 +227,14 @@ TEST_F(Connections, BatchesThatBeginAlikeAnswerAsIfEachComputedForItself) {
     first_->execute("SET DATEFIRST 1");
     EXPECT_EQ(answer(*first_, ofNumber), "7 | 20");
     EXPECT_EQ(answer(*first_, ofDay), "20 | 190");
+    const auto counted = [&](const std::string& text) { return first_->execute(text).rowsAffected; };
+    EXPECT_EQ(counted(loop), 1);
+    EXPECT_EQ(counted("SET NOCOUNT ON " + loop), -1);
+    EXPECT_EQ(counted(loop), -1) << "the option stays in force";
+    first_->execute("SET NOCOUNT OFF");
+    EXPECT_EQ(counted("SET NOCOUNT ON " + loop), -1);
+    first_->execute("SET NOCOUNT OFF");
+    EXPECT_EQ(counted(loop), 1);
     // More texts than are kept, so that nobody has the computed rows any more.
     for (int each = 0; each < 300; ++each)
         EXPECT_EQ(
