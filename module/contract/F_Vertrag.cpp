@@ -10,7 +10,7 @@
 #include "module/deductions/F_Abschlag.h"
 #include "module/host/contract_type.h"
 #include "module/host/text_numbers.h"
-#include "module/logistics/F_Vertrag_WVO.h"
+#include "module/logistics/plan/F_Vertrag_WVO.h"
 #include "module/parts/M_Common.h"
 
 namespace tellurix::contract {

@@ -3,8 +3,8 @@
 #include "module/base/text.h"
 #include "module/contract/F_Vertrag.h"
 #include "module/host/contract_type.h"
-#include "module/logistics/F_Bereitstellung_WVO.h"
-#include "module/logistics/F_VertragMengenmeldung_WVO.h"
+#include "module/logistics/reports/F_Bereitstellung_WVO.h"
+#include "module/logistics/reports/F_VertragMengenmeldung_WVO.h"
 
 namespace tellurix::host {
 

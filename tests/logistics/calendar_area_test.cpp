@@ -1,4 +1,4 @@
-#include "module/logistics/CalendarArea.h"
+#include "module/logistics/plan/CalendarArea.h"
 #include "module/parts/KeyedRow.h"
 #include "tests/logistics/LogisticsTest.h"
 

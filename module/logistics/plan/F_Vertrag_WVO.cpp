@@ -1,4 +1,4 @@
-#include "module/logistics/F_Vertrag_WVO.h"
+#include "module/logistics/plan/F_Vertrag_WVO.h"
 
 #include "module/base/StatementText.h"
 #include "module/parts/questions.h"

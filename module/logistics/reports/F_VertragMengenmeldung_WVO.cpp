@@ -1,11 +1,11 @@
-#include "module/logistics/F_VertragMengenmeldung_WVO.h"
+#include "module/logistics/reports/F_VertragMengenmeldung_WVO.h"
 
 #include "module/base/number_format.h"
 #include "module/base/own_text.h"
 #include "module/base/whole_number.h"
 #include "module/logistics/quantity_cell.h"
-#include "module/logistics/quantity_listings.h"
-#include "module/logistics/quantity_report_statements.h"
+#include "module/logistics/reports/quantity_listings.h"
+#include "module/logistics/reports/quantity_report_statements.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/logistics/calendar_weeks.h"
+#include "module/logistics/plan/calendar_weeks.h"
 
 #include <cstdint>
 #include <string>

@@ -1,4 +1,4 @@
-#include "module/logistics/calendar_weeks.h"
+#include "module/logistics/plan/calendar_weeks.h"
 
 #include "module/base/date_format.h"
 

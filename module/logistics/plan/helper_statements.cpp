@@ -1,4 +1,4 @@
-#include "module/logistics/helper_statements.h"
+#include "module/logistics/plan/helper_statements.h"
 
 #include "module/base/StatementText.h"
 #include "module/base/own_text.h"

@@ -1,9 +1,9 @@
-#include "module/logistics/quantity_listings.h"
+#include "module/logistics/reports/quantity_listings.h"
 
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/logistics/quantity_cell.h"
-#include "module/logistics/quantity_report_statements.h"
+#include "module/logistics/reports/quantity_report_statements.h"
 #include "module/logistics/spreadsheet_parameters.h"
 
 #include <algorithm>

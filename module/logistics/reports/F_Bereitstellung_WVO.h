@@ -2,8 +2,8 @@
 
 #include "module/base/own_text.h"
 #include "module/host/ReportScreen.h"
-#include "module/logistics/ProvisionStatements.h"
-#include "module/logistics/ProvisionTable.h"
+#include "module/logistics/reports/ProvisionStatements.h"
+#include "module/logistics/reports/ProvisionTable.h"
 #include "module/parts/EditMode.h"
 #include "module/parts/LookupBox.h"
 #include "module/ui/Form.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "module/host/services.h"
-#include "module/logistics/ProvisionTable.h"
+#include "module/logistics/reports/ProvisionTable.h"
 #include "module/ui/controls/ProgressBar.h"
 
 #include <string>

@@ -1,9 +1,9 @@
-#include "module/logistics/SettingsArea.h"
+#include "module/logistics/plan/SettingsArea.h"
 
 #include "module/base/Refused.h"
 #include "module/base/field_text.h"
 #include "module/base/text.h"
-#include "module/logistics/original_document.h"
+#include "module/logistics/plan/original_document.h"
 #include "module/parts/Assignments.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/date_box.h"

@@ -1,9 +1,9 @@
-#include "module/logistics/F_Bereitstellung_WVO.h"
+#include "module/logistics/reports/F_Bereitstellung_WVO.h"
 
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/base/whole_number.h"
-#include "module/logistics/ProvisionSaving.h"
+#include "module/logistics/reports/ProvisionSaving.h"
 #include "module/logistics/spreadsheet_parameters.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"

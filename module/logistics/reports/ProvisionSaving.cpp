@@ -1,4 +1,4 @@
-#include "module/logistics/ProvisionSaving.h"
+#include "module/logistics/reports/ProvisionSaving.h"
 
 #include "module/parts/ShownProgress.h"
 

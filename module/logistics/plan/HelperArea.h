@@ -1,9 +1,9 @@
 #pragma once
 
 #include "module/host/services.h"
-#include "module/logistics/Area.h"
 #include "module/logistics/GuardedQuantities.h"
-#include "module/logistics/HelperSelection.h"
+#include "module/logistics/plan/Area.h"
+#include "module/logistics/plan/HelperSelection.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Label.h"

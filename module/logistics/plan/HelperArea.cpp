@@ -1,4 +1,4 @@
-#include "module/logistics/HelperArea.h"
+#include "module/logistics/plan/HelperArea.h"
 
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
@@ -6,7 +6,7 @@
 #include "module/host/module_state.h"
 #include "module/host/text_numbers.h"
 #include "module/logistics/helper_export.h"
-#include "module/logistics/helper_statements.h"
+#include "module/logistics/plan/helper_statements.h"
 #include "module/logistics/quantity_cell.h"
 #include "module/logistics/serial_mail.h"
 #include "module/parts/M_Common.h"

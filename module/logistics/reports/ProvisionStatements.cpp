@@ -1,4 +1,4 @@
-#include "module/logistics/ProvisionStatements.h"
+#include "module/logistics/reports/ProvisionStatements.h"
 
 #include "module/base/StatementText.h"
 #include "module/base/date_format.h"

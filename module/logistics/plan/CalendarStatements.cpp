@@ -1,4 +1,4 @@
-#include "module/logistics/CalendarStatements.h"
+#include "module/logistics/plan/CalendarStatements.h"
 
 #include "module/base/StatementText.h"
 #include "module/logistics/day_table.h"

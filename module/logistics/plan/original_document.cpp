@@ -1,4 +1,4 @@
-#include "module/logistics/original_document.h"
+#include "module/logistics/plan/original_document.h"
 
 #include "module/base/Refused.h"
 #include "module/base/own_text.h"

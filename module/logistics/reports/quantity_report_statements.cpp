@@ -1,4 +1,4 @@
-#include "module/logistics/quantity_report_statements.h"
+#include "module/logistics/reports/quantity_report_statements.h"
 
 #include "module/base/StatementText.h"
 #include "module/logistics/takeover_notes.h"

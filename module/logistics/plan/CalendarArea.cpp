@@ -1,4 +1,4 @@
-#include "module/logistics/CalendarArea.h"
+#include "module/logistics/plan/CalendarArea.h"
 
 #include "module/base/Refused.h"
 #include "module/base/field_text.h"
@@ -24,7 +24,7 @@ namespace {
 constexpr const char* columnsOfWeeks = "F_VERTRAG_WVO_KAL";
 constexpr const char* yearMask = "0000";
 constexpr const char* planMask = "#####0";
-constexpr const char* quantityMask = "##,##0.00";
+constexpr const char* twoDecimals = "##,##0.00";
 /// The number of the column with year and week in the list's query.
 constexpr int byWeek = 2;
 
@@ -128,15 +128,11 @@ std::vector<parts::KeyedGrid::Column> CalendarArea::columns(base::Fields* week) 
     std::vector<parts::KeyedGrid::Column> columns{
         {.caption = "Jahr/Woche", .width = 12, .field = "JAHRWOCHE"},
         {.caption = "Datum", .width = 24, .field = "DATUM"},
-        {.caption = "Planmenge",
-         .width = 14,
-         .field = "PLANMENGE",
-         .mask = quantityMask,
-         .rightAligned = true}};
+        {.caption = "Planmenge", .width = 14, .field = "PLANMENGE", .mask = planMask, .rightAligned = true}};
     for (const auto& [name, caption] : {std::pair{"WHANG", "WH-Ang."}, std::pair{"WHBES", "WH-Bes."}}) {
         if (week != nullptr && hasField(*week, name))
             columns.push_back(
-                {.caption = caption, .width = 14, .field = name, .mask = quantityMask, .rightAligned = true});
+                {.caption = caption, .width = 14, .field = name, .mask = planMask, .rightAligned = true});
     }
     return columns;
 }
@@ -203,7 +199,7 @@ void CalendarArea::showComparison() {
     const base::Decimal plan = weeks_.sum("PLANMENGE");
     const base::Decimal agreed = base::numberIn(quantities.front().sum).value_or(base::Decimal{});
     const auto show = [&](ui::Label& label, const base::Decimal& quantity) {
-        label.setCaption(base::formatNumber(quantity, quantityMask, services_.locale) + " " +
+        label.setCaption(base::formatNumber(quantity, planMask, services_.locale) + " " +
                          quantities.front().unit);
     };
     show(lblPlanWert, plan);

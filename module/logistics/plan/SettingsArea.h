@@ -2,8 +2,8 @@
 
 #include "module/base/StatementText.h"
 #include "module/host/services.h"
-#include "module/logistics/Area.h"
-#include "module/logistics/calendar_weeks.h"
+#include "module/logistics/plan/Area.h"
+#include "module/logistics/plan/calendar_weeks.h"
 #include "module/parts/EnteredChanges.h"
 #include "module/parts/LookupBox.h"
 #include "module/parts/NumberField.h"

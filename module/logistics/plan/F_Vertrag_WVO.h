@@ -2,9 +2,9 @@
 
 #include "module/host/module_state.h"
 #include "module/host/services.h"
-#include "module/logistics/CalendarArea.h"
-#include "module/logistics/HelperArea.h"
-#include "module/logistics/SettingsArea.h"
+#include "module/logistics/plan/CalendarArea.h"
+#include "module/logistics/plan/HelperArea.h"
+#include "module/logistics/plan/SettingsArea.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Tabs.h"

@@ -1,7 +1,7 @@
-#include "module/logistics/HelperSelection.h"
+#include "module/logistics/plan/HelperSelection.h"
 
 #include "module/base/Refused.h"
-#include "module/logistics/helper_statements.h"
+#include "module/logistics/plan/helper_statements.h"
 #include "module/parts/ShownProgress.h"
 
 #include <algorithm>

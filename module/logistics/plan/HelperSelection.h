@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/logistics/Area.h"
+#include "module/logistics/plan/Area.h"
 #include "module/ui/controls/ProgressBar.h"
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "module/logistics/ProvisionTable.h"
+#include "module/logistics/reports/ProvisionTable.h"
 
 #include "module/base/StatementText.h"
 #include "module/base/own_text.h"

@@ -2,9 +2,9 @@
 
 #include "module/base/own_text.h"
 #include "module/host/services.h"
-#include "module/logistics/Area.h"
-#include "module/logistics/CalendarStatements.h"
-#include "module/logistics/calendar_weeks.h"
+#include "module/logistics/plan/Area.h"
+#include "module/logistics/plan/CalendarStatements.h"
+#include "module/logistics/plan/calendar_weeks.h"
 #include "module/parts/EnteredChanges.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/parts/NumberField.h"

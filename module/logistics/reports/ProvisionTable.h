@@ -1,7 +1,7 @@
 #pragma once
 
 #include "module/base/Refused.h"
-#include "module/logistics/ProvisionStatements.h"
+#include "module/logistics/reports/ProvisionStatements.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/input/GridEditor.h"
