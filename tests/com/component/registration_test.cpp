@@ -85,7 +85,7 @@ TEST(Registration, LeavesTheRegistryAsItWasForMachineAndUser) {
         SCOPED_TRACE(narrow(scope));
         install(TRUE, scope);
         const auto registered = classes();
-        EXPECT_EQ(additions(before[forUser], registered[forUser], L"@ThreadingModel"), 23U);
+        EXPECT_EQ(additions(before[forUser], registered[forUser], L"@ThreadingModel"), 25U);
         EXPECT_GT(additions(before[forUser], registered[forUser], L"\\Tellurix_Vertrag.clsVertrag\\CLSID"),
                   0U);
         EXPECT_EQ(additions(before[!forUser], registered[!forUser], L"@ThreadingModel"), 0U)
