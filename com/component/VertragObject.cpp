@@ -53,24 +53,26 @@ void VertragObject::run(std::unique_ptr<HostsRecord> record, RunParameters& para
     });
 }
 
-void VertragObject::runReport(Report report, std::unique_ptr<HostsRecord> record, std::int16_t modul) {
-    const auto kind = report == &host::clsVertrag::F_Bereitstellung_WVO_Run ? Apartment::Kind::provisionReport
-                                                                            : Apartment::Kind::quantityReport;
-    Apartment::Call call(*apartment_, kind, std::move(record), HostWindow(nullptr).handle());
-    call.perform([&](host::TlxVar& session) { (apartment_->module().*report)(session, modul); });
+void VertragObject::runReport(Apartment::Kind report, std::unique_ptr<HostsRecord> record,
+                              std::int16_t modul) {
+    Apartment::Call call(*apartment_, report, std::move(record), HostWindow(nullptr).handle());
+    call.perform([&](host::TlxVar& session) {
+        if (report == Apartment::Kind::provisionReport) {
+            apartment_->module().F_Bereitstellung_WVO_Run(session, modul);
+        } else {
+            apartment_->module().F_VertragMengenmeldung_WVO_Run(session, modul);
+        }
+    });
 }
 
 HRESULT VertragObject::F_Bereitstellung_WVO_Run(::TlxVar* record, short modul) {
     const ComPtr<IDispatch> alive(this);
-    return guarded(source(),
-                   [&] { runReport(&host::clsVertrag::F_Bereitstellung_WVO_Run, given(record), modul); });
+    return guarded(source(), [&] { runReport(Apartment::Kind::provisionReport, given(record), modul); });
 }
 
 HRESULT VertragObject::F_VertragMengenmeldung_WVO_Run(::TlxVar* record, short modul) {
     const ComPtr<IDispatch> alive(this);
-    return guarded(source(), [&] {
-        runReport(&host::clsVertrag::F_VertragMengenmeldung_WVO_Run, given(record), modul);
-    });
+    return guarded(source(), [&] { runReport(Apartment::Kind::quantityReport, given(record), modul); });
 }
 
 HRESULT VertragObject::Vertrag_Run(::TlxVar* record, LONG id, BSTR name, BSTR StrVer_Type_dll,
@@ -136,16 +138,16 @@ HRESULT VertragObject::GetVertragType(BSTR strVerType, BSTR* result) {
 }
 
 Variant VertragObject::invoke(DISPID number, const CallArguments& arguments) {
-    const auto report = [&](Report operation) {
+    const auto report = [&](Apartment::Kind kind) {
         expectCount(arguments, 2);
-        runReport(operation, recordIn(arguments.raw(0), "TlxVar"), arguments[1].as(VT_I2).iVal);
+        runReport(kind, recordIn(arguments.raw(0), "TlxVar"), arguments[1].as(VT_I2).iVal);
         return Variant();
     };
     switch (number) {
     case bereitstellung:
-        return report(&host::clsVertrag::F_Bereitstellung_WVO_Run);
+        return report(Apartment::Kind::provisionReport);
     case mengenmeldung:
-        return report(&host::clsVertrag::F_VertragMengenmeldung_WVO_Run);
+        return report(Apartment::Kind::quantityReport);
     case vertrag:
         runByName(arguments);
         return {};

@@ -27,8 +27,7 @@ protected:
     const char* source() const override { return "Tellurix_Vertrag.clsVertrag"; }
 
 private:
-    using Report = void (host::clsVertrag::*)(host::TlxVar&, std::int16_t);
-    void runReport(Report report, std::unique_ptr<HostsRecord> record, std::int16_t modul);
+    void runReport(Apartment::Kind report, std::unique_ptr<HostsRecord> record, std::int16_t modul);
     void runByName(const CallArguments& arguments);
 
     /// The parameters of Vertrag_Run, however they came.

@@ -128,11 +128,11 @@ std::vector<parts::KeyedGrid::Column> CalendarArea::columns(base::Fields* week) 
     std::vector<parts::KeyedGrid::Column> columns{
         {.caption = "Jahr/Woche", .width = 12, .field = "JAHRWOCHE"},
         {.caption = "Datum", .width = 24, .field = "DATUM"},
-        {.caption = "Planmenge", .width = 14, .field = "PLANMENGE", .mask = planMask, .rightAligned = true}};
+        {.caption = "Planmenge", .width = 14, .field = "PLANMENGE", .mask = twoDecimals, .rightAligned = true}};
     for (const auto& [name, caption] : {std::pair{"WHANG", "WH-Ang."}, std::pair{"WHBES", "WH-Bes."}}) {
         if (week != nullptr && hasField(*week, name))
             columns.push_back(
-                {.caption = caption, .width = 14, .field = name, .mask = planMask, .rightAligned = true});
+                {.caption = caption, .width = 14, .field = name, .mask = twoDecimals, .rightAligned = true});
     }
     return columns;
 }
@@ -199,7 +199,7 @@ void CalendarArea::showComparison() {
     const base::Decimal plan = weeks_.sum("PLANMENGE");
     const base::Decimal agreed = base::numberIn(quantities.front().sum).value_or(base::Decimal{});
     const auto show = [&](ui::Label& label, const base::Decimal& quantity) {
-        label.setCaption(base::formatNumber(quantity, planMask, services_.locale) + " " +
+        label.setCaption(base::formatNumber(quantity, twoDecimals, services_.locale) + " " +
                          quantities.front().unit);
     };
     show(lblPlanWert, plan);

@@ -111,11 +111,16 @@ TEST_F(Component, TellsTheHostWhatWentWrong) {
 TEST_F(Component, OpensBothReportsDirectlyAndByName) {
     const struct {
         const char* form;
-        HRESULT (STDMETHODCALLTYPE _clsVertrag::*run)(::TlxVar*, short);
+        HRESULT (*run)(_clsVertrag&, ::TlxVar&);
         const wchar_t* name;
     } cases[] = {
-        {"F_Bereitstellung_WVO", &_clsVertrag::F_Bereitstellung_WVO_Run, L"F_Bereitstellung_WVO_Run"},
-        {"F_VertragMengenmeldung_WVO", &_clsVertrag::F_VertragMengenmeldung_WVO_Run,
+        {"F_Bereitstellung_WVO",
+         [](_clsVertrag& module, ::TlxVar& record) { return module.F_Bereitstellung_WVO_Run(&record, 1); },
+         L"F_Bereitstellung_WVO_Run"},
+        {"F_VertragMengenmeldung_WVO",
+         [](_clsVertrag& module, ::TlxVar& record) {
+             return module.F_VertragMengenmeldung_WVO_Run(&record, 1);
+         },
          L"F_VertragMengenmeldung_WVO_Run"},
     };
     ComponentClient host;
@@ -124,7 +129,7 @@ TEST_F(Component, OpensBothReportsDirectlyAndByName) {
         const auto module = host.createModule();
         {
             const Closer closer{c.form};
-            EXPECT_EQ((module.get()->*c.run)(&host.record(), 1), S_OK);
+            EXPECT_EQ(c.run(*module, host.record()), S_OK);
             EXPECT_TRUE(closer.closed());
         }
         const Closer closer{c.form};

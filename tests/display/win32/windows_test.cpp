@@ -1,5 +1,6 @@
 // Windows as the host sees them: they go as they came, whatever ends them.
 
+#include "display/win32/grid/GridView.h"
 #include "module/ui/input/GridEditor.h"
 #include "tests/display/win32/ScreenTest.h"
 #include "tests/support/DemoForm.h"
@@ -63,8 +64,9 @@ public:
         setLayout(ui::column({ui::Layout{grdTable}.growing(), btnNext}));
     }
 
-private:
     ui::Grid grdTable{*this, "grdTable", 6};
+
+private:
     ui::TextBox txtCell{*this, "txtCell", 8};
     ui::Button btnNext{*this, "btnNext", "&Weiter"};
     ui::GridEditor editor_{grdTable, txtCell};
@@ -262,6 +264,7 @@ TEST(Tables, AColumnIsAsWideAsItsEdgeWasPulled) {
     ASSERT_TRUE(isOpen(user, "EditedTable"));
     HWND grid = user.control("grdTable");
     const auto edge = [&] {
+        user.settle();
         RECT cell{};
         SendMessageW(grid, windows::gridMessages().cellPlace, MAKEWPARAM(0, 0), reinterpret_cast<LPARAM>(&cell));
         return static_cast<int>(cell.right);
