@@ -119,7 +119,8 @@ Outcome callReportByName(_clsVertrag& module, const wchar_t* operation, ::TlxVar
     auto name = const_cast<wchar_t*>(operation);
     DISPID number = 0;
     windows::check(module.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_NEUTRAL, &number), "GetIDsOfNames");
-    std::array<Variant, 2> arguments{std::int16_t{1}, Variant::reference(&record, *recordType(module))};
+    const auto type = recordType(module); // a reference to a record does not hold its type
+    std::array<Variant, 2> arguments{std::int16_t{1}, Variant::reference(&record, *type)};
     DISPPARAMS parameters{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
     return invoked(module, number, parameters);
 }
