@@ -19,7 +19,7 @@ namespace tellurix::bench {
 
 namespace {
 
-constexpr const char* program = TELLURIX_WORKBENCH;
+constexpr const char* workbenchProgram = TELLURIX_WORKBENCH;
 
 std::string firstLine(int file) {
     std::string line;
@@ -38,16 +38,16 @@ WorkbenchProcess::WorkbenchProcess(const std::filesystem::path& database) {
     posix_spawn_file_actions_adddup2(&files, output[1], STDOUT_FILENO);
     posix_spawn_file_actions_addclose(&files, output[0]);
     posix_spawn_file_actions_addclose(&files, output[1]);
-    std::array<std::string, 5> words{program, "--database", database.string(), "--port", "0"};
+    std::array<std::string, 5> words{workbenchProgram, "--database", database.string(), "--port", "0"};
     std::array<char*, 6> arguments{};
     for (std::size_t i = 0; i < words.size(); ++i)
         arguments[i] = words[i].data();
-    const int error = ::posix_spawn(&process_, program, &files, nullptr, arguments.data(), environ);
+    const int error = ::posix_spawn(&process_, workbenchProgram, &files, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&files);
     ::close(output[1]);
     if (error != 0) {
         ::close(output[0]);
-        throw std::system_error{error, std::generic_category(), std::string{"starting "} + program};
+        throw std::system_error{error, std::generic_category(), std::string{"starting "} + workbenchProgram};
     }
     readAddress(output[0]);
     ::close(output[0]);
