@@ -53,7 +53,7 @@ public:
     /// @throws std::runtime_error with the system's words; the folder is as before
     virtual void copy(const std::string& source, const std::string& folder) = 0;
     /// What stands behind the last separator.
-    virtual std::string fileName(const std::string& path) = 0;
+    static std::string fileName(const std::string& path) { return path.substr(path.find_last_of("\\/") + 1); }
 };
 
 } // namespace tellurix::host

@@ -1,9 +1,10 @@
 #include "module/logistics/GuardedQuantities.h"
 
 #include "module/base/StatementText.h"
-#include "module/base/date_format.h"
 #include "module/base/field_text.h"
+#include "module/base/number_format.h"
 #include "module/logistics/quantity_cell.h"
+#include "module/logistics/row_saving.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/ShownProgress.h"
 #include "module/parts/questions.h"
@@ -45,10 +46,7 @@ std::string GuardedQuantities::statement(std::string_view condition, std::int64_
     appendQuantity(update, announcedQuantity);
     update.fixed(",MENGE_BES = ");
     appendQuantity(update, confirmedQuantity);
-    update.fixed(", DATUM_CHANGE_ZENT = '")
-        .fixed(base::formatDate(now, "dd.mm.yyyy hh:mm:ss", base::Locale::german()))
-        .fixed("' ")
-        .fixed(condition);
+    update.fixed(", DATUM_CHANGE_ZENT = '").fixed(centreStamp(now)).fixed("' ").fixed(condition);
     // clang-format off
     appendDiffers(update, " MENGE_BES is not null ", " ISNULL(MENGE_BES,99999999) <> ", confirmedQuantity);
     update.fixed(" OR ");
@@ -131,6 +129,10 @@ GuardedQuantities::QuantitiesByKey GuardedQuantities::read(base::Connection& con
     return quantities;
 }
 
+std::string GuardedQuantities::sum(std::string_view field) const {
+    return base::formatNumber(rows_.sum(field), quantityMask, base::Locale::german());
+}
+
 bool GuardedQuantities::save(host::HostServices& services, const host::TlxVar& session,
                              const std::string& present) {
     const QuantitiesByKey now = read(*session.connection, present);
@@ -162,9 +164,9 @@ void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxV
                                   const QuantitiesByKey& present) {
     parts::ShownProgress progress{services.display, bar_, rows_.rowCount()};
     const base::DateTime moment = services.clock.now();
-    const auto all =
-        std::ranges::count_if(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); });
-    int written = 0;
+    const auto all = static_cast<std::size_t>(
+        std::ranges::count_if(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); }));
+    std::size_t written = 0;
     for (parts::KeyedRow& row : rows_.rows()) {
         const auto now = present.find(row.key());
         if (now != present.end()) {
@@ -176,11 +178,9 @@ void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxV
                                                       quantities.confirmed, moment));
             } catch (const std::exception& error) {
                 rows_.redraw();
-                services.errors.report(error);
-                throw base::Refused{{{OwnText::savingStopped,
-                                      {screen_.nameOf(row), std::to_string(written), std::to_string(all)}}}};
+                stopSaving(services, error, screen_.nameOf(row), written, all);
             }
-            written += row.touched() ? 1 : 0;
+            written += row.touched() ? 1U : 0U;
             row.settle();
             read_[row.key()] = quantities;
         }
@@ -190,13 +190,12 @@ void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxV
 
 void GuardedQuantities::tellGone(host::HostServices& services, const host::TlxVar& session,
                                  const QuantitiesByKey& present) {
-    std::string gone;
+    std::vector<std::string> gone;
     for (parts::KeyedRow& row : rows_.rows()) {
-        if (row.touched() && !present.contains(row.key()))
-            gone += (gone.empty() ? "" : ", ") + screen_.nameOf(row);
+        if (row.touched() && !present.contains(row.key())) gone.push_back(screen_.nameOf(row));
     }
     if (gone.empty()) return;
-    parts::ShowMessage(services.display, base::ownText(OwnText::rowsGone, session.language, {gone}),
+    parts::ShowMessage(services.display, base::ownText(OwnText::rowsGone, session.language, {listed(gone)}),
                        ui::box::exclamation);
 }
 

@@ -65,6 +65,9 @@ public:
     /// Whether something typed is not written yet, in a cell that is still open or in any other.
     bool changed() const;
 
+    /// The sum of a field's quantities, as it is shown.
+    std::string sum(std::string_view field) const;
+
     /// Gives every row its announced quantity as confirmed one, with all its decimals. Nothing is written.
     void confirmAll();
 

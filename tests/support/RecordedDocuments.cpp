@@ -57,8 +57,4 @@ void RecordedDocuments::copy(const std::string& source, const std::string& folde
     if (!copyFailure.empty()) throw std::runtime_error{copyFailure};
 }
 
-std::string RecordedDocuments::fileName(const std::string& path) {
-    return path.substr(path.find_last_of("\\/") + 1);
-}
-
 } // namespace tellurix::tests

@@ -50,7 +50,6 @@ private:
     bool send() override;
     Present find(const std::string& source, const std::string& folder) override;
     void copy(const std::string& source, const std::string& folder) override;
-    std::string fileName(const std::string& path) override;
 
     /// The message that is being composed.
     Mail& mail();

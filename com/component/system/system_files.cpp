@@ -88,10 +88,6 @@ public:
         }
     }
 
-    std::string fileName(const std::string& path) override {
-        return path.substr(path.find_last_of("\\/") + 1);
-    }
-
 private:
     /// With a separator at its end.
     static std::wstring folderOf(const std::string& folder) {

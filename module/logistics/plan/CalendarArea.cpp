@@ -128,7 +128,11 @@ std::vector<parts::KeyedGrid::Column> CalendarArea::columns(base::Fields* week) 
     std::vector<parts::KeyedGrid::Column> columns{
         {.caption = "Jahr/Woche", .width = 12, .field = "JAHRWOCHE"},
         {.caption = "Datum", .width = 24, .field = "DATUM"},
-        {.caption = "Planmenge", .width = 14, .field = "PLANMENGE", .mask = twoDecimals, .rightAligned = true}};
+        {.caption = "Planmenge",
+         .width = 14,
+         .field = "PLANMENGE",
+         .mask = twoDecimals,
+         .rightAligned = true}};
     for (const auto& [name, caption] : {std::pair{"WHANG", "WH-Ang."}, std::pair{"WHBES", "WH-Bes."}}) {
         if (week != nullptr && hasField(*week, name))
             columns.push_back(
@@ -147,8 +151,7 @@ void CalendarArea::open(const LogisticsContract& contract) {
     frmKalenderwochen.setCaption("Kalenderwochen");
     caption_.clear();
     lblMeldung.setCaption("");
-    for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
-        box->show("");
+    clearBoxes();
     weeks_.setColumns(columns(nullptr));
     weeks_.clear();
 }
@@ -217,9 +220,13 @@ void CalendarArea::sortBy(int heading) {
     reload(std::nullopt);
 }
 
-void CalendarArea::startNew() {
+void CalendarArea::clearBoxes() {
     for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
         box->show("");
+}
+
+void CalendarArea::startNew() {
+    clearBoxes();
     plan_.show(base::Null{});
     edit(parts::EditMode::State::fresh, 0);
 }
@@ -322,8 +329,7 @@ void CalendarArea::cancel() {
         editedKey_ = 0;
         reload(std::nullopt);
     }
-    for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
-        box->show("");
+    clearBoxes();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(DataGridKalendar);
 }

@@ -40,6 +40,7 @@ private:
     void connect();
     void showComparison();
     void sortBy(int column);
+    void clearBoxes();
     void startNew();
     void startEdit();
     void edit(parts::EditMode::State state, std::int64_t key);

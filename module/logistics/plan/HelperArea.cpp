@@ -8,6 +8,7 @@
 #include "module/logistics/helper_export.h"
 #include "module/logistics/plan/helper_statements.h"
 #include "module/logistics/quantity_cell.h"
+#include "module/logistics/row_saving.h"
 #include "module/logistics/serial_mail.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"
@@ -23,7 +24,6 @@ namespace {
 constexpr const char* helperLayout = "F_VERTRAG_WVO_WH";
 constexpr const char* searchForHelpers = "2PVA2";
 constexpr const char* plannedMask = "##,###"; ///< nothing planned is shown as nothing
-constexpr const char* helperStampMask = "dd.MM.yyyy hh:mm";
 constexpr int longestFilter = 60;
 
 } // namespace
@@ -115,8 +115,7 @@ std::vector<parts::KeyedGrid::Column> HelperArea::columns() const {
             .caption = caption, .width = width, .field = field, .mask = mask, .rightAligned = true};
     };
     const auto stamp = [](const char* caption, const char* field) {
-        return parts::KeyedGrid::Column{
-            .caption = caption, .width = 16, .field = field, .mask = helperStampMask};
+        return parts::KeyedGrid::Column{.caption = caption, .width = 16, .field = field, .mask = stampMask};
     };
     return {GuardedQuantities::markColumn(),
             {.caption = "Mitgl.Nr.", .width = 9, .field = helpers::numberField, .rightAligned = true},
@@ -169,17 +168,14 @@ void HelperArea::applyFilter() {
 }
 
 void HelperArea::showSums() {
-    const auto shown = [this](const char* field) {
-        return base::formatNumber(helpers_.sum(field), quantityMask, base::Locale::german());
-    };
     // Every helper is planned the same.
     lbldruchschnMenge.setCaption(helpers_.empty()
                                      ? std::string{}
                                      : base::numberText(helpers_.rows().front().field(helpers::plannedField),
                                                         plannedMask, base::Locale::german()));
-    lblangemMenge.setCaption(shown(GuardedQuantities::announced));
-    lblangemWBMenge.setCaption(shown(helpers::ownersField));
-    lblbestMenge.setCaption(shown(GuardedQuantities::confirmed));
+    lblangemMenge.setCaption(quantities_.sum(GuardedQuantities::announced));
+    lblangemWBMenge.setCaption(quantities_.sum(helpers::ownersField));
+    lblbestMenge.setCaption(quantities_.sum(GuardedQuantities::confirmed));
 }
 
 void HelperArea::edit() {

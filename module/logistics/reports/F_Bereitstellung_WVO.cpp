@@ -4,8 +4,10 @@
 #include "module/base/number_format.h"
 #include "module/base/whole_number.h"
 #include "module/logistics/reports/ProvisionSaving.h"
+#include "module/logistics/row_saving.h"
 #include "module/logistics/spreadsheet_parameters.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/grid_layout.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
 
@@ -18,13 +20,6 @@ namespace {
 
 constexpr const char* table = "WVO_BEREITMELDUNG_KW";
 constexpr const char* layoutKey = "F_BEREITSTELLUNG_WVO";
-
-std::string listed(const std::vector<std::string>& names) {
-    std::string list;
-    for (const std::string& name : names)
-        list += (list.empty() ? "" : ", ") + name;
-    return list;
-}
 
 } // namespace
 
@@ -132,12 +127,7 @@ void F_Bereitstellung_WVO::Run(const host::TlxVar& session, std::int16_t modul) 
     services_.gridLayouts.restore(session_, MSFG, layoutKey);
     reload();
     services_.display.showModal(*this);
-    try {
-        services_.gridLayouts.save(session_, MSFG, layoutKey);
-    } catch (const std::exception& error) {
-        // The reports are as the user left them; what the columns look like is no failure of the call.
-        services_.errors.report(error);
-    }
+    parts::keepLayout(services_, session_, MSFG, layoutKey);
 }
 
 ReportWeek F_Bereitstellung_WVO::chosenWeek() const {

@@ -1,15 +1,12 @@
 #include "module/logistics/reports/F_VertragMengenmeldung_WVO.h"
 
-#include "module/base/number_format.h"
 #include "module/base/own_text.h"
 #include "module/base/whole_number.h"
-#include "module/logistics/quantity_cell.h"
 #include "module/logistics/reports/quantity_listings.h"
 #include "module/logistics/reports/quantity_report_statements.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/grid_layout.h"
 #include "module/parts/questions.h"
-
-#include <exception>
 
 namespace tellurix::logistics {
 
@@ -94,7 +91,7 @@ void F_VertragMengenmeldung_WVO::Run(const host::TlxVar& session, std::int16_t /
     services_.gridLayouts.restore(session_, MSFG, quantityReportLayout);
     load();
     services_.display.showModal(*this);
-    keepLayout();
+    parts::keepLayout(services_, session_, MSFG, quantityReportLayout);
 }
 
 host::ScreenMemory F_VertragMengenmeldung_WVO::memory() const {
@@ -126,11 +123,8 @@ void F_VertragMengenmeldung_WVO::load() {
 }
 
 void F_VertragMengenmeldung_WVO::showSums() {
-    const auto shown = [this](const char* field) {
-        return base::formatNumber(contracts_.sum(field), quantityMask, base::Locale::german());
-    };
-    lblCol2.setCaption(shown(GuardedQuantities::announced));
-    lblCol3.setCaption(shown(GuardedQuantities::confirmed));
+    lblCol2.setCaption(quantities_.sum(GuardedQuantities::announced));
+    lblCol3.setCaption(quantities_.sum(GuardedQuantities::confirmed));
 }
 
 void F_VertragMengenmeldung_WVO::edit() {
@@ -158,15 +152,6 @@ void F_VertragMengenmeldung_WVO::exportListings() {
 bool F_VertragMengenmeldung_WVO::queryUnload() {
     if (!quantities_.changed()) return true;
     return parts::confirmed(services_.display, base::ownText(base::OwnText::closeChanged, session_.language));
-}
-
-void F_VertragMengenmeldung_WVO::keepLayout() {
-    try {
-        services_.gridLayouts.save(session_, MSFG, quantityReportLayout);
-    } catch (const std::exception& error) {
-        // The reports are written; widths that are not kept are no failure of the host's call.
-        services_.errors.report(error);
-    }
 }
 
 } // namespace tellurix::logistics

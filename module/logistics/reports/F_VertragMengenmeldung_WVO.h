@@ -43,7 +43,6 @@ private:
     void save();
     void cancel();
     void exportListings();
-    void keepLayout();
     bool queryUnload() override;
 
     host::HostServices& services_;

@@ -1,12 +1,12 @@
 #include "module/logistics/reports/ProvisionSaving.h"
 
+#include "module/logistics/row_saving.h"
 #include "module/parts/ShownProgress.h"
 
 #include <algorithm>
 
 namespace tellurix::logistics {
 
-using base::OwnText;
 using parts::KeyedRow;
 using parts::KeyedRows;
 
@@ -34,12 +34,10 @@ void ProvisionSaving::write(ui::ProgressBar& bar) {
         try {
             writeRow(row);
         } catch (const std::exception& error) {
-            const int written = changed - table_.changed();
             table_.redraw();
-            services_.errors.report(error);
-            throw base::Refused{
-                {{OwnText::savingStopped,
-                  {ProvisionTable::nameOf(row), std::to_string(written), std::to_string(changed)}}}};
+            stopSaving(services_, error, ProvisionTable::nameOf(row),
+                       static_cast<std::size_t>(changed - table_.changed()),
+                       static_cast<std::size_t>(changed));
         }
         row.settle();
     }

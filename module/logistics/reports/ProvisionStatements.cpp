@@ -4,6 +4,7 @@
 #include "module/base/date_format.h"
 #include "module/base/field_text.h"
 #include "module/logistics/day_table.h"
+#include "module/logistics/row_saving.h"
 #include "module/logistics/takeover_notes.h"
 #include "module/parts/typed_text.h"
 
@@ -165,7 +166,7 @@ std::string ProvisionStatements::change(parts::KeyedRow& row, base::DateTime now
         .fixed(",WVO_BEREITMELDUNG_KW.FRAECHTER_TEXT = ")
         .quotedAsItStands(carrier)
         .fixed(",DATUM_CHANGE_ZENT = '")
-        .insideLiteral(base::formatDate(now, "dd.mm.yyyy hh:mm:ss", base::Locale::german()))
+        .insideLiteral(centreStamp(now))
         .fixed("' WHERE ID = ")
         .number(row.integer(reportField::report))
         .fixed(" AND   ( ISNULL(WVO_BEREITMELDUNG_KW.ZUEG_ZUGESAGT,0) <> ")

@@ -5,6 +5,7 @@
 #include "module/base/text.h"
 #include "module/base/whole_number.h"
 #include "module/logistics/quantity_cell.h"
+#include "module/logistics/row_saving.h"
 #include "module/ui/input/RefusedInput.h"
 #include "module/ui/input/number_box.h"
 
@@ -21,7 +22,6 @@ namespace {
 /// Loads are whole numbers from 0 to 9999.
 constexpr const char* loadMask = "###0";
 constexpr std::int64_t mostLoads = 9999;
-constexpr const char* stampMask = "dd.MM.yyyy hh:mm";
 /// The column of the names, which has no field name of its own.
 constexpr const char* nameColumn = "NAME";
 constexpr std::array<const char*, 3> typedFields{reportField::announced, reportField::confirmed,

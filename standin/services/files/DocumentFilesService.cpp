@@ -67,10 +67,6 @@ fs::path besideName() {
 
 } // namespace
 
-std::string DocumentFilesService::fileName(const std::string& path) {
-    return path.substr(path.find_last_of("\\/") + 1);
-}
-
 host::DocumentFiles::Present DocumentFilesService::find(const std::string& source,
                                                         const std::string& folder) {
     const fs::path from = pathOf(source);

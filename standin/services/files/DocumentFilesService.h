@@ -9,7 +9,6 @@ class DocumentFilesService final : public host::DocumentFiles {
 public:
     Present find(const std::string& source, const std::string& folder) override;
     void copy(const std::string& source, const std::string& folder) override;
-    std::string fileName(const std::string& path) override;
 };
 
 } // namespace tellurix::standin
