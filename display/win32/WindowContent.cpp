@@ -20,8 +20,16 @@ LONG inside(LONG start, LONG length, LONG from, LONG to) {
 
 } // namespace
 
-WindowContent::WindowContent(HWND window, DWORD style, const Theme& theme, std::unique_ptr<Part> content)
-    : window_(window), style_(style), theme_(theme), content_(std::move(content)) {}
+WindowContent::WindowContent(HWND window, DWORD style, const Theme& theme, int below,
+                             std::unique_ptr<Part> content)
+    : window_(window), style_(style), theme_(theme), below_(below), content_(std::move(content)) {}
+
+RECT WindowContent::area() const {
+    RECT client{};
+    GetClientRect(window_, &client);
+    client.bottom = std::max<LONG>(client.bottom - below_, 0);
+    return client;
+}
 
 void WindowContent::update() {
     if (!roomChanged_) return;
@@ -41,7 +49,7 @@ SIZE WindowContent::wanted(int Extent::*which) const {
 }
 
 SIZE WindowContent::sizeAround(SIZE content) const {
-    RECT rect{0, 0, content.cx, content.cy};
+    RECT rect{0, 0, content.cx, content.cy + below_};
     // The scroll bars that it may have at the moment stand inside.
     AdjustWindowRectEx(&rect, style_, FALSE, 0);
     return {widthOf(rect), heightOf(rect)};
@@ -86,12 +94,9 @@ void WindowContent::arrange() {
         info.nPos = static_cast<int>(position);
         SetScrollInfo(window_, bar, &info, TRUE);
     };
-    RECT client{};
-    GetClientRect(window_, &client);
-    setBar(SB_VERT, least.cy, client.bottom, scrolled_.y);
-    GetClientRect(window_, &client);
-    setBar(SB_HORZ, least.cx, client.right, scrolled_.x);
-    GetClientRect(window_, &client);
+    setBar(SB_VERT, least.cy, area().bottom, scrolled_.y);
+    setBar(SB_HORZ, least.cx, area().right, scrolled_.x);
+    const RECT client = area();
     RECT place{0, 0, std::max(client.right, least.cx), std::max(client.bottom, least.cy)};
     InflateRect(&place, -theme_.margin(), -theme_.margin());
     OffsetRect(&place, static_cast<int>(-scrolled_.x), static_cast<int>(-scrolled_.y));
@@ -128,8 +133,7 @@ void WindowContent::scroll(int bar, WORD request) {
 }
 
 void WindowContent::wheel(UINT message, WPARAM wParam) {
-    RECT client{};
-    GetClientRect(window_, &client);
+    const RECT client = area();
     const Wheel::Turn turn =
         wheel_.turned(message, wParam, {theme_.lineHeight(), static_cast<int>(client.bottom)},
                       {theme_.characterWidth(), static_cast<int>(client.right)});
@@ -140,8 +144,7 @@ void WindowContent::wheel(UINT message, WPARAM wParam) {
 
 /// On a screen that is too small for the window, the control that has the focus is never out of sight.
 void WindowContent::reveal(const RECT& rect) {
-    RECT client{};
-    GetClientRect(window_, &client);
+    const RECT client = area();
     const auto shift = [](LONG start, LONG end, LONG room) {
         return start < 0 ? start : end > room ? std::min(end - room, start) : 0;
     };

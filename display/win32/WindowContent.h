@@ -12,7 +12,8 @@ namespace tellurix::windows {
 class WindowContent {
 public:
     /// @param style of the window, without scroll bars
-    WindowContent(HWND window, DWORD style, const Theme& theme, std::unique_ptr<Part> content);
+    /// @param below height of the status line at the bottom, which takes nothing of the content's room
+    WindowContent(HWND window, DWORD style, const Theme& theme, int below, std::unique_ptr<Part> content);
 
     /// Makes the window as large as its content likes, in the middle of another one.
     /// @param over null for the middle of the screen
@@ -41,10 +42,13 @@ private:
     void scrollTo(int x, int y);
     SIZE sizeAround(SIZE content) const;
     SIZE wanted(int Extent::*which) const;
+    /// The client area without the status line.
+    RECT area() const;
 
     HWND window_;
     DWORD style_;
     const Theme& theme_;
+    int below_;
     std::unique_ptr<Part> content_;
     POINT scrolled_{};
     Wheel wheel_;

@@ -56,6 +56,7 @@ void WindowFrame::makeWindow() {
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     setName(window_, form_.name());
     toolTips_ = std::make_unique<ToolTips>(window_);
+    status_.emplace(window_, theme_);
 }
 
 void WindowFrame::makeViews() {
@@ -74,7 +75,8 @@ void WindowFrame::makeViews() {
 }
 
 void WindowFrame::show() {
-    content_ = std::make_unique<WindowContent>(window_, frameStyle, theme_, makePart(form_.layout(), *this));
+    content_ = std::make_unique<WindowContent>(window_, frameStyle, theme_, status_->height(),
+                                               makePart(form_.layout(), *this));
     content_->fit(owner_);
     // Access keys and the focus are always shown: most work is done by keyboard.
     SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS), 0);
@@ -103,6 +105,10 @@ void WindowFrame::draw() {
     if (form_.titleDirty()) {
         SetWindowTextW(window_, widen(form_.title()).c_str());
         form_.titleDrawn();
+    }
+    if (form_.status().dirty()) {
+        status_->draw(form_.status());
+        form_.status().drawn();
     }
     for (const auto& view : views_)
         view->update();
@@ -172,6 +178,7 @@ LRESULT WindowFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_DESTROY:
         ending_ = true;
+        if (status_) status_->forget();
         break;
     case WM_NCDESTROY:
         // Its controls and tool tips have gone before it.
@@ -213,6 +220,8 @@ std::optional<LRESULT> WindowFrame::handleForControl(UINT message, WPARAM wParam
             } else {
                 view->partNotified(HIWORD(wParam));
             }
+        } else if (status_ && status_->isAction(sender)) {
+            happened(ui::StatusActionEvent{});
         }
         return 0;
     }
@@ -225,7 +234,8 @@ std::optional<LRESULT> WindowFrame::handleForControl(UINT message, WPARAM wParam
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORBTN:
         if (const ControlView* view = viewWith(reinterpret_cast<HWND>(lParam))) {
-            return reinterpret_cast<LRESULT>(view->colour(reinterpret_cast<HDC>(wParam)));
+            return reinterpret_cast<LRESULT>(
+                view->colourOf(reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam)));
         }
         return std::nullopt;
     default:
@@ -238,6 +248,7 @@ std::optional<LRESULT> WindowFrame::handleForContent(UINT message, WPARAM wParam
     switch (message) {
     case WM_SIZE:
         content_->arrange();
+        status_->place();
         return 0;
     case WM_SIZING:
         content_->sizedByUser();

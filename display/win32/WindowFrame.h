@@ -1,6 +1,7 @@
 #pragma once
 
 #include "display/win32/EventQueue.h"
+#include "display/win32/StatusBar.h"
 #include "display/win32/WaitingWindows.h"
 #include "display/win32/WindowContent.h"
 #include "display/win32/controls/ControlView.h"
@@ -77,7 +78,8 @@ private:
     HWND window_ = nullptr;
     std::unique_ptr<ToolTips> toolTips_;
     std::vector<std::unique_ptr<ControlView>> views_; ///< by the controls' ids
-    std::unique_ptr<WindowContent> content_;          ///< null until it is shown
+    std::optional<StatusBar> status_;
+    std::unique_ptr<WindowContent> content_; ///< null until it is shown
     Keyboard keyboard_;
     EventQueue events_;
     bool ending_ = false; ///< the windows are going

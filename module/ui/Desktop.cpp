@@ -38,7 +38,11 @@ bool isPressed(const Control& control) {
 void Desktop::runModal(Form& form, const std::function<Event()>& nextEvent) {
     struct Window {
         Window(std::vector<Form*>& windows, Form& form) : windows_(windows) { windows_.push_back(&form); }
-        ~Window() { windows_.pop_back(); }
+        ~Window() {
+            // What is offered there was for this visit.
+            windows_.back()->status().clear();
+            windows_.pop_back();
+        }
         std::vector<Form*>& windows_;
     } window{windows_, form};
 
@@ -210,7 +214,10 @@ void Desktop::handle(Form& form, const AccessKeyEvent& event) {
         Control* target = label == nullptr ? control : form.labelled(*label);
         if (target != nullptr && target->takesFocus() && target->usable()) targets.push_back(target);
     }
-    if (targets.empty()) return;
+    if (targets.empty()) {
+        if (ui::accessKeyOf(form.status().action()) == wanted) handle(form, StatusActionEvent{});
+        return;
+    }
     if (targets.size() > 1) {
         // A key that several controls share goes from one to the next and presses none of them.
         const auto at = std::ranges::find(targets, form.focused());
@@ -290,6 +297,11 @@ void Desktop::handle(Form&, const ColumnSizedEvent& event) {
 
 void Desktop::handle(Form& form, const PickEvent& event) {
     if (event.control != nullptr) pick(form, *event.control);
+}
+
+void Desktop::handle(Form& form, const StatusActionEvent&) {
+    // As for a button, what stands in the box that has the focus is checked first.
+    if (leave(form)) form.status().act();
 }
 
 void Desktop::handle(Form& form, const CloseEvent&) {

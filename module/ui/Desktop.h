@@ -18,7 +18,7 @@ namespace tellurix::ui {
 /// - Ctrl pressed and released alone, F4, and the small button beside a box
 ///   open its picker.
 /// - Alt with a letter presses the button, ticks the box or goes to the field with that access key;
-///   where several have it, it goes from one to the next.
+///   where several have it, it goes from one to the next. The offer in the status line comes after them.
 /// - Esc presses the cancel button, or closes the window.
 /// - Characters go through the box's key filter, pasted ones too. A box that a display has edited by
 ///   itself keeps the new text where that needs no filter; else it is typed in place of the old one.
@@ -59,6 +59,7 @@ private:
     void handle(Form& form, const ScrollEvent& event);
     void handle(Form& form, const ColumnSizedEvent& event);
     void handle(Form& form, const PickEvent& event);
+    void handle(Form& form, const StatusActionEvent& event);
     void handle(Form& form, const CloseEvent& event);
 
     /// Asks the control that has the focus; a refusal takes the focus back.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/ui/Layout.h"
+#include "module/ui/StatusLine.h"
 
 #include <memory>
 #include <span>
@@ -49,6 +50,10 @@ public:
     /// Pressed by Esc; null lets Esc close the window.
     Button* cancelButton() const { return cancelButton_; }
 
+    /// The last line of the window; it is empty again when the window has gone.
+    StatusLine& status() { return status_; }
+    const StatusLine& status() const { return status_; }
+
     /// Shown in a window at the moment.
     bool loaded() const { return loaded_; }
     /// For displays: the window is about to be shown.
@@ -77,6 +82,7 @@ private:
     std::string title_;
     std::vector<Control*> controls_;
     Layout layout_{Layout::Kind::column, nullptr, {}};
+    StatusLine status_;
     Control* focused_ = nullptr;
     Button* cancelButton_ = nullptr;
     bool loaded_ = false;

@@ -123,6 +123,7 @@ void HeadlessDisplay::perform(const Step& step) {
 }
 
 void HeadlessDisplay::click(const Step& step) {
+    if (step.word(0) == "status") return user_.pressStatus();
     auto& control = user_.control<ui::Control>(step.word(0));
     if (!control.usable()) throw ScenarioError{step, "it cannot be used"};
     const Kind kind = control.kind();
@@ -168,6 +169,12 @@ std::string HeadlessDisplay::shown(const Step& step, ui::Control& control) {
 void HeadlessDisplay::expect(const Step& step) {
     if (step.word(0) == "focus") {
         if (user_.focused() != step.word(1)) throw ScenarioError{step, "the focus is on " + user_.focused()};
+        return;
+    }
+    if (step.word(0) == "status" || step.word(0) == "error") {
+        const std::string text =
+            step.word(0) == "status" ? user_.window().status().text() : user_.error(step.word(1));
+        if (text != step.words.back().text) throw ScenarioError{step, "it says \"" + text + "\""};
         return;
     }
     auto& control = user_.control<ui::Control>(step.word(0));

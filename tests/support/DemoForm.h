@@ -158,6 +158,7 @@ private:
             std::this_thread::sleep_for(std::chrono::milliseconds{150});
             display_.messageBox("Kein gültiges Datum: " + txtDate.text(), ui::box::ok | ui::box::exclamation,
                                 "Tellurix");
+            txtDate.setError("TT.MM.JJJJ");
         });
         ui::makeNumberBox(txtAmount, "##,##0.00", base::Locale::german());
         txtKunde.onPick = [this, show] {
@@ -167,6 +168,10 @@ private:
             show();
         };
         btnDelete.onClick = [this, show] {
+            status().say("Kunde entfernt", "&Rückgängig", [this, show, before = txtKunde.text()] {
+                txtKunde.setText(before);
+                show();
+            });
             txtKunde.setText("");
             show();
         };

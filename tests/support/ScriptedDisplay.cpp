@@ -125,6 +125,20 @@ bool User::checked(std::string_view control) {
     return this->control<ui::CheckBox>(control).checked();
 }
 
+std::string User::error(std::string_view control) {
+    return find(control).error();
+}
+
+std::string User::status() {
+    const ui::StatusLine& line = window().status();
+    return line.action().empty() ? line.text() : line.text() + "|" + line.action();
+}
+
+void User::pressStatus() {
+    if (window().status().action().empty()) fail("the status line offers nothing");
+    desktop_.dispatch(ui::StatusActionEvent{});
+}
+
 bool User::usable(std::string_view control) {
     return find(control).usable();
 }

@@ -45,6 +45,12 @@ public:
     std::string tag(std::string_view control);
     std::string caption(std::string_view control);
     bool checked(std::string_view control);
+    /// What stands beside it as its error.
+    std::string error(std::string_view control);
+    /// The text in the status line, with what it offers behind "|": "Gelöscht|&Rückgängig".
+    std::string status();
+    /// Presses what the status line offers.
+    void pressStatus();
     bool usable(std::string_view control);
     ui::Grid& grid(std::string_view control);
     /// The items of a list, one a line.

@@ -22,7 +22,10 @@ public:
     Order() : Form("Order", "Bestellung") {
         ui::makeDateBox(
             txtDatum, [] { return base::Date{std::chrono::year{2025} / 12 / 30}; },
-            [this] { ++invalidDates; });
+            [this] {
+                ++invalidDates;
+                txtDatum.setError("TT.MM.JJJJ");
+            });
         ui::makeNumberBox(txtMenge, "#####0.00", base::Locale::german());
         txtKunde.onPick = [this] {
             ++picks;
@@ -223,6 +226,11 @@ TEST_F(InputRules, ADateIsRewrittenAndABadOneKeepsTheFocusAndTheText) {
         EXPECT_EQ(user.focused(), "txtDatum");
         EXPECT_EQ(user.text("txtDatum"), "31.02.2025");
         EXPECT_EQ(order.invalidDates, 3) << "the click on Ok was not taken either";
+        user.type("31.03.");
+        EXPECT_EQ(user.error("txtDatum"), "TT.MM.JJJJ") << "until it is right";
+        user.key(Key::tab);
+        EXPECT_EQ(user.error("txtDatum"), "");
+        user.type("txtDatum", "31.02.2025");
         user.click("btnCancel");
     });
     EXPECT_EQ(order.invalidDates, 3) << "nobody has to correct a date in order to cancel";
@@ -364,6 +372,49 @@ TEST_F(InputRules, AnErrorInAnEventIsReportedAndTheWindowStaysWithWhatWasTyped) 
         EXPECT_EQ(display.errors().back(), "der Server ist weg");
         EXPECT_EQ(user.text("txtName"), "Grün");
         user.click("btnOk");
+    });
+}
+
+TEST_F(InputRules, TheStatusLineSaysTheNewestAndItsOfferIsDoneOnce) {
+    int undone = 0;
+    bool serverIsGone = true;
+    const auto offer = [&] {
+        order.status().say("Zeile gelöscht", "&Rückgängig", [&] {
+            if (serverIsGone) throw std::runtime_error{"der Server ist weg"};
+            ++undone;
+        });
+    };
+    work([&](User& user) {
+        offer();
+        user.alt(U'r');
+        EXPECT_EQ(display.errors().size(), 1U);
+        EXPECT_EQ(user.status(), "Zeile gelöscht|&Rückgängig") << "what failed can be tried again";
+        serverIsGone = false;
+        user.pressStatus();
+        EXPECT_EQ(undone, 1);
+        EXPECT_EQ(user.status(), "");
+        user.alt(U'R');
+        EXPECT_EQ(undone, 1);
+        offer();
+        order.status().say("Gespeichert");
+        EXPECT_EQ(user.status(), "Gespeichert");
+        user.alt(U'R');
+        EXPECT_EQ(undone, 1) << "a newer text takes the offer away";
+        order.status().say("Neu", "&Unten", [&] { ++undone; });
+        user.alt(U'U');
+        EXPECT_EQ(undone, 1) << "the key of a control goes first";
+        EXPECT_EQ(order.customersOpened, 1);
+        offer();
+        user.type("txtDatum", "99");
+        user.alt(U'R');
+        EXPECT_EQ(undone, 1) << "what stands in the box is checked first";
+        user.type("txtDatum", "");
+        offer();
+        user.close();
+    });
+    work([](User& user) {
+        EXPECT_EQ(user.status(), "") << "it was offered for that visit";
+        user.close();
     });
 }
 

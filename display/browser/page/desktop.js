@@ -3,6 +3,7 @@
 import { isOverheard } from './keys.js';
 import { buildLayout } from './layout.js';
 import { createView } from './controls/index.js';
+import { StatusLine } from './status_line.js';
 import { text } from './texts.js';
 
 export class Desktop {
@@ -126,7 +127,7 @@ export class Desktop {
     this.perform(view.window, { type: 'focus', control: view.state.id });
   }
 
-  #open({ id, form, title, layout, controls }) {
+  #open({ id, form, title, layout, controls, status }) {
     const element = document.createElement('section');
     element.className = 'window';
     element.tabIndex = -1;
@@ -145,11 +146,16 @@ export class Desktop {
     const content = document.createElement('div');
     content.className = 'content scrolls';
     content.append(buildLayout(layout, window.views));
-    element.append(this.#titleBar(window), content);
+    window.status = new StatusLine(() => this.perform(window, { type: 'statusAction' }));
+    element.append(this.#titleBar(window), content, window.status.element);
     this.#title(window, title);
     this.#windows.push(window);
     this.#root.append(element);
-    for (const view of window.views.values()) view.shown?.();
+    for (const view of window.views.values()) {
+      view.shown?.();
+      view.drawError(); // beside it was no place yet
+    }
+    window.status.draw(status);
   }
 
   #titleBar(window) {
@@ -174,11 +180,12 @@ export class Desktop {
     window.element.setAttribute('aria-label', title);
   }
 
-  #change({ id, title, controls }) {
+  #change({ id, title, controls, status }) {
     const window = this.#windows.find((candidate) => candidate.id === id);
     if (!window) return;
     if (title !== undefined) this.#title(window, title);
     this.#draw(window, controls ?? []);
+    if (status) window.status.draw(status);
   }
 
   /** A control that cannot be drawn must not take the others along, and with them the whole session. */

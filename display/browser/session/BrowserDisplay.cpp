@@ -158,6 +158,7 @@ void BrowserDisplay::drawWindows(json& message, bool complete) {
             change["title"] = window.form->title();
             window.form->titleDrawn();
         }
+        if (window.form->status().dirty()) change["status"] = drawStatus(window.form->status());
         if (json controls = drawChanges(*window.form); !controls.empty()) {
             change["controls"] = std::move(controls);
         }

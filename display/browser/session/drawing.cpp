@@ -132,6 +132,7 @@ json drawControl(const Control& control, bool whole) {
              {"keys", keyUsesOf(ui::keyTraitsOf(&control))},
              {"characters", nameOfUse(ui::characterUse(control))},
              {"warning", control.warning()},
+             {"error", control.error()},
              {"quiet", control.quiet()}};
     ui::visit(control, [&](const auto& visited) { draw(out, visited, whole); });
     return out;
@@ -216,6 +217,7 @@ json drawWindow(int id, ui::Form& form) {
             {"form", form.name()},
             {"title", form.title()},
             {"layout", drawLayout(form.layout())},
+            {"status", drawStatus(form.status())},
             {"controls", std::move(controls)}};
 }
 
@@ -227,6 +229,11 @@ json drawChanges(ui::Form& form) {
         control->drawn();
     }
     return changes;
+}
+
+json drawStatus(ui::StatusLine& status) {
+    status.drawn();
+    return {{"text", status.text()}, {"action", status.action()}, {"said", status.said()}};
 }
 
 std::vector<ui::Answer> answersOf(int flags) {

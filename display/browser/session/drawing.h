@@ -19,6 +19,9 @@ nlohmann::json drawWindow(int id, ui::Form& form);
 /// were written only the rows with those are told.
 nlohmann::json drawChanges(ui::Form& form);
 
+/// The last line of a window. Counts as drawn.
+nlohmann::json drawStatus(ui::StatusLine& status);
+
 /// A message box with its buttons in the user's language.
 /// @param language "de" or "en"
 nlohmann::json drawMessageBox(int id, const std::string& text, int flags, const std::string& title,

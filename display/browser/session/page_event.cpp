@@ -84,6 +84,8 @@ std::optional<ui::Event> toEvent(const PageMessage& message, const ui::Form& for
         return ui::KeyPressEvent{message.character};
     case Kind::accessKey:
         return ui::AccessKeyEvent{message.character};
+    case Kind::statusAction:
+        return ui::StatusActionEvent{};
     case Kind::close:
         return ui::CloseEvent{};
     case Kind::answer:

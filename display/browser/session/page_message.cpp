@@ -75,6 +75,7 @@ Kind kindOf(const json& object) {
         {"scroll", Kind::scroll},
         {"columnSized", Kind::columnSized},
         {"pick", Kind::pick},
+        {"statusAction", Kind::statusAction},
         {"close", Kind::close},
         {"answer", Kind::answer},
         {"file", Kind::file},

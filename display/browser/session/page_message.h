@@ -37,6 +37,7 @@ struct PageMessage {
         scroll,
         columnSized,
         pick,
+        statusAction,
         close,
         answer, ///< of a message box
         file,   ///< has been sent, for a message box that asks for one

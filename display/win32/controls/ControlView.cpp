@@ -1,5 +1,6 @@
 #include "display/win32/controls/ControlView.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace tellurix::windows {
@@ -16,6 +17,13 @@ HBRUSH ControlView::colour(HDC dc) const {
     SetTextColor(dc, GetSysColor(COLOR_BTNTEXT));
     SetBkColor(dc, onPage_ ? theme().pageColour() : GetSysColor(COLOR_3DFACE));
     return background();
+}
+
+HBRUSH ControlView::colourOf(HWND window, HDC dc) const {
+    if (!error_.has(window)) return colour(dc);
+    const HBRUSH behind = ControlView::colour(dc);
+    SetTextColor(dc, theme().warningColour());
+    return behind;
 }
 
 HWND ControlView::createPart(const wchar_t* windowClass, DWORD style, DWORD extendedStyle,
@@ -42,6 +50,13 @@ void ControlView::destroy() {
 }
 
 void ControlView::place(const RECT& rect) {
+    RECT own = rect;
+    own.right -= error_.size().cx;
+    error_.place({own.right, rect.top, rect.right, rect.bottom});
+    placeControl(own);
+}
+
+void ControlView::placeControl(const RECT& rect) {
     if (isAt(rect)) return;
     rect_ = rect;
     move(handle_, rect);
@@ -62,19 +77,50 @@ void ControlView::enable(bool visible, bool enabled) {
     enable(handle_, visible, enabled);
 }
 
+void ControlView::drawError() {
+    const bool had = error_.shown();
+    error_.show(control_.error(), handle_);
+    if (had != error_.shown()) RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+}
+
+void ControlView::frameError() const {
+    if (!error_.shown()) return;
+    RECT frame{};
+    GetWindowRect(handle_, &frame);
+    OffsetRect(&frame, static_cast<int>(-frame.left), static_cast<int>(-frame.top));
+    const GdiObject<HBRUSH> brush{CreateSolidBrush(theme().warningColour())};
+    HDC dc = GetWindowDC(handle_);
+    for (int line = 0; line < 2; ++line) {
+        FrameRect(dc, &frame, brush);
+        InflateRect(&frame, -1, -1);
+    }
+    ReleaseDC(handle_, dc);
+}
+
+Room ControlView::measureWithError() const {
+    Room room = measure();
+    const SIZE beside = error_.size();
+    room.width = room.width + Extent::fixed(beside.cx);
+    room.height.minimum = std::max<int>(room.height.minimum, beside.cy);
+    room.height.preferred = std::max<int>(room.height.preferred, beside.cy);
+    return room;
+}
+
 void ControlView::update() {
     if (control_.dirty() || stale_ || new_) {
         draw();
+        drawError();
         host_.setToolTip(handle_, tip());
         control_.drawn();
         stale_ = new_ = false;
-        const Room now = measure();
+        const Room now = measureWithError();
         if (now != room_ || control_.visible() != shown_) host_.roomChanged();
         room_ = now;
         shown_ = control_.visible();
     }
     // What is around a control decides too, and that does not make it dirty.
     enable(control_.showing(), control_.usable());
+    error_.setVisible(control_.showing());
 }
 
 void ControlView::showText(const std::wstring& text) {
@@ -122,6 +168,12 @@ LRESULT ControlView::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS: {
         const LRESULT result = onMessage(message, wParam, lParam);
         if (!pressing_ && !host_.isFocused(*this)) tell(ui::FocusEvent{&control_});
+        return result;
+    }
+    case WM_PAINT:
+    case WM_NCPAINT: {
+        const LRESULT result = onMessage(message, wParam, lParam);
+        frameError();
         return result;
     }
     default:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "display/win32/DisplayState.h"
+#include "display/win32/controls/ErrorSign.h"
 #include "display/win32/native/Theme.h"
 #include "module/ui/controls/Control.h"
 #include "module/ui/input/events.h"
@@ -62,7 +63,8 @@ struct Room {
 /// One control on the screen: a native window, whose messages it translates into events.
 class ControlView {
 public:
-    ControlView(ViewHost& host, ui::Control& control) : host_(host), control_(control) {}
+    ControlView(ViewHost& host, ui::Control& control)
+        : host_(host), control_(control), error_(host.theme(), host.window()) {}
     virtual ~ControlView();
     ControlView(const ControlView&) = delete;
     ControlView& operator=(const ControlView&) = delete;
@@ -70,12 +72,12 @@ public:
     ui::Control& control() const { return control_; }
     HWND handle() const { return handle_; }
     /// Whether a window is the native control, or a part of the view beside it.
-    virtual bool has(HWND window) const { return window == handle_; }
+    virtual bool has(HWND window) const { return window == handle_ || error_.has(window); }
 
     /// The room that it needs, as of its last drawing.
     const Room& room() const { return room_; }
-    /// Puts it somewhere; in coordinates of the window's client area.
-    virtual void place(const RECT& rect);
+    /// Puts it somewhere, with its error beside it; in coordinates of the window's client area.
+    void place(const RECT& rect);
     const RECT& rect() const { return rect_; }
     /// The frame or tab page around it: decides about its background.
     void setOnPage(bool onPage) { onPage_ = onPage; }
@@ -99,8 +101,8 @@ public:
     virtual void notified(UINT /*code*/, NMHDR* /*details*/) {}
     /// WM_COMMAND of a part beside it.
     virtual void partNotified(UINT /*code*/) {}
-    /// WM_CTLCOLOR…: sets up the device context. @return the background
-    virtual HBRUSH colour(HDC dc) const;
+    /// WM_CTLCOLOR… of one of its windows: sets up the device context. @return the background
+    HBRUSH colourOf(HWND window, HDC dc) const;
 
 protected:
     /// Makes the native window. It goes by `destroy`, or along with the window that it stands in.
@@ -109,6 +111,8 @@ protected:
     /// Makes a native window that belongs to this view beside the main one.
     HWND createPart(const wchar_t* windowClass, DWORD style, DWORD extendedStyle, const std::wstring& text);
     virtual Room measure() const = 0;
+    virtual void placeControl(const RECT& rect);
+    virtual HBRUSH colour(HDC dc) const;
     /// What is shown while the pointer rests over it; a warning before anything else.
     virtual std::string tip() const {
         return control_.warning().empty() ? control_.toolTip() : control_.warning();
@@ -143,8 +147,15 @@ private:
     /// event that the press causes, or, where it causes none, from a focus event of its own.
     LRESULT pressed(UINT message, WPARAM wParam, LPARAM lParam);
 
+    void drawError();
+    /// Draws the frame of a control with an error over its own.
+    void frameError() const;
+    /// As `measure`, with what stands beside it.
+    Room measureWithError() const;
+
     ViewHost& host_;
     ui::Control& control_;
+    ErrorSign error_;
     HWND handle_ = nullptr;
     WNDPROC nativeProcedure_ = nullptr;
     RECT rect_{};

@@ -49,12 +49,12 @@ Room ComboBoxView::measure() const {
     return {{small, width}, Extent::fixed(theme().lineHeight())};
 }
 
-void ComboBoxView::place(const RECT& rect) {
+void ComboBoxView::placeControl(const RECT& rect) {
     if (isAt(rect)) return;
     // The height that a combo box is given is that with its list open.
     RECT open = rect;
     open.bottom += openRows * theme().itemHeight();
-    ControlView::place(open);
+    ControlView::placeControl(open);
     rememberPlace(rect);
 }
 

@@ -30,7 +30,7 @@ public:
     ComboBoxView(ViewHost& host, ui::ItemList& list);
 
     Room measure() const override;
-    void place(const RECT& rect) override;
+    void placeControl(const RECT& rect) override;
     bool hasOpenList() const override;
     void closeList() override;
     void notified(UINT code, NMHDR* details) override;

@@ -11,11 +11,11 @@ Room ProgressBarView::measure() const {
     return {{theme().scaled(80), theme().scaled(200)}, Extent::fixed(theme().lineHeight())};
 }
 
-void ProgressBarView::place(const RECT& rect) {
+void ProgressBarView::placeControl(const RECT& rect) {
     // Thinner than the buttons and boxes beside it.
     RECT bar = rect;
     InflateRect(&bar, 0, -theme().scaled(4));
-    ControlView::place(bar);
+    ControlView::placeControl(bar);
 }
 
 void ProgressBarView::draw() {

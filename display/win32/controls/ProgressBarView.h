@@ -11,7 +11,7 @@ public:
     ProgressBarView(ViewHost& host, ui::ProgressBar& progress);
 
     Room measure() const override;
-    void place(const RECT& rect) override;
+    void placeControl(const RECT& rect) override;
 
 private:
     void draw() override;

@@ -46,7 +46,7 @@ void TextBoxView::make() {
 }
 
 bool TextBoxView::has(HWND window) const {
-    return window == handle() || window == pick_;
+    return ControlView::has(window) || window == pick_;
 }
 
 Room TextBoxView::measure() const {
@@ -60,12 +60,12 @@ Room TextBoxView::measure() const {
              theme().lineHeight() + extraLines}};
 }
 
-void TextBoxView::place(const RECT& rect) {
+void TextBoxView::placeControl(const RECT& rect) {
     RECT text = rect;
     if (pick_ != nullptr && box_.onPick) text.right -= theme().lineHeight();
     if (isAt(text)) return;
     if (pick_ != nullptr) move(pick_, {text.right, rect.top, rect.right, rect.bottom});
-    ControlView::place(text);
+    ControlView::placeControl(text);
     // What can be seen of a text depends on the room for it.
     if (selection() == known_ || !host().isFocused(*this)) showSelection();
 }

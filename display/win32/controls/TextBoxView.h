@@ -13,7 +13,7 @@ public:
 
     bool has(HWND window) const override;
     Room measure() const override;
-    void place(const RECT& rect) override;
+    void placeControl(const RECT& rect) override;
     std::optional<ui::Event> newSelection() override;
     void notified(UINT code, NMHDR* details) override;
     void partNotified(UINT code) override;

@@ -42,9 +42,9 @@ Room GridView::measure() const {
             {std::min(height, 4 * geometry_.rowHeight() + frame), height}};
 }
 
-void GridView::place(const RECT& rect) {
+void GridView::placeControl(const RECT& rect) {
     if (isAt(rect)) return;
-    ControlView::place(rect);
+    ControlView::placeControl(rect);
     fit();
     if (geometry_.reveal(grid_.currentRow(), grid_.currentColumn())) showScrollBars();
     placeEditor();

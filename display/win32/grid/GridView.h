@@ -27,7 +27,7 @@ public:
     GridView(ViewHost& host, ui::Grid& grid);
 
     Room measure() const override;
-    void place(const RECT& rect) override;
+    void placeControl(const RECT& rect) override;
     /// Puts the box that edits a cell over that cell.
     void placeEditor();
 

@@ -97,7 +97,7 @@ VisualStyles::VisualStyles() {
     if (styles.valid() && !ActivateActCtx(styles.handle(), &cookie_)) cookie_ = 0;
     static const bool classesMade = [] {
         INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_TAB_CLASSES | ICC_UPDOWN_CLASS | ICC_PROGRESS_CLASS |
-                                                       ICC_STANDARD_CLASSES};
+                                                       ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
         return InitCommonControlsEx(&wanted) != FALSE;
     }();
     if (!classesMade) throw std::runtime_error{"Windows has no common controls."};

@@ -58,6 +58,10 @@ public:
     /// Not empty: it is shown in a warning colour, and this is what screen readers say about it.
     const std::string& warning() const { return warning_; }
     void setWarning(std::string text) { change(warning_, std::move(text)); }
+    /// Not empty: what stands in it cannot be taken as it is. It has a red frame then, and this is shown
+    /// beside it, until it has been put right.
+    const std::string& error() const { return error_; }
+    void setError(std::string text) { change(error_, std::move(text)); }
     /// Drawn faintly, as something that is not in use yet; it can be used all the same.
     bool quiet() const { return quiet_; }
     void setQuiet(bool quiet) { change(quiet_, quiet); }
@@ -100,6 +104,7 @@ private:
     std::size_t id_;
     std::string toolTip_;
     std::string warning_;
+    std::string error_;
     /// The frame or tab page around this control, as the layout says it; null at the top.
     Control* container_ = nullptr;
     int page_ = -1; ///< within tabs: the page it stands on

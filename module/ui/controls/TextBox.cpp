@@ -35,6 +35,7 @@ const std::string& TextBox::text() const {
 }
 
 void TextBox::setText(std::string text) {
+    setError({});
     if (text == this->text()) return;
     characters_ = decodeUtf8(text);
     text_ = std::move(text);

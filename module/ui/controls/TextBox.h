@@ -20,7 +20,8 @@ public:
     ControlKind kind() const override { return ownKind; }
 
     const std::string& text() const;
-    /// Shows a text; the caret goes behind it. Does not call `onChange`: that tells what the user did.
+    /// Shows a text; the caret goes behind it. Does not call `onChange`: that tells what the user did. An
+    /// error was about the text before.
     void setText(std::string text);
     /// As `setText`, for a value as it was read: the user has not touched it.
     void show(std::string text);

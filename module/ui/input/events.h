@@ -86,12 +86,14 @@ struct ColumnSizedEvent {
 struct PickEvent {
     Control* control = nullptr;
 };
+/// The offer in the window's status line was pressed.
+struct StatusActionEvent {};
 /// The window's close box.
 struct CloseEvent {};
 
-using Event = std::variant<KeyDownEvent, PickKeyEvent, KeyPressEvent, AccessKeyEvent, FocusEvent,
-                           TextEditedEvent, SelectionEvent, PasteEvent, ClickEvent, StepEvent, SelectEvent,
-                           DoubleClickEvent, HeadingEvent, ScrollEvent, ColumnSizedEvent, PickEvent,
-                           CloseEvent>;
+using Event =
+    std::variant<KeyDownEvent, PickKeyEvent, KeyPressEvent, AccessKeyEvent, FocusEvent, TextEditedEvent,
+                 SelectionEvent, PasteEvent, ClickEvent, StepEvent, SelectEvent, DoubleClickEvent,
+                 HeadingEvent, ScrollEvent, ColumnSizedEvent, PickEvent, StatusActionEvent, CloseEvent>;
 
 } // namespace tellurix::ui

@@ -134,6 +134,40 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await state('|77||');
   });
 
+  test('a box with an error is marked and described by it until it is right', async () => {
+    await press('Tab');
+    await type('99\t');
+    await message().waitFor();
+    await press('Enter');
+    const date = control(page, 'txtDate');
+    await until(async () => (await date.getAttribute('aria-invalid')) === 'true', 'invalid');
+    const text = page.locator(`#${await date.getAttribute('aria-describedby')}`);
+    assert.equal(await text.textContent(), 'TT.MM.JJJJ');
+    const [box, beside] = [await date.boundingBox(), await text.boundingBox()];
+    assert.ok(beside.x >= box.x + box.width && beside.y < box.y + box.height, 'it stands beside the box');
+    await type('1.2.2025\t');
+    await until(async () => (await date.getAttribute('aria-invalid')) === null, 'valid');
+    assert.ok(!(await text.isVisible()));
+  });
+
+  test('the status line says what was done, and its offer is pressed by pointer and letter', async () => {
+    const line = page.locator('.window:not(.behind) > .status');
+    const said = (text) => until(async () => (await line.locator('[role=status]').textContent()) === text, text);
+    await control(page, 'txtKunde').fill('Maier');
+    await control(page, 'btnDelete').click();
+    await said('Kunde entfernt');
+    assert.equal(await line.locator('button').getAttribute('aria-keyshortcuts'), 'Alt+R');
+    await press('Alt+r');
+    await said('');
+    await state('|||Maier');
+    await control(page, 'btnDelete').click();
+    await state('|||');
+    await line.locator('button').click();
+    await state('|||Maier');
+    assert.ok(!(await line.locator('button').isVisible()), 'it is offered once');
+    await hasFocus('btnDelete');
+  });
+
   test('a click on another box asks the box that is left', async () => {
     await press('Tab');
     await type('99');

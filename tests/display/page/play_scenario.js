@@ -57,6 +57,7 @@ class Player {
   }
 
   click([name, half]) {
+    if (name.text === 'status') return this.page.locator('.window:not(.behind) > .status button').click();
     const found = this.#control(name);
     if (half) return found.locator('button').nth(half.text === 'up' ? 0 : 1).click();
     return found.click();
@@ -97,6 +98,12 @@ class Player {
       await hasFocus(this.page, wanted);
       return;
     }
+    if (name.text === 'status' || name.text === 'error') {
+      const line = this.page.locator('.window:not(.behind) > .status [role=status]');
+      const shown = () => (name.text === 'status' ? line.textContent() : this.#error(rest[0]));
+      await until(async () => { const now = await shown(); return now === wanted || now; }, name.text);
+      return;
+    }
     const found = this.#control(name);
     const [row, ...cells] = rest;
     if (!row.quoted) {
@@ -128,6 +135,12 @@ class Player {
   /** The cells of a row, which counts from 1. */
   #row(name, row) {
     return this.#control(name).locator(`[aria-rowindex="${Number(row.text) + 1}"]`).locator('[role=gridcell]');
+  }
+
+  /** What describes a control as its error. */
+  #error(name) {
+    return this.#control(name).evaluate((element) => (element.getAttribute('aria-invalid') === 'true'
+      ? document.getElementById(element.getAttribute('aria-describedby')).textContent : ''));
   }
 
   /** Goes to a box and selects its text. */

@@ -243,7 +243,26 @@ TEST_F(DemoFormOnWindows, LeavingCanBeRefused) {
     clickTab(1);
     refused();
     EXPECT_TRUE(IsWindowVisible(user.control("grdLines")));
+    EXPECT_EQ(WindowsUser::errorOf(user.control("txtDate")), "TT.MM.JJJJ");
     user.type("1.2.25");
+    press(Key::tab);
+    EXPECT_EQ(WindowsUser::errorOf(user.control("txtDate")), "") << "it is right";
+}
+
+TEST_F(DemoFormOnWindows, TheStatusBarSaysWhatWasDoneAndItsOfferIsPressed) {
+    goTo("txtKunde");
+    user.type("Maier");
+    click("btnDelete");
+    EXPECT_EQ(text("status"), "Kunde entfernt");
+    EXPECT_EQ(text("txtKunde"), "");
+    alt('R');
+    EXPECT_EQ(text("txtKunde"), "Maier");
+    EXPECT_EQ(text("status"), "");
+    click("btnDelete");
+    click("statusAction");
+    EXPECT_EQ(text("txtKunde"), "Maier");
+    EXPECT_EQ(user.focused(), "btnDelete") << "the offer never has the focus";
+    EXPECT_ANY_THROW(user.control("statusAction"));
 }
 
 TEST_F(DemoFormOnWindows, AccessKeysAndMessages) {

@@ -51,6 +51,7 @@ void type(WindowsUser& user, const Step& step) {
 }
 
 void click(WindowsUser& user, const Step& step) {
+    if (step.word(0) == "status") return user.click(user.control("statusAction"));
     HWND control = usable(user, step);
     if (step.words.size() == 1) return user.click(control);
     user.click(control, step.word(1) == "up" ? 1 : 3, 4);
@@ -79,8 +80,14 @@ void expectCells(HWND grid, const Step& step) {
     }
 }
 
+void expectError(WindowsUser& user, const Step& step) {
+    const std::string shown = WindowsUser::errorOf(user.control(step.word(1)));
+    if (shown != step.words.back().text) throw ScenarioError{step, "it is \"" + shown + "\""};
+}
+
 void expect(WindowsUser& user, const Step& step) {
     const bool focus = step.word(0) == "focus";
+    if (step.word(0) == "error") return expectError(user, step);
     if (!focus && !step.quoted(1)) return expectCells(user.control(step.word(0)), step);
     const std::string shown = focus ? user.focused() : WindowsUser::textOf(user.control(step.word(0)));
     if (shown != step.word(1)) throw ScenarioError{step, "it is \"" + shown + "\""};

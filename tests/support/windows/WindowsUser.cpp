@@ -143,6 +143,15 @@ std::string WindowsUser::textOf(HWND control) {
     return windowText(control);
 }
 
+std::string WindowsUser::errorOf(HWND control) {
+    Search search{[control](HWND window) {
+        return classOf(window) == L"Static" &&
+               GetWindowLongPtrW(window, GWLP_USERDATA) == reinterpret_cast<LONG_PTR>(control);
+    }};
+    EnumChildWindows(GetParent(control), lookAt, reinterpret_cast<LPARAM>(&search));
+    return search.found == nullptr ? std::string{} : windows::narrow(windowText(search.found));
+}
+
 std::vector<std::string> WindowsUser::rowOf(HWND grid, int row) {
     static const UINT cellText = RegisterWindowMessageW(L"Tellurix.CellText");
     std::array<wchar_t, 256> text{};

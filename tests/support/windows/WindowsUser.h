@@ -32,6 +32,8 @@ public:
     HWND control(const std::string& name) const;
     /// What a control says: text of a box or label, entry of a list, "ja" or "nein" of a tick.
     static std::string textOf(HWND control);
+    /// The text that stands beside a control as its error, empty for none.
+    static std::string errorOf(HWND control);
     /// Texts of a grid's row, from 0; none where there is no such row.
     static std::vector<std::string> rowOf(HWND grid, int row);
 

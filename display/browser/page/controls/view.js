@@ -6,7 +6,16 @@ export function newElementId() {
   return `e${++lastElementId}`;
 }
 
+function errorText() {
+  const element = document.createElement('span');
+  element.className = 'error';
+  element.id = newElementId();
+  return element;
+}
+
 export class View {
+  #error = null; // what stands beside it, once there has been something
+
   /**
    * @param element stands in the layout
    * @param focusElement gets the browser's focus, or null
@@ -44,12 +53,32 @@ export class View {
     } else {
       target.removeAttribute('aria-description');
     }
+    this.drawError();
     if ('disabled' in target) target.disabled = !this.state.enabled;
     else if (this.focusElement) target.setAttribute('aria-disabled', !this.state.enabled);
     this.draw(changes, before);
   }
 
   draw() {}
+
+  /** A control with an error is framed, and says beside it what is wrong. */
+  drawError() {
+    const { error } = this.state;
+    if (!error && !this.#error) return;
+    this.#error ??= errorText();
+    const target = this.focusElement ?? this.element;
+    this.element.classList.toggle('fails', Boolean(error));
+    this.#error.textContent = error;
+    this.#error.hidden = !error || !this.state.visible;
+    if (error) {
+      this.element.after(this.#error);
+      target.setAttribute('aria-invalid', 'true');
+      target.setAttribute('aria-describedby', this.#error.id);
+    } else {
+      target.removeAttribute('aria-invalid');
+      target.removeAttribute('aria-describedby');
+    }
+  }
 
   labelledBy(label) {
     this.focusElement?.setAttribute('aria-labelledby', label.element.id);
