@@ -35,6 +35,31 @@ constexpr Words wordsOf(OwnText text) {
             "Apostroph (').",
             "The deduction model cannot be read: there is an apostrophe (') in the name of the contract."};
 
+    case OwnText::changedMeanwhile:
+        return {"Inzwischen geändert", "Changed in the meantime"};
+    case OwnText::bothChanged:
+        return {"Jemand anderer hat inzwischen geändert, was auch hier geändert ist. Noch ist nichts "
+                "gespeichert.",
+                "Someone else has changed in the meantime what is changed here, too. Nothing has been saved "
+                "yet."};
+    case OwnText::bothValues:
+        return {"{} – Sie: {} – inzwischen: {}", "{} – you: {} – in the meantime: {}"};
+    case OwnText::noValue:
+        return {"(leer)", "(empty)"};
+    case OwnText::ticked:
+        return {"ja", "yes"};
+    case OwnText::notTicked:
+        return {"nein", "no"};
+    case OwnText::saveMine:
+        return {"&Meines speichern", "Save &mine"};
+    case OwnText::takeTheirs:
+        return {"&Deren übernehmen", "&Take theirs"};
+    case OwnText::goBack:
+        return {"&Zurück", "&Back"};
+    case OwnText::takenFromOthers:
+        return {"Von jemand anderem geändert und übernommen: {}.",
+                "Changed by someone else and taken over: {}."};
+
     case OwnText::sourceUnknown:
         return {"Den Vertrag „{}“ gibt es nicht.", "There is no contract \"{}\"."};
     case OwnText::sourceIsItself:

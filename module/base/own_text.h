@@ -19,6 +19,17 @@ enum class OwnText {
     textNotSaved, ///< a question
     contractIsGone,
     noDeductionModel,
+    // What somebody else has changed meanwhile
+    changedMeanwhile, ///< title of the question
+    bothChanged,
+    bothValues, ///< the field, what the user has, what there is by now
+    noValue,
+    ticked,
+    notTicked,
+    saveMine, ///< three buttons
+    takeTheirs,
+    goBack,
+    takenFromOthers, ///< the fields
     // Taking lines over: {} is the name of the source
     sourceUnknown,
     sourceIsItself,

@@ -1,7 +1,6 @@
 #include "module/contract/F_HeaderVertrag.h"
 
 #include "module/base/StatementText.h"
-#include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/base/text.h"
 #include "module/contract/contract_row.h"
@@ -52,6 +51,7 @@ F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
     for (ui::TextBox& box : txtNumber)
         numbers_.emplace_back(box, numberMask, services_.locale);
     connectCurrency();
+    connectRow();
     btnOk.onClick = [this] { save(); };
     btnCancel.onClick = [this] { unload(); };
     btnCancel.setCausesValidation(false);
@@ -82,6 +82,35 @@ void F_HeaderVertrag::connectCurrency() {
         leaveCurrency();
         return true;
     };
+}
+
+void F_HeaderVertrag::connectRow() {
+    row_.date(txtDate1, "INVDATE");
+    row_.date(txtDate2, "DATE1");
+    row_.date(txtDate3, "DATE2");
+    row_.date(txtDate4, "DATE3");
+    row_.date(txtLieferVon, "LIEFERVON");
+    row_.date(txtLieferBis, "LIEFERBIS",
+              [this] { return ui::plainCaption(frmLieferVon.caption() + " " + lblLieferBis.caption()); });
+    for (std::size_t i = 0; i < numbers_.size(); ++i) {
+        row_.number(numbers_[i], numbered("NUMM", i));
+        row_.text(txtKopf[i], numbered("KOPF", i));
+    }
+    row_.lookup(rechnungsart_, "RART_ID", "RECHNUNGSART");
+    row_.lookup(buchungsart_, "BUCHNR_ID", "BUCHUNGSTEXT");
+    const auto currency = [this](base::Fields& row) { return row.flag("EURO") ? host::euro : homeCurrency_; };
+    row_.add({.column = "EURO",
+              .name = [this] { return ui::plainCaption(lblWahrung.caption()); },
+              .show =
+                  [this, currency](base::Fields& row) {
+                      txtWahrung.show(currency(row));
+                      txtWahrung.setTag(row.flag("EURO") ? "1" : "0");
+                  },
+              .mine = [this] { return txtWahrung.text(); },
+              .theirs = currency,
+              .typed = &txtWahrung});
+    row_.person(mandant_, "ID_MANDANTEN", "MANDANTENNUMMER", "MANDANTENKURZBEZEICHNUNG");
+    row_.person(lieferadresse_, "ID_PERSONAL_LIEFERADRESSE", "PLANUMMER", "PLAKURZBEZEICHNUNG");
 }
 
 void F_HeaderVertrag::arrange() {
@@ -148,7 +177,7 @@ void F_HeaderVertrag::setCaptions() {
     caption(lblWahrung, captions.wahrung);
 }
 
-void F_HeaderVertrag::LoadHeader() {
+std::unique_ptr<base::Recordset> F_HeaderVertrag::readRow() {
     // clang-format off
     StatementText query{"SELECT "
         "VERTRAEGE.INVDATE,VERTRAEGE.DATE1,VERTRAEGE.DATE2,VERTRAEGE.DATE3,VERTRAEGE.LIEFERVON,VERTRAEGE.LIEFERBIS,"
@@ -167,29 +196,14 @@ void F_HeaderVertrag::LoadHeader() {
         " LEFT JOIN PERSONAL PLA ON PLA.ID_PERSONAL = VERTRAEGE.ID_PERSONAL_LIEFERADRESSE "
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
-    const auto row = session_.connection->open(query.number(contract_).text());
-    requireContract(*row);
+    return session_.connection->open(query.number(contract_).text());
+}
 
-    txtDate1.setText(base::dateText(row->field("INVDATE")));
-    txtDate2.setText(base::dateText(row->field("DATE1")));
-    txtDate3.setText(base::dateText(row->field("DATE2")));
-    txtDate4.setText(base::dateText(row->field("DATE3")));
-    txtLieferVon.setText(base::dateText(row->field("LIEFERVON")));
-    txtLieferBis.setText(base::dateText(row->field("LIEFERBIS")));
-    for (std::size_t i = 0; i < numbers_.size(); ++i) {
-        numbers_[i].show(row->field(numbered("NUMM", i)));
-        txtKopf[i].setText(row->text(numbered("KOPF", i)));
-    }
-    rechnungsart_.show(row->text("RECHNUNGSART"), row->text("RART_ID"));
-    buchungsart_.show(row->text("BUCHUNGSTEXT"), row->text("BUCHNR_ID"));
-    const bool inEuro = row->flag("EURO");
-    txtWahrung.setText(inEuro ? host::euro : homeCurrency_);
-    txtWahrung.setTag(inEuro ? "1" : "0");
+void F_HeaderVertrag::LoadHeader() {
+    const auto row = readRow();
+    requireContract(*row);
+    row_.show(*row);
     accessLevel_ = static_cast<int>(row->integer("ID_ACCESS_LEVELS", session_.accessLevel));
-    mandant_.show(row->text("ID_MANDANTEN"), row->text("MANDANTENNUMMER"),
-                  row->text("MANDANTENKURZBEZEICHNUNG"));
-    lieferadresse_.show(row->text("ID_PERSONAL_LIEFERADRESSE"), row->text("PLANUMMER"),
-                        row->text("PLAKURZBEZEICHNUNG"));
 }
 
 void F_HeaderVertrag::leaveCurrency() {
@@ -226,6 +240,8 @@ std::string F_HeaderVertrag::updateStatement() {
 }
 
 void F_HeaderVertrag::save() {
+    static_cast<void>(updateStatement()); // refuses what no statement can carry before anything is asked
+    if (!row_.settle([this] { return readRow(); })) return;
     updateContract(*session_.connection, updateStatement(), contract_);
     unload();
 }

@@ -5,12 +5,14 @@
 #include "module/parts/LookupBox.h"
 #include "module/parts/NumberField.h"
 #include "module/parts/PersonBox.h"
+#include "module/parts/SharedRow.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/TextBox.h"
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,9 +21,9 @@ namespace tellurix::contract {
 /// The head data of one contract: dates, delivery period, free numbers and texts, invoice and
 /// booking kind, currency, client, delivery address.
 ///
-/// The row is read once when the screen opens and written with one statement by "Ok". Every field
-/// is checked or put in form when it is left; there is no further check at the end, and nothing is
-/// mandatory. "Abbrechen" writes nothing.
+/// The row is read when the screen opens, and once more directly before "Ok" writes it with one statement:
+/// what a colleague has changed meanwhile stays. Every field is checked or put in form when it is left;
+/// there is no further check at the end, and nothing is mandatory. "Abbrechen" writes nothing.
 class F_HeaderVertrag final : public ui::Form, public host::Screen {
 public:
     explicit F_HeaderVertrag(host::HostServices& services);
@@ -32,9 +34,11 @@ public:
 private:
     void connectDates();
     void connectCurrency();
+    void connectRow();
     void arrange();
     void setCaptions();
     void LoadHeader();
+    std::unique_ptr<base::Recordset> readRow();
     void save();
     void leaveCurrency();
     std::string updateStatement();
@@ -93,6 +97,7 @@ private:
     parts::LookupBox buchungsart_;
     parts::PersonBox mandant_;
     parts::PersonBox lieferadresse_;
+    parts::SharedRow row_{services_, session_};
 };
 
 } // namespace tellurix::contract

@@ -45,6 +45,8 @@ F_Vertrag::F_Vertrag(host::HostServices& services)
 }
 
 void F_Vertrag::connect() {
+    flags_.flag(chkAbgeschlossen, "ABGESCHLOSSEN");
+    flags_.flag(chkAClEmpty, "ACL_EMPTY");
     KundeButton.onClick = [this] { chooseCustomer(); };
     btnDeleteMan.onClick = [this] { removeCustomer(); };
     btnHeader.onClick = [this] { openHeader(); };
@@ -223,9 +225,21 @@ void F_Vertrag::loadFlags() {
     StatementText query{
         "SELECT ISNULL(ABGESCHLOSSEN,0) AS ABGESCHLOSSEN,ISNULL(ACL_EMPTY,0) AS ACL_EMPTY   FROM VERTRAEGE"
         " WHERE ID_VERTRAG = "};
-    const auto flags = session_.connection->open(query.number(id_).text());
-    chkAbgeschlossen.setChecked(flags->integer("ABGESCHLOSSEN") != 0);
-    chkAClEmpty.setChecked(flags->integer("ACL_EMPTY") != 0);
+    flags_.show(*session_.connection->open(query.number(id_).text()));
+}
+
+bool F_Vertrag::settleFlags() {
+    return flags_.settle([this] {
+        // clang-format off
+        StatementText query{
+            "SELECT ISNULL(ABGESCHLOSSEN,0) AS ABGESCHLOSSEN,ISNULL(ACL_EMPTY,0) AS ACL_EMPTY,ID_ACCESS_LEVELS FROM VERTRAEGE"
+            " WHERE ID_VERTRAG = "};
+        // clang-format on
+        auto flags = session_.connection->open(query.number(id_).text());
+        // Nobody can change the level here: the one that is there is written.
+        if (!flags->atEnd()) accessLevel_ = flags->integer("ID_ACCESS_LEVELS");
+        return flags;
+    });
 }
 
 std::string F_Vertrag::GetRightsCode(const std::string& typeCode) {
@@ -270,6 +284,7 @@ void F_Vertrag::openHeader() {
 
 void F_Vertrag::save() {
     additionalTexts_.write();
+    if (!settleFlags()) return;
     StatementText statement{"UPDATE VERTRAEGE SET ABGESCHLOSSEN = "};
     statement.fixed(chkAbgeschlossen.checked() ? "1" : "0");
     if (chkAClEmpty.checked()) {
@@ -284,6 +299,9 @@ void F_Vertrag::save() {
     statement.fixed(" WHERE ID_VERTRAG = ").number(id_);
     updateContract(*session_.connection, statement.text(), id_);
     notYetSaved_ = false;
+    // The window closes: nobody would read it in the status line.
+    if (const std::string taken = flags_.takenOver(); !taken.empty())
+        parts::ShowMessage(services_.display, taken, ui::box::information);
     unload();
 }
 

@@ -6,6 +6,7 @@
 #include "module/host/services.h"
 #include "module/lines/F_VertragMengen.h"
 #include "module/lines/F_VertragPreise.h"
+#include "module/parts/SharedRow.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/CheckBox.h"
@@ -54,6 +55,8 @@ private:
     parts::OpenContract openContract() const;
     void loadContract();
     void loadFlags();
+    /// @return false when nothing is to be written
+    bool settleFlags();
     void showCustomer();
     /// Empty, with the reason beside it, for a contract whose name no statement can carry.
     void showDeductionModel();
@@ -108,6 +111,7 @@ private:
     ui::Button btnLieferprofil_WVO{*this, "btnLieferprofil_WVO", "Lieferprofil Vertragsdefinition"};
 
     TakeOverFrame takeOver_;
+    parts::SharedRow flags_{services_, session_};
     ui::Label txtMessage{*this, "txtMessage", "Umschalten zu MS-Word"};
 
     ui::Button btnWord{*this, "btnWord", "Vertragsdokument", "document"};

@@ -36,6 +36,7 @@ F_VertragMengen::F_VertragMengen(host::HostServices& services)
     : LineEditor(services, quantityLines, "F_VertragMengen", "Mengen"),
       quantity_(txtMenge, "-########0.00", services.locale),
       offeneMenge_(services, session_) {
+    row_.number(quantity_, "MENGE");
     txtOffen.setLocked(true);
     txtOffen.setRightAligned(true);
     btnOffen.setToolTip("Zeigt, welche Stämme für diese Zeile zählen");
@@ -66,8 +67,7 @@ std::vector<parts::KeyedGrid::Column> F_VertragMengen::gridColumns() const {
             {.caption = lblUnit.caption(), .width = 10, .field = "EINHEIT"}};
 }
 
-void F_VertragMengen::showFields(base::Recordset& line) {
-    quantity_.show(line.field("MENGE"));
+void F_VertragMengen::lineShown(base::Recordset& line) {
     agreed_ = quantityIn(line.field("MENGE"));
 }
 

@@ -18,7 +18,7 @@ public:
 private:
     void prepare(bool shown) override;
     std::vector<parts::KeyedGrid::Column> gridColumns() const override;
-    void showFields(base::Recordset& line) override;
+    void lineShown(base::Recordset& line) override;
     void showNoLine() override;
     void emptyForNewLine() override;
     void requireFields() override;

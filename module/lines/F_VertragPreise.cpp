@@ -3,9 +3,13 @@
 #include "module/base/Decimal.h"
 #include "module/base/Refused.h"
 #include "module/base/StatementText.h"
+#include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/base/text.h"
+#include "module/parts/ConflictQuestion.h"
 #include "module/parts/M_Common.h"
+#include "module/ui/controls/caption.h"
+#include "module/ui/input/RefusedInput.h"
 #include "module/ui/input/number_box.h"
 
 namespace tellurix::lines {
@@ -16,12 +20,17 @@ namespace {
 
 constexpr const char* priceMask = "-#######0.00";
 constexpr const char* secondPriceMask = "#####0.00";
+constexpr const char* exactPriceMask = "0.00##";
 constexpr int euroEntry = 0;
 constexpr int homeCurrencyEntry = 1;
 
 /// The grid columns that can be edited in place; their numbers do not follow the layout.
 constexpr std::size_t editedPriceColumn = 2;
 constexpr std::size_t editedSecondPriceColumn = 5;
+
+const char* fieldOf(int editedColumn) {
+    return editedColumn == static_cast<int>(editedPriceColumn) ? "PREIS" : "PREIS_ABR2";
+}
 
 // clang-format off
 const LineKind priceLines{
@@ -51,6 +60,7 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
           LoadGrid();
           showCurrentLine();
       }) {
+    connectFields();
     cellEditor_.canEdit = [this](int, int column) {
         return viewing() && chkEdit.checked() && lines_.editable(column);
     };
@@ -109,11 +119,20 @@ std::vector<parts::KeyedGrid::Column> F_VertragPreise::gridColumns() const {
     return columns;
 }
 
-void F_VertragPreise::showFields(base::Recordset& line) {
-    percent_.show(line.field("MSZ_PERCENT"));
-    price_.show(line.field("PREIS"));
-    secondPrice_.show(line.field("PREIS_ABR2"));
-    cboGeld.select(line.flag("EURO") ? euroEntry : homeCurrencyEntry);
+void F_VertragPreise::connectFields() {
+    row_.number(percent_, "MSZ_PERCENT");
+    row_.number(price_, "PREIS");
+    row_.number(secondPrice_, "PREIS_ABR2");
+    row_.add(
+        {.column = "EURO",
+         .name = [this] { return ui::plainCaption(lblGeld.caption()); },
+         .show =
+             [this](base::Fields& line) {
+                 cboGeld.select(line.flag("EURO") ? euroEntry : homeCurrencyEntry);
+             },
+         .mine = [this] { return cboGeld.selectedText(); },
+         .theirs =
+             [this](base::Fields& line) { return line.flag("EURO") ? host::euro : session_.homeCurrency; }});
 }
 
 void F_VertragPreise::showNoLine() {
@@ -158,12 +177,9 @@ void F_VertragPreise::linesChanged() {
     priceChange_.linesChanged();
 }
 
-std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::string& typed) {
-    const bool fits =
-        base::isNumeric(typed, services_.locale) && base::fitsNumberMask(typed, priceMask, services_.locale);
-    if (!fits) txtEdit.setText(base::formatNumber(base::Decimal{}, "0.00", services_.locale));
+std::unique_ptr<base::Recordset> F_VertragPreise::openForCell(int row, const std::string& typed) {
     try {
-        openInPlace(row);
+        return openWholeInPlace(row);
     } catch (const base::Refused& moved) {
         // The cell belongs to another line now.
         cellEditor_.close();
@@ -172,8 +188,40 @@ std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::stri
         message.push_back({base::OwnText::typedWas, {typed}});
         throw base::Refused{std::move(message)};
     }
+}
+
+bool F_VertragPreise::mayWriteCell(int row, int column, const std::string& typed) {
+    const char* field = fieldOf(column);
+    while (true) {
+        const base::Value now = openForCell(row, typed)->field(field);
+        const auto there = base::numberIn(now);
+        if (there == base::numberIn(lines_.row(row).field(field)) ||
+            there == base::parseNumber(txtEdit.text(), services_.locale))
+            return true;
+        const auto& caption = MSFlexGrid1.columns()[static_cast<std::size_t>(column)].caption;
+        switch (parts::ConflictQuestion{services_, session_}.ask(
+            {{caption, txtEdit.text(), base::numberText(now, exactPriceMask, services_.locale)}})) {
+        case parts::ConflictQuestion::Answer::theirs:
+            return false;
+        case parts::ConflictQuestion::Answer::back:
+            throw ui::RefusedInput{txtEdit, {{base::OwnText::nothingWritten}}};
+        case parts::ConflictQuestion::Answer::mine:
+            lines_.row(row).refresh(field, now);
+        }
+    }
+}
+
+std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::string& typed) {
+    const bool fits =
+        base::isNumeric(typed, services_.locale) && base::fitsNumberMask(typed, priceMask, services_.locale);
+    if (!fits) txtEdit.setText(base::formatNumber(base::Decimal{}, "0.00", services_.locale));
+    if (!mayWriteCell(row, column, typed)) {
+        reloadLine(row);
+        return MSFlexGrid1.cell(row, column);
+    }
     StatementText statement{"UPDATE VERTRAG_PREISE SET "};
-    statement.fixed(column == editedPriceColumn ? "PREIS = " : "PREIS_ABR2 = ")
+    statement.identifier(fieldOf(column))
+        .fixed(" = ")
         .number(txtEdit.text())
         .fixed(" WHERE ORDNUNG = ")
         .number(row + 1)

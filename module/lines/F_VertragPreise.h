@@ -5,6 +5,7 @@
 #include "module/parts/NumberField.h"
 #include "module/ui/input/GridEditor.h"
 
+#include <memory>
 #include <string>
 
 namespace tellurix::lines {
@@ -22,7 +23,6 @@ private:
 
     void prepare(bool shown) override;
     std::vector<parts::KeyedGrid::Column> gridColumns() const override;
-    void showFields(base::Recordset& line) override;
     void showNoLine() override;
     void emptyForNewLine() override;
     bool confirmSave() override;
@@ -32,7 +32,12 @@ private:
     void linesChanged() override;
 
     bool hasSecondPriceColumn() const { return !showsPercent_ && site_ != Site::standard; }
+    void connectFields();
     std::string CommitCellEdit(int row, int column, const std::string& typed);
+    /// Asks where somebody else has changed the cell's value since it was read.
+    /// @return false when that one is taken
+    bool mayWriteCell(int row, int column, const std::string& typed);
+    std::unique_ptr<base::Recordset> openForCell(int row, const std::string& typed);
 
     bool showsPercent_ = false; ///< the host setting "MESZAHL" is 1
     Site site_ = Site::standard;

@@ -4,6 +4,7 @@
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"
+#include "module/ui/controls/caption.h"
 
 #include <algorithm>
 
@@ -14,6 +15,7 @@ using base::OwnText;
 namespace {
 
 constexpr std::int64_t noRow = -1;
+constexpr const char* selectionColumn = "SELEKTION_VALUE";
 
 } // namespace
 
@@ -36,6 +38,7 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
              .whileEdited = {&frmPosition, &selection_.quickSelection()}},
             [this] { return hasLines(); }) {
     connect();
+    connectRow();
 }
 
 void LineEditor::connect() {
@@ -55,6 +58,36 @@ void LineEditor::connect() {
         setCancelButton(viewing() ? cmdOk : cmdAbbrechen);
         stateShown();
     };
+}
+
+void LineEditor::connectRow() {
+    row_.text(txtBEZEICHNUNG, "BEZEICHNUNG");
+    row_.add({.column = "ID_WARENEINHEIT",
+              .name = [this] { return ui::plainCaption(lblUnit.caption()); },
+              .show =
+                  [this](base::Fields& line) {
+                      cboUnit.selectItemData(line.integer("ID_WARENEINHEIT"));
+                      unlistedUnit_ = line.field("ID_WARENEINHEIT");
+                  },
+              .mine =
+                  [this] {
+                      return cboUnit.selected() == ui::ItemList::none ? unitText(unlistedUnit_)
+                                                                      : cboUnit.selectedText();
+                  },
+              .theirs = [this](base::Fields& line) { return unitText(line.field("ID_WARENEINHEIT")); }});
+    row_.add(
+        {.column = selectionColumn,
+         .name = [this] { return ui::plainCaption(selection_.quickSelection().caption()); },
+         .show = [this](base::Fields& line) { selection_.show(line.text(selectionColumn)); },
+         .mine = [this] { return selection_.text(); },
+         .theirs = [this](base::Fields& line) { return selection_.textOf(line.text(selectionColumn)); }});
+}
+
+std::string LineEditor::unitText(const base::Value& unit) const {
+    const auto* key = std::get_if<std::int64_t>(&unit);
+    if (key == nullptr) return {};
+    const auto listed = std::ranges::find(cboUnit.items(), *key, &ui::ItemList::Item::itemData);
+    return listed == cboUnit.items().end() ? std::to_string(*key) : listed->text;
 }
 
 void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
@@ -124,7 +157,14 @@ std::unique_ptr<base::Recordset> LineEditor::openCurrent() {
 }
 
 std::unique_ptr<base::Recordset> LineEditor::openInPlace(int row) {
-    auto line = list_.keyAndSelectionAt(row + 1);
+    return requireInPlace(list_.keyAndSelectionAt(row + 1), row);
+}
+
+std::unique_ptr<base::Recordset> LineEditor::openWholeInPlace(int row) {
+    return requireInPlace(list_.at(row + 1), row);
+}
+
+std::unique_ptr<base::Recordset> LineEditor::requireInPlace(std::unique_ptr<base::Recordset> line, int row) {
     if (!line->atEnd() && line->integer("ID") == lines_.keyOf(row)) return line;
     if (!viewing()) throw base::Refused{OwnText::lineIsGone};
     LoadGrid();
@@ -135,8 +175,9 @@ std::unique_ptr<base::Recordset> LineEditor::openInPlace(int row) {
 
 void LineEditor::showCurrentLine() {
     if (const auto line = openCurrent()) {
-        showFieldsOf(*line);
-        selection_.show(list_.selectionAt(place()));
+        row_.show(*line);
+        lineShown(*line);
+        showSelection(list_.selectionAt(place()));
     } else {
         txtBEZEICHNUNG.setText("");
         cboUnit.select(ui::ItemList::none);
@@ -146,11 +187,9 @@ void LineEditor::showCurrentLine() {
     currentLineShown();
 }
 
-void LineEditor::showFieldsOf(base::Recordset& line) {
-    txtBEZEICHNUNG.setText(line.text("BEZEICHNUNG"));
-    cboUnit.selectItemData(line.integer("ID_WARENEINHEIT"));
-    unlistedUnit_ = line.field("ID_WARENEINHEIT");
-    showFields(line);
+void LineEditor::showSelection(const std::string& value) {
+    selection_.show(value);
+    row_.keep(selectionColumn, value);
 }
 
 void LineEditor::startNew() {
@@ -167,7 +206,7 @@ void LineEditor::startNew() {
 
 void LineEditor::startEdit() {
     const auto line = openInPlace(MSFlexGrid1.currentRow());
-    selection_.show(line->text("SELEKTION_VALUE"));
+    showSelection(line->text(selectionColumn));
     mode_.enter(State::edit);
     parts::SafeSetFocus(txtBEZEICHNUNG);
 }
@@ -176,6 +215,7 @@ void LineEditor::StoreSelection(const std::string& literal) {
     if (literal.empty()) return;
     if (mode_.state() != State::fresh) {
         list_.setSelectionAt(literal, place());
+        row_.keep(selectionColumn, base::replaceAll(literal, "''", "'"));
         return;
     }
     if (newId_ == noRow) newId_ = list_.begin();
@@ -199,15 +239,18 @@ void LineEditor::selectInDialog() {
     if (!chosen) return;
     list_.setDialogSelectionOf(*chosen, id);
     selection_.showChosen(*chosen);
+    row_.keep(selectionColumn, *chosen);
     if (viewing()) currentLineShown();
 }
 
 void LineEditor::save() {
     if (!confirmSave()) return;
     requireFields();
-    const std::string selection = selection_.literal();
-    if (mode_.state() == State::edit) openInPlace(MSFlexGrid1.currentRow());
-    StoreSelection(selection);
+    static_cast<void>(selection_.literal()); // refuses what no statement can carry before anything is asked
+    const bool settled = mode_.state() == State::fresh ||
+                         row_.settle([this] { return openWholeInPlace(MSFlexGrid1.currentRow()); });
+    if (!settled) return;
+    StoreSelection(selection_.literal());
     if (!lineHasSelection()) {
         parts::tellInvalid(services_.display, services_.localizer, session_);
         selectInDialog();

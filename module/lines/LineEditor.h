@@ -6,6 +6,7 @@
 #include "module/lines/LineSelection.h"
 #include "module/parts/EditMode.h"
 #include "module/parts/KeyedGrid.h"
+#include "module/parts/SharedRow.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"
@@ -42,9 +43,9 @@ protected:
     virtual void prepare(bool shown) = 0;
     /// The columns, of fields of the lines' statement.
     virtual std::vector<parts::KeyedGrid::Column> gridColumns() const = 0;
-    /// Shows the fields of a line that only this kind has.
-    virtual void showFields(base::Recordset& line) = 0;
-    /// Empties these fields because the contract has no line.
+    /// Takes of the line that is shown what has no control of its own.
+    virtual void lineShown(base::Recordset& /*line*/) {}
+    /// Empties the fields that only this kind has, because the contract has no line.
     virtual void showNoLine() = 0;
     /// Empties those that a new line starts without; the others keep what they show.
     virtual void emptyForNewLine() = 0;
@@ -77,6 +78,8 @@ protected:
     /// @throws base::Refused when somebody else has moved or deleted lines meanwhile; in the view state
     ///         they have been loaded again
     std::unique_ptr<base::Recordset> openInPlace(int row);
+    /// As `openInPlace`, with all columns.
+    std::unique_ptr<base::Recordset> openWholeInPlace(int row);
     /// Shows what the database has for one line: its row in the grid and, for the current line, the fields.
     void reloadLine(int row);
     void showCurrentLine();
@@ -93,9 +96,14 @@ protected:
     ui::TextBox txtBEZEICHNUNG{*this, "txtBEZEICHNUNG", 40};
     ui::Label lblUnit{*this, "lblUnit", "Einheit"};
     ui::ComboBox cboUnit{*this, "cboUnit", 14};
+    /// The fields of the current line; a kind adds its own.
+    parts::SharedRow row_{services_, session_};
 
 private:
     void connect();
+    void connectRow();
+    std::string unitText(const base::Value& unit) const;
+    std::unique_ptr<base::Recordset> requireInPlace(std::unique_ptr<base::Recordset> line, int row);
     void loadUnits();
     /// The current line, or null where the contract has none.
     std::unique_ptr<base::Recordset> openCurrent();
@@ -111,7 +119,8 @@ private:
     void StoreSelection(const std::string& literal);
     bool lineHasSelection();
     void selectInDialog();
-    void showFieldsOf(base::Recordset& line);
+    /// Shows the selection value that the line has.
+    void showSelection(const std::string& value);
     bool queryUnload() override;
 
     const LineKind& kind_;

@@ -20,8 +20,24 @@ ui::Layout LineSelection::layout() {
 }
 
 void LineSelection::show(const std::string& value) {
+    shown_ = value;
     boxes_.show(readSelection(value));
     chkSelektion.setChecked(hasSelection(value));
+}
+
+void LineSelection::showNone() {
+    shown_.clear();
+    chkSelektion.setChecked(false);
+}
+
+std::string LineSelection::text() const {
+    const std::string said = boxes_.textOf(boxes_.shown());
+    return said.empty() ? textOf(shown_) : said;
+}
+
+std::string LineSelection::textOf(const std::string& value) const {
+    const std::string said = boxes_.textOf(readSelection(value));
+    return said.empty() ? std::string{base::trim(value)} : said;
 }
 
 std::optional<std::string> LineSelection::choose(const std::string& key) {
@@ -33,6 +49,7 @@ std::optional<std::string> LineSelection::choose(const std::string& key) {
 }
 
 void LineSelection::showChosen(const std::string& selection) {
+    shown_ = selection;
     chkSelektion.setChecked(!selection.empty());
     boxes_.show({});
 }

@@ -18,12 +18,17 @@ public:
 
     ui::Layout layout();
     ui::Frame& quickSelection() { return boxes_.frame(); }
+    const ui::Frame& quickSelection() const { return boxes_.frame(); }
     ui::Button& button() { return cmdSelect; }
 
     /// Shows a selection value; one that the boxes cannot say leaves them empty.
     void show(const std::string& value);
     /// A new line has none yet. The boxes keep what they show.
-    void showNone() { chkSelektion.setChecked(false); }
+    void showNone();
+    /// What the user reads of it. Boxes that were emptied say what was shown: they change no selection.
+    std::string text() const;
+    /// What the user would read of a stored value.
+    std::string textOf(const std::string& value) const;
     /// What the boxes say, as it stands in a statement; empty for nothing.
     /// @throws ui::RefusedInput as `QuickSelectionBoxes::read`
     std::string literal() { return selectionLiteral(boxes_.read()); }
@@ -38,6 +43,7 @@ private:
     host::HostServices& services_;
     const host::TlxVar& session_;
     QuickSelectionBoxes boxes_;
+    std::string shown_; ///< the stored value
     ui::Button cmdSelect;
     ui::CheckBox chkSelektion;
 };

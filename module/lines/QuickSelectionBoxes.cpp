@@ -1,5 +1,6 @@
 #include "module/lines/QuickSelectionBoxes.h"
 
+#include "module/base/text.h"
 #include "module/parts/typed_text.h"
 #include "module/ui/controls/caption.h"
 
@@ -43,6 +44,23 @@ ui::Layout QuickSelectionBoxes::layout() {
 void QuickSelectionBoxes::show(const QuickSelection& selection) {
     for (std::size_t i = 0; i < attributeCount; ++i)
         boxes_[i].setText(selection.lists[i]);
+}
+
+QuickSelection QuickSelectionBoxes::shown() const {
+    QuickSelection selection;
+    for (std::size_t i = 0; i < attributeCount; ++i)
+        selection.lists[i] = boxes_[i].text();
+    return selection;
+}
+
+std::string QuickSelectionBoxes::textOf(const QuickSelection& selection) const {
+    std::string text;
+    for (std::size_t i = 0; i < attributeCount; ++i) {
+        const std::string list = base::replaceAll(selection.lists[i], " ", "");
+        if (list.empty()) continue;
+        text += (text.empty() ? "" : "; ") + ui::plainCaption(labels_[i].caption()) + " " + list;
+    }
+    return text;
 }
 
 QuickSelection QuickSelectionBoxes::read() {

@@ -20,8 +20,13 @@ public:
 
     ui::Layout layout();
     ui::Frame& frame() { return frmFilter; }
+    const ui::Frame& frame() const { return frmFilter; }
 
     void show(const QuickSelection& selection);
+    /// What stands in the boxes, as it is.
+    QuickSelection shown() const;
+    /// A selection as the user reads it: "Ha FI,KI; Hs B". Blanks do not count.
+    std::string textOf(const QuickSelection& selection) const;
     /// What the boxes say. Lengths that are no numbers are dropped, from the box as well.
     /// @throws ui::RefusedInput when there is a quote in a code: stored, it would end the code there
     QuickSelection read();

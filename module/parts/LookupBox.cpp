@@ -26,7 +26,7 @@ LookupBox::LookupBox(ui::TextBox& box, host::HostServices& services, const host:
 }
 
 void LookupBox::show(const std::string& text, const std::string& key) {
-    box_.setText(text);
+    box_.show(text);
     box_.setTag(key);
     resolvedText_ = text;
 }

@@ -46,6 +46,7 @@ public:
     void show(const std::string& text, const std::string& key);
     /// The key, empty for no value.
     const std::string& key() const { return box_.tag(); }
+    ui::TextBox& box() const { return box_; }
 
 private:
     bool leave();

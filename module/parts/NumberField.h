@@ -24,6 +24,7 @@ public:
     base::Value value() const;
     /// The number to write, with a decimal point; nothing for an empty box and for a text that is none.
     std::optional<std::string> number() const;
+    ui::TextBox& box() const { return box_; }
 
 private:
     ui::TextBox& box_;

@@ -29,8 +29,8 @@ PersonBox::PersonBox(ui::TextBox& number, ui::TextBox& shortName, host::HostServ
 
 void PersonBox::show(const std::string& key, const std::string& number, const std::string& shortName) {
     number_.setTag(key);
-    number_.setText(number);
-    shortName_.setText(shortName);
+    number_.show(number);
+    shortName_.show(shortName);
     resolvedNumber_ = number;
 }
 

@@ -36,6 +36,8 @@ public:
     void show(const std::string& key, const std::string& number, const std::string& shortName);
     /// `ID_PERSONAL` as text, empty for none.
     const std::string& key() const { return number_.tag(); }
+    ui::TextBox& number() const { return number_; }
+    ui::TextBox& shortName() const { return shortName_; }
 
 private:
     void pick();

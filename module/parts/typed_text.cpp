@@ -9,14 +9,13 @@
 
 namespace tellurix::parts {
 
-namespace {
-
-/// What a box is called: by its label, or else by the frame that it stands in.
 std::string nameOf(const ui::TextBox& box) {
     if (const ui::Label* label = box.form().labelOf(box)) return ui::plainCaption(label->caption());
     const ui::Frame* frame = ui::as<ui::Frame>(box.container());
     return frame == nullptr ? std::string{} : ui::plainCaption(frame->caption());
 }
+
+namespace {
 
 std::string composed(ui::TextBox& box, const base::StatementText& piece) {
     try {

@@ -6,6 +6,9 @@
 
 namespace tellurix::parts {
 
+/// What a box is called: by its label, or else by the frame that it stands in.
+std::string nameOf(const ui::TextBox& box);
+
 /// What the user typed into a box, on its way into a statement (see `StatementText`). A text that would
 /// break out of its place is refused here, where it is known which box it stands in.
 

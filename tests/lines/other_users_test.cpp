@@ -12,6 +12,17 @@ protected:
         host.database.execute(
             set + "(CASE ORDNUNG WHEN 1 THEN 2 ELSE 1 END) WHERE ID_VERTRAG = 1 AND ORDNUNG <= 2");
     }
+    /// Writes the first price line.
+    void colleague(const std::string& assignments) {
+        host.database.execute("UPDATE VERTRAG_PREISE SET " + assignments + " WHERE ID = 1");
+    }
+    /// The next question is about this difference, and is answered with a button.
+    void onQuestion(const std::string& difference, const std::string& button) {
+        host.display.onWindow("F_Inzwischen", [=](User& user) {
+            EXPECT_EQ(user.text("txtUnterschiede"), difference);
+            user.click(button);
+        });
+    }
     /// One more error was shown, and holds `part`.
     void expectRefused(const std::string& part) {
         ASSERT_EQ(host.display.errors().size(), ++refused_);
@@ -114,6 +125,145 @@ TEST_F(OtherUsers, ALineThatIsBeingMadeComesLast) {
     editPrices(1, [](User& user) { user.close(); });
     EXPECT_EQ(rows("VERTRAG_PREISE", "ID", 1).substr(0, 9), "[1][2][3]");
     EXPECT_EQ(value("SELECT MAX(ORDNUNG) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "4");
+}
+
+TEST_F(OtherUsers, FieldsOfALineThatOnlyTheColleagueChangedStay) {
+    struct Case {
+        const char* rule;
+        const char* colleague;
+        const char* column;
+        const char* stored;
+    };
+    const Case cases[] = {
+        {"the description", "BEZEICHNUNG = 'Kollege'", "BEZEICHNUNG", "Kollege"},
+        {"a number with all decimals", "PREIS_ABR2 = 7.1234", "PREIS_ABR2", "7.1234"},
+        {"the unit", "ID_WARENEINHEIT = 2", "ID_WARENEINHEIT", "2"},
+        {"a unit that is not offered", "ID_WARENEINHEIT = 4711", "ID_WARENEINHEIT", "4711"},
+        {"the currency", "EURO = 0", "EURO", "false"},
+        {"the selection, which is stored by its boxes", "SELEKTION_VALUE = '83 IN (''BU'') ;'",
+         "SELEKTION_VALUE", "83 IN ('BU') ;"},
+        {"a selection of the dialog", "SELEKTION_VALUE = 'x OR y'", "SELEKTION_VALUE", "x OR y"},
+        {"the same price", "PREIS = 77", "PREIS", "77.0000"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        host.database.execute(
+            "UPDATE VERTRAG_PREISE SET BEZEICHNUNG = 'alt',PREIS = 98.5,PREIS_ABR2 = 1,"
+            "ID_WARENEINHEIT = 1,EURO = 1,SELEKTION_VALUE = '83 IN (''FI'') ;' WHERE ID = 1");
+        editPrices(1, [&](User& user) {
+            user.click("cmdBearbeiten");
+            user.type("txtPreis", "77");
+            colleague(c.colleague);
+            user.click("cmdSpeichern");
+            user.click("cmdOk");
+        });
+        EXPECT_EQ(row(std::string{"SELECT PREIS,"} + c.column + " FROM VERTRAG_PREISE WHERE ID = 1"),
+                  std::string{"77.0000 | "} + c.stored);
+    }
+    EXPECT_TRUE(host.display.errors().empty());
+}
+
+TEST_F(OtherUsers, AFieldOfALineThatBothChangedIsAskedAboutBeforeAnythingIsWritten) {
+    struct Case {
+        const char* rule;
+        const char* box;
+        const char* typed;
+        const char* colleague;
+        const char* difference;
+        const char* column;
+        const char* mine;
+        const char* theirs;
+    };
+    const Case cases[] = {
+        {"the price", "txtPreis", "77,25", "PREIS = 55", "Preis – Sie: 77,25 – inzwischen: 55,00", "PREIS",
+         "77.2500", "55.0000"},
+        {"the description", "txtBEZEICHNUNG", "", "BEZEICHNUNG = 'deren'",
+         "Bezeichnung – Sie: (leer) – inzwischen: deren", "BEZEICHNUNG", "NULL", "deren"},
+        {"the selection", "txtHa", "FI, KI", "SELEKTION_VALUE = '83 IN (''BU'') ;90 IN (''B'') ;'",
+         "Schnellselektion – Sie: Ha FI,KI – inzwischen: Ha BU; GKL B", "SELEKTION_VALUE",
+         "83 IN ('FI', 'KI') ;", "83 IN ('BU') ;90 IN ('B') ;"},
+    };
+    for (const Case& c : cases) {
+        for (const char* button : {"btnMeines", "btnDeren", "btnZuruck"}) {
+            SCOPED_TRACE(std::string{c.rule} + " " + button);
+            host.database.execute("UPDATE VERTRAG_PREISE SET BEZEICHNUNG = 'alt',PREIS = 98.5,"
+                                  "SELEKTION_VALUE = '83 IN (''FI'') ;' WHERE ID = 1");
+            const bool goesBack = button == std::string{"btnZuruck"};
+            editPrices(1, [&](User& user) {
+                user.click("cmdBearbeiten");
+                user.type(c.box, c.typed);
+                colleague(c.colleague);
+                host.statements.clear();
+                onQuestion(c.difference, button);
+                user.click("cmdSpeichern");
+                EXPECT_EQ(sent("UPDATE VERTRAG_PREISE") == 0, goesBack);
+                EXPECT_EQ(user.usable("cmdSpeichern"), goesBack);
+                user.click(goesBack ? "cmdAbbrechen" : "cmdOk");
+                if (goesBack) user.click("cmdOk");
+            });
+            EXPECT_EQ(value(std::string{"SELECT "} + c.column + " FROM VERTRAG_PREISE WHERE ID = 1"),
+                      button == std::string{"btnMeines"} ? c.mine : c.theirs);
+        }
+    }
+}
+
+TEST_F(OtherUsers, AQuantityThatBothChangedIsAskedAbout) {
+    editQuantities(1, [&](User& user) {
+        user.click("cmdBearbeiten");
+        user.type("txtMenge", "400");
+        host.database.execute(
+            "UPDATE VERTRAG_MENGEN SET MENGE = 300.125 WHERE ID_VERTRAG = 1 AND ORDNUNG = 1");
+        onQuestion("Menge – Sie: 400,00 – inzwischen: 300,125", "btnDeren");
+        user.click("cmdSpeichern");
+        EXPECT_EQ(cells(user.grid("MSFlexGrid1"), 0).find("300,13") != std::string::npos, true);
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(value("SELECT MENGE FROM VERTRAG_MENGEN WHERE ID_VERTRAG = 1 AND ORDNUNG = 1"), "300.125");
+}
+
+TEST_F(OtherUsers, ASelectionOfTheDialogWhileALineIsEditedIsTheUsersOwn) {
+    editPrices(1, [&](User& user) {
+        user.click("cmdBearbeiten");
+        host.onSelectionDialog = [](const std::string&) { return "83 >= 'FI'"; };
+        user.click("cmdSelect");
+        user.click("cmdSpeichern"); // no question
+        user.click("cmdOk");
+    });
+    EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 1"), "83 >= 'FI'");
+}
+
+TEST_F(OtherUsers, APriceInACellThatBothChangedIsAskedAbout) {
+    struct Case {
+        const char* button;
+        const char* stored;
+    };
+    const Case cases[] = {{"btnMeines", "5.0000"}, {"btnDeren", "55.5000"}, {"btnZuruck", "56.0000"}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.button);
+        colleague("PREIS = 98.5");
+        editPrices(1, [&](User& user) {
+            user.click("chkEdit");
+            user.select("MSFlexGrid1", 0, 2);
+            user.type("5");
+            colleague("PREIS = 55.5");
+            onQuestion("Preis – Sie: 5 – inzwischen: 55,50", c.button);
+            user.key(ui::Key::enter);
+            const ui::Grid& grid = user.grid("MSFlexGrid1");
+            if (c.button == std::string{"btnZuruck"}) {
+                expectRefused("Es wurde nichts geschrieben.");
+                ASSERT_NE(grid.cellEditor(), nullptr);
+                EXPECT_EQ(user.text("txtEdit"), "5");
+                EXPECT_EQ(user.focused(), "txtEdit");
+                user.key(ui::Key::escape);
+                colleague("PREIS = 56");
+            } else {
+                EXPECT_EQ(grid.cellEditor(), nullptr);
+                EXPECT_EQ(grid.cell(0, 2), c.button == std::string{"btnDeren"} ? "55,50" : "5,00");
+            }
+            user.click("cmdOk");
+        });
+        EXPECT_EQ(value("SELECT PREIS FROM VERTRAG_PREISE WHERE ID = 1"), c.stored);
+    }
 }
 
 } // namespace
