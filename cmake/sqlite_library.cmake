@@ -9,4 +9,5 @@ target_include_directories(sqlite3 SYSTEM PUBLIC ${sqlite_folder})
 # What the Linux distribution's library is built with, as far as it is used here.
 target_compile_definitions(sqlite3 PRIVATE SQLITE_THREADSAFE=1 SQLITE_ENABLE_COLUMN_METADATA
   SQLITE_ENABLE_DBSTAT_VTAB SQLITE_MAX_VARIABLE_NUMBER=250000 SQLITE_OMIT_LOAD_EXTENSION)
+target_compile_options(sqlite3 PRIVATE -O1)
 add_library(SQLite::SQLite3 ALIAS sqlite3)
