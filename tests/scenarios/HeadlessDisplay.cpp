@@ -97,6 +97,7 @@ void HeadlessDisplay::perform(const Step& step) {
                      display.user_.ctrl();
                  } else {
                      display.desktop_.dispatch(ui::KeyDownEvent{key});
+                     if (key.key == ui::Key::space) display.desktop_.dispatch(ui::KeyPressEvent{U' '});
                  }
              }
          }},

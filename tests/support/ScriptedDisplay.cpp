@@ -56,6 +56,8 @@ void User::type(std::string_view text) {
 
 void User::key(ui::Key key, bool shift) {
     desktop_.dispatch(ui::KeyDownEvent{{.key = key, .shift = shift}});
+    // The only one of the named keys that is a character, too.
+    if (key == ui::Key::space) desktop_.dispatch(ui::KeyPressEvent{U' '});
 }
 
 void User::ctrl() {

@@ -115,6 +115,8 @@ void F_MultiSelection::listKeyDown(ui::KeyDown& key) {
 }
 
 void F_MultiSelection::searchOn(char32_t character) {
+    // It has marked the row.
+    if (character == U' ') return;
     txtSearch.setText(base::encodeUtf8(character));
     setFocus(txtSearch);
     txtSearch.select(1, 0);

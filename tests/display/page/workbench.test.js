@@ -1,7 +1,7 @@
 // The whole program as its user has it: what the scenarios, which a browser plays too, do not show.
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
-import { mkdtempSync, rmSync } from 'node:fs';
+import { mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, afterEach, before, beforeEach, describe, test } from 'node:test';
@@ -286,6 +286,68 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await until(async () => Math.abs((await width()) - pulled) < 2 || width(), 'the session knows it');
     await heading.locator('.column-edge').dblclick();
     await until(async () => Math.abs((await width()) - pulled) > 5 || width(), 'as wide as its longest text');
+  });
+
+  /** The logistics of a contract with weeks and helpers. */
+  const openLogistics = async () => {
+    await page.keyboard.type('R-2025-004');
+    await until(async () => (await page.locator('.grid-row').count()) === 1, 'one contract found');
+    await press('Alt+f');
+    await top('F_Vertrag');
+    await control(page, 'btnLieferprofil_WVO').click();
+    await top('F_Vertrag_WVO');
+  };
+
+  test('an original document goes from the user\'s machine into the folder of the contracts', async () => {
+    const documents = join(folder, 'dokumente');
+    sql(`UPDATE WORKBENCH_SETTING SET [VALUE] = '${documents}' WHERE [NAME] = 'PATHOFWVOWEBVERTRAEGE'`);
+    await openLogistics();
+    await control(page, 'btnBearbeiten').click();
+    // Somebody listens all the time: the browser's own dialog must not open before the driver takes it.
+    page.on('filechooser', () => {});
+    const copy = async (content, ...answers) => {
+      const chooser = page.waitForEvent('filechooser');
+      await control(page, 'btnOriginal').click();
+      await message().waitFor();
+      await press('Enter');
+      await (await chooser).setFiles({ name: "D'Angelo ä.pdf", mimeType: 'application/pdf', buffer: Buffer.from(content) });
+      for (const [text, button] of answers) {
+        const asked = message().filter({ hasText: text });
+        await asked.waitFor();
+        await asked.getByRole('button', { name: button, exact: true }).click();
+        await asked.waitFor({ state: 'detached' });
+      }
+      return readdirSync(folder).includes('dokumente')
+        ? readdirSync(documents).map((name) => `${name}: ${readFileSync(join(documents, name))}`) : [];
+    };
+    assert.deepEqual(await copy('first', ['fehlgeschlagen', 'OK']), [], 'the folder is missing');
+    mkdirSync(documents);
+    const first = ["D'Angelo ä.pdf: first"];
+    assert.deepEqual(await copy('first', ['erfolgreich', 'OK']), first);
+    assert.match(await value('txtOriginal'), /^c:\\VertragsdokumenteOriginal\\D.Angelo ä\.pdf$/);
+    assert.deepEqual(await copy('first', ['erfolgreich', 'OK']), first, 'the same file needs no question');
+    assert.deepEqual(await copy('second', ['ersetzt', 'Nein']), first);
+    assert.deepEqual(await copy('second', ['ersetzt', 'Ja'], ['erfolgreich', 'OK']), ["D'Angelo ä.pdf: second"]);
+  });
+
+  test('helpers are marked, taken over and sorted with the pointer and with Enter', async () => {
+    await openLogistics();
+    await control(page, 'SSTab1').getByRole('tab').nth(1).click();
+    const weeks = () => control(page, 'DataGridKalendar').locator('.grid-row').allTextContents();
+    await control(page, 'btnGenWeek').click();
+    await until(async () => (await weeks())[0]?.startsWith('2024/48') || weeks(), 'weeks in their order');
+    await control(page, 'DataGridKalendar').getByRole('columnheader').first().click();
+    await until(async () => (await weeks())[0].startsWith('2025/05') || weeks(), 'the last week first');
+
+    await control(page, 'SSTab1').getByRole('tab').nth(2).click();
+    await control(page, 'btnWaldhelfer').click();
+    await top('F_MultiSelection');
+    await page.keyboard.type('straßer');
+    await press('Enter');
+    await support.hasFocus(page, 'grdList');
+    await press('Space', 'Enter');
+    await top('F_Vertrag_WVO');
+    await until(async () => (await control(page, 'MSFG').getByText('Straßer Günther').count()) === 1, 'the helper is there');
   });
 
   test('on a low page the table of prices gives way to the change of all prices', async () => {
