@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstddef>
 #include <stdexcept>
 #include <vector>
@@ -25,7 +26,7 @@ public:
         if (microseconds_.empty()) throw std::logic_error{"nothing was measured"};
         sort();
         const double last = static_cast<double>(microseconds_.size() - 1);
-        return microseconds_[static_cast<std::size_t>(last * percent / 100 + 0.5)];
+        return microseconds_[static_cast<std::size_t>(std::lround(last * percent / 100))];
     }
     double median() const { return percentile(50); }
     double longest() const { return percentile(100); }

@@ -1,5 +1,6 @@
 #include "module/host/module_state.h"
 
+#include <memory>
 #include <utility>
 
 namespace tellurix::host {
@@ -13,7 +14,7 @@ thread_local ModuleState* stateOfThread = nullptr;
 } // namespace
 
 ModuleState& moduleState() {
-    if (stateOfThread == nullptr) stateOfThread = new ModuleState;
+    if (stateOfThread == nullptr) stateOfThread = std::make_unique<ModuleState>().release();
     return *stateOfThread;
 }
 

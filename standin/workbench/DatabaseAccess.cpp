@@ -60,7 +60,7 @@ std::string obstacleTo(const fs::path& file) {
 }
 
 fs::path databaseFile(const CommandLine& line, const base::Clock& clock) {
-    const fs::path file = line.database.empty() ? defaultDatabaseFile() : fs::path{line.database};
+    fs::path file = line.database.empty() ? defaultDatabaseFile() : fs::path{line.database};
     if (const std::string obstacle = obstacleTo(file); !obstacle.empty())
         throw std::runtime_error{"the database " + file.string() + " cannot be used: " + obstacle};
     try {

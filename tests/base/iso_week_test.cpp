@@ -2,6 +2,8 @@
 
 #include "module/base/date_format.h"
 
+#include <gtest/gtest.h>
+
 namespace tellurix::base {
 namespace {
 

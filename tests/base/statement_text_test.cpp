@@ -1,5 +1,7 @@
 #include "module/base/StatementText.h"
 
+#include <gtest/gtest.h>
+
 #include <limits>
 
 namespace tellurix::base {

@@ -1,5 +1,6 @@
 #include "module/logistics/plan/HelperArea.h"
 
+#include "module/base/Refused.h"
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/base/whole_number.h"

@@ -1,6 +1,8 @@
 #include "display/browser/network/Server.h"
 #include "tests/display/browser/RawPage.h"
 
+#include <gtest/gtest.h>
+
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -35,6 +37,7 @@ TEST(Allocation, OneThatFailsEndsAConnectionAndNothingElse) {
 } // namespace tellurix::browser
 
 // Never inlined: a compiler that sees into one of them takes the pair for a mistake.
+// NOLINTBEGIN(cppcoreguidelines-owning-memory): what owns memory is made of them.
 [[gnu::noinline]] void* operator new(std::size_t size) {
     using namespace tellurix::browser;
     if (!spared && left >= 0 && left-- == 0) throw std::bad_alloc{};
@@ -49,3 +52,4 @@ TEST(Allocation, OneThatFailsEndsAConnectionAndNothingElse) {
 [[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
+// NOLINTEND(cppcoreguidelines-owning-memory)

@@ -1,6 +1,8 @@
 #include "display/browser/network/Site.h"
 #include "display/browser/network/secrets.h"
 
+#include <gtest/gtest.h>
+
 #include <set>
 
 namespace tellurix::browser {
