@@ -1,0 +1,27 @@
+#pragma once
+
+#include "database/odbc/wide.h"
+#include "module/base/database.h"
+
+#include <string>
+#include <string_view>
+
+namespace tellurix::odbc {
+
+/// What driver manager, driver and server said about the last call on a handle: all texts, each on a
+/// line, and number and SQLSTATE of the first.
+struct Report {
+    std::string text;
+    int number = 0;
+    std::string state;
+};
+
+Report reportOf(SQLSMALLINT handleType, SQLHANDLE handle);
+
+/// By the SQLSTATE; where that says no more than "something is wrong with the statement", by the number of a
+/// T-SQL server. Never by the text, which is in any language.
+base::DatabaseErrorCategory categoryOf(const Report& report);
+
+base::DatabaseError databaseError(const Report& report, std::string_view statement);
+
+} // namespace tellurix::odbc

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlucode.h>
+
+#include <string>
+#include <string_view>
+
+/// Texts in the encoding of the driver manager's wide functions, which is the same for every driver.
+namespace tellurix::odbc {
+
+std::u16string wide(std::string_view text);
+std::string narrow(std::u16string_view text);
+
+/// As the functions take and fill them.
+inline SQLWCHAR* pointer(std::u16string& text) {
+    return reinterpret_cast<SQLWCHAR*>(text.data());
+}
+inline SQLSMALLINT shortLength(const std::u16string& text) {
+    return static_cast<SQLSMALLINT>(text.size());
+}
+
+} // namespace tellurix::odbc
