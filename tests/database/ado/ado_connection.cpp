@@ -5,7 +5,7 @@
 
 namespace tellurix::embedded {
 
-const bool EmbeddedTest::tellsPositions = false;
+const Adapter EmbeddedTest::adapter{.database = "embedded", .tellsPositions = false};
 
 std::unique_ptr<base::Connection> EmbeddedTest::connect() const {
     // The file has to be there.

@@ -13,14 +13,21 @@
 
 namespace tellurix::embedded {
 
+/// What a program of tests runs on.
+struct Adapter {
+    /// The database's name in the statement files: "embedded", "server" (a T-SQL one) or "postgresql".
+    const char* database;
+    /// Whether errors tell where in the statement they are.
+    bool tellsPositions;
+};
+
 /// A test with a database file of its own, in which it is always 5 June 2025, half past two.
 class EmbeddedTest : public testing::Test {
 protected:
     /// As the program of tests reaches the database: this folder's own directly, that of the ADO
     /// adapter through it. Each says so in a file of its own.
     std::unique_ptr<base::Connection> connect() const;
-    /// Whether errors tell where in the statement they are.
-    static const bool tellsPositions;
+    static const Adapter adapter;
     Database database() const {
         return Database(file_, clock_, {.create = true, .patience = std::chrono::milliseconds{300}});
     }

@@ -24,6 +24,14 @@ std::vector<std::string> listed(const std::string& text, const std::filesystem::
     return files;
 }
 
+std::vector<std::string> words(const std::string& text) {
+    std::vector<std::string> found;
+    std::istringstream parts(text);
+    for (std::string word; parts >> word;)
+        found.push_back(word);
+    return found;
+}
+
 class Reader {
 public:
     explicit Reader(const std::filesystem::path& file) : file_(file) {
@@ -57,6 +65,7 @@ private:
             const std::string& line = lines_[next_];
             if (!trimmed(line).empty() && !line.starts_with("--"))
                 fail("expected ---- before the first block");
+            if (line == "-- shared") result_.isShared = true;
             if (line == "-- setup: schema")
                 result_.setup = listed(schemaSetup, "../../../standin/data");
             else if (line.starts_with("-- setup: "))
@@ -73,6 +82,9 @@ private:
         block.line = static_cast<int>(next_) + 1;
         if (!accept("-- name: ", block.name)) fail("expected -- name:");
         std::string ignored;
+        std::string databases;
+        if (accept("-- only on ", databases)) block.onlyOn = words(databases);
+        if (accept("-- not on ", databases)) block.notOn = words(databases.substr(0, databases.find(':')));
         std::string lineBreak = "\n";
         if (accept("-- crlf", ignored)) lineBreak = "\r\n";
         block.edits = accept("-- edit: ", block.edit);
@@ -81,8 +93,13 @@ private:
             if (next_ == lines_.size() || at("----")) fail("expected =>");
             block.statement += (first ? "" : lineBreak) + lines_[next_];
         }
-        for (++next_; next_ < lines_.size() && !at("----"); ++next_)
-            if (!trimmed(lines_[next_]).empty()) block.expected.push_back(lines_[next_]);
+        auto* expected = &block.expected;
+        for (++next_; next_ < lines_.size() && !at("----"); ++next_) {
+            if (lines_[next_].starts_with("=> "))
+                expected = &block.deviations[trimmed(lines_[next_].substr(3))];
+            else if (!trimmed(lines_[next_]).empty())
+                expected->push_back(lines_[next_]);
+        }
         ++next_;
         if (block.expected.empty()) fail("nothing stands after =>");
         result_.blocks.push_back(std::move(block));

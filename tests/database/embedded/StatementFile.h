@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -13,12 +14,17 @@ struct StatementBlock {
     std::string edit; ///< of `-- edit:`
     bool edits = false;
     bool removes = false;
+    std::vector<std::string> onlyOn; ///< of `-- only on`; empty for all
+    std::vector<std::string> notOn;  ///< of `-- not on`
     std::vector<std::string> expected;
-    int line = 0; ///< where the block starts
+    std::map<std::string, std::vector<std::string>>
+        deviations; ///< what a database answers instead, by its name
+    int line = 0;   ///< where the block starts
 };
 
 /// A `.test` file; README.md says how it is written.
 struct StatementFile {
+    bool isShared = false;          ///< not of T-SQL alone
     std::vector<std::string> setup; ///< files to load first, seen from the folder of the tests
     std::vector<StatementBlock> blocks;
 

@@ -2,7 +2,7 @@
 
 namespace tellurix::embedded {
 
-const bool EmbeddedTest::tellsPositions = true;
+const Adapter EmbeddedTest::adapter{.database = "embedded", .tellsPositions = true};
 
 std::unique_ptr<base::Connection> EmbeddedTest::connect() const {
     return database().connect();

@@ -37,6 +37,10 @@ std::string lowered(std::string text) {
     return text;
 }
 
+bool contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
 /// Cuts at the commas that stand outside quotes.
 std::vector<std::string> assignmentsIn(const std::string& text) {
     std::vector<std::string> parts(1);
@@ -84,6 +88,25 @@ protected:
         }
     }
 
+    static bool isEmbedded() { return std::string_view{adapter.database} == "embedded"; }
+    static bool speaksTsql() { return std::string_view{adapter.database} != "postgresql"; }
+    static bool concernsUs(const StatementBlock& block) {
+        return (block.onlyOn.empty() || contains(block.onlyOn, adapter.database)) &&
+               !contains(block.notOn, adapter.database);
+    }
+    static const std::vector<std::string>& expectationOf(const StatementBlock& block) {
+        const auto deviation = block.deviations.find(adapter.database);
+        return deviation == block.deviations.end() ? block.expected : deviation->second;
+    }
+    /// A server that writes names in small letters still has the columns that were asked for; one without a
+    /// name has one of its own there.
+    static std::string columnName(std::string name) {
+        if (speaksTsql()) return name;
+        std::transform(name.begin(), name.end(), name.begin(),
+                       [](unsigned char character) { return static_cast<char>(std::toupper(character)); });
+        return name;
+    }
+
     /// What the block answers, one line each, in the way that its expectation is written.
     std::vector<std::string> run(const StatementBlock& block) {
         std::vector<std::string> lines;
@@ -93,12 +116,12 @@ protected:
         }
         const base::ExecuteResult result = connection_->execute(block.statement);
         if (!result.rows)
-            return {block.expected.front() == "ok" ? "ok"
-                                                   : "rowcount " + std::to_string(result.rowsAffected)};
-        if (block.expected.front().starts_with("columns ")) {
+            return {expectationOf(block).front() == "ok" ? "ok"
+                                                         : "rowcount " + std::to_string(result.rowsAffected)};
+        if (expectationOf(block).front().starts_with("columns ")) {
             std::string columns = "columns ";
             for (std::size_t index = 0; index < result.rows->fieldCount(); ++index) {
-                const std::string name = result.rows->fieldName(index);
+                const std::string name = columnName(result.rows->fieldName(index));
                 columns += (index == 0 ? "" : " | ") + (name.empty() ? "-" : name) + " " +
                            nameOf(result.rows->fieldType(index));
             }
@@ -107,13 +130,13 @@ protected:
         const std::size_t head = lines.size();
         for (; !result.rows->atEnd(); result.rows->moveNext())
             lines.push_back(writtenRow(*result.rows));
-        if (block.expected.front() == "ok") return {"ok"};
+        if (expectationOf(block).front() == "ok") return {"ok"};
         if (lines.size() == head) lines.emplace_back("no rows");
         return lines;
     }
 
     void expectError(const StatementBlock& block, const base::DatabaseError& error) {
-        std::istringstream words(block.expected.front());
+        std::istringstream words(expectationOf(block).front());
         std::string word;
         std::string category;
         words >> word >> category;
@@ -127,12 +150,15 @@ protected:
             if (word == "at") {
                 std::size_t position = 0;
                 words >> position;
-                EXPECT_EQ(error.position(), tellsPositions ? position : base::DatabaseError::noPosition)
+                EXPECT_EQ(error.position(),
+                          adapter.tellsPositions ? position : base::DatabaseError::noPosition)
                     << found;
             } else if (word == "containing") {
                 std::string part;
                 std::getline(words >> std::ws, part);
-                EXPECT_NE(lowered(error.what()).find(lowered(part)), std::string::npos) << found;
+                // Servers say it in words of their own.
+                EXPECT_TRUE(!isEmbedded() || lowered(error.what()).find(lowered(part)) != std::string::npos)
+                    << found;
             } else {
                 ADD_FAILURE() << "unknown word " << word;
             }
@@ -140,7 +166,7 @@ protected:
     }
 
     void check(const StatementBlock& block) {
-        std::vector<std::string> expected = block.expected;
+        std::vector<std::string> expected = expectationOf(block);
         std::vector<std::string> found;
         try {
             found = run(block);
@@ -165,12 +191,14 @@ protected:
 
 TEST_P(StatementFiles, AnswerAsWritten) {
     const StatementFile file = StatementFile::read(GetParam());
+    if (!file.isShared && !speaksTsql()) GTEST_SKIP() << "T-SQL alone";
     load(file.setup);
     for (const StatementBlock& block : file.blocks) {
+        if (!concernsUs(block)) continue;
         SCOPED_TRACE(GetParam().filename().string() + ":" + std::to_string(block.line) + " " + block.name +
                      "\n" + block.statement);
         // The server stops counting rows with NOCOUNT, which a block before may have set.
-        connection_->execute("SET NOCOUNT OFF");
+        if (speaksTsql()) connection_->execute("SET NOCOUNT OFF");
         check(block);
     }
 }

@@ -40,7 +40,8 @@ pid_t started(const TestFolder& folder, std::vector<std::string> words) {
     const std::string log = folder / "log";
     const passwd* user = owner();
     const pid_t child = ::fork();
-    if (child != 0) return child;
+    if (child < 0) throw std::runtime_error{"cannot start " + words.front()};
+    if (child > 0) return child;
     if (user != nullptr && (::initgroups(user->pw_name, user->pw_gid) != 0 || ::setgid(user->pw_gid) != 0 ||
                             ::setuid(user->pw_uid) != 0))
         ::_exit(1);
@@ -111,7 +112,9 @@ void PostgresServer::start() {
             return;
         } catch (const base::DatabaseError&) {
             constexpr int mostTries = 300;
-            if (tries == mostTries || ::waitpid(process_, nullptr, WNOHANG) == process_)
+            const bool hasEnded = ::waitpid(process_, nullptr, WNOHANG) == process_;
+            if (hasEnded) process_ = -1;
+            if (tries == mostTries || hasEnded)
                 throw std::runtime_error{"the server does not start: " + folder_.read("log")};
             std::this_thread::sleep_for(50ms);
         }
@@ -119,6 +122,7 @@ void PostgresServer::start() {
 }
 
 void PostgresServer::kill() {
+    if (process_ < 0) throw std::logic_error{"the server does not run"};
     // The server's own processes notice that it is gone, and go too.
     ::kill(process_, SIGQUIT);
     ended(process_);

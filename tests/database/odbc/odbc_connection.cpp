@@ -5,7 +5,7 @@
 
 namespace tellurix::embedded {
 
-const bool EmbeddedTest::tellsPositions = false;
+const Adapter EmbeddedTest::adapter{.database = "postgresql", .tellsPositions = false};
 
 std::unique_ptr<base::Connection> EmbeddedTest::connect() const {
     // A schema each, by the name of the folder that the test would have its file in.
