@@ -82,6 +82,8 @@ namespace {
 class RowsInMemory final : public Recordset {
 public:
     explicit RowsInMemory(Recordset& rows) {
+        // Rows first: for its columns alone a server would be asked once more.
+        rows.atEnd();
         for (std::size_t index = 0; index < rows.fieldCount(); ++index)
             columns_.push_back({rows.fieldName(index), rows.fieldType(index), rows.textWidth(index)});
         for (; !rows.atEnd(); rows.moveNext())

@@ -126,6 +126,7 @@ fs::path dataFolder() {
 
 bool isConnectionString(std::string_view database) {
     constexpr std::string_view driver = "DRIVER=";
+    if (database.starts_with(serverMark)) return true;
     return base::toUpper(database.substr(0, driver.size())) == driver ||
            (database.find('=') != std::string_view::npos && database.find(';') != std::string_view::npos);
 }

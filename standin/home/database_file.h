@@ -7,6 +7,9 @@
 
 namespace tellurix::standin {
 
+/// Before what says how to reach a server, in a `--database` value.
+constexpr std::string_view serverMark = "odbc:";
+
 /// Whether a `--database` value is a connection string rather than the name of a file.
 bool isConnectionString(std::string_view database);
 

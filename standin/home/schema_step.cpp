@@ -5,10 +5,12 @@
 #include "module/base/StatementText.h"
 #include "module/base/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace tellurix::standin {
 
@@ -39,6 +41,19 @@ std::optional<int> versionOf(base::Connection& connection) {
     }
 }
 
+/// Some servers have one number and one state for all that they refuse; then their catalogue is asked.
+bool isMissing(base::Connection& connection, const std::string& table, const base::DatabaseError& error) {
+    if (error.category() == DatabaseErrorCategory::unknownName) return true;
+    if (error.category() != DatabaseErrorCategory::other) return false;
+    base::StatementText query{"SELECT COUNT(*) AS N FROM INFORMATION_SCHEMA.TABLES WHERE TABLE_NAME = '"};
+    query.identifier(table).fixed("'");
+    try {
+        return connection.open(query.text())->integer("N") == 0;
+    } catch (const base::DatabaseError&) {
+        return false;
+    }
+}
+
 /// In capital letters; nothing when there is no such table.
 std::optional<std::set<std::string>> columnsOf(base::Connection& connection, const std::string& table) {
     base::StatementText query{"SELECT * FROM "};
@@ -50,7 +65,7 @@ std::optional<std::set<std::string>> columnsOf(base::Connection& connection, con
             columns.insert(base::toUpper(rows->fieldName(i)));
         return columns;
     } catch (const base::DatabaseError& error) {
-        if (error.category() == DatabaseErrorCategory::unknownName) return {};
+        if (isMissing(connection, table, error)) return {};
         throw;
     }
 }
@@ -62,26 +77,41 @@ std::string firstWord(std::string_view text) {
     return word;
 }
 
-/// What the schema says of one table, in the form in which it is written there: a column a line.
-void completeTable(base::Connection& connection, std::string_view batch) {
-    constexpr std::string_view create = "CREATE TABLE ";
+constexpr std::string_view createTable = "CREATE TABLE ";
+
+/// The name of the table that a batch of the schema makes; empty when it makes none.
+std::string tableOf(std::string_view batch) {
+    const std::size_t create = batch.find(createTable);
+    return create == std::string_view::npos ? std::string{}
+                                            : firstWord(batch.substr(create + createTable.size()));
+}
+
+/// The statements that add what a table lacks of what the schema says of it. There it is written a column a
+/// line.
+std::vector<std::string> lackingColumns(std::string_view batch, const std::set<std::string>& present) {
     constexpr std::string_view indent = "    ";
-    std::string_view rest = batch.substr(batch.find(create) + create.size());
-    const std::string table = firstWord(rest);
-    const auto columns = columnsOf(connection, table);
-    if (!columns) {
-        connection.execute(batch);
-        return;
-    }
+    std::vector<std::string> statements;
+    std::string_view rest = batch.substr(batch.find(createTable));
     while (rest.find('\n') != std::string_view::npos) {
         rest.remove_prefix(rest.find('\n') + 1);
         if (!rest.starts_with(indent)) continue;
         std::string_view line = rest.substr(indent.size(), rest.find('\n') - indent.size());
         const std::string column = firstWord(line);
-        if (column == "CONSTRAINT" || columns->contains(base::toUpper(column))) continue;
+        if (column == "CONSTRAINT" || present.contains(base::toUpper(column))) continue;
         if (line.ends_with(',')) line.remove_suffix(1);
-        connection.execute("ALTER TABLE " + table + " ADD " + std::string{line});
+        statements.push_back("ALTER TABLE " + tableOf(batch) + " ADD " + std::string{line});
     }
+    return statements;
+}
+
+void completeTable(base::Connection& connection, std::string_view batch) {
+    const auto columns = columnsOf(connection, tableOf(batch));
+    if (!columns) {
+        connection.execute(batch);
+        return;
+    }
+    for (const std::string& statement : lackingColumns(batch, *columns))
+        connection.execute(statement);
 }
 
 /// An index that is there already is refused, and so is one whose rule the rows do not keep: it makes
@@ -96,17 +126,25 @@ void makeIndex(base::Connection& connection, std::string_view statement) {
     }
 }
 
-void makeIndexes(base::Connection& connection, std::string_view batch) {
+/// The statements of a batch that makes indexes, one a line.
+std::vector<std::string_view> indexesOf(std::string_view batch) {
+    std::vector<std::string_view> statements;
     while (!batch.empty()) {
         const std::string_view line = batch.substr(0, batch.find('\n'));
-        if (line.starts_with("CREATE ")) makeIndex(connection, line);
+        if (line.starts_with("CREATE ")) statements.push_back(line);
         batch.remove_prefix(std::min(batch.size(), line.size() + 1));
     }
+    return statements;
+}
+
+void makeIndexes(base::Connection& connection, std::string_view batch) {
+    for (const std::string_view statement : indexesOf(batch))
+        makeIndex(connection, statement);
 }
 
 void complete(base::Connection& connection, std::string_view schema) {
     for (const std::string_view batch : embedded::splitBatches(schema)) {
-        if (batch.find("CREATE TABLE ") != std::string_view::npos)
+        if (!tableOf(batch).empty())
             completeTable(connection, batch);
         else if (batch.find("INDEX ") != std::string_view::npos)
             makeIndexes(connection, batch);
@@ -116,6 +154,13 @@ void complete(base::Connection& connection, std::string_view schema) {
     base::StatementText version{"UPDATE WORKBENCH_SETTING SET VALUE = '"};
     version.number(presentVersion(schema)).fixed("' WHERE NAME = 'SCHEMA'");
     connection.execute(version.text());
+}
+
+std::string listed(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text += (text.empty() ? "" : ", ") + name;
+    return text;
 }
 
 } // namespace
@@ -129,6 +174,52 @@ void addWhatIsMissing(base::Connection& connection) {
     } catch (const base::DatabaseError& error) {
         if (error.category() != DatabaseErrorCategory::readOnly) throw;
     }
+}
+
+bool hasWorkbenchTables(base::Connection& connection) {
+    return columnsOf(connection, "WORKBENCH_SETTING").has_value();
+}
+
+std::vector<std::string> prepare(base::Connection& connection, bool withSample) {
+    std::vector<std::string> made;
+    std::vector<std::string> present;
+    std::vector<std::string> said;
+    for (const std::string_view batch : embedded::splitBatches(database_contents::file("schema.sql"))) {
+        const std::string table = tableOf(batch);
+        const auto isMade = [&](const std::string& name) {
+            return std::ranges::find(made, name) != made.end();
+        };
+        if (table.empty()) {
+            for (const std::string_view index : indexesOf(batch))
+                if (isMade(firstWord(index.substr(index.find(" ON ") + std::string_view{" ON "}.size()))))
+                    connection.execute(index);
+            if (batch.find("INSERT INTO WORKBENCH_SETTING") != std::string_view::npos &&
+                isMade("WORKBENCH_SETTING"))
+                connection.execute(batch);
+        } else if (withSample || table.starts_with("WORKBENCH_")) {
+            const auto columns = columnsOf(connection, table);
+            if (columns) {
+                present.push_back(table);
+                for (const std::string& statement : lackingColumns(batch, *columns))
+                    said.push_back("lacking, and left to you: " + statement);
+            } else {
+                connection.execute(batch);
+                made.push_back(table);
+            }
+        }
+    }
+    if (!made.empty()) said.push_back("made: " + listed(made));
+    if (!present.empty()) said.push_back("there already, and left as they are: " + listed(present));
+    if (!withSample) return said;
+    if (present.empty()) {
+        for (const char* script : {"sample_reference.sql", "sample_contracts.sql", "sample_logistics.sql"})
+            embedded::runScript(connection, database_contents::file(script));
+        said.emplace_back("filled with the sample trade");
+    } else {
+        said.emplace_back(
+            "the sample trade was not put in: it goes into a database without any of these tables");
+    }
+    return said;
 }
 
 } // namespace tellurix::standin

@@ -1,5 +1,7 @@
 #include "standin/workbench/CommandLine.h"
 
+#include "standin/home/database_file.h"
+
 #include <limits>
 
 namespace tellurix::standin {
@@ -10,9 +12,27 @@ constexpr int mostSessions = 10'000;
 
 } // namespace
 
+std::string CommandLine::server() const {
+    return database.starts_with(serverMark) ? database.substr(serverMark.size()) : std::string{};
+}
+
+Option CommandLine::databaseOrServer() {
+    return {
+        "--database", "FILE|odbc:X",
+        "the database file, made when missing (default: tellurix.db in\nthe user's data folder), or a SQL Server: "
+        "\"odbc:\" and a\nconnection string, a data source, or @FILE that holds one and\nis its owner's alone "
+        "(mode 0600)",
+        [this](const std::string& value) {
+            if (isConnectionString(value) && !value.starts_with(serverMark))
+                throw UsageError{"--database takes a connection to a SQL Server with \"odbc:\" before it"};
+            if (value == serverMark) throw UsageError{"--database odbc: needs a connection string"};
+            database = notEmpty("--database", value);
+        }};
+}
+
 Options CommandLine::commonOptions() {
     return {
-        databaseOption(),
+        databaseOrServer(),
         {"--trace", "FILE", "append every statement to FILE, one JSON object a line",
          [this](const std::string& value) { traceFile = notEmpty("--trace", value); }},
         {"--help", "", "print this", [this](const std::string&) { command = Command::help; }},
@@ -41,11 +61,18 @@ Options CommandLine::sqlOptions() {
              [this](const std::string& value) { textFile = notEmpty("--file", value); }}};
 }
 
+Options CommandLine::prepareOptions() {
+    return {{"--sample", "", "every table of the schema, and the sample trade when none of\nthem is there",
+             [this](const std::string&) { withSample = true; }}};
+}
+
 void CommandLine::takeText(const std::string& argument) {
     if (command == Command::sql)
         texts.push_back(argument);
-    else if (argument == "sql")
+    else if (command == Command::serve && argument == "sql")
         command = Command::sql;
+    else if (command == Command::serve && argument == "prepare")
+        command = Command::prepare;
     else
         throw UsageError{"unknown command \"" + argument + "\""};
 }
@@ -55,8 +82,10 @@ CommandLine CommandLine::parse(std::span<const std::string> arguments) {
     const Options forBoth = line.commonOptions();
     const Options forServing = line.servingOptions();
     const Options forSql = line.sqlOptions();
+    const Options forPrepare = line.prepareOptions();
     std::string servingOption;
     std::string sqlOption;
+    std::string prepareOption;
     bool optionsEnded = false;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
@@ -70,15 +99,19 @@ CommandLine CommandLine::parse(std::span<const std::string> arguments) {
             servingOption = argument.substr(0, argument.find('='));
         } else if (takeOption(forSql, arguments, i)) {
             sqlOption = argument.substr(0, argument.find('='));
+        } else if (takeOption(forPrepare, arguments, i)) {
+            prepareOption = argument.substr(0, argument.find('='));
         } else {
             throw UsageError{"unknown option " + argument.substr(0, argument.find('=')) +
                              " (a text that starts with \"-\" goes behind a \"--\")"};
         }
     }
-    if (line.command == Command::sql && !servingOption.empty())
-        throw UsageError{servingOption + " has no meaning for sql"};
-    if (line.command == Command::serve && !sqlOption.empty())
-        throw UsageError{sqlOption + " is for sql only"};
+    if (line.command != Command::serve && !servingOption.empty())
+        throw UsageError{servingOption + " has no meaning for " +
+                         (line.command == Command::sql ? "sql" : "prepare")};
+    if (line.command != Command::sql && !sqlOption.empty()) throw UsageError{sqlOption + " is for sql only"};
+    if (line.command != Command::prepare && !prepareOption.empty())
+        throw UsageError{prepareOption + " is for prepare only"};
     if (line.command == Command::sql && !line.texts.empty() && !line.textFile.empty())
         throw UsageError{"sql takes texts or --file, not both"};
     return line;
@@ -92,9 +125,12 @@ std::string CommandLine::help() {
            "  Sends each TEXT as one statement text and prints one JSON object a line for it. Without\n"
            "  TEXT and --file the texts come from standard input, cut like a file. Exit status 1 when\n"
            "  a text failed, 2 when the command line is wrong.\n"
+           "tellurix-workbench prepare [OPTIONS]\n"
+           "  Makes the tables that the workbench itself needs where they are missing, and says what it\n"
+           "  did. Nothing that is there is changed.\n"
            "\n" +
            describe(line.commonOptions()) + "\nServing:\n" + describe(line.servingOptions()) + "\nsql:\n" +
-           describe(line.sqlOptions());
+           describe(line.sqlOptions()) + "\nprepare:\n" + describe(line.prepareOptions());
 }
 
 } // namespace tellurix::standin

@@ -12,7 +12,7 @@ namespace tellurix::standin {
 
 /// What the program was asked to do, and with which settings.
 struct CommandLine : SessionOptions {
-    enum class Command { serve, sql, help, version };
+    enum class Command { serve, sql, prepare, help, version };
 
     Command command = Command::serve;
     std::string traceFile;      ///< empty for none
@@ -24,6 +24,11 @@ struct CommandLine : SessionOptions {
     std::string textFile;
     std::vector<std::string> texts;
 
+    bool withSample = false; ///< prepare: the whole schema and the sample trade
+
+    /// What is behind "odbc:" where `--database` names a server; empty otherwise.
+    std::string server() const;
+
     /// @param arguments without the program's name
     /// @throws UsageError
     static CommandLine parse(std::span<const std::string> arguments);
@@ -34,6 +39,8 @@ private:
     Options commonOptions();
     Options servingOptions();
     Options sqlOptions();
+    Options prepareOptions();
+    Option databaseOrServer();
     /// Takes what is no option.
     void takeText(const std::string& argument);
 };

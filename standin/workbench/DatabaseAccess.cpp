@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <stdexcept>
 #include <system_error>
 
@@ -59,13 +60,18 @@ std::string obstacleTo(const fs::path& file) {
            std::generic_category().message(errno);
 }
 
+DatabaseContents contentsOfNew(const CommandLine& line) {
+    // What is to be prepared starts empty, so that all is said that is done.
+    const bool nothing = line.emptyDatabase || line.command == CommandLine::Command::prepare;
+    return nothing ? DatabaseContents::nothing : DatabaseContents::sample;
+}
+
 fs::path databaseFile(const CommandLine& line, const base::Clock& clock) {
     fs::path file = line.database.empty() ? defaultDatabaseFile() : fs::path{line.database};
     if (const std::string obstacle = obstacleTo(file); !obstacle.empty())
         throw std::runtime_error{"the database " + file.string() + " cannot be used: " + obstacle};
     try {
-        createWhenMissing(file, line.emptyDatabase ? DatabaseContents::nothing : DatabaseContents::sample,
-                          clock);
+        createWhenMissing(file, contentsOfNew(line), clock);
     } catch (const std::exception& error) {
         throw std::runtime_error{"the database " + file.string() + " cannot be made: " + error.what()};
     }
@@ -74,14 +80,24 @@ fs::path databaseFile(const CommandLine& line, const base::Clock& clock) {
 
 } // namespace
 
-DatabaseAccess::DatabaseAccess(const CommandLine& line) : database_(databaseFile(line, clock_), clock_) {
-    addWhatIsMissing(*database_.connect());
+DatabaseAccess::DatabaseAccess(const CommandLine& line, const odbc::Database::Options& server) {
+    if (const std::string source = line.server(); !source.empty()) {
+        server_.emplace(odbc::Source::parse(source), server);
+    } else {
+        file_.emplace(databaseFile(line, clock_), clock_);
+        addWhatIsMissing(*file_->connect());
+    }
     if (!line.traceFile.empty()) trace_.emplace(line.traceFile);
 }
 
+std::string DatabaseAccess::name() const {
+    return server_ ? server_->source().description() : file_->file().string();
+}
+
 std::unique_ptr<base::Connection> DatabaseAccess::connect() {
-    auto connection = database_.connect();
-    requireDayFirst(*connection);
+    auto connection = server_ ? server_->connect() : file_->connect();
+    // A server's sessions have been asked while they were made.
+    if (file_) requireDayFirst(*connection);
     if (!trace_) return connection;
     return std::make_unique<TracedConnection>(std::move(connection), *trace_);
 }

@@ -1,6 +1,7 @@
 #include "standin/workbench/SqlCommand.h"
 
 #include "database/embedded/script.h"
+#include "standin/home/schema_step.h"
 #include "standin/workbench/DatabaseAccess.h"
 #include "standin/workbench/json_text.h"
 
@@ -15,6 +16,8 @@ namespace tellurix::standin {
 namespace {
 
 std::string rowsJson(base::Recordset& rows) {
+    // Rows first: for its columns alone a server would be asked once more.
+    rows.atEnd();
     const std::size_t fields = rows.fieldCount();
     std::string text = R"({"columns": [)";
     for (std::size_t i = 0; i < fields; ++i) {
@@ -82,6 +85,14 @@ int runSql(const CommandLine& line, std::istream& in, std::ostream& out) {
     DatabaseAccess database{line};
     const auto connection = database.connect();
     return runTexts(*connection, texts, out) ? 0 : 1;
+}
+
+int runPrepare(const CommandLine& line, std::ostream& out) {
+    DatabaseAccess database{line};
+    out << database.name() << "\n";
+    for (const std::string& sentence : prepare(*database.connect(), line.withSample))
+        out << sentence << "\n";
+    return 0;
 }
 
 } // namespace tellurix::standin

@@ -24,4 +24,9 @@ std::vector<std::string> textsOfStream(std::istream& in);
 /// @return the exit status: 0, or 1 when a text failed
 int runSql(const CommandLine& line, std::istream& in, std::ostream& out);
 
+/// The `prepare` command: prints what it did, a sentence a line.
+/// @return the exit status
+/// @throws std::exception when the database cannot be used
+int runPrepare(const CommandLine& line, std::ostream& out);
+
 } // namespace tellurix::standin

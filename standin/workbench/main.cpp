@@ -2,6 +2,8 @@
 #include "standin/workbench/SqlCommand.h"
 #include "standin/workbench/serve.h"
 
+#include <algorithm>
+#include <cstring>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -21,6 +23,8 @@ int run(const CommandLine& line) {
         return 0;
     case CommandLine::Command::sql:
         return tellurix::standin::runSql(line, std::cin, std::cout);
+    case CommandLine::Command::prepare:
+        return tellurix::standin::runPrepare(line, std::cout);
     case CommandLine::Command::serve:
         break;
     }
@@ -29,9 +33,19 @@ int run(const CommandLine& line) {
 
 } // namespace
 
+/// The list of processes shows every user's command lines to every user; a connection string may have a
+/// password.
+void hideConnectionString(int count, char** arguments) {
+    for (int i = 1; i < count; ++i)
+        if (char* const start = std::strstr(arguments[i], "odbc:"))
+            std::fill(start + std::strlen("odbc:"), start + std::strlen(start), '*');
+}
+
 int main(int count, char** arguments) {
     try {
-        return run(CommandLine::parse(std::vector<std::string>{arguments + 1, arguments + count}));
+        const std::vector<std::string> words{arguments + 1, arguments + count};
+        hideConnectionString(count, arguments);
+        return run(CommandLine::parse(words));
     } catch (const tellurix::standin::UsageError& error) {
         std::cerr << "tellurix-workbench: " << error.what() << "\nSee tellurix-workbench --help.\n";
         return 2;

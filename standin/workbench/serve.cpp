@@ -5,6 +5,7 @@
 #include "module/parts/M_Common.h"
 #include "standin/home/F_Start.h"
 #include "standin/home/ModuleOpener.h"
+#include "standin/home/schema_step.h"
 #include "standin/workbench/DatabaseAccess.h"
 
 #include <pwd.h>
@@ -119,6 +120,15 @@ void runSession(Workbench& workbench, browser::BrowserDisplay& display) {
     }
 }
 
+/// A database on a server is made by somebody else, and may not be ready for the workbench.
+void requireUsable(Workbench& workbench) {
+    const auto connection = workbench.database.connect();
+    if (!workbench.line.server().empty() && !hasWorkbenchTables(*connection))
+        throw std::runtime_error{
+            "the database " + workbench.database.name() +
+            " has no tables of the workbench; \"tellurix-workbench prepare\" makes them"};
+}
+
 } // namespace
 
 int serve(const CommandLine& line, std::ostream& out) {
@@ -126,9 +136,9 @@ int serve(const CommandLine& line, std::ostream& out) {
     allowOpenFiles(line.sessions);
     Workbench workbench{line};
     // A database that no session could use is told at once, and not to the first browser.
-    workbench.database.connect();
+    requireUsable(workbench);
     if (workbench.database.isReadOnly())
-        std::cerr << "tellurix-workbench: warning: the database " << workbench.database.file().string()
+        std::cerr << "tellurix-workbench: warning: the database " << workbench.database.name()
                   << " is read-only; nothing can be saved\n";
     browser::Server server{[&workbench](browser::BrowserDisplay& display) { runSession(workbench, display); },
                            {.port = line.port, .sessions = line.sessions}};

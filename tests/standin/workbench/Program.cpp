@@ -47,7 +47,9 @@ Program::~Program() {
 }
 
 void Program::signal(int number) const {
-    ::kill(process_, number);
+    // To a process that is gone nothing is sent: the number that stands for none means every process there
+    // is.
+    if (process_ > 0) ::kill(process_, number);
 }
 
 int Program::wait() {

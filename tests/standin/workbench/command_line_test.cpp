@@ -26,6 +26,11 @@ TEST(CommandLineParsing, TakesEveryOption) {
     EXPECT_EQ(serving.accessLevel, 5);
     EXPECT_EQ(serving.user, "Jörg");
 
+    EXPECT_EQ(serving.server(), "");
+    EXPECT_EQ(parse({"--database", "odbc:DSN=Büro;UID=x"}).server(), "DSN=Büro;UID=x");
+    const CommandLine prepare = parse({"prepare", "--sample", "--database", "odbc:@x"});
+    EXPECT_EQ(prepare.command, CommandLine::Command::prepare);
+    EXPECT_TRUE(prepare.withSample);
     const CommandLine sql = parse({"--trace", "t", "sql", "A", "--empty", "--", "-- B", "--empty"});
     EXPECT_EQ(sql.command, CommandLine::Command::sql);
     EXPECT_TRUE(sql.emptyDatabase);
@@ -54,7 +59,12 @@ TEST(CommandLineParsing, RefusesWhatMeansNothing) {
         {"a serving option for sql", {"sql", "--port", "1"}, "--port"},
         {"a sql option for serving", {"--file", "f"}, "--file"},
         {"texts and a file at once", {"sql", "A", "--file", "f"}, "--file"},
-        {"a connection string", {"--database", "Server=x;Database=y"}, "SQL Server"},
+        {"a connection string", {"--database", "Server=x;Database=y"}, "odbc:"},
+        {"a server without a name", {"--database=odbc:"}, "odbc:"},
+        {"the sample for serving", {"--sample"}, "--sample"},
+        {"a serving option for prepare", {"prepare", "--port", "1"}, "--port"},
+        {"an sql option for prepare", {"prepare", "--empty"}, "--empty"},
+        {"two commands", {"prepare", "sql"}, "sql"},
         {"a driver of a connection string", {"sql", "--database", "driver={X}"}, "SQL Server"},
     };
     for (const Case& row : cases) {
