@@ -120,10 +120,6 @@ bool SqliteStatement::step() {
 SqliteConnection::SqliteConnection(const std::filesystem::path& file, bool create,
                                    std::chrono::milliseconds patience, const base::Clock& clock)
     : session_(clock), patience_(patience), name_(nameOf(file)) {
-    const FileOrigin origin = originOf(file);
-    if (origin == FileOrigin::noDatabase)
-        throw Fault(DatabaseErrorCategory::damaged, "The file " + name_ + " is no database");
-    if (origin == FileOrigin::foreign) failForeign();
     if (!create && !std::filesystem::exists(file))
         throw Fault(DatabaseErrorCategory::missing, "The database " + name_ + " is not there");
     // Every connection belongs to one thread, so SQLite need not guard it.
@@ -137,6 +133,10 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, bool creat
         throw Fault(DatabaseErrorCategory::connection,
                     "The database " + name_ + " cannot be opened: " +
                         (handle == nullptr ? sqlite3_errstr(code) : sqlite3_errmsg(handle)));
+    const FileOrigin origin = originOf(*handle_);
+    if (origin == FileOrigin::noDatabase)
+        throw Fault(DatabaseErrorCategory::damaged, "The file " + name_ + " is no database");
+    if (origin == FileOrigin::foreign) failForeign();
     configure(origin);
 }
 

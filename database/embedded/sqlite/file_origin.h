@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
+#include <sqlite3.h>
 
 namespace tellurix::embedded {
 
@@ -17,7 +17,10 @@ enum class FileOrigin : std::uint8_t {
 /// Stands in the place that SQLite has for an application's mark: "TLXV".
 constexpr std::int32_t ownApplicationId = 0x544C5856;
 
-/// Reads the file without SQLite, which might change it.
-FileOrigin originOf(const std::filesystem::path& file);
+/// Reads the first bytes of a database that has just been opened and not been used: nothing is changed
+/// or locked by that. It is read through SQLite's own open file, because a process that closes any other
+/// one of the same file loses all its locks on it, and with them what keeps another program from
+/// removing the log that the sessions write into.
+FileOrigin originOf(sqlite3& database);
 
 } // namespace tellurix::embedded
