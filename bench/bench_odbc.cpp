@@ -10,6 +10,7 @@
 #include "module/base/text.h"
 #include "tests/database/odbc/PostgresServer.h"
 #include "tests/database/odbc/TcpProxy.h"
+#include "tests/database/tds/TdsServer.h"
 
 #include <sql.h>
 #include <sqlext.h>
@@ -130,14 +131,11 @@ public:
 
     base::ExecuteResult execute(std::string_view statement) override {
         const std::string query = answers_.queryFor(std::string{statement});
-        ++sent;
         return query.empty() ? base::ExecuteResult{} : server_->execute(query);
     }
     std::unique_ptr<base::UpdatableRecordset> openUpdatable(std::string_view query) override {
         return server_->openUpdatable(query);
     }
-
-    int sent = 0;
 
 private:
     std::unique_ptr<base::Connection> server_;
@@ -160,29 +158,47 @@ bench::Clock::duration openTwice(base::Connection& connection, const std::functi
     return time;
 }
 
-void measureOpening(const tests::PostgresServer& server, Answers& answers) {
-    const tests::TcpProxy proxy{server.port()};
-    {
-        // What the screens ask is known then.
-        AskedConnection first{connectTo(server), answers};
-        openTwice(first, [](int) {});
-    }
-    AskedConnection connection{connectTo(server, proxy.port()), answers};
+/// @param connect a new session, through the proxy
+void measureOpening(bench::Report& report, const std::string& driver, const tests::TcpProxy& proxy,
+                    const std::function<std::unique_ptr<base::Connection>()>& connect) {
     std::int64_t trips = proxy.roundTrips();
     std::int64_t bytes = proxy.bytes();
-    bench::Report report{{"opening a contract", "statements", "round trips", "bytes"}};
-    const auto add = [&](const std::string& name) {
-        report.add({name, std::to_string(connection.sent), std::to_string(proxy.roundTrips() - trips),
+    int sent = 0;
+    const auto add = [&](const std::string& name, const std::string& statements) {
+        report.add({driver + ": " + name, statements, std::to_string(proxy.roundTrips() - trips),
                     std::to_string(proxy.bytes() - bytes)});
-        connection.sent = 0;
+        sent = 0;
         trips = proxy.roundTrips();
         bytes = proxy.bytes();
     };
-    report.add({"connecting, with the session's options", "", std::to_string(trips), std::to_string(bytes)});
-    openTwice(connection, [&](int round) {
-        if (round == 1) add("the first of a session, with its services");
+    const auto connection = connect();
+    add("connecting, with the session's options", "");
+    tracing::TracingConnection counted{*connection, [&](const tracing::Statement&) { ++sent; }};
+    openTwice(counted, [&](int round) {
+        if (round == 1) add("the first contract of a session", std::to_string(sent));
     });
-    add("another one");
+    add("a contract", std::to_string(sent));
+}
+
+void measureOpenings(const tests::PostgresServer& server, Answers& answers, const bench::SampleFile& sample) {
+    bench::heading(std::cout, "Opening a contract, over the line");
+    bench::Report report{{"", "statements", "round trips", "bytes"}};
+    {
+        const tests::TcpProxy proxy{server.port()};
+        const auto connect = [&] {
+            return std::make_unique<AskedConnection>(connectTo(server, proxy.port()), answers);
+        };
+        // What the screens ask is known then.
+        openTwice(*connect(), [](int) {});
+        measureOpening(report, "PostgreSQL's driver", proxy, connect);
+    }
+    const tests::TdsServer tds{sample.path(), bench::standingClock, {}};
+    const tests::TcpProxy proxy{tds.port()};
+    measureOpening(report, "T-SQL's driver", proxy, [&] {
+        return odbc::Database{odbc::Source::parse("SERVER=127.0.0.1;DATABASE=test;UID=test;PWD=test;PORT=" +
+                                                  std::to_string(proxy.port()))}
+            .connect();
+    });
     report.print(std::cout);
 }
 
@@ -365,7 +381,7 @@ int main() {
         const embedded::Database database{sample.path(), bench::standingClock};
         const tests::PostgresServer& server = tests::PostgresServer::shared();
         Answers answers{database, server};
-        measureOpening(server, answers);
+        measureOpenings(server, answers, sample);
         measureStatements(server);
         measureSessions(server, answers);
         measureFailures();

@@ -1,9 +1,10 @@
 // Prints every row of every table of a workbench's database, in an order that only depends on what is
 // in it, so that two databases can be compared line by line:
-//     dump_database FILE
-#include "database/embedded/Database.h"
+//     dump_database DATABASE
+// DATABASE is a file, or "odbc:" and a connection string.
 #include "module/base/StatementText.h"
 #include "standin/services/values/SystemClock.h"
+#include "tests/scenarios/named_database.h"
 #include "tests/support/SampleDatabase.h"
 
 #include <iostream>
@@ -38,12 +39,12 @@ void dump(base::Connection& connection, const std::string& table, const std::str
 
 int main(int count, char** arguments) {
     if (count != 2) {
-        std::cerr << "usage: dump_database FILE\n";
+        std::cerr << "usage: dump_database DATABASE\n";
         return 2;
     }
     try {
         const tellurix::standin::SystemClock clock;
-        const auto connection = tellurix::embedded::Database{arguments[1], clock}.connect();
+        const auto connection = tellurix::tests::connectTo(arguments[1], clock);
         const std::string today = tellurix::tests::written(tellurix::base::startOf(clock.today()));
         for (const std::string& table : tellurix::tests::tableNames())
             tellurix::tests::dump(*connection, table, today);

@@ -1,10 +1,11 @@
 // Plays a scenario on the workbench's start page without any display:
 //     play_headless SCENARIO DATABASE
-#include "database/embedded/Database.h"
+// DATABASE is a file, or "odbc:" and a connection string.
 #include "module/host/module_state.h"
 #include "standin/home/F_Start.h"
 #include "standin/home/ModuleOpener.h"
 #include "tests/scenarios/HeadlessDisplay.h"
+#include "tests/scenarios/named_database.h"
 #include "tests/support/OneStatementConnection.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +21,9 @@ struct ModuleUnloading {
 };
 
 /// @return what went wrong, empty for nothing
-std::string play(const std::filesystem::path& scenario, const std::filesystem::path& file) {
+std::string play(const std::filesystem::path& scenario, const std::string& database) {
     const standin::SystemClock clock;
-    const embedded::Database database{file, clock};
-    const auto connected = database.connect();
+    const auto connected = connectTo(database, clock);
     // What holds on the strictest of servers holds everywhere.
     OneStatementConnection connection{*connected};
     const auto catalogue = standin::TextCatalogue::builtIn();

@@ -1,0 +1,113 @@
+// The driver for T-SQL servers, on the embedded database behind their protocol: what the statement files do
+// not reach.
+
+#include "tests/database/embedded/EmbeddedTest.h"
+#include "tests/database/tds/server_of_environment.h"
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace tellurix::odbc {
+namespace {
+
+using embedded::answer;
+using embedded::failureOf;
+using embedded::writtenRow;
+
+class TdsDriver : public embedded::EmbeddedTest {
+protected:
+    TdsDriver() {
+        first_->execute(
+            "CREATE TABLE T (ID int IDENTITY(1,1) PRIMARY KEY, N int NULL, PREIS decimal(10,2) NULL, NAME nvarchar(20) NULL)");
+        first_->execute("INSERT INTO T (N,PREIS,NAME) VALUES (1,1.5,'eins'),(2,2.5,NULL),(3,3.5,'')");
+    }
+
+    std::unique_ptr<base::Connection> first_ = connect();
+    std::unique_ptr<base::Connection> second_ = connect();
+};
+
+TEST_F(TdsDriver, OpenRowsAreInMemoryBeforeTheNextStatement) {
+    first_->execute("INSERT INTO T (N) SELECT A.N + B.N FROM T A, T B");
+    const auto rows = first_->execute("SELECT N FROM T ORDER BY ID").rows;
+    rows->moveNext();
+    const auto unread = first_->execute("SELECT COUNT(*) FROM T").rows;
+    first_->execute("DELETE FROM T WHERE N > 1");
+    EXPECT_EQ(unread->integer(0), 12);
+    int count = 1;
+    for (; !rows->atEnd(); rows->moveNext())
+        ++count;
+    EXPECT_EQ(count, 12);
+}
+
+TEST_F(TdsDriver, ColumnsCostNoRow) {
+    first_->execute("INSERT INTO T (N) VALUES (0)");
+    const auto rows = first_->execute("SELECT 6 / N AS Q, NAME FROM T ORDER BY ID DESC").rows;
+    EXPECT_EQ(rows->fieldName(0), "Q");
+    EXPECT_EQ(rows->fieldType(0), base::FieldType::integer);
+    EXPECT_EQ(rows->textWidth(1), 20);
+    second_->execute("UPDATE T SET N = 6 WHERE N = 0");
+    EXPECT_EQ(rows->integer("Q"), 1);
+}
+
+TEST_F(TdsDriver, ErrorsCarryTheServersNumberAndALateOneIsTold) {
+    try {
+        answer(*first_, "SELECT NIX FROM T");
+        ADD_FAILURE();
+    } catch (const base::DatabaseError& error) {
+        EXPECT_EQ(error.nativeCode(), 208);
+        EXPECT_EQ(error.sqlState(), "42S02");
+        EXPECT_EQ(error.statement(), "SELECT NIX FROM T");
+    }
+    EXPECT_EQ(failureOf([&] { first_->execute("UPDATE T SET N = 1 SELECT 1 SELECT 1/0"); }).substr(0, 10),
+              "conversion");
+    EXPECT_EQ(answer(*first_, "SELECT COUNT(*) FROM T"), "3");
+}
+
+TEST_F(TdsDriver, RowsAreEditedByKeyAlsoWhereTheSessionDoesNotCount) {
+    for (const char* counting : {"SET NOCOUNT OFF", "SET NOCOUNT ON"}) {
+        first_->execute(counting);
+        second_->execute("UPDATE T SET NAME = 'x'");
+        const auto rows = first_->openUpdatable("SELECT NAME, PREIS FROM T WHERE ID < 3 ORDER BY ID");
+        rows->setField("NAME", std::string("O'Hära €😀"));
+        rows->setField("PREIS", std::string("2.675"));
+        rows->update();
+        EXPECT_EQ(writtenRow(*rows), "O'Hära €😀 | 2.68");
+        second_->execute("UPDATE T SET NAME = 'X' WHERE ID = 1");
+        rows->setField("NAME", std::string("y"));
+        EXPECT_EQ(failureOf([&] { rows->update(); }),
+                  "other: The row of T that was being edited was changed by somebody else: NAME");
+        rows->moveNext();
+        rows->setField("NAME", {});
+        rows->update();
+        EXPECT_EQ(answer(*second_, "SELECT NAME FROM T ORDER BY ID"), "X\nNULL\nx");
+    }
+    const auto rows = first_->openUpdatable("SELECT NAME FROM T WHERE ID = 3");
+    second_->execute("DELETE FROM T WHERE ID = 3");
+    rows->setField("NAME", std::string("y"));
+    EXPECT_EQ(failureOf([&] { rows->update(); }),
+              "other: The row of T that was being edited is no longer there");
+}
+
+TEST(TdsServerThatSaysNothing, IsGivenUpAfterTheLoginTime) {
+    const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof(address);
+    ASSERT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), size), 0);
+    ASSERT_EQ(::listen(listener, 1), 0);
+    ::getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size);
+    const auto start = std::chrono::steady_clock::now();
+    const Source source =
+        Source::parse("SERVER=127.0.0.1;UID=u;PWD=geheim;PORT=" + std::to_string(ntohs(address.sin_port)));
+    const std::string failure =
+        failureOf([&] { Database(source, {.loginTime = std::chrono::seconds{1}}).connect(); });
+    EXPECT_TRUE(failure.starts_with("connection: The database server cannot be reached")) << failure;
+    EXPECT_EQ(failure.find("geheim"), std::string::npos);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{10});
+    ::close(listener);
+}
+
+} // namespace
+} // namespace tellurix::odbc
