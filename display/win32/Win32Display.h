@@ -57,7 +57,7 @@ private:
     HWND owner_;
     ui::DisplayErrors told_{*this};
     Errors errors_{*this};
-    ui::Desktop desktop_{errors_};
+    ui::Desktop desktop_{errors_, *this};
     std::vector<std::unique_ptr<WindowFrame>> windows_; ///< the topmost last
     DisplayState state_;
 };

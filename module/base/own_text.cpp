@@ -247,6 +247,75 @@ constexpr Words wordsOf(OwnText text) {
             "{} of {} forest helpers are added, {} of {} are removed. The list shows how things are now."};
     case OwnText::serviceFailed:
         return {"Der Dienst {} ({}) ist gescheitert: {}", "The service {} ({}) has failed: {}"};
+    case OwnText::pastingStopped:
+        return {"Das Einfügen endet in Zeile {}, Spalte „{}“; die Zellen davor sind eingefügt.",
+                "Pasting ends in row {}, column \"{}\"; the cells before it are pasted."};
+    case OwnText::cellIsFixed:
+        return {"Diese Zelle kann nicht geändert werden, „{}“ wurde nicht eingefügt.",
+                "This cell cannot be changed; \"{}\" was not pasted."};
+    case OwnText::notTyped:
+        return {"Sie nimmt „{}“ nicht an.", "It does not take \"{}\"."};
+    case OwnText::noRoomToPaste:
+        return {"Für „{}“ ist in der Tabelle kein Platz mehr.", "The table has no room for \"{}\"."};
+
+    case OwnText::keysOf:
+        return {"Tasten – {}", "Keys – {}"};
+    case OwnText::keyHeading:
+        return {"Taste", "Key"};
+    case OwnText::effectHeading:
+        return {"Wirkung", "What it does"};
+    case OwnText::keyGoOn:
+        return {"Tab, Enter\tweiter, mit Umschalt zurück", "Tab, Enter\tgoes on, with Shift back"};
+    case OwnText::keyPressOrTick:
+        return {"Leertaste\tKnopf drücken, Häkchen setzen", "Space\tpresses a button, sets a tick"};
+    case OwnText::keyAccess:
+        return {"Alt+{}\t{}", "Alt+{}\t{}"};
+    case OwnText::keyPick:
+        return {"Strg, F4\tAuswahl für „{}“", "Ctrl, F4\tchoices for \"{}\""};
+    case OwnText::keyLineEnd:
+        return {"Strg+Enter\tneue Zeile in „{}“", "Ctrl+Enter\tnew line in \"{}\""};
+    case OwnText::keySave:
+        return {"Strg+S\t{}", "Ctrl+S\t{}"};
+    case OwnText::keyCancel:
+        return {"Esc\t{}", "Esc\t{}"};
+    case OwnText::keyCloses:
+        return {"Esc\tFenster schließen", "Esc\tcloses the window"};
+    case OwnText::keyGridMove:
+        return {"Pfeile, Bild auf, Bild ab\tin der Tabelle gehen",
+                "Arrows, Page up, Page down\tgo through the table"};
+    case OwnText::keyGridEnds:
+        return {"Pos1, Ende\terste, letzte Spalte; mit Strg erste, letzte Zeile",
+                "Home, End\tfirst, last column; with Ctrl first, last row"};
+    case OwnText::keyGridLetters:
+        return {"Buchstaben\tzur Zeile, die so beginnt", "Letters\tgo to the row that begins with them"};
+    case OwnText::keyGridEnter:
+        return {"Enter\twie ein Doppelklick auf die Zeile", "Enter\tas a double click on the row"};
+    case OwnText::keyGridInsert:
+        return {"Einfg\t{}", "Ins\t{}"};
+    case OwnText::keyGridEdit:
+        return {"F2\t{}", "F2\t{}"};
+    case OwnText::keyGridDelete:
+        return {"Entf\t{}", "Del\t{}"};
+    case OwnText::keyGridCell:
+        return {"F2, Entf, Zeichen\tZelle ändern, leeren, überschreiben, wo das möglich ist",
+                "F2, Del, characters\tchange, empty, overwrite a cell, where that is possible"};
+    case OwnText::keyGridPaste:
+        return {"Strg+V\tab der aktuellen Zelle einfügen", "Ctrl+V\tpastes from the current cell on"};
+    case OwnText::keyGridBlock:
+        return {"Umschalt+Pfeile\tBlock markieren; alles mit Strg+A",
+                "Shift+arrows\tmark a block; all with Ctrl+A"};
+    case OwnText::keyGridCopy:
+        return {"Strg+C\tZeile oder Block kopieren, mit Umschalt samt Überschriften",
+                "Ctrl+C\tcopies the row or the block, with Shift its headings too"};
+    case OwnText::keyGridSort:
+        return {"Strg+Enter\tnach der Spalte ordnen, noch einmal umgekehrt",
+                "Ctrl+Enter\tsorts by the column, once more the other way"};
+    case OwnText::keyGridWidth:
+        return {"Strg+←, Strg+→\tSpalte schmaler, breiter; passend mit Strg+Umschalt+→",
+                "Ctrl+←, Ctrl+→\tmake the column narrower, wider; Ctrl+Shift+→ fits it"};
+    case OwnText::keyThese:
+        return {"F1\tdiese Übersicht", "F1\tthis list"};
+
     case OwnText::refusedValue:
         return {"„{}“:", "\"{}\":"};
     case OwnText::refusedInField:

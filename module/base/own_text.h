@@ -103,6 +103,37 @@ enum class OwnText {
     street,
     someHelpersChanged, ///< how many are added, of how many; how many are removed, of how many
     serviceFailed,      ///< a service of the host: class, operation, what it says
+    // Pasting into the cells of a grid
+    pastingStopped, ///< begins the message: the row, the heading of the column
+    cellIsFixed,    ///< the value
+    notTyped,       ///< the value
+    noRoomToPaste,  ///< the value
+    // The keys of a window: the key, a tab, and what it does; {} is a caption
+    keysOf, ///< the title: that of the window
+    keyHeading,
+    effectHeading,
+    keyGoOn,
+    keyPressOrTick,
+    keyAccess, ///< the letter, the caption
+    keyPick,
+    keyLineEnd,
+    keySave,
+    keyCancel,
+    keyCloses,
+    keyGridMove,
+    keyGridEnds,
+    keyGridLetters,
+    keyGridEnter,
+    keyGridInsert,
+    keyGridEdit,
+    keyGridDelete,
+    keyGridCell,
+    keyGridPaste,
+    keyGridBlock,
+    keyGridCopy,
+    keyGridSort,
+    keyGridWidth,
+    keyThese,
     // Values that no statement can carry
     refusedValue,   ///< begins the message: the value
     refusedInField, ///< begins the message: the field's label, the value

@@ -52,11 +52,15 @@ void F_Vertrag::connect() {
     btnHeader.onClick = [this] { openHeader(); };
     PreisButton.onClick = [this] { showPriceLines(true); };
     PosButton.onClick = [this] { showQuantityLines(true); };
+    List1.onDoubleClick = [this] { openHeader(); };
+    Grid1.onDoubleClick = [this] { showPriceLines(true, priceLines().keyInRow(Grid1.currentRow())); };
+    Grid2.onDoubleClick = [this] { showQuantityLines(true, quantityLines().keyInRow(Grid2.currentRow())); };
     btnAbschlag.onClick = [this] { openDeductions(); };
     btnLieferprofil_WVO.onClick = [this] { openLogistics(); };
     btnSpeichern.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { unload(); };
     setCancelButton(btnAbbrechen);
+    addSaveButton(btnSpeichern);
     // A contract to take over from that is not there must not keep the window open.
     btnAbbrechen.setCausesValidation(false);
 }
@@ -163,13 +167,13 @@ lines::F_VertragMengen& F_Vertrag::quantityLines() {
         quantityScreen, [this] { return std::make_unique<lines::F_VertragMengen>(services_); });
 }
 
-void F_Vertrag::showPriceLines(bool openScreen) {
-    priceLines().Run(session_, id_, openScreen);
+void F_Vertrag::showPriceLines(bool openScreen, std::optional<std::int64_t> line) {
+    priceLines().Run(session_, id_, openScreen, line);
     CopyGrid(priceLines().lines(), Grid1);
 }
 
-void F_Vertrag::showQuantityLines(bool openScreen) {
-    quantityLines().Run(session_, id_, openScreen);
+void F_Vertrag::showQuantityLines(bool openScreen, std::optional<std::int64_t> line) {
+    quantityLines().Run(session_, id_, openScreen, line);
     CopyGrid(quantityLines().lines(), Grid2);
 }
 

@@ -16,6 +16,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tellurix::contract {
@@ -66,8 +67,9 @@ private:
     lines::F_VertragPreise& priceLines();
     lines::F_VertragMengen& quantityLines();
     /// Loads the lines into the overview, with or without showing their screen first.
-    void showPriceLines(bool openScreen);
-    void showQuantityLines(bool openScreen);
+    /// @param line the key of the one that the screen begins with
+    void showPriceLines(bool openScreen, std::optional<std::int64_t> line = {});
+    void showQuantityLines(bool openScreen, std::optional<std::int64_t> line = {});
     void releaseLineScreens();
 
     void chooseCustomer();

@@ -18,8 +18,13 @@ namespace tellurix::host {
 class HostLocalizer {
 public:
     virtual ~HostLocalizer() = default;
+    /// Puts the form into the user's language: its captions, and the words of the rules of input.
+    void localize(const TlxVar& session, ui::Form& form) {
+        form.setLanguage(session.language);
+        translate(session, form);
+    }
     /// Replaces the captions of the form's controls by those of the user's language.
-    virtual void localize(const TlxVar& session, ui::Form& form) = 0;
+    virtual void translate(const TlxVar& session, ui::Form& form) = 0;
     /// The text of that number, e.g. 223 for an invalid entry.
     virtual std::string text(int number, const TlxVar& session) = 0;
 };

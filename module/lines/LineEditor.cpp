@@ -35,7 +35,8 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
              .remove = &cmdLoschen},
             {.inView = {&MSFlexGrid1, &cmdOk},
              .onRow = {&UpDown1},
-             .whileEdited = {&frmPosition, &selection_.quickSelection()}},
+             .whileEdited = {&frmPosition, &selection_.quickSelection()},
+             .rows = &MSFlexGrid1},
             [this] { return hasLines(); }) {
     connect();
     connectRow();
@@ -43,6 +44,10 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
 
 void LineEditor::connect() {
     MSFlexGrid1.onCurrentChange = [this] { showCurrentLine(); };
+    // Nobody goes on from a line by accident.
+    MSFlexGrid1.onKeyDown.before([](ui::KeyDown& key) {
+        if (key.key == ui::Key::enter) key.key = ui::Key::none;
+    });
     UpDown1.onUp = [this] { moveLine(-1); };
     UpDown1.onDown = [this] { moveLine(+1); };
     UpDown1.setToolTip("Zeile nach oben oder unten verschieben");
@@ -103,7 +108,12 @@ void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout>
     setLayout(ui::column(std::move(screen)));
 }
 
-void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool shown) {
+std::optional<std::int64_t> LineEditor::keyInRow(int row) const {
+    return row < 0 || row >= lines_.rowCount() ? std::nullopt : std::optional{lines_.keyOf(row)};
+}
+
+void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool shown,
+                     std::optional<std::int64_t> line) {
     session_ = session;
     contract_ = contract;
     list_.open({.services = &services_, .session = session_, .id = contract_});
@@ -115,6 +125,7 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     lines_.clear();
     LoadGrid();
     if (!shown) return;
+    if (line) lines_.select(*line);
     txtBEZEICHNUNG.setMaxLength(services_.columnWidth.of(session_, kind_.table, "BEZEICHNUNG"));
     showCurrentLine();
     mode_.enter(State::view);

@@ -14,6 +14,7 @@
 #include "module/ui/controls/UpDown.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,9 +31,13 @@ public:
     /// Loads the lines of a contract.
     /// @param shown whether to show the screen, and return when it is closed; otherwise it only
     ///        keeps what it loaded, for the caller to copy
-    void Run(const host::TlxVar& session, std::int32_t contract, bool shown);
+    /// @param line the key of the line to begin with, where it is still there; otherwise with the first
+    void Run(const host::TlxVar& session, std::int32_t contract, bool shown,
+             std::optional<std::int64_t> line = {});
 
     const ui::Grid& lines() const { return MSFlexGrid1; }
+    /// The key of the line in a row of what was loaded last; nothing where there is none.
+    std::optional<std::int64_t> keyInRow(int row) const;
 
 protected:
     using State = parts::EditMode::State;

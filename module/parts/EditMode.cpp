@@ -1,5 +1,9 @@
 #include "module/parts/EditMode.h"
 
+#include "module/ui/Form.h"
+
+#include <utility>
+
 namespace tellurix::parts {
 
 namespace {
@@ -22,6 +26,12 @@ EditMode::EditMode(Buttons buttons, Controls controls, std::function<bool()> has
     add(controls_.whileEdited, {buttons.save, buttons.cancel});
     // Nobody has to correct a field in order to throw it away.
     if (buttons.cancel != nullptr) buttons.cancel->setCausesValidation(false);
+    if (buttons.save != nullptr) buttons.save->form().addSaveButton(*buttons.save);
+    if (controls_.rows == nullptr) return;
+    for (const auto& [key, button] :
+         {std::pair{ui::Key::insert, buttons.create}, std::pair{ui::Key::f2, buttons.edit},
+          std::pair{ui::Key::del, buttons.remove}})
+        if (button != nullptr) controls_.rows->pressOn(key, *button);
 }
 
 void EditMode::enter(State state) {

@@ -2,6 +2,7 @@
 
 #include "module/ui/Handlers.h"
 #include "module/ui/controls/Button.h"
+#include "module/ui/controls/Grid.h"
 
 #include <functional>
 #include <vector>
@@ -12,7 +13,8 @@ namespace tellurix::parts {
 /// and what can be used when.
 ///
 /// While an area is looked at, a row can be begun, edited and removed; while one is edited, or a new
-/// one is filled in, it can be saved and cancelled, and nothing else.
+/// one is filled in, it can be saved and cancelled, and nothing else. The save button becomes one of the
+/// window's (see ui::Form).
 class EditMode {
 public:
     enum class State { view, edit, fresh };
@@ -30,6 +32,7 @@ public:
         std::vector<ui::Control*> inView = {};      ///< lists, filters, closing
         std::vector<ui::Control*> onRow = {};       ///< in view, where there is a row
         std::vector<ui::Control*> whileEdited = {}; ///< the fields
+        ui::Grid* rows = nullptr; ///< in it Insert, F2 and Delete press create, edit and remove
     };
 
     /// @param hasRow whether there is a row to edit at the moment

@@ -3,6 +3,7 @@
 #include "module/base/date_format.h"
 #include "module/base/field_text.h"
 #include "module/base/text.h"
+#include "module/ui/input/grid_text.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,14 +11,6 @@
 namespace tellurix::parts {
 
 namespace {
-
-/// A text without what would begin another cell or line.
-std::string oneCell(std::string text) {
-    text = base::replaceAll(std::move(text), "\r\n", " ");
-    std::ranges::replace_if(
-        text, [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
-    return text;
-}
 
 /// Which of two values of one column comes first; a value that is missing comes before all others.
 bool lessThan(const base::Value& left, const base::Value& right) {
@@ -196,7 +189,7 @@ std::string KeyedGrid::text(std::span<const TextColumn> columns) {
     }
     for (KeyedRow& row : rows_) {
         for (std::size_t column = 0; column < shown.size(); ++column)
-            text += (column == 0 ? "\r\n" : "\t") + oneCell(cellText(row, shown[column]));
+            text += (column == 0 ? "\r\n" : "\t") + ui::oneCell(cellText(row, shown[column]));
     }
     return text;
 }

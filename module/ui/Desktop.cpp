@@ -1,6 +1,7 @@
 #include "module/ui/Desktop.h"
 
 #include "module/base/text.h"
+#include "module/ui/F_Tasten.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/Grid.h"
@@ -123,26 +124,6 @@ void Desktop::pick(Form& form, Control& control) {
     box->selectAll();
 }
 
-void Desktop::typeCharacter(TextBox& box, char32_t character) {
-    if (box.onKeyPress) box.onKeyPress(character);
-    if (character != 0 && box.typeOver(base::encodeUtf8(character))) box.onChange();
-}
-
-void Desktop::typeText(TextBox& box, const std::string& text) {
-    std::u32string characters = base::decodeUtf8(box.onPaste ? box.onPaste(text) : text);
-    std::erase_if(characters, [&box](char32_t character) { return !box.takes(character); });
-    bool changed = false;
-    if (!box.onKeyPress) {
-        changed = box.typeOver(base::encodeUtf8(characters));
-    } else {
-        for (char32_t character : characters) {
-            box.onKeyPress(character);
-            if (character != 0 && box.typeOver(base::encodeUtf8(character))) changed = true;
-        }
-    }
-    if (changed) box.onChange();
-}
-
 void Desktop::handle(Form& form, const KeyDownEvent& event) {
     KeyDown key = event.key;
     Control* control = form.focused();
@@ -157,9 +138,31 @@ void Desktop::handle(Form& form, const KeyDownEvent& event) {
         pick(form, *control);
     } else if (key.key == Key::space && isPressed(*control)) {
         press(form, *control);
+    } else if (Grid* grid = as<Grid>(control)) {
+        gridKey(form, *grid, {key, event.columnWidth});
     } else {
         applyKey(*control, key.key);
     }
+}
+
+void Desktop::gridKey(Form& form, Grid& grid, const KeyDownEvent& event) {
+    const auto& [key, shift, ctrl, alt] = event.key;
+    Button* button = shift || ctrl || alt ? nullptr : grid.pressedBy(key);
+    if (button == nullptr) return applyGridKey(grid, event);
+    press(form, *button);
+    // The next key is meant for the rows again.
+    if (form.loaded() && form.focused() == button) form.setFocus(grid);
+}
+
+void Desktop::showKeys(const Form& form) {
+    if (showsKeys_) return;
+    struct Showing {
+        explicit Showing(bool& flag) : flag(flag) { flag = true; }
+        ~Showing() { flag = false; }
+        bool& flag;
+    } const showing{showsKeys_};
+    F_Tasten keys{form};
+    display_.showModal(keys);
 }
 
 bool Desktop::windowKey(Form& form, const KeyDown& key) {
@@ -169,6 +172,10 @@ bool Desktop::windowKey(Form& form, const KeyDown& key) {
         form.unload();
     } else if (key.key == Key::tab && !key.ctrl && !key.alt) {
         moveByTab(form, key.shift);
+    } else if (key.key == Key::f1) {
+        showKeys(form);
+    } else if (key.key == Key{'S'} && key.ctrl) {
+        if (Button* save = form.saveButton()) press(form, *save);
     } else {
         return false;
     }
@@ -200,8 +207,12 @@ void Desktop::handle(Form& form, const KeyPressEvent& event) {
     if (event.character < 32 || event.character == 127) return;
     if (TextBox* box = as<TextBox>(form.focused()); editable(box)) {
         typeCharacter(*box, event.character);
-    } else if (Grid* grid = as<Grid>(form.focused()); grid != nullptr && grid->usable() && grid->onKeyPress) {
-        grid->onKeyPress(event.character);
+    } else if (Grid* grid = as<Grid>(form.focused()); grid != nullptr && grid->usable()) {
+        char32_t character = event.character;
+        grid->onKeyPress(character);
+        if (character == 0 || !form.loaded()) return;
+        const int row = search_.typed(*grid, character, RowSearch::Clock::now());
+        if (row != Grid::none) choose(*grid, row, grid->currentColumn());
     }
 }
 
@@ -252,8 +263,10 @@ void Desktop::handle(Form& form, const SelectionEvent& event) {
 }
 
 void Desktop::handle(Form& form, const PasteEvent& event) {
-    if (!editable(event.box) || !moveFocus(form, *event.box)) return;
-    typeText(*event.box, event.text);
+    TextBox* box = as<TextBox>(event.control);
+    Grid* grid = as<Grid>(event.control);
+    if (editable(box) && moveFocus(form, *box)) typeText(*box, event.text);
+    if (grid != nullptr && grid->usable() && moveFocus(form, *grid)) grid->onPaste(event.text);
 }
 
 void Desktop::handle(Form& form, const ClickEvent& event) {
@@ -268,6 +281,8 @@ void Desktop::handle(Form& form, const StepEvent& event) {
 
 void Desktop::handle(Form& form, const SelectEvent& event) {
     if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
+    if (Grid* grid = as<Grid>(event.control); grid != nullptr && event.extends)
+        return grid->extendTo({event.index, event.column});
     choose(*event.control, event.index, event.column);
 }
 

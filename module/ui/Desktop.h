@@ -2,6 +2,7 @@
 
 #include "module/ui/Display.h"
 #include "module/ui/input/events.h"
+#include "module/ui/input/grid_keys.h"
 
 #include <functional>
 #include <vector>
@@ -19,7 +20,10 @@ namespace tellurix::ui {
 ///   open its picker.
 /// - Alt with a letter presses the button, ticks the box or goes to the field with that access key;
 ///   where several have it, it goes from one to the next. The offer in the status line comes after them.
-/// - Esc presses the cancel button, or closes the window.
+/// - Esc presses the cancel button, or closes the window; Ctrl+S presses the save button, F1 shows the
+///   keys of the window.
+/// - In a grid a letter goes to the row that begins with it, and Ctrl with Enter is a click on the
+///   heading of the current column (grid_keys.h has the other keys).
 /// - Characters go through the box's key filter, pasted ones too. A box that a display has edited by
 ///   itself keeps the new text where that needs no filter; else it is typed in place of the old one.
 ///   A text that comes at once is one change, however long it is.
@@ -28,7 +32,8 @@ namespace tellurix::ui {
 /// is about what stands in one control (`RefusedInput`), that control gets the focus.
 class Desktop {
 public:
-    explicit Desktop(ErrorHandling& errors) : errors_(errors) {}
+    /// @param display shows the keys of a window
+    Desktop(ErrorHandling& errors, Display& display) : errors_(errors), display_(display) {}
 
     /// Shows a form and handles events for it until it has been unloaded.
     /// @param nextEvent draws what is dirty and waits for the user; an exception thrown by it that is
@@ -76,12 +81,15 @@ private:
     /// Does what a key does whichever control has the focus. @return false for all other keys
     bool windowKey(Form& form, const KeyDown& key);
     void enter(Form& form, Control& control, const KeyDown& key);
-    void typeCharacter(TextBox& box, char32_t character);
-    /// Types a text that does not come from keys, in place of the selection.
-    void typeText(TextBox& box, const std::string& text);
+    /// What a key does in a grid that is not the same in every control.
+    void gridKey(Form& form, Grid& grid, const KeyDownEvent& event);
+    void showKeys(const Form& form);
 
     ErrorHandling& errors_;
+    Display& display_;
     std::vector<Form*> windows_;
+    RowSearch search_;
+    bool showsKeys_ = false;
 };
 
 } // namespace tellurix::ui

@@ -1,5 +1,6 @@
 #include "module/ui/Form.h"
 
+#include "module/ui/controls/Button.h"
 #include "module/ui/controls/Tabs.h"
 #include "module/ui/controls/TextBox.h"
 
@@ -100,6 +101,11 @@ Label* Form::labelOf(const Control& control) const {
                                    [&control](const Layout& c) { return c.control == &control; });
     });
     return field == nullptr ? columnLabel(layout_, control) : as<Label>(field->control);
+}
+
+Button* Form::saveButton() const {
+    const auto found = std::ranges::find_if(saveButtons_, [](const Button* b) { return b->usable(); });
+    return found == saveButtons_.end() ? nullptr : *found;
 }
 
 bool Form::setFocus(Control& control) {

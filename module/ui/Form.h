@@ -49,6 +49,13 @@ public:
     bool setFocus(Control& control);
     /// Pressed by Esc; null lets Esc close the window.
     Button* cancelButton() const { return cancelButton_; }
+    /// Pressed by Ctrl+S: of the buttons that save something here the first that can be used, or null.
+    Button* saveButton() const;
+    void addSaveButton(Button& button) { saveButtons_.push_back(&button); }
+
+    /// In which the words of the rules of input are: "en"; any other is German.
+    const std::string& language() const { return language_; }
+    void setLanguage(std::string language) { language_ = std::move(language); }
 
     /// The last line of the window; it is empty again when the window has gone.
     StatusLine& status() { return status_; }
@@ -85,6 +92,8 @@ private:
     StatusLine status_;
     Control* focused_ = nullptr;
     Button* cancelButton_ = nullptr;
+    std::vector<Button*> saveButtons_;
+    std::string language_;
     bool loaded_ = false;
     bool unloading_ = false;
     bool titleDirty_ = true;

@@ -1,5 +1,6 @@
 #include "tests/scenarios/HeadlessDisplay.h"
 
+#include "module/base/text.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/ItemList.h"
@@ -95,8 +96,10 @@ void HeadlessDisplay::perform(const Step& step) {
                      display.desktop_.dispatch(ui::AccessKeyEvent{static_cast<char32_t>(key.key)});
                  } else if (key.key == ui::Key::ctrl) {
                      display.user_.ctrl();
+                 } else if (key.ctrl && key.key == ui::Key{'C'}) {
+                     display.clipboard_ = display.user_.copied(display.user_.focused(), key.shift);
                  } else {
-                     display.desktop_.dispatch(ui::KeyDownEvent{key});
+                     display.user_.key(key);
                      if (key.key == ui::Key::space) display.desktop_.dispatch(ui::KeyPressEvent{U' '});
                  }
              }
@@ -108,7 +111,8 @@ void HeadlessDisplay::perform(const Step& step) {
         {"paste",
          [](HeadlessDisplay& display, const Step& s) {
              display.user_.focus(s.word(0));
-             display.user_.control<ui::TextBox>(s.word(0)).selectAll();
+             if (auto* box = ui::as<ui::TextBox>(&display.user_.control<ui::Control>(s.word(0))))
+                 box->selectAll();
              display.user_.paste(s.word(0), s.word(1));
          }},
         {"expect", [](HeadlessDisplay& display, const Step& s) { display.expect(s); }},
@@ -176,6 +180,11 @@ void HeadlessDisplay::expect(const Step& step) {
         const std::string text =
             step.word(0) == "status" ? user_.window().status().text() : user_.error(step.word(1));
         if (text != step.words.back().text) throw ScenarioError{step, "it says \"" + text + "\""};
+        return;
+    }
+    if (step.word(0) == "clipboard") {
+        const std::string text = base::replaceAll(clipboard_, "\r\n", "\n");
+        if (text != step.word(1)) throw ScenarioError{step, "it holds \"" + text + "\""};
         return;
     }
     auto& control = user_.control<ui::Control>(step.word(0));

@@ -45,8 +45,9 @@ private:
     std::vector<Step> steps_;
     std::size_t next_ = 0;
     std::string failure_;
+    std::string clipboard_;
     ui::ErrorHandling* errors_ = nullptr;
-    ui::Desktop desktop_{*this};
+    ui::Desktop desktop_{*this, *this};
     User user_{desktop_};
 };
 

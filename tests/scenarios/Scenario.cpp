@@ -1,5 +1,7 @@
 #include "tests/scenarios/Scenario.h"
 
+#include "module/base/text.h"
+
 #include <cctype>
 #include <charconv>
 #include <fstream>
@@ -8,6 +10,11 @@
 namespace tellurix::tests {
 
 namespace {
+
+/// A quoted text with its tabs and line ends, which a line of the file cannot hold.
+std::string meant(const std::string& quoted) {
+    return base::replaceAll(base::replaceAll(quoted, "\\t", "\t"), "\\n", "\n");
+}
 
 /// Cuts a line into its words; what stands in quotation marks is one word, blanks and all.
 std::vector<Step::Word> wordsOf(const std::string& line, const Step& at) {
@@ -18,7 +25,8 @@ std::vector<Step::Word> wordsOf(const std::string& line, const Step& at) {
         const std::size_t start = quoted ? i + 1 : i;
         const std::size_t end = line.find(quoted ? '"' : ' ', start);
         if (quoted && end == std::string::npos) throw ScenarioError{at, "a quotation mark is missing"};
-        words.push_back({line.substr(start, end - start), quoted});
+        const std::string text = line.substr(start, end - start);
+        words.push_back({quoted ? meant(text) : text, quoted});
         if (end == std::string::npos) break;
         i = end + 1;
     }
@@ -63,6 +71,8 @@ ui::KeyDown keyOf(const Step& step, const std::string& word) {
                                                   {"Down", Key::down},
                                                   {"Insert", Key::insert},
                                                   {"Delete", Key::del},
+                                                  {"F1", Key::f1},
+                                                  {"F2", Key::f2},
                                                   {"F4", Key::f4}};
     ui::KeyDown key;
     std::string name = word;

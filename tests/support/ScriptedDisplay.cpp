@@ -5,6 +5,7 @@
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/ItemList.h"
 #include "module/ui/controls/TextBox.h"
+#include "module/ui/input/grid_text.h"
 
 #include <gtest/gtest.h>
 
@@ -83,11 +84,15 @@ void User::replaceText(std::string_view control, std::string_view text) {
 }
 
 void User::paste(std::string_view control, std::string_view text) {
-    desktop_.dispatch(ui::PasteEvent{&this->control<ui::TextBox>(control), std::string{text}});
+    desktop_.dispatch(ui::PasteEvent{&find(control), std::string{text}});
 }
 
-void User::select(std::string_view control, int index, int column) {
-    desktop_.dispatch(ui::SelectEvent{&find(control), index, column});
+std::string User::copied(std::string_view control, bool withHeadings) {
+    return ui::copiedCells(grid(control), withHeadings);
+}
+
+void User::select(std::string_view control, int index, int column, bool extends) {
+    desktop_.dispatch(ui::SelectEvent{&find(control), index, column, extends});
 }
 
 void User::doubleClick(std::string_view control) {

@@ -22,6 +22,7 @@ public:
     /// Types into whatever has the focus.
     void type(std::string_view text);
     void key(ui::Key key, bool shift = false);
+    void key(const ui::KeyDown& key) { desktop_.dispatch(ui::KeyDownEvent{key}); }
     /// Ctrl pressed and released alone.
     void ctrl();
     /// Alt with a letter.
@@ -31,7 +32,9 @@ public:
     /// Puts a text into a box that its key filter would not let through.
     void replaceText(std::string_view control, std::string_view text);
     void paste(std::string_view control, std::string_view text);
-    void select(std::string_view control, int index, int column = 0);
+    /// What Ctrl+C puts on the clipboard in a grid.
+    std::string copied(std::string_view control, bool withHeadings = false);
+    void select(std::string_view control, int index, int column = 0, bool extends = false);
     void doubleClick(std::string_view control);
     void clickHeading(std::string_view control, int column);
     void scroll(std::string_view control);
@@ -145,7 +148,7 @@ private:
     };
     void expectNothingMore() const;
 
-    ui::Desktop desktop_{*this};
+    ui::Desktop desktop_{*this, *this};
     Memory memory_;
     ui::ErrorHandling* handling_ = nullptr;
     int busy_ = 0;

@@ -167,7 +167,7 @@ private:
                           const std::string& condition) override;
     void request(const host::TlxVar&, const std::string& code, const std::string& type, std::string& out1,
                  std::string& out2) override;
-    void localize(const host::TlxVar& with, ui::Form&) override { expectOwn(with); }
+    void translate(const host::TlxVar& with, ui::Form&) override { expectOwn(with); }
     std::string text(int number, const host::TlxVar& with) override {
         expectOwn(with);
         return "Text " + std::to_string(number);

@@ -21,6 +21,7 @@ TEST(KeyUse, IsTheSameOnEveryDisplay) {
     constexpr KeyTraits listeningGrid{.kind = ControlKind::grid, .listens = true};
     constexpr KeyTraits button{.kind = ControlKind::button};
     constexpr Key a{'A'};
+    constexpr Key b{'B'};
     struct Case {
         const char* rule;
         KeyTraits traits;
@@ -53,9 +54,17 @@ TEST(KeyUse, IsTheSameOnEveryDisplay) {
              {"a choice moves by the rules", combo, {Key::end}, KeyUse::rules},
              {"letters look for an item natively", combo, {a}, KeyUse::native},
              {"a current cell moves by the rules", grid, {.key = Key::home, .ctrl = true}, KeyUse::rules},
-             {"a table has no other keys", grid, {Key::f2}, KeyUse::native},
-             {"unless the screen looks at them", listeningGrid, {Key::f2}, KeyUse::overheard},
-             {"without Ctrl", listeningGrid, {.key = a, .ctrl = true}, KeyUse::native},
+             {"a row is edited by the rules", grid, {Key::f2}, KeyUse::rules},
+             {"and all rows marked", grid, {.key = a, .ctrl = true}, KeyUse::rules},
+             {"a table has no other keys", grid, {b}, KeyUse::native},
+             {"unless the screen looks at them", listeningGrid, {b}, KeyUse::overheard},
+             {"without Ctrl: copying is the display's",
+              listeningGrid,
+              {.key = b, .ctrl = true},
+              KeyUse::native},
+             {"F1 shows the keys, wherever the focus is", none, {Key::f1}, KeyUse::rules},
+             {"Ctrl+S saves", box, {.key = Key{'S'}, .ctrl = true}, KeyUse::rules},
+             {"an S is typed", box, {Key{'S'}}, KeyUse::native},
              {"a blank presses", button, {Key::space}, KeyUse::rules},
              {"arrows do not", button, {Key::down}, KeyUse::native},
          }) {
@@ -65,6 +74,8 @@ TEST(KeyUse, IsTheSameOnEveryDisplay) {
     EXPECT_TRUE(ui::actsOnce(button, Key::space));
     EXPECT_FALSE(ui::actsOnce(box, Key::space)) << "blanks are typed";
     EXPECT_FALSE(ui::actsOnce(grid, Key::down));
+    EXPECT_TRUE(ui::actsOnce(grid, Key::del)) << "one row at a time";
+    EXPECT_FALSE(ui::actsOnce(box, Key::del));
 }
 
 } // namespace

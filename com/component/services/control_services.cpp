@@ -14,7 +14,7 @@ namespace {
 
 class LateLocalizer final : public host::HostLocalizer {
 public:
-    void localize(const host::TlxVar& session, ui::Form& form) override {
+    void translate(const host::TlxVar& session, ui::Form& form) override {
         SessionRecord record(session);
         const Lent<FormObject> lent(form);
         object_.call(session, L"Localize", {record.argument(), lent.argument()});

@@ -1,8 +1,9 @@
 // The windows that are open, drawn as the session says. The topmost one can be used; the session
 // says which of its controls has the focus.
 import { isOverheard } from './keys.js';
-import { buildLayout } from './layout.js';
+import { buildLayout, nameTables } from './layout.js';
 import { createView } from './controls/index.js';
+import { newElementId } from './controls/view.js';
 import { StatusLine } from './status_line.js';
 import { text } from './texts.js';
 
@@ -88,6 +89,9 @@ export class Desktop {
   /** Text that does not come from a key: pasted, dictated, composed, or from a screen keyboard. */
   insert(inserted) {
     const view = this.focused;
+    if (view?.state.kind === 'grid' && view.state.editable) {
+      this.say({ type: 'paste', control: view.state.id, text: inserted });
+    }
     if (view?.state.kind !== 'text' || view.state.locked) return;
     if (!view.state.filtered) {
       view.type(inserted);
@@ -100,7 +104,9 @@ export class Desktop {
   sayKey(key) {
     if (!key.code) return;
     this.#saySelection();
-    this.say({ type: 'key', key: key.code, shift: Boolean(key.shift), ctrl: Boolean(key.ctrl), alt: Boolean(key.alt) });
+    // A column that is made wider or narrower begins at what is seen of it.
+    const width = (key.ctrl && this.focused?.columnWidth?.()) || undefined;
+    this.say({ type: 'key', key: key.code, shift: Boolean(key.shift), ctrl: Boolean(key.ctrl), alt: Boolean(key.alt), width });
   }
 
   sayCharacter(key) {
@@ -148,6 +154,7 @@ export class Desktop {
     content.append(buildLayout(layout, window.views));
     window.status = new StatusLine(() => this.perform(window, { type: 'statusAction' }));
     element.append(this.#titleBar(window), content, window.status.element);
+    nameTables(element.querySelector('h1'), window.views);
     this.#title(window, title);
     this.#windows.push(window);
     this.#root.append(element);
@@ -161,6 +168,7 @@ export class Desktop {
   #titleBar(window) {
     const bar = document.createElement('header');
     const heading = document.createElement('h1');
+    heading.id = newElementId();
     bar.append(heading);
     if (this.#windows.length > 0) {
       const close = document.createElement('button');

@@ -7,6 +7,7 @@ export class Keyboard {
   #input;
   #notices;
   #ctrlAlone = false;
+  #copiesHeadings = false;
 
   constructor(desktop, box, input, notices) {
     this.#desktop = desktop;
@@ -17,6 +18,7 @@ export class Keyboard {
     document.addEventListener('keyup', (event) => this.#up(event), true);
     document.addEventListener('beforeinput', (event) => this.#beforeInput(event), true);
     document.addEventListener('paste', (event) => this.#paste(event), true);
+    document.addEventListener('copy', (event) => this.#copy(event, this.#copiesHeadings), true);
     document.addEventListener('cut', (event) => {
       if (this.#input.busy) event.preventDefault();
     }, true);
@@ -43,9 +45,17 @@ export class Keyboard {
     }
     this.#ctrlAlone = false;
     if (key.name === 'Shift' || isComposed(event)) return;
+    if (key.ctrl && key.shift && key.name.toLowerCase() === 'c' && this.#copiesCells) {
+      // No browser copies by this key of itself.
+      event.preventDefault();
+      this.#copiesHeadings = true;
+      document.execCommand('copy');
+      this.#copiesHeadings = false;
+      return;
+    }
     if (this.#input.busy) {
-      if (isShortcut(key) && key.name.toLowerCase() !== 'a') return;
-      if (isFunctionKey(key) && key.name !== 'F4') return;
+      if (isShortcut(key) && !['a', 's'].includes(key.name.toLowerCase())) return;
+      if (isFunctionKey(key) && !['F1', 'F2', 'F4'].includes(key.name)) return;
       event.preventDefault();
       this.#input.perform(() => this.#replay(key));
       return;
@@ -112,8 +122,22 @@ export class Keyboard {
     }
   }
 
+  get #copiesCells() {
+    return !this.#box.shown && Boolean(this.#desktop.focused?.copied);
+  }
+
+  /** A grid has no selection that a browser could copy: what it shows as current or marked is copied. */
+  #copy(event, withHeadings) {
+    if (!this.#copiesCells) return;
+    const text = this.#desktop.focused.copied(withHeadings);
+    if (!text) return;
+    event.clipboardData.setData('text/plain', text);
+    event.preventDefault();
+  }
+
   #paste(event) {
-    if (this.#isFree(event.target)) return;
+    const kind = this.#desktop.viewOf(event.target)?.state.kind;
+    if (kind !== 'grid' && this.#isFree(event.target)) return;
     event.preventDefault();
     const text = event.clipboardData?.getData('text/plain') ?? '';
     if (text && !this.#notices.blocking && !this.#box.shown) this.#input.perform(() => this.#desktop.insert(text));

@@ -32,6 +32,15 @@ export function buildLayout(node, views) {
   return build({ children: [], ...node }, views);
 }
 
+/** Names the tables and lists that no label stands with: by the frame around them, or by the window. */
+export function nameTables(heading, views) {
+  for (const { element, focusElement, state } of views.values()) {
+    if (!['grid', 'list'].includes(state.kind) || focusElement.hasAttribute('aria-labelledby')) continue;
+    const legend = element.closest('fieldset:has(> legend:not([hidden]))')?.querySelector('legend');
+    focusElement.setAttribute('aria-labelledby', (legend ?? heading).id);
+  }
+}
+
 function build(node, views) {
   const complete = { children: [], ...node };
   const element = builders[complete.kind](complete, views);

@@ -65,7 +65,7 @@ private:
 
     PageChannel& page_;
     ui::DisplayErrors errors_{*this};
-    ui::Desktop desktop_{errors_};
+    ui::Desktop desktop_{errors_, *this};
     std::vector<Window> windows_; ///< the topmost last
     std::vector<int> closed_;     ///< windows that the page does not know to be closed
     std::optional<Question> question_;

@@ -86,6 +86,11 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     out["visibleRows"] = grid.visibleRows();
     out["reveal"] = grid.reveals();
     out["headings"] = static_cast<bool>(grid.onHeadingClick);
+    out["editable"] = static_cast<bool>(grid.onPaste);
+    out["block"] = nullptr;
+    if (const auto block = grid.block())
+        out["block"] = {block->first.row, block->first.column, block->last.row, block->last.column};
+    out["far"] = {grid.farEnd().row, grid.farEnd().column};
     out["editor"] = nullptr;
     if (const ui::TextBox* box = grid.cellEditor()) {
         out["editor"] = {{"control", box->id()}, {"row", grid.editedRow()}, {"column", grid.editedColumn()}};

@@ -42,8 +42,8 @@ std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& c
             return ui::SelectionEvent{box, message.start, message.length};
         return std::nullopt;
     case Kind::paste:
-        if (ui::TextBox* box = editableBox(control)) return ui::PasteEvent{box, message.text};
-        return std::nullopt;
+        if (editableBox(control) == nullptr && ui::as<ui::Grid>(&control) == nullptr) return std::nullopt;
+        return ui::PasteEvent{&control, message.text};
     case Kind::click:
         if (ui::as<ui::Button>(&control) == nullptr && ui::as<ui::CheckBox>(&control) == nullptr)
             return std::nullopt;
@@ -53,7 +53,7 @@ std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& c
         return ui::StepEvent{&control, message.up};
     case Kind::select:
         if (message.index >= countOf(control)) return std::nullopt;
-        return ui::SelectEvent{&control, message.index, message.column};
+        return ui::SelectEvent{&control, message.index, message.column, message.extends};
     case Kind::doubleClick:
         return ui::DoubleClickEvent{&control};
     case Kind::heading:
@@ -77,7 +77,7 @@ std::optional<ui::Event> controlEvent(const PageMessage& message, ui::Control& c
 std::optional<ui::Event> toEvent(const PageMessage& message, const ui::Form& form) {
     switch (message.kind) {
     case Kind::key:
-        return ui::KeyDownEvent{message.key};
+        return ui::KeyDownEvent{message.key, message.width};
     case Kind::pickKey:
         return ui::PickKeyEvent{};
     case Kind::character:

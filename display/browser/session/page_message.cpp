@@ -113,6 +113,7 @@ PageMessage parsePageMessage(std::string_view message) {
     case Kind::key:
         parsed.key = {static_cast<ui::Key>(integer(object, "key", 1, 255)), flag(object, "shift"),
                       flag(object, "ctrl"), flag(object, "alt")};
+        if (object.contains("width")) parsed.width = smallInteger(object, "width");
         break;
     case Kind::character:
     case Kind::accessKey:
@@ -135,6 +136,7 @@ PageMessage parsePageMessage(std::string_view message) {
     case Kind::select:
         parsed.index = smallInteger(object, "index");
         parsed.column = object.contains("column") ? smallInteger(object, "column") : 0;
+        parsed.extends = flag(object, "extends");
         break;
     case Kind::columnSized:
         parsed.column = smallInteger(object, "column");

@@ -56,7 +56,8 @@ struct PageMessage {
     int length = 0;
     int index = 0; ///< item, page or row
     int column = 0;
-    int width = 0; ///< of a column, in average characters; 0 to fit its texts
+    int width = 0; ///< of a column, in average characters; 0 to fit its texts, or not measured
+    bool extends = false; ///< it marks the cells of a grid up to that one
     bool up = false;
     int answer = 0;
     /// Which connection asked for the redrawing; set by the session.

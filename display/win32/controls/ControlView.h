@@ -94,6 +94,8 @@ public:
     virtual void closeList() {}
     /// The selection in a box, when the form does not know it yet.
     virtual std::optional<ui::Event> newSelection() { return std::nullopt; }
+    /// How wide the current column of a grid is shown, in average characters; 0 for all other controls.
+    virtual int columnWidth() const { return 0; }
     /// The native control has got the focus on behalf of the form.
     virtual void focusPlaced() {}
 

@@ -1,6 +1,7 @@
 #include "display/win32/controls/TextBoxView.h"
 
 #include "com/automation/wide.h"
+#include "display/win32/native/clipboard.h"
 #include "display/win32/native/shown_text.h"
 
 #include <algorithm>
@@ -11,21 +12,6 @@ namespace {
 
 constexpr wchar_t selectAllCharacter = 1; // Ctrl+A
 constexpr wchar_t undoCharacter = 26;     // Ctrl+Z
-
-/// The text on the clipboard, empty for none.
-std::wstring clipboardText(HWND window) {
-    std::wstring text;
-    if (!OpenClipboard(window)) return text;
-    if (HANDLE held = GetClipboardData(CF_UNICODETEXT)) {
-        if (const auto* start = static_cast<const wchar_t*>(GlobalLock(held))) {
-            // Whoever copied it need not have ended it.
-            text.assign(start, wcsnlen(start, GlobalSize(held) / sizeof(wchar_t)));
-            GlobalUnlock(held);
-        }
-    }
-    CloseClipboard();
-    return text;
-}
 
 } // namespace
 

@@ -2,6 +2,9 @@
 
 #include "com/automation/wide.h"
 #include "display/win32/grid/grid_painting.h"
+#include "display/win32/native/clipboard.h"
+#include "module/ui/controls/control_caption.h"
+#include "module/ui/input/grid_text.h"
 
 #include <algorithm>
 #include <utility>
@@ -46,7 +49,7 @@ void GridView::placeControl(const RECT& rect) {
     if (isAt(rect)) return;
     ControlView::placeControl(rect);
     fit();
-    if (geometry_.reveal(grid_.currentRow(), grid_.currentColumn())) showScrollBars();
+    if (geometry_.reveal(grid_.farEnd().row, grid_.farEnd().column)) showScrollBars();
     placeEditor();
 }
 
@@ -85,20 +88,21 @@ void GridView::showScrollBars() {
 void GridView::draw() {
     if (grid_.columnsDirty() || grid_.rowsDirty() || isNew()) fit();
     const bool reveals = grid_.reveals() || isNew();
-    if (reveals && geometry_.reveal(grid_.currentRow(), grid_.currentColumn())) showScrollBars();
+    if (reveals && geometry_.reveal(grid_.farEnd().row, grid_.farEnd().column)) showScrollBars();
     showCurrentCell();
     placeEditor();
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
 void GridView::showCurrentCell() {
-    std::wstring text;
+    std::string text = ui::spokenName(grid_);
     const auto column = static_cast<std::size_t>(grid_.currentColumn());
     if (grid_.currentRow() != ui::Grid::none && column < grid_.columns().size()) {
         const auto& row = grid_.rows()[static_cast<std::size_t>(grid_.currentRow())];
-        text = widen(grid_.columns()[column].caption + ": " + (column < row.size() ? row[column] : ""));
+        text += " " + std::to_string(grid_.currentRow() + 1) + "/" + std::to_string(grid_.rows().size()) +
+                ", " + grid_.columns()[column].caption + ": " + (column < row.size() ? row[column] : "");
     }
-    showText(text);
+    showText(widen(text));
 }
 
 void GridView::placeEditor() {
@@ -157,7 +161,28 @@ void GridView::leaveEdge() {
     tell(ui::ColumnSizedEvent{&grid_, column, geometry_.charactersIn(widthOf(cell))});
 }
 
-void GridView::pressed(POINT point, bool twice) {
+int GridView::columnWidth() const {
+    return geometry_.charactersIn(widthOf(geometry_.cell(-1, grid_.currentColumn())));
+}
+
+bool GridView::clipboardKey(WPARAM code) {
+    const auto held = [](int key) { return (GetKeyState(key) & 0x8000) != 0; };
+    if (!held(VK_CONTROL) || held(VK_MENU) || (code != 'C' && code != 'V')) return false;
+    code == 'C' ? copy(held(VK_SHIFT)) : paste();
+    return true;
+}
+
+void GridView::copy(bool withHeadings) {
+    const std::string text = ui::copiedCells(grid_, withHeadings);
+    if (!text.empty()) setClipboardText(handle(), widen(text));
+}
+
+void GridView::paste() {
+    const std::string text = narrow(clipboardText(handle()));
+    if (!text.empty()) tell(ui::PasteEvent{&grid_, text});
+}
+
+void GridView::pressed(POINT point, bool twice, bool extends) {
     if (takeEdge(point, twice)) return;
     const GridGeometry::Place cell = geometry_.at(point);
     if (grid_.onHeadingClick && point.y < geometry_.rowHeight() && cell.column >= 0) {
@@ -168,7 +193,7 @@ void GridView::pressed(POINT point, bool twice) {
         tell(ui::FocusEvent{&grid_});
         return;
     }
-    tell(ui::SelectEvent{&grid_, cell.row, cell.column});
+    tell(ui::SelectEvent{&grid_, cell.row, cell.column, extends});
     if (twice) tell(ui::DoubleClickEvent{&grid_});
 }
 
@@ -241,7 +266,7 @@ LRESULT GridView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 1;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        pressed(pointOf(lParam), message == WM_LBUTTONDBLCLK);
+        pressed(pointOf(lParam), message == WM_LBUTTONDBLCLK, (wParam & MK_SHIFT) != 0);
         return 0;
     case WM_MOUSEMOVE:
         if (pulled_ >= 0) pullEdge(pointOf(lParam));
@@ -274,6 +299,15 @@ LRESULT GridView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KILLFOCUS:
     case WM_ENABLE:
         InvalidateRect(handle(), nullptr, FALSE);
+        return 0;
+    case WM_KEYDOWN:
+        if (clipboardKey(wParam)) return 0;
+        break;
+    case WM_COPY:
+        copy(false);
+        return 0;
+    case WM_PASTE:
+        paste();
         return 0;
     case WM_GETDLGCODE:
         return DLGC_WANTALLKEYS;

@@ -21,7 +21,7 @@ const GridMessages& gridMessages();
 
 /// A table of texts with a current cell, in a window class of its own ("TellurixGrid"): the native
 /// list has no current cell. It draws the rows that are seen. Its window text, which screen readers
-/// say, is the current cell with its column.
+/// say, is its name, and the current cell with its row and column.
 class GridView final : public ControlView {
 public:
     GridView(ViewHost& host, ui::Grid& grid);
@@ -30,6 +30,7 @@ public:
     void placeControl(const RECT& rect) override;
     /// Puts the box that edits a cell over that cell.
     void placeEditor();
+    int columnWidth() const override;
 
 private:
     void draw() override;
@@ -38,7 +39,11 @@ private:
     void fit();
     void showScrollBars();
     void showCurrentCell();
-    void pressed(POINT point, bool twice);
+    void pressed(POINT point, bool twice, bool extends);
+    /// The native keys of a grid: copying and pasting. @return whether it was one
+    bool clipboardKey(WPARAM code);
+    void copy(bool withHeadings);
+    void paste();
     /// The user has taken the edge of a column, and moves it.
     bool takeEdge(POINT point, bool twice);
     void pullEdge(POINT point);

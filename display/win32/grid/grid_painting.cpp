@@ -57,16 +57,26 @@ private:
                                       : inverse       ? COLOR_HIGHLIGHTTEXT
                                       : current       ? COLOR_BTNTEXT
                                                       : COLOR_WINDOWTEXT));
+        const COLORREF ink = GetTextColor(dc_);
         const auto& texts = grid_.rows()[static_cast<std::size_t>(row)];
         for (int column = 0; column < columns(); ++column) {
             const RECT cell = geometry_.cell(row, column);
             if (cell.left == cell.right || cell.right < area.left || cell.left > area.right) continue;
+            const bool marked = isMarked({row, column});
+            if (marked) FillRect(dc_, &cell, GetSysColorBrush(COLOR_HIGHLIGHT));
+            SetTextColor(dc_, marked ? GetSysColor(COLOR_HIGHLIGHTTEXT) : ink);
             const auto index = static_cast<std::size_t>(column);
             if (index < texts.size()) paintText(cell, texts[index], columnAt(column).rightAligned);
             line({cell.right - 1, cell.top, cell.right, cell.bottom}, COLOR_3DLIGHT);
             if (inverse && column == grid_.currentColumn()) paintCurrentCell(cell);
         }
         line({whole.left, whole.bottom - 1, whole.right, whole.bottom}, COLOR_3DLIGHT);
+    }
+
+    bool isMarked(ui::Grid::Cell cell) const {
+        const auto block = grid_.block();
+        return block && cell.row >= block->first.row && cell.row <= block->last.row &&
+               cell.column >= block->first.column && cell.column <= block->last.column;
     }
 
     void paintText(RECT cell, const std::string& text, bool rightAligned) {

@@ -100,7 +100,9 @@ bool Keyboard::down(ControlView* view, WPARAM code, LPARAM details) {
     if (repeated && ui::actsOnce(ui::keyTraitsOf(controlOf(view)), key.key)) return true;
     const KeyUse use = useOf(view, key);
     if (use == KeyUse::rules && view != nullptr && view->hasOpenList()) view->closeList();
-    if (use == KeyUse::rules || use == KeyUse::overheard) tell_(view, ui::KeyDownEvent{key});
+    if (use == KeyUse::rules || use == KeyUse::overheard) {
+        tell_(view, ui::KeyDownEvent{key, view != nullptr && key.ctrl ? view->columnWidth() : 0});
+    }
     return use == KeyUse::rules || use == KeyUse::nobody;
 }
 

@@ -70,7 +70,9 @@ CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
              .save = &btnSpeichern1,
              .cancel = &btnAbbrechen1,
              .remove = &btnLoschen1},
-            {.inView = {&DataGridKalendar, &btnGenWeek}, .whileEdited = {&frmKalendar}},
+            {.inView = {&DataGridKalendar, &btnGenWeek},
+             .whileEdited = {&frmKalendar},
+             .rows = &DataGridKalendar},
             [this] { return weeks_.currentKey().has_value(); }) {
     connect();
 }

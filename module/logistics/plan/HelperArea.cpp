@@ -71,7 +71,9 @@ HelperArea::HelperArea(ui::Form& form, host::HostServices& services)
              .save = &btnSpeichern2,
              .cancel = &btnAbbrechen2,
              .remove = &btnLoschen2},
-            {.inView = {&txtFilter, &btnWaldhelfer, &btnAMB, &btnAWBMB, &btnSerienmail}, .onRow = {&btnXLS}},
+            {.inView = {&txtFilter, &btnWaldhelfer, &btnAMB, &btnAWBMB, &btnSerienmail},
+             .onRow = {&btnXLS},
+             .rows = &MSFG},
             [this] { return !helpers_.empty(); }) {
     connect();
 }

@@ -41,7 +41,8 @@ F_Bereitstellung_WVO::F_Bereitstellung_WVO(host::HostServices& services)
             {.inView = {&txtVertrag, &txtKalender, &txtWaldhelfer, &txtWHNummer, &chkOhneMeldung,
                         &btnFHPExport, &btnSchliesen},
              .onRow = {&btnExcel, &btnExcelAlles},
-             .whileEdited = {&btnAllezusagen}},
+             .whileEdited = {&btnAllezusagen},
+             .rows = &MSFG},
             [this] { return week_.chosen() && !table_.empty(); }) {
     txtKalenderTage.setLocked(true);
     pgbSpeichern.setVisible(false);

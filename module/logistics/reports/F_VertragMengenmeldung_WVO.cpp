@@ -33,7 +33,9 @@ F_VertragMengenmeldung_WVO::F_VertragMengenmeldung_WVO(host::HostServices& servi
            .nameOf = [](parts::KeyedRow& contract) { return contract.text(quantity_report::contractField); },
            .changed = [this] { showSums(); }}),
       mode_({.edit = &btnBearbeiten, .save = &btnSpeichern, .cancel = &btnAbbrechen},
-            {.inView = {&txtWaldhelfer, &btnExcel, &btnSchliesen}, .whileEdited = {&btnAllezusagen}},
+            {.inView = {&txtWaldhelfer, &btnExcel, &btnSchliesen},
+             .whileEdited = {&btnAllezusagen},
+             .rows = &MSFG},
             [this] { return !contracts_.empty(); }) {
     connect();
     arrange();

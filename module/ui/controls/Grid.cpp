@@ -7,6 +7,7 @@
 namespace tellurix::ui {
 
 void Grid::markRowsDirty() {
+    mark_.reset();
     rowsDirty_ = true;
     markDirty();
 }
@@ -22,6 +23,7 @@ void Grid::reveal() {
 
 void Grid::setColumns(std::vector<Column> columns) {
     columns_ = std::move(columns);
+    mark_.reset();
     columnsDirty_ = true;
     markDirty();
 }
@@ -81,7 +83,35 @@ void Grid::setCurrent(int row, int column) {
     const bool inside = row >= 0 && row < static_cast<int>(rows_.size());
     change(currentRow_, inside ? row : none);
     change(currentColumn_, std::clamp(column, 0, std::max(0, static_cast<int>(columns_.size()) - 1)));
+    mark_.reset();
     reveal();
+}
+
+std::optional<Grid::Block> Grid::block() const {
+    if (!mark_) return std::nullopt;
+    const auto& [from, to] = *mark_;
+    return Block{{std::min(from.row, to.row), std::min(from.column, to.column)},
+                 {std::max(from.row, to.row), std::max(from.column, to.column)}};
+}
+
+void Grid::extendTo(Cell far) {
+    if (currentRow_ == none) return;
+    const Cell begin = mark_ ? mark_->first : Cell{currentRow_, currentColumn_};
+    const int lastRow = static_cast<int>(rows_.size()) - 1;
+    const int lastColumn = static_cast<int>(columns_.size()) - 1;
+    mark_ = {begin, {std::clamp(far.row, 0, lastRow), std::clamp(far.column, 0, lastColumn)}};
+    reveal();
+}
+
+void Grid::markAll() {
+    if (rows_.empty() || columns_.empty()) return;
+    mark_ = {{0, 0}, {static_cast<int>(rows_.size()) - 1, static_cast<int>(columns_.size()) - 1}};
+    markDirty();
+}
+
+Button* Grid::pressedBy(Key key) const {
+    const auto found = std::ranges::find(buttons_, key, &std::pair<Key, Button*>::first);
+    return found == buttons_.end() ? nullptr : found->second;
 }
 
 void Grid::showCellEditor(TextBox& box, int row, int column) {

@@ -3,13 +3,21 @@
 #include "module/ui/controls/Control.h"
 #include "module/ui/controls/TextBox.h"
 
+#include <optional>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace tellurix::ui {
 
+class Button;
+
 /// A table of texts with a header row and a current cell. Rows and columns count from 0, the
 /// header not included.
+///
+/// The user can mark a block of cells, to be copied. It begins at a cell that stays, and its far end
+/// moves; the current cell is where it was. Whatever moves the current cell or changes which rows there
+/// are takes the mark away.
 class Grid final : public Control {
 public:
     static constexpr ControlKind ownKind = ControlKind::grid;
@@ -58,6 +66,30 @@ public:
     /// user has scrolled to. A row outside selects none.
     void setCurrent(int row, int column = 0);
 
+    struct Cell {
+        int row;
+        int column;
+        bool operator==(const Cell&) const = default;
+    };
+    /// The cells between two corners, both included.
+    struct Block {
+        Cell first;
+        Cell last;
+        bool operator==(const Block&) const = default;
+    };
+    std::optional<Block> block() const;
+    /// The end of the block that moves; without one the current cell.
+    Cell farEnd() const { return mark_ ? mark_->second : Cell{currentRow_, currentColumn_}; }
+    /// Marks the cells up to this one, from where the block begins or from the current cell on, and
+    /// brings its far end into sight. Without a current cell there is nothing to begin at.
+    void extendTo(Cell far);
+    void markAll();
+
+    /// In this grid, a key means a button: what Insert begins, F2 edits and Delete removes.
+    void pressOn(Key key, Button& button) { buttons_.emplace_back(key, &button); }
+    /// Null for a key that presses none.
+    Button* pressedBy(Key key) const;
+
     /// The box that floats over a cell while the cell is edited in place (see GridEditor), or null.
     /// A display draws it at the cell's place and size; it stands nowhere in the layout. The cell comes
     /// into sight before the box has the focus.
@@ -72,7 +104,7 @@ public:
     bool columnsDirty() const { return columnsDirty_; }
     bool rowsDirty() const { return rowsDirty_; }
     const std::set<int>& changedRows() const { return changedRows_; }
-    /// A display scrolls to the current cell when it draws this, and at no other change of the grid.
+    /// A display scrolls to `farEnd` when it draws this, and at no other change of the grid.
     bool reveals() const { return reveals_; }
     void drawn() override;
 
@@ -83,8 +115,10 @@ public:
     /// A click on the heading of a column, or Ctrl and Enter in it. Only where somebody is told do displays
     /// offer it.
     Handlers<void(int column)> onHeadingClick;
-    /// A character was typed while the grid had the focus.
-    Handlers<void(char32_t)> onKeyPress;
+    /// A character was typed while the grid had the focus. One that is not set to 0 looks for a row.
+    Handlers<void(char32_t&)> onKeyPress;
+    /// A block of a spreadsheet was pasted. Only where cells can be edited is somebody told.
+    Handlers<void(const std::string&)> onPaste;
     /// The user made a column wider or narrower.
     Handlers<void()> onColumnSized;
     /// The user scrolled while a cell was being edited, which ends with it; told at other times it means
@@ -101,6 +135,8 @@ private:
     int visibleRows_;
     int currentRow_ = none;
     int currentColumn_ = 0;
+    std::optional<std::pair<Cell, Cell>> mark_; ///< where the block begins, and its far end
+    std::vector<std::pair<Key, Button*>> buttons_;
     TextBox* cellEditor_ = nullptr;
     int editedRow_ = none;
     int editedColumn_ = 0;

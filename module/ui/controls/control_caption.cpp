@@ -1,5 +1,7 @@
 #include "module/ui/controls/control_caption.h"
 
+#include "module/ui/Form.h"
+#include "module/ui/controls/caption.h"
 #include "module/ui/controls/visit.h"
 
 #include <vector>
@@ -65,6 +67,18 @@ std::optional<std::string> captionText(const Control& control) {
             return std::nullopt;
         }
     });
+}
+
+std::string spokenName(const Control& control) {
+    if (const Label* label = control.form().labelOf(control)) return plainCaption(label->caption());
+    const bool several = control.kind() == ControlKind::tabs || control.kind() == ControlKind::grid;
+    if (std::string own = several ? "" : plainCaption(captionText(control).value_or("")); !own.empty())
+        return own;
+    for (const Control* around = control.container(); around != nullptr; around = around->container()) {
+        const Frame* frame = as<Frame>(around);
+        if (frame != nullptr && !frame->caption().empty()) return plainCaption(frame->caption());
+    }
+    return control.form().title();
 }
 
 void setCaptionText(Control& control, const std::string& text) {

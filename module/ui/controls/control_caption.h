@@ -15,6 +15,10 @@ const char* captionKind(const Control& control);
 /// that has none of its own.
 std::optional<std::string> captionText(const Control& control);
 
+/// What a control is called when it is spoken of: by the label that it stands with or by its own words; a
+/// table or a list without either by the frame around it or by the window.
+std::string spokenName(const Control& control);
+
 /// Replaces them. A text of another number of captions is for another version of the control and
 /// changes nothing.
 void setCaptionText(Control& control, const std::string& text);

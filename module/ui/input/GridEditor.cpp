@@ -2,6 +2,13 @@
 
 #include "module/base/text.h"
 #include "module/ui/Form.h"
+#include "module/ui/input/RefusedInput.h"
+#include "module/ui/input/control_keys.h"
+#include "module/ui/input/grid_keys.h"
+#include "module/ui/input/grid_text.h"
+
+#include <utility>
+#include <vector>
 
 namespace tellurix::ui {
 
@@ -13,18 +20,37 @@ GridEditor::GridEditor(Grid& grid, TextBox& box) : grid_(grid), box_(box) {
         return true;
     };
     grid_.onDoubleClick = [this] { openOnCurrentCell(); };
-    grid_.onKeyPress = [this](char32_t character) { openWith(character); };
+    grid_.onKeyPress = [this](char32_t& character) { openWith(character); };
+    grid_.onPaste = [this](const std::string& text) { paste(text); };
     grid_.onFocus = [this] { commit(); };
     grid_.onScroll = [this] {
         if (!open()) return;
         commit();
         grid_.form().setFocus(grid_);
     };
-    grid_.onKeyDown = [](KeyDown& key) {
+    grid_.onKeyDown = [this](KeyDown& key) { handleGridKey(key); };
+}
+
+void GridEditor::handleGridKey(KeyDown& key) {
+    if (key.shift || key.ctrl || key.alt) return;
+    const bool opens = key.key == Key::f2 || key.key == Key::del;
+    if (opens && prepareCurrentCell()) {
+        openOnCurrentCell();
+        if (key.key == Key::del) box_.erase(+1);
+    } else if (key.key == Key::enter) {
         // Enter on a grid counts as a double click elsewhere; here it would open the box by accident
         // right after the Enter that closed it.
-        if (key.key == Key::enter) key.key = Key::none;
-    };
+    } else if (key.key != Key::del || !editsAnything()) {
+        return;
+    }
+    key.key = Key::none;
+}
+
+bool GridEditor::editsAnything() const {
+    const int row = grid_.currentRow();
+    for (int column = 0; row != Grid::none && column < static_cast<int>(grid_.columns().size()); ++column)
+        if (canEdit(row, column)) return true;
+    return false;
 }
 
 bool GridEditor::prepareCurrentCell() {
@@ -42,13 +68,15 @@ void GridEditor::openOnCurrentCell() {
     showOver(row, column, grid_.cell(row, column));
 }
 
-void GridEditor::openWith(char32_t character) {
+void GridEditor::openWith(char32_t& character) {
     if (!prepareCurrentCell()) return;
     box_.setText("");
-    if (box_.onKeyPress) box_.onKeyPress(character);
-    if (character == 0) return;
+    const char32_t typed = std::exchange(character, 0);
+    char32_t filtered = typed;
+    if (box_.onKeyPress) box_.onKeyPress(filtered);
+    if (filtered == 0) return;
     showOver(grid_.currentRow(), grid_.currentColumn(), "");
-    box_.typeOver(base::encodeUtf8(character));
+    box_.typeOver(base::encodeUtf8(filtered));
 }
 
 void GridEditor::showOver(int row, int column, const std::string& text) {
@@ -68,6 +96,61 @@ void GridEditor::commit() {
         if (row < static_cast<int>(grid_.rows().size())) grid_.setCell(row, column, std::move(shown));
     }
     close();
+}
+
+void GridEditor::paste(const std::string& text) {
+    const std::vector<std::vector<std::string>> lines = pastedCells(text);
+    const Grid::Cell first{grid_.currentRow(), grid_.currentColumn()};
+    if (first.row == Grid::none || lines.empty()) return;
+    Grid::Cell cell = first;
+    Grid::Cell last = first;
+    for (const std::vector<std::string>& line : lines) {
+        cell.column = first.column;
+        bool full = cell.row >= static_cast<int>(grid_.rows().size());
+        for (const std::string& value : line) {
+            if (full) refusePasted(last, value, {base::OwnText::noRoomToPaste});
+            grid_.setCurrent(cell.row, cell.column);
+            pasteInto(cell, value);
+            last = cell;
+            cell.column = seenColumn(grid_, last.column, +1);
+            full = cell.column == last.column;
+        }
+        ++cell.row;
+    }
+    grid_.setCurrent(first.row, first.column);
+    grid_.extendTo(last);
+}
+
+void GridEditor::pasteInto(Grid::Cell cell, const std::string& value) {
+    if (!canEdit(cell.row, cell.column)) {
+        // A block that was copied here comes back with the cells between.
+        if (grid_.cell(cell.row, cell.column) == value) return;
+        refusePasted(cell, value, {base::OwnText::cellIsFixed});
+    }
+    if (prepare) prepare(box_, cell.column);
+    box_.show(grid_.cell(cell.row, cell.column));
+    box_.selectAll();
+    box_.erase(+1);
+    if (!typeText(box_, value)) refusePasted(cell, value, {base::OwnText::notTyped});
+    try {
+        std::string shown = write(cell.row, cell.column, box_.text());
+        if (cell.row < static_cast<int>(grid_.rows().size()))
+            grid_.setCell(cell.row, cell.column, std::move(shown));
+    } catch (const RefusedInput& refused) {
+        std::vector<base::Refused::Sentence> message = refused.sentences();
+        message.insert(message.begin(), placeOf(cell));
+        throw RefusedInput{grid_, std::move(message)};
+    }
+}
+
+base::Refused::Sentence GridEditor::placeOf(Grid::Cell cell) const {
+    return {base::OwnText::pastingStopped,
+            {std::to_string(cell.row + 1), grid_.columns()[static_cast<std::size_t>(cell.column)].caption}};
+}
+
+void GridEditor::refusePasted(Grid::Cell cell, const std::string& value, base::Refused::Sentence reason) {
+    reason.values.push_back(value);
+    throw RefusedInput{grid_, {placeOf(cell), std::move(reason)}};
 }
 
 void GridEditor::close() {

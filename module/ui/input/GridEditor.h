@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/Refused.h"
 #include "module/ui/controls/Grid.h"
 
 #include <functional>
@@ -9,12 +10,16 @@ namespace tellurix::ui {
 
 /// Lets the user edit cells of a grid in place, in one text box that floats over the cell.
 ///
-/// A double click on a cell that can be edited opens the box with the cell's text; a character typed
-/// on it opens the box with that character in place of the text. In the box, Enter writes and goes
+/// A double click or F2 on a cell that can be edited opens the box with the cell's text; a character typed
+/// on it opens the box with that character in place of the text, Delete opens it empty. Delete on another
+/// cell does nothing as long as any cell of the row can be edited. In the box, Enter writes and goes
 /// back to the grid, Esc goes back without writing, Up and Down write and go to the row above or
 /// below as far as there is one, Tab writes and goes on behind the grid. Leaving the box, going back
 /// to the grid and scrolling write as well. A text that nobody touched is not written; what was typed
 /// is, even where the cell shows the same: it may show fewer decimals than the value has.
+///
+/// A pasted block fills the cells from the current one on, each as if it were typed and written. The first
+/// one that is not taken ends it; the message names its cell, which is the current one then.
 class GridEditor {
 public:
     /// @param box a text box of the same form that stands nowhere in its layout; its key filter
@@ -37,10 +42,18 @@ private:
     /// Whether the current cell can be edited; then the box takes what belongs into it.
     bool prepareCurrentCell();
     void openOnCurrentCell();
-    void openWith(char32_t character);
+    /// @param character 0 afterwards where the cell can be edited
+    void openWith(char32_t& character);
     void showOver(int row, int column, const std::string& text);
     void commit();
     void handleKey(KeyDown& key);
+    void handleGridKey(KeyDown& key);
+    bool editsAnything() const;
+    void paste(const std::string& text);
+    void pasteInto(Grid::Cell cell, const std::string& value);
+    base::Refused::Sentence placeOf(Grid::Cell cell) const;
+    /// @param reason gets the value as its last one
+    [[noreturn]] void refusePasted(Grid::Cell cell, const std::string& value, base::Refused::Sentence reason);
     void goToRow(int row);
 
     Grid& grid_;

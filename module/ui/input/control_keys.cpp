@@ -1,5 +1,6 @@
 #include "module/ui/input/control_keys.h"
 
+#include "module/base/text.h"
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/ListBox.h"
@@ -18,7 +19,19 @@ ItemList* asItemList(Control* control) {
     return as<ListBox>(control);
 }
 
-/// The index that a navigation key leads to in a list of `count` entries, or -1 for an empty one.
+void erase(TextBox& box, Key key) {
+    if (!box.changeable() || (key != Key::backspace && key != Key::del)) return;
+    if (box.erase(key == Key::backspace ? -1 : +1)) box.onChange();
+}
+
+void moveInTabs(Tabs& tabs, Key key) {
+    const int last = static_cast<int>(tabs.captions().size()) - 1;
+    const int step = key == Key::right ? 1 : key == Key::left ? -1 : 0;
+    choose(tabs, std::clamp(tabs.selected() + step, 0, last));
+}
+
+} // namespace
+
 int movedIndex(Key key, int current, int count, int page) {
     if (count == 0) return -1;
     switch (key) {
@@ -39,42 +52,16 @@ int movedIndex(Key key, int current, int count, int page) {
     }
 }
 
-/// Whether a key leads through a list or a table.
 bool navigates(Key key) {
     return key >= Key::pageUp && key <= Key::down;
 }
 
-void erase(TextBox& box, Key key) {
-    if (!box.changeable() || (key != Key::backspace && key != Key::del)) return;
-    if (box.erase(key == Key::backspace ? -1 : +1)) box.onChange();
-}
-
-void moveInGrid(Grid& grid, Key key) {
-    const int rows = static_cast<int>(grid.rows().size());
-    const int lastColumn = static_cast<int>(grid.columns().size()) - 1;
-    int column = grid.currentColumn();
-    if (key == Key::left) column = std::max(column - 1, 0);
-    if (key == Key::right) column = std::min(column + 1, lastColumn);
-    const int row = movedIndex(key, grid.currentRow(), rows, grid.visibleRows());
-    const bool stays = row == grid.currentRow() && column == grid.currentColumn();
-    // A key that leads nowhere still brings the current cell back that was scrolled away.
-    if (stays && navigates(key)) grid.setCurrent(row, column);
-    choose(grid, row, column);
-}
-
-void moveInTabs(Tabs& tabs, Key key) {
-    const int last = static_cast<int>(tabs.captions().size()) - 1;
-    const int step = key == Key::right ? 1 : key == Key::left ? -1 : 0;
-    choose(tabs, std::clamp(tabs.selected() + step, 0, last));
-}
-
-} // namespace
-
 void choose(Control& control, int index, int column) {
     if (Grid* grid = as<Grid>(&control)) {
-        if (index == grid->currentRow() && column == grid->currentColumn()) return;
+        const bool another = index != grid->currentRow() || column != grid->currentColumn();
+        if (!another && !grid->block()) return;
         grid->setCurrent(index, column);
-        grid->onCurrentChange();
+        if (another) grid->onCurrentChange();
     } else if (ItemList* list = asItemList(&control)) {
         if (index == list->selected()) return;
         list->select(index);
@@ -89,8 +76,6 @@ void choose(Control& control, int index, int column) {
 void applyKey(Control& control, Key key) {
     if (TextBox* box = as<TextBox>(&control)) {
         erase(*box, key);
-    } else if (Grid* grid = as<Grid>(&control)) {
-        moveInGrid(*grid, key);
     } else if (ItemList* list = asItemList(&control)) {
         const int count = static_cast<int>(list->items().size());
         choose(*list, movedIndex(key, list->selected(), count, list->pageSize()));
@@ -100,6 +85,34 @@ void applyKey(Control& control, Key key) {
         if (key == Key::up) upDown->onUp();
         if (key == Key::down) upDown->onDown();
     }
+}
+
+bool typeCharacter(TextBox& box, char32_t character) {
+    if (box.onKeyPress) box.onKeyPress(character);
+    if (character == 0 || !box.typeOver(base::encodeUtf8(character))) return false;
+    box.onChange();
+    return true;
+}
+
+bool typeText(TextBox& box, const std::string& text) {
+    std::u32string characters = base::decodeUtf8(box.onPaste ? box.onPaste(text) : text);
+    bool whole = std::erase_if(characters, [&box](char32_t c) { return !box.takes(c); }) == 0;
+    const std::string all = base::encodeUtf8(characters);
+    bool changed = false;
+    if (!box.onKeyPress) {
+        const std::string wanted = box.textAfterTyping(all);
+        changed = box.typeOver(all);
+        whole &= box.text() == wanted;
+    } else {
+        for (char32_t character : characters) {
+            box.onKeyPress(character);
+            const bool came = character != 0 && box.typeOver(base::encodeUtf8(character));
+            changed |= came;
+            whole &= came;
+        }
+    }
+    if (changed) box.onChange();
+    return whole;
 }
 
 } // namespace tellurix::ui

@@ -17,6 +17,9 @@ class TextBox;
 /// A key went down.
 struct KeyDownEvent {
     KeyDown key;
+    /// In a grid and with Ctrl held: how wide its current column is shown, in average characters. 0 where
+    /// nobody has measured it; then it is as wide as it says.
+    int columnWidth = 0;
 };
 /// Ctrl was pressed and released, and nothing else was done between.
 struct PickKeyEvent {};
@@ -45,9 +48,9 @@ struct SelectionEvent {
     int start = 0;
     int length = 0;
 };
-/// Text pasted at the selection of a box.
+/// Text pasted at the selection of a box, or from the current cell of a grid on.
 struct PasteEvent {
-    TextBox* box = nullptr;
+    Control* control = nullptr;
     std::string text;
 };
 /// A click on a button or check box.
@@ -64,6 +67,7 @@ struct SelectEvent {
     Control* control = nullptr;
     int index = 0; ///< item, page, or row
     int column = 0;
+    bool extends = false; ///< with Shift held: marks the cells of a grid up to that one
 };
 struct DoubleClickEvent {
     Control* control = nullptr;

@@ -13,7 +13,7 @@ namespace tellurix::ui {
 namespace {
 
 /// Keys that go the same way.
-enum class Keys { space, sideways, upOrDown, toAnEnd, page, erasing, insert, every };
+enum class Keys { space, sideways, upOrDown, toAnEnd, page, erasing, insert, edit, all, every };
 enum class When { always, silent, withCtrl, listening, severalLines, locked };
 
 struct Row {
@@ -24,7 +24,7 @@ struct Row {
 };
 
 /// The first row that fits counts. Without one the key is the native control's.
-constexpr std::array<Row, 29> keyTable{{
+constexpr std::array<Row, 31> keyTable{{
     {ControlKind::button, Keys::space, When::always, KeyUse::rules},
     {ControlKind::checkBox, Keys::space, When::always, KeyUse::rules},
     {ControlKind::tabs, Keys::sideways, When::always, KeyUse::rules},
@@ -43,6 +43,9 @@ constexpr std::array<Row, 29> keyTable{{
     {ControlKind::grid, Keys::toAnEnd, When::always, KeyUse::rules},
     {ControlKind::grid, Keys::erasing, When::always, KeyUse::rules},
     {ControlKind::grid, Keys::insert, When::always, KeyUse::rules},
+    {ControlKind::grid, Keys::edit, When::always, KeyUse::rules},
+    {ControlKind::grid, Keys::all, When::withCtrl, KeyUse::rules},
+    // Copying and pasting.
     {ControlKind::grid, Keys::every, When::withCtrl, KeyUse::native},
     {ControlKind::grid, Keys::every, When::listening, KeyUse::overheard},
 
@@ -77,6 +80,10 @@ bool isAmong(Key key, Keys keys) {
         return key == Key::backspace || key == Key::del;
     case Keys::insert:
         return key == Key::insert;
+    case Keys::edit:
+        return key == Key::f2;
+    case Keys::all:
+        return key == Key{'A'};
     case Keys::every:
         return true;
     }
@@ -118,7 +125,8 @@ KeyUse keyUse(const KeyTraits& traits, const KeyDown& key) {
     if (key.key == Key::none || key.alt) return KeyUse::native;
     // Opens a list, as everywhere; in a box it is the picker.
     if (key.key == Key::f4) return traits.kind == ControlKind::comboBox ? KeyUse::native : KeyUse::rules;
-    if (key.key == Key::enter || key.key == Key::escape) return KeyUse::rules;
+    if (key.key == Key::enter || key.key == Key::escape || key.key == Key::f1) return KeyUse::rules;
+    if (key.key == Key{'S'} && key.ctrl) return KeyUse::rules;
     if (key.key == Key::tab) return key.ctrl ? KeyUse::nobody : KeyUse::rules;
     const auto row = std::ranges::find_if(keyTable, [&](const Row& candidate) {
         return candidate.kind == traits.kind && isAmong(key.key, candidate.keys) &&
@@ -128,14 +136,16 @@ KeyUse keyUse(const KeyTraits& traits, const KeyDown& key) {
 }
 
 bool actsOnce(const KeyTraits& traits, Key key) {
-    if (key == Key::enter || key == Key::escape || key == Key::f4) return true;
+    if (key == Key::enter || key == Key::escape || key == Key::f1 || key == Key::f4) return true;
+    // A row is gone at once, and another one begun.
+    if (traits.kind == ControlKind::grid && (key == Key::del || key == Key::insert)) return true;
     return key == Key::space && traits.kind != ControlKind::textBox;
 }
 
 KeyUse characterUse(const Control& control) {
     if (const TextBox* box = as<TextBox>(&control))
         return box->filtered() && !box->locked() ? KeyUse::rules : KeyUse::native;
-    if (const Grid* grid = as<Grid>(&control)) return grid->onKeyPress ? KeyUse::rules : KeyUse::nobody;
+    if (as<Grid>(&control) != nullptr) return KeyUse::rules;
     // Letters look for the item that begins with them.
     const bool isList = as<ComboBox>(&control) != nullptr || as<ListBox>(&control) != nullptr;
     return isList ? KeyUse::native : KeyUse::nobody;

@@ -45,16 +45,12 @@ void ChoiceList::show(std::vector<Choice> choices, std::vector<std::string> chos
 
 void ChoiceList::keyDown(ui::KeyDown& key) {
     if (key.ctrl || key.alt) return;
-    const auto code = static_cast<int>(key.key);
     if (key.key == ui::Key::space) {
         key.key = ui::Key::none;
         toggle();
     } else if (key.key == ui::Key::enter) {
         key.key = ui::Key::none;
         if (onEnter) onEnter();
-    } else if ((code >= 'A' && code <= 'Z') || (code >= '0' && code <= '9')) {
-        goTo(key.key);
-        key.key = ui::Key::none;
     }
 }
 
@@ -68,17 +64,6 @@ void ChoiceList::toggle() {
     }
     drawMarks();
     if (onChange) onChange();
-}
-
-void ChoiceList::goTo(ui::Key letter) {
-    const int count = static_cast<int>(grid_.rows().size());
-    for (int step = 1; step <= count; ++step) {
-        const int row = (grid_.currentRow() + step) % count;
-        const std::string code = base::toUpper(grid_.cell(row, codeColumn));
-        if (code.empty() || code.front() != static_cast<char>(letter)) continue;
-        grid_.setCurrent(row, codeColumn);
-        return;
-    }
 }
 
 void ChoiceList::drawMarks() {

@@ -10,7 +10,7 @@
 namespace tellurix::standin {
 
 /// Makes a grid a list of codes of which several can be marked: Space or a double click marks the
-/// current one or takes the mark away, a letter or digit goes to the next code that starts with it.
+/// current one or takes the mark away.
 ///
 /// A marked code that is no longer offered stands in the list too, with a note: it stays chosen
 /// until the user takes the mark away.
@@ -39,7 +39,6 @@ public:
 private:
     void keyDown(ui::KeyDown& key);
     void toggle();
-    void goTo(ui::Key letter);
     void drawMarks();
 
     ui::Grid& grid_;

@@ -45,6 +45,7 @@ F_Calendar::F_Calendar(std::string title, Date start, Date today, const base::Lo
 
 void F_Calendar::connect(Date today) {
     grdDays.onKeyDown = [this](ui::KeyDown& key) { handleKey(key); };
+    grdDays.onKeyPress = [](char32_t& character) { character = 0; }; // no week begins with a letter
     grdDays.onCurrentChange = [this] { goToCell(); };
     grdDays.onDoubleClick = [this] {
         if (grdDays.currentRow() != ui::Grid::none) choose(day_);

@@ -5,6 +5,7 @@
 #include "standin/services/texts/words.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tellurix::standin {
 
@@ -46,7 +47,7 @@ F_MultiSelection::F_MultiSelection(std::string title, List list, Words words,
     connectSearch(txtSearch, grdList, [this] { setFocus(grdList); });
     chkMarked.onClick = [this] { narrow(); };
     grdList.onKeyDown = [this](ui::KeyDown& key) { listKeyDown(key); };
-    grdList.onKeyPress = [this](char32_t character) { searchOn(character); };
+    grdList.onKeyPress = [this](char32_t& character) { searchOn(std::exchange(character, 0)); };
     grdList.onDoubleClick = [this] { toggle(); };
     btnMarkFound.onClick = [this] { markFound(true); };
     btnUnmarkFound.onClick = [this] { markFound(false); };

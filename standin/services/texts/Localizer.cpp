@@ -30,7 +30,7 @@ std::string Localizer::translated(const host::TlxVar& session, const std::string
     return design == design_.end() ? shown : design->second;
 }
 
-void Localizer::localize(const host::TlxVar& session, ui::Form& form) {
+void Localizer::translate(const host::TlxVar& session, ui::Form& form) {
     const CaptionKeys keys{form.name()};
     form.setTitle(translated(session, keys.title(), form.title()));
     for (ui::Control* control : form.controls()) {

@@ -16,7 +16,7 @@ class Localizer final : public host::HostLocalizer {
 public:
     explicit Localizer(const TextCatalogue& catalogue) : catalogue_(catalogue) {}
 
-    void localize(const host::TlxVar& session, ui::Form& form) override;
+    void translate(const host::TlxVar& session, ui::Form& form) override;
     std::string text(int number, const host::TlxVar& session) override;
     /// A text of the services' own.
     std::string named(std::string_view key, const host::TlxVar& session) const;

@@ -10,7 +10,8 @@ function read(file) {
   const steps = [];
   readFileSync(file, 'utf8').split('\n').forEach((text, index) => {
     const found = [...text.matchAll(/#.*|"([^"]*)"|(\S+)/g)].filter(([whole]) => !whole.startsWith('#'));
-    const words = found.map(([, quoted, plain]) => ({ text: quoted ?? plain, quoted: quoted !== undefined }));
+    const meant = (quoted) => quoted?.replaceAll('\\t', '\t').replaceAll('\\n', '\n');
+    const words = found.map(([, quoted, plain]) => ({ text: meant(quoted) ?? plain, quoted: quoted !== undefined }));
     if (words.length === 0) return;
     const [{ text: verb }, ...rest] = words;
     const add = (...step) => steps.push({ line: index + 1, verb: step[0], words: step.slice(1) });
@@ -79,7 +80,9 @@ class Player {
   }
 
   async paste([name, { text }]) {
-    await this.#over(name.text);
+    // A click into a grid would go to another cell.
+    if (await this.#control(name).getAttribute('role') !== 'grid') await this.#over(name.text);
+    else await hasFocus(this.page, name.text);
     await this.page.evaluate((pasted) => navigator.clipboard.writeText(pasted), text);
     await this.page.keyboard.press('Control+v');
   }
@@ -102,6 +105,11 @@ class Player {
       const line = this.page.locator('.window:not(.behind) > .status [role=status]');
       const shown = () => (name.text === 'status' ? line.textContent() : this.#error(rest[0]));
       await until(async () => { const now = await shown(); return now === wanted || now; }, name.text);
+      return;
+    }
+    if (name.text === 'clipboard') {
+      const text = (await this.page.evaluate(() => navigator.clipboard.readText())).replaceAll('\r\n', '\n');
+      if (text !== wanted) throw new Error(`it holds "${text}"`);
       return;
     }
     const found = this.#control(name);

@@ -2,6 +2,7 @@
 //     play_on_windows SCENARIO DATABASE
 #include "com/automation/AutomationError.h"
 #include "com/automation/wide.h"
+#include "module/base/text.h"
 #include "standin/windows_host/HostSession.h"
 #include "standin/windows_host/libraries.h"
 #include "tests/scenarios/Scenario.h"
@@ -30,6 +31,18 @@ void goOver(WindowsUser& user, const Step& step) {
     user.click(usable(user, step));
     if (user.focused() != step.word(0)) throw ScenarioError{step, "it does not get the focus"};
     user.key({.key = static_cast<ui::Key>('A'), .ctrl = true});
+}
+
+/// With "\n" for line ends.
+std::string onClipboard() {
+    if (!OpenClipboard(nullptr)) throw std::runtime_error{"the clipboard is in use"};
+    std::string text;
+    if (HANDLE held = GetClipboardData(CF_UNICODETEXT)) {
+        text = windows::narrow(static_cast<const wchar_t*>(GlobalLock(held)));
+        GlobalUnlock(held);
+    }
+    CloseClipboard();
+    return base::replaceAll(text, "\r\n", "\n");
 }
 
 void putOnClipboard(const std::string& text) {
@@ -67,7 +80,8 @@ void select(WindowsUser& user, const Step& step) {
 }
 
 void paste(WindowsUser& user, const Step& step) {
-    goOver(user, step);
+    // A click into a grid would go to another cell.
+    if (!WindowsUser::isGrid(user.control(step.word(0)))) goOver(user, step);
     putOnClipboard(step.word(1));
     user.key({.key = static_cast<ui::Key>('V'), .ctrl = true});
 }
@@ -86,6 +100,10 @@ void expectError(WindowsUser& user, const Step& step) {
 }
 
 void expect(WindowsUser& user, const Step& step) {
+    if (step.word(0) == "clipboard") {
+        if (onClipboard() != step.word(1)) throw ScenarioError{step, "it holds \"" + onClipboard() + "\""};
+        return;
+    }
     const bool focus = step.word(0) == "focus";
     if (step.word(0) == "error") return expectError(user, step);
     if (!focus && !step.quoted(1)) return expectCells(user.control(step.word(0)), step);

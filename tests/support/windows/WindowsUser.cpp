@@ -152,6 +152,10 @@ std::string WindowsUser::errorOf(HWND control) {
     return search.found == nullptr ? std::string{} : windows::narrow(windowText(search.found));
 }
 
+bool WindowsUser::isGrid(HWND control) {
+    return classOf(control) == L"TellurixGrid";
+}
+
 std::vector<std::string> WindowsUser::rowOf(HWND grid, int row) {
     static const UINT cellText = RegisterWindowMessageW(L"Tellurix.CellText");
     std::array<wchar_t, 256> text{};

@@ -48,6 +48,7 @@ public:
     /// A click on the first column of a grid's row, or two quick ones.
     /// @throws std::runtime_error when there is no such row
     void clickRow(HWND grid, int row, bool twice);
+    static bool isGrid(HWND control);
     void close();
     /// Chooses the entry of a list that can be folded down. @return false when it has none like that
     bool choose(HWND list, const std::string& entry);

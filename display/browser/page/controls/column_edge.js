@@ -3,6 +3,21 @@
 
 const fitting = 0;
 
+/** The average width of a character where the columns of a grid are measured, in pixels. */
+export function characterWidth(grid) {
+  const probe = document.createElement('span');
+  probe.className = 'hundred-characters';
+  grid.append(probe);
+  const width = probe.offsetWidth / 100;
+  probe.remove();
+  return width;
+}
+
+/** How many of them a heading of that width has room for. */
+export function charactersIn(width, grid) {
+  return Math.max(1, Math.round(width / characterWidth(grid)) - 2);
+}
+
 export class ColumnEdge {
   #cell;
   #listener;
@@ -47,20 +62,14 @@ export class ColumnEdge {
     const width = this.#width(event);
     const moved = event.clientX !== this.#pulledFrom.x;
     this.#pulledFrom = null;
-    if (moved) this.#listener.sized(Math.max(1, Math.round(width / this.#character()) - 2));
+    if (moved) this.#listener.sized(charactersIn(width, this.#grid));
   }
 
   #width(event) {
-    return Math.max(3 * this.#character(), this.#pulledFrom.width + event.clientX - this.#pulledFrom.x);
+    return Math.max(3 * characterWidth(this.#grid), this.#pulledFrom.width + event.clientX - this.#pulledFrom.x);
   }
 
-  /** The average width of a character where the columns are measured, in pixels. */
-  #character() {
-    const probe = document.createElement('span');
-    probe.className = 'hundred-characters';
-    this.#cell.closest('.grid').append(probe);
-    const width = probe.offsetWidth / 100;
-    probe.remove();
-    return width;
+  get #grid() {
+    return this.#cell.closest('.grid');
   }
 }

@@ -2,7 +2,8 @@
 // them, and the current one, which screen readers are told about wherever it is: so that a changed cell
 // in a long table costs no more than in a short one. Rows have a fixed height, which gives each its
 // place and the whole its height to scroll.
-import { ColumnEdge } from './column_edge.js';
+import { copiedCells } from '../grid_text.js';
+import { charactersIn, ColumnEdge } from './column_edge.js';
 import { newElementId, View } from './view.js';
 
 const orders = ['none', 'ascending', 'descending'];
@@ -23,6 +24,7 @@ export class Grid extends View {
     element.classList.add('grid', 'scrolls');
     element.tabIndex = 0;
     element.setAttribute('role', 'grid');
+    element.setAttribute('aria-multiselectable', 'true');
     this.#head.className = 'grid-head';
     this.#head.setAttribute('role', 'row');
     // Screen readers are told about the header row as the first.
@@ -57,6 +59,8 @@ export class Grid extends View {
     const wanted = this.#wanted();
     if (!this.state.editor) this.#removeEditor();
     this.#drawRows(wanted);
+    if (changes.block || before.block) for (const [index, row] of this.#rows) this.#markCells(row, index);
+    if (changes.editable !== before.editable) this.element.setAttribute('aria-readonly', !this.state.editable);
     for (const [index, texts] of changes.changedRows ?? []) this.#takeRow(index, texts);
     this.#drawCurrent();
     if (this.state.editor) this.#drawEditor(this.state.editor);
@@ -64,6 +68,17 @@ export class Grid extends View {
 
   shown() {
     this.#resized();
+  }
+
+  /** What copying takes. */
+  copied(withHeadings) {
+    return copiedCells(this.state, withHeadings);
+  }
+
+  /** How wide the current column is shown, in average characters. */
+  columnWidth() {
+    const heading = this.#heading(this.state.current[1]);
+    return heading ? charactersIn(heading.offsetWidth, this.element) : 0;
   }
 
   #drawColumns() {
@@ -165,7 +180,22 @@ export class Grid extends View {
       row.append(cell);
     });
     this.#fill(row, this.state.content[index]);
+    if (this.state.block) this.#markCells(row, index);
     return row;
+  }
+
+  #markCells(row, index) {
+    const [first, from, last, to] = this.state.block ?? [0, 0, -1, -1];
+    for (const cell of row.children) {
+      const marked = index >= first && index <= last && cell.dataset.column >= from && cell.dataset.column <= to;
+      cell.classList.toggle('marked', marked);
+      if (marked) cell.setAttribute('aria-selected', 'true');
+      else cell.removeAttribute('aria-selected');
+    }
+  }
+
+  #heading(column) {
+    return this.#head.querySelector(`[data-column="${column}"]`);
   }
 
   #fill(row, texts) {
@@ -223,9 +253,9 @@ export class Grid extends View {
     return this.#head.offsetHeight;
   }
 
-  /** Scrolls as far as needed to the current row; the header covers the first row's place. */
+  /** Scrolls as far as needed to the cell; the header covers the first row's place. */
   #reveal() {
-    const [row] = this.state.current;
+    const [row, column] = this.state.far;
     const height = this.#rowHeight;
     if (row < 0 || height === 0) return;
     const top = row * height;
@@ -233,6 +263,13 @@ export class Grid extends View {
     if (this.element.scrollTop > top) this.element.scrollTop = top;
     else if (this.element.scrollTop < bottom) this.element.scrollTop = bottom;
     this.#scrolledTo = this.element.scrollTop;
+    const heading = this.#heading(column);
+    if (!heading || this.element.scrollWidth <= this.element.clientWidth) return;
+    const { offsetLeft, offsetWidth } = heading;
+    if (offsetLeft + offsetWidth > this.element.scrollLeft + this.element.clientWidth) {
+      this.element.scrollLeft = offsetLeft + offsetWidth - this.element.clientWidth;
+    }
+    if (offsetLeft < this.element.scrollLeft) this.element.scrollLeft = offsetLeft;
   }
 
   #resized() {
@@ -249,7 +286,10 @@ export class Grid extends View {
     if (!cell) return;
     event.preventDefault();
     if (!this.usable) return;
-    this.perform({ type: 'select', index: Number(cell.parentElement.dataset.row), column: Number(cell.dataset.column) });
+    const { parentElement, dataset } = cell;
+    this.perform({
+      type: 'select', index: Number(parentElement.dataset.row), column: Number(dataset.column), extends: event.shiftKey,
+    });
   }
 
   #scrolled() {

@@ -1,6 +1,6 @@
 // The controls that only show something.
 import { showCaption } from '../caption.js';
-import { View } from './view.js';
+import { newElementId, View } from './view.js';
 
 export class Label extends View {
   #named = null;
@@ -31,6 +31,7 @@ export class Frame extends View {
     this.content = document.createElement('div');
     this.content.className = 'column';
     this.element.className = 'control frame';
+    this.#legend.id = newElementId();
     this.element.append(this.#legend, this.content);
   }
 

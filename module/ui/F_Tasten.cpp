@@ -1,0 +1,92 @@
+#include "module/ui/F_Tasten.h"
+
+#include "module/base/text.h"
+#include "module/ui/controls/TextBox.h"
+#include "module/ui/controls/caption.h"
+#include "module/ui/controls/control_caption.h"
+
+#include <algorithm>
+
+namespace tellurix::ui {
+
+using base::OwnText;
+
+F_Tasten::F_Tasten(const Form& window) : Form("F_Tasten") {
+    setLanguage(window.language());
+    setTitle(base::ownText(OwnText::keysOf, language(), {window.title()}));
+    const auto heading = [this](OwnText text, int width) {
+        return Grid::Column{.caption = base::ownText(text, language()), .width = width};
+    };
+    grdTasten.setColumns({heading(OwnText::keyHeading, 26), heading(OwnText::effectHeading, 64)});
+    btnSchliessen.setCaption(base::ownText(OwnText::close, language()));
+    btnSchliessen.onClick = [this] { unload(); };
+    setCancelButton(btnSchliessen);
+    setLayout(column({Layout{grdTasten}.growing(), row({btnSchliessen})}));
+
+    add(OwnText::keyGoOn);
+    std::vector<const Grid*> grids;
+    bool presses = false;
+    for (const Control* control : window.controls()) {
+        if (!control->showing()) continue;
+        if (const Grid* grid = as<Grid>(control)) grids.push_back(grid);
+        presses |= control->kind() == ControlKind::button || control->kind() == ControlKind::checkBox;
+        addControl(*control);
+    }
+    if (presses) add(OwnText::keyPressOrTick);
+    if (const Button* save = window.saveButton()) add(OwnText::keySave, {plainCaption(save->caption())});
+    if (const Button* cancel = window.cancelButton()) {
+        add(OwnText::keyCancel, {plainCaption(cancel->caption())});
+    } else {
+        add(OwnText::keyCloses);
+    }
+    addGrids(grids);
+    add(OwnText::keyThese);
+    grdTasten.setRows(std::move(rows_));
+    grdTasten.setCurrent(0);
+}
+
+void F_Tasten::add(OwnText text, const std::vector<std::string>& values) {
+    const std::string line = base::ownText(text, language(), values);
+    const std::size_t tab = line.find('\t');
+    rows_.push_back({line.substr(0, tab), line.substr(tab + 1)});
+}
+
+void F_Tasten::addControl(const Control& control) {
+    const bool marksNone = control.kind() == ControlKind::grid || control.kind() == ControlKind::tabs;
+    const std::string caption = marksNone ? "" : captionText(control).value_or("");
+    if (const char32_t key = accessKeyOf(caption); key != 0)
+        add(OwnText::keyAccess, {base::encodeUtf8(key), plainCaption(caption)});
+    const TextBox* box = as<TextBox>(&control);
+    if (box == nullptr || box->locked()) return;
+    if (box->onPick) add(OwnText::keyPick, {spokenName(control)});
+    if (box->lines() > 1) add(OwnText::keyLineEnd, {spokenName(control)});
+}
+
+void F_Tasten::addGrids(const std::vector<const Grid*>& grids) {
+    if (grids.empty()) return;
+    const auto any = [&grids](const auto& has) { return std::ranges::any_of(grids, has); };
+    add(OwnText::keyGridMove);
+    add(OwnText::keyGridEnds);
+    add(OwnText::keyGridLetters);
+    const bool cells = any([](const Grid* grid) { return static_cast<bool>(grid->onPaste); });
+    if (any([](const Grid* grid) { return grid->onDoubleClick && !grid->onPaste; }))
+        add(OwnText::keyGridEnter);
+    for (const Grid* grid : grids) {
+        for (const auto& [key, text] :
+             {std::pair{Key::insert, OwnText::keyGridInsert}, std::pair{Key::f2, OwnText::keyGridEdit},
+              std::pair{Key::del, OwnText::keyGridDelete}}) {
+            if (const Button* button = grid->pressedBy(key)) add(text, {plainCaption(button->caption())});
+        }
+    }
+    if (cells) {
+        add(OwnText::keyGridCell);
+        add(OwnText::keyGridPaste);
+    }
+    add(OwnText::keyGridBlock);
+    add(OwnText::keyGridCopy);
+    if (any([](const Grid* grid) { return static_cast<bool>(grid->onHeadingClick); }))
+        add(OwnText::keyGridSort);
+    add(OwnText::keyGridWidth);
+}
+
+} // namespace tellurix::ui
