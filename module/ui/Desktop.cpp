@@ -29,6 +29,11 @@ bool editable(const TextBox* box) {
     return box != nullptr && box->changeable();
 }
 
+/// Whether a key makes a character that can be part of a text; those of other signs have no code.
+bool isTyped(Key key) {
+    return key == Key::none || key == Key::space || (key >= Key{'0'} && key <= Key{'Z'});
+}
+
 /// Whether a click, Space and its access key press it.
 bool isPressed(const Control& control) {
     return as<Button>(&control) != nullptr || as<CheckBox>(&control) != nullptr;
@@ -127,8 +132,10 @@ void Desktop::pick(Form& form, Control& control) {
 void Desktop::handle(Form& form, const KeyDownEvent& event) {
     KeyDown key = event.key;
     Control* control = form.focused();
+    if (!isTyped(key.key)) search_.forget();
     if (control != nullptr && control->onKeyDown) {
         control->onKeyDown(key);
+        if (key.key != event.key.key) search_.forget();
         if (key.key == Key::none || !form.loaded()) return;
     }
     if (windowKey(form, key) || control == nullptr) return;

@@ -107,7 +107,10 @@ void HeadlessDisplay::perform(const Step& step) {
         {"click", [](HeadlessDisplay& display, const Step& s) { display.click(s); }},
         {"select", [](HeadlessDisplay& display, const Step& s) { display.select(s); }},
         {"doubleClick",
-         [](HeadlessDisplay& display, const Step& s) { display.user_.doubleClick(s.word(0)); }},
+         [](HeadlessDisplay& display, const Step& s) {
+             display.selectRow(s);
+             display.user_.doubleClick(s.word(0));
+         }},
         {"paste",
          [](HeadlessDisplay& display, const Step& s) {
              display.user_.focus(s.word(0));

@@ -243,6 +243,9 @@ TEST_F(GridRules, LettersGoToTheRowThatBeginsWithThem) {
     work([&](User& user) {
         user.type("ta");
         EXPECT_EQ(stock.at(), "1/1");
+        user.key(Key::up);
+        user.type("f");
+        EXPECT_EQ(stock.at(), "2/1") << "behind another key it is a first letter";
         stock.grid.setCurrent(0, 2);
         stock.editing = true;
         user.type("7");

@@ -99,9 +99,7 @@ int RowSearch::typed(const Grid& grid, char32_t character, Clock::time_point now
     for (int column = 0; column <= lastColumn(grid); ++column)
         columns.push_back(column);
     for (const int column : columns) {
-        // A column without a heading marks rows, and says nothing about them.
-        if (!isSeen(grid, column) || grid.columns()[static_cast<std::size_t>(column)].caption.empty())
-            continue;
+        if (!isSeen(grid, column)) continue;
         if (const int row = rowBeginning(grid, column, beginning, first); row != Grid::none) return row;
     }
     // A blank may have been meant for the row.

@@ -26,6 +26,8 @@ public:
     /// The same letter again goes on to the next row, more letters stay as long as the row fits.
     /// @return the row, `Grid::none` when none begins so
     int typed(const Grid& grid, char32_t character, Clock::time_point now);
+    /// What is typed next begins a new search: another key has done something meanwhile.
+    void forget() { typed_.clear(); }
 
 private:
     const Grid* grid_ = nullptr; ///< only compared

@@ -247,7 +247,7 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
 
     await control(page, 'grdLines').focus();
     await hasFocus('grdLines');
-    await press('End', 'ArrowUp', 'Enter');
+    await press('Control+End', 'ArrowUp', 'Enter');
     await state('Zeile 599');
     await press('F2');
     await state('F2 in Zeile 599');
