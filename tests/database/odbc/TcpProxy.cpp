@@ -24,11 +24,12 @@ sockaddr_in loopback(std::uint16_t port) {
 }
 
 /// @return false at the connection's end
-bool passOn(int from, int to, std::atomic<std::int64_t>& bytes) {
+bool passOn(int from, int to, std::atomic<std::int64_t>& bytes, const std::atomic<bool>& swallowing) {
     std::array<char, 65536> part{};
     const ssize_t count = ::recv(from, part.data(), part.size(), 0);
     if (count <= 0) return false;
     bytes += count;
+    if (swallowing) return true;
     for (ssize_t sent = 0; sent < count;) {
         const ssize_t now =
             ::send(to, part.data() + sent, static_cast<std::size_t>(count - sent), MSG_NOSIGNAL);
@@ -89,11 +90,11 @@ void TcpProxy::pass(int client, int server, const std::shared_ptr<Counts>& count
         if (waiting[0].revents != 0) {
             if (!serversTurn) ++counts->roundTrips;
             serversTurn = true;
-            if (!passOn(client, server, counts->bytes)) return;
+            if (!passOn(client, server, counts->bytes, counts->swallowing)) return;
         }
         if (waiting[1].revents != 0) {
             serversTurn = false;
-            if (!passOn(server, client, counts->bytes)) return;
+            if (!passOn(server, client, counts->bytes, counts->swallowing)) return;
         }
     }
 }

@@ -23,12 +23,16 @@ public:
 
     /// Ends every connection that there is; new ones are let through.
     void cut();
+    /// From now on takes what comes and passes nothing on, on connections that are there and on new ones.
+    void swallow() { counts_->swallowing = true; }
+    void passAgain() { counts_->swallowing = false; }
 
 private:
     struct Counts {
         std::atomic<std::int64_t> roundTrips{0};
         std::atomic<std::int64_t> bytes{0};
         std::atomic<int> generation{0};
+        std::atomic<bool> swallowing{false};
         std::atomic<bool> ended{false};
     };
 

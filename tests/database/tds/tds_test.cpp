@@ -1,12 +1,13 @@
 // The driver for T-SQL servers, on the embedded database behind their protocol: what the statement files do
 // not reach.
 
+#include "database/odbc/Database.h"
 #include "tests/database/embedded/EmbeddedTest.h"
-#include "tests/database/tds/server_of_environment.h"
+#include "tests/database/odbc/TcpProxy.h"
+#include "tests/database/tds/TdsServer.h"
 
-#include <arpa/inet.h>
-#include <sys/socket.h>
-#include <unistd.h>
+#include <chrono>
+#include <thread>
 
 namespace tellurix::odbc {
 namespace {
@@ -89,24 +90,53 @@ TEST_F(TdsDriver, RowsAreEditedByKeyAlsoWhereTheSessionDoesNotCount) {
               "other: The row of T that was being edited is no longer there");
 }
 
-TEST(TdsServerThatSaysNothing, IsGivenUpAfterTheLoginTime) {
-    const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof(address);
-    ASSERT_EQ(::bind(listener, reinterpret_cast<sockaddr*>(&address), size), 0);
-    ASSERT_EQ(::listen(listener, 1), 0);
-    ::getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size);
-    const auto start = std::chrono::steady_clock::now();
-    const Source source =
-        Source::parse("SERVER=127.0.0.1;UID=u;PWD=geheim;PORT=" + std::to_string(ntohs(address.sin_port)));
-    const std::string failure =
-        failureOf([&] { Database(source, {.loginTime = std::chrono::seconds{1}}).connect(); });
-    EXPECT_TRUE(failure.starts_with("connection: The database server cannot be reached")) << failure;
-    EXPECT_EQ(failure.find("geheim"), std::string::npos);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{10});
-    ::close(listener);
+TEST_F(TdsDriver, ALostConnectionIsToldByAWriteAndMadeAnewByTheNextStatement) {
+    const tests::TdsServer server{file(), clock(), {.create = true}};
+    tests::TcpProxy proxy{server.port()};
+    const auto connection =
+        Database{Source::parse("SERVER=127.0.0.1;DATABASE=test;UID=test;PWD=geheim;PORT=" +
+                               std::to_string(proxy.port()))}
+            .connect();
+    connection->execute("CREATE TABLE L (ID int IDENTITY(1,1) PRIMARY KEY, N int)");
+    const auto lose = [&] {
+        proxy.cut();
+        std::this_thread::sleep_for(std::chrono::milliseconds{100});
+    };
+    lose();
+    const std::string failure = failureOf([&] { connection->execute("INSERT INTO L (N) VALUES (1)"); });
+    EXPECT_TRUE(failure.starts_with("connection: The connection to the database server was lost; whether"))
+        << failure;
+    connection->execute("INSERT INTO L (N) VALUES (2)");
+    lose();
+    EXPECT_EQ(answer(*connection, "SELECT N FROM L"), "2");
+    const auto row = connection->openUpdatable("SELECT N FROM L");
+    row->setField("N", std::int64_t{3});
+    lose();
+    // What is compared is read anew; then the row is written.
+    row->update();
+    EXPECT_EQ(answer(*connection, "SELECT N FROM L"), "3");
+    lose();
+    EXPECT_TRUE(
+        failureOf([&] { connection->execute("SET NOCOUNT ON SELECT 1"); }).starts_with("connection: "));
+    EXPECT_EQ(answer(*connection, "SELECT CAST('31.12.2024' AS datetime)"), "2024-12-31");
+}
+
+TEST_F(TdsDriver, ANetworkThatSwallowsEverythingIsGivenUpAfterItsTime) {
+    const tests::TdsServer server{file(), clock(), {.create = true}};
+    tests::TcpProxy proxy{server.port()};
+    const Database database{
+        Source::parse("SERVER=127.0.0.1;UID=test;PWD=geheim;PORT=" + std::to_string(proxy.port())),
+        {.loginTime = std::chrono::seconds{1}, .answerTime = std::chrono::seconds{1}}};
+    const auto connection = database.connect();
+    proxy.swallow();
+    const std::string failure = failureOf([&] { connection->execute("CREATE TABLE S (N int)"); });
+    EXPECT_TRUE(failure.starts_with("connection: The connection to the database server was lost; whether"))
+        << failure;
+    const std::string refused = failureOf([&] { answer(*connection, "SELECT 1"); });
+    EXPECT_TRUE(refused.starts_with("connection: ")) << refused;
+    EXPECT_EQ(refused.find("geheim"), std::string::npos);
+    proxy.passAgain();
+    EXPECT_EQ(answer(*connection, "SELECT 1"), "1");
 }
 
 } // namespace
