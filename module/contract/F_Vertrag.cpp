@@ -12,6 +12,7 @@
 #include "module/host/text_numbers.h"
 #include "module/logistics/plan/F_Vertrag_WVO.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/grid_layout.h"
 
 namespace tellurix::contract {
 
@@ -115,7 +116,9 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     setTitle(strCaption + " (" + name_ + ")");
     showDeductionModel();
     loadFlags();
+    parts::GridLayouts layouts{services_, session_, *this};
     services_.display.showModal(*this);
+    layouts.keep();
 }
 
 void F_Vertrag::SetContractField(const std::string& column, const std::string& value, std::int32_t contract) {
@@ -153,6 +156,13 @@ void F_Vertrag::CopyGrid(const ui::Grid& source, ui::Grid& target) {
     // The column that marks the current line says nothing in an overview.
     for (ui::Grid::Column& column : columns)
         column.visible = column.visible && !column.caption.empty();
+    // As wide as the user has made it here, not there.
+    if (columns.size() == target.columns().size()) {
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            columns[i].width = target.columns()[i].width;
+            columns[i].sized = target.columns()[i].sized;
+        }
+    }
     target.setColumns(std::move(columns));
     target.setRows(source.rows());
 }

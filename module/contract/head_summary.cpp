@@ -55,7 +55,7 @@ std::vector<std::string> headSummary(const parts::OpenContract& contract) {
     }
     for (std::size_t i = 0; i < captions.numbers.size(); ++i) {
         const base::Value number = header->field("NUMM" + std::to_string(i + 1));
-        add(caption(captions.numbers[i]), base::numberText(number, "0.00", contract.services->locale));
+        add(caption(captions.numbers[i]), base::numberText(number, "##,##0.00", contract.services->locale));
     }
     return summary;
 }

@@ -2,6 +2,7 @@
 
 #include "module/base/date_format.h"
 #include "module/base/number_format.h"
+#include "module/parts/grid_layout.h"
 
 namespace tellurix::lines {
 
@@ -45,7 +46,7 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
                         log.species, log.sort, number(log.measured) + " " + log.measuredIn,
                         number(log.quantity)});
     }
-    grdHolz.setRows(std::move(rows));
+    sorting_.show(std::move(rows));
 
     const auto inUnit = [&](const Decimal& value) {
         return unit.empty() ? number(value) : number(value) + " " + unit;
@@ -59,7 +60,10 @@ void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const
         lstFrueher.add(text(claim.logs == 1 ? OwnText::oneLogClaimed : OwnText::logsClaimed,
                             {std::to_string(claim.place), std::to_string(claim.logs)}));
     }
+    parts::GridLayouts layouts{services_, session_, *this};
+    sorting_.takeOrder();
     services_.display.showModal(*this);
+    layouts.keep();
 }
 
 } // namespace tellurix::lines

@@ -8,6 +8,7 @@
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/Label.h"
 #include "module/ui/controls/ListBox.h"
+#include "module/ui/input/TextSorting.h"
 
 #include <string>
 
@@ -34,6 +35,7 @@ private:
 
     ui::Label lblZeile{*this, "lblZeile"};
     ui::Grid grdHolz{*this, "grdHolz", 14};
+    ui::TextSorting sorting_{grdHolz, services_.locale};
     ui::Label lblSumme{*this, "lblSumme"};
     ui::Label lblFrueher{*this, "lblFrueher"};
     ui::ListBox lstFrueher{*this, "lstFrueher", 60, 4};

@@ -3,6 +3,7 @@
 #include "module/base/Refused.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/grid_layout.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
 
@@ -129,7 +130,9 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     txtBEZEICHNUNG.setMaxLength(services_.columnWidth.of(session_, kind_.table, "BEZEICHNUNG"));
     showCurrentLine();
     mode_.enter(State::view);
+    parts::GridLayouts layouts{services_, session_, *this};
     services_.display.showModal(*this);
+    layouts.keep();
 }
 
 void LineEditor::loadUnits() {

@@ -112,10 +112,10 @@ void PriceChange::preview() {
     for (const Line& line : lines_) {
         std::string before;
         std::string after;
-        if (line.price) before = base::formatNumber(*line.price, "0.00##", locale_);
+        if (line.price) before = base::formatNumber(*line.price, "##,##0.00##", locale_);
         if (line.price && by) {
             try {
-                after = base::formatNumber(changedPrice(*line.price, *by, kind()), "0.00", locale_);
+                after = base::formatNumber(changedPrice(*line.price, *by, kind()), "##,##0.00", locale_);
             } catch (const std::out_of_range&) {
                 after = base::ownText(base::OwnText::priceTooLarge, contract_.session.language);
             }

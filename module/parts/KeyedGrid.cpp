@@ -38,23 +38,31 @@ void KeyedGrid::setColumns(std::vector<Column> columns) {
                          .rightAligned = column.rightAligned,
                          .visible = !column.hidden});
     grid_.setColumns(std::move(shown));
-    sorting_.reset();
     if (std::ranges::find(columns_, true, &Column::sorts) == columns_.end()) return;
     grid_.onHeadingClick = [this](int column) {
         if (!columns_.at(static_cast<std::size_t>(column)).sorts) return;
-        sortBy(column, sorting_ && sorting_->column == column && !sorting_->descending);
+        const auto now = sorting();
+        sortBy(column, now && now->column == column && !now->descending);
     };
 }
 
 void KeyedGrid::sortBy(int column, bool descending) {
-    sorting_ = {column, descending};
     grid_.markOrder(column, descending ? ui::Grid::Order::descending : ui::Grid::Order::ascending);
     drawRows(currentKey());
 }
 
-bool KeyedGrid::comesBefore(std::size_t row, std::size_t other) {
-    const Column& column = columns_[static_cast<std::size_t>(sorting_->column)];
-    const auto [first, second] = sorting_->descending ? std::pair{other, row} : std::pair{row, other};
+std::optional<KeyedGrid::Sorting> KeyedGrid::sorting() const {
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const ui::Grid::Order order = grid_.columns().at(i).order;
+        if (columns_[i].sorts && order != ui::Grid::Order::none)
+            return Sorting{static_cast<int>(i), order == ui::Grid::Order::descending};
+    }
+    return std::nullopt;
+}
+
+bool KeyedGrid::comesBefore(const Sorting& sorting, std::size_t row, std::size_t other) {
+    const Column& column = columns_[static_cast<std::size_t>(sorting.column)];
+    const auto [first, second] = sorting.descending ? std::pair{other, row} : std::pair{row, other};
     if (column.shown || column.field.empty())
         return base::toUpper(cellText(rows_[first], column)) < base::toUpper(cellText(rows_[second], column));
     return lessThan(rows_[first].field(column.field), rows_[second].field(column.field));
@@ -104,9 +112,9 @@ void KeyedGrid::drawRows(std::optional<std::int64_t> current) {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (!condition_ || condition_(rows_[i])) seen_.push_back(i);
     }
-    if (sorting_) {
+    if (const auto by = sorting()) {
         std::ranges::stable_sort(
-            seen_, [this](std::size_t row, std::size_t other) { return comesBefore(row, other); });
+            seen_, [this, &by](std::size_t row, std::size_t other) { return comesBefore(*by, row, other); });
     }
     for (const std::size_t row : seen_)
         cells.push_back(cellsOf(rows_[row]));

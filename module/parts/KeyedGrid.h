@@ -56,8 +56,11 @@ public:
     void showOnly(std::function<bool(KeyedRow&)> condition);
 
     /// Orders the rows that are seen, from now on, by the values of a column: what is empty first, numbers
-    /// by their size, texts without regard to capital letters.
+    /// by their size, texts without regard to capital letters. The order is the one that the grid's columns
+    /// are marked with.
     void sortBy(int column, bool descending);
+    /// Orders the rows as the columns are marked, after somebody else has marked them.
+    void takeOrder() { drawRows(currentKey()); }
 
     int rowCount() const { return static_cast<int>(seen_.size()); }
     bool empty() const { return rows_.empty(); }
@@ -97,7 +100,12 @@ public:
 
 private:
     std::string cellText(KeyedRow& row, const Column& column) const;
-    bool comesBefore(std::size_t row, std::size_t other);
+    struct Sorting {
+        int column;
+        bool descending;
+    };
+    std::optional<Sorting> sorting() const;
+    bool comesBefore(const Sorting& sorting, std::size_t row, std::size_t other);
     void drawRow(int row);
     void drawRows(std::optional<std::int64_t> current);
     ui::Grid::Row cellsOf(KeyedRow& row) const;
@@ -107,11 +115,6 @@ private:
     std::vector<Column> columns_;
     std::vector<KeyedRow> rows_;
     std::function<bool(KeyedRow&)> condition_;
-    struct Sorting {
-        int column;
-        bool descending;
-    };
-    std::optional<Sorting> sorting_;
     std::vector<std::size_t> seen_; ///< beside the rows of the grid: which of the rows they are
 };
 

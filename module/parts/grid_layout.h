@@ -1,8 +1,11 @@
 #pragma once
 
 #include "module/host/services.h"
+#include "module/ui/Form.h"
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tellurix::parts {
 
@@ -10,5 +13,22 @@ namespace tellurix::parts {
 /// cannot be kept are reported, and are no failure of the call.
 void keepLayout(host::HostServices& services, const host::TlxVar& session, const ui::Grid& grid,
                 const std::string& key);
+
+/// The grids of a form as the user wants them, each under the names of form and grid: "F_Start.grdContracts".
+/// They are shown so from the beginning, and what the user changes is kept. A store that fails is reported;
+/// the grids are as they are then.
+class GridLayouts {
+public:
+    /// @param session has to live as long; the columns of all grids are there
+    GridLayouts(host::HostServices& services, const host::TlxVar& session, const ui::Form& form);
+
+    /// Keeps those that are others than when they were shown or kept last.
+    void keep();
+
+private:
+    host::HostServices& services_;
+    const host::TlxVar& session_;
+    std::vector<std::pair<ui::Grid*, std::vector<ui::Grid::Column>>> grids_;
+};
 
 } // namespace tellurix::parts

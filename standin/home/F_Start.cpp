@@ -79,6 +79,9 @@ void F_Start::connect() {
     btnProvisionReports.onClick = [this] { opener_.openProvisionReports(chosenKind()); };
     btnQuantityReports.onClick = [this] { opener_.openQuantityReports(chosenKind()); };
     services_.moduleService().onNotification = [this](const Notification&) { showNotifications(); };
+    // At once, because the window of a browser goes without being closed.
+    grdContracts.onColumnSized = [this] { layouts_->keep(); };
+    grdContracts.onHeadingClick.after([this](int) { layouts_->keep(); });
 }
 
 void F_Start::connectPeriod(ui::TextBox& box) {
@@ -106,7 +109,10 @@ void F_Start::Run() {
     services_.localizer().localize(session_, *this);
     reload();
     showNotifications();
+    layouts_.emplace(services_.host(), session_, *this);
+    contracts_.takeOrder();
     services_.host().display.showModal(*this);
+    layouts_->keep();
 }
 
 void F_Start::fillLists() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/parts/KeyedGrid.h"
+#include "module/parts/grid_layout.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"
@@ -13,6 +14,7 @@
 #include "standin/services/WorkbenchServices.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace tellurix::standin {
@@ -96,7 +98,8 @@ private:
     ui::Grid grdNotifications{*this, "grdNotifications", 4};
 
     parts::KeyedGrid contracts_{grdContracts};
-    bool more_ = false; ///< there are more contracts than are listed
+    std::optional<parts::GridLayouts> layouts_; ///< while it is shown
+    bool more_ = false;                         ///< there are more contracts than are listed
 };
 
 } // namespace tellurix::standin

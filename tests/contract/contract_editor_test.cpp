@@ -1,6 +1,8 @@
 #include "tests/support/ContractTest.h"
 #include "tests/support/EarlierVisit.h"
 
+#include <algorithm>
+
 namespace tellurix::tests {
 namespace {
 
@@ -87,8 +89,8 @@ TEST_F(ContractEditor, TheSummaryNamesEachFieldAndLeavesOutTheEmptyOnes) {
                 "Text 3390: Bringung bei Frost\nText 3391: Waldort Abteilung 7\n"
                 "Text 3392: Schlagruhe im April\nText 3393: Reisig bleibt liegen\n"
                 "Text 3394: Haftung beim Käufer\nText 4172: 1,01\nText 4173: 20,02\nText 4174: 300,03\n"
-                "Text 4175: 4000,04\nText 4176: 50000,05\nText 4177: 6,06\nText 4178: 70,07\n"
-                "Text 4179: 800,08\nText 4180: 9000,09\nText 4181: 10000,10\n"
+                "Text 4175: 4.000,04\nText 4176: 50.000,05\nText 4177: 6,06\nText 4178: 70,07\n"
+                "Text 4179: 800,08\nText 4180: 9.000,09\nText 4181: 10.000,10\n"
                 "Stockkauf Bauernwald|Stockkauf nach Hieb|Grenzen bezeichnet|Kaution hinterlegt|Zöhrer Karl");
             user.close();
         },
@@ -432,6 +434,34 @@ TEST_F(ContractEditor, AContractWithAnApostropheInItsNameOpensWithoutADeductionM
         EXPECT_FALSE(user.control<ui::Label>("lblOhneAbschlag").visible());
         user.close();
     });
+}
+
+TEST_F(ContractEditor, ARowOfTheOverviewsIsTheWayToItsScreenAndKeepsItsOwnWidths) {
+    host.display.onWindow("F_Vertrag", [&](User& user) {
+        host.layouts.clear();
+        user.focus("Grid1");
+        ui::Grid& overview = user.grid("Grid1");
+        overview.sizeColumn(1, 20);
+        user.select("Grid1", 1, 1);
+        user.key(Key::enter);
+        EXPECT_EQ(overview.columns()[1].width, 20) << "the lines' own table is not as wide";
+        user.select("Grid2", 2, 1);
+        user.doubleClick("Grid2");
+        user.focus("List1");
+        user.key(Key::enter);
+        user.click("btnAbbrechen");
+    });
+    for (const auto& [form, row] : {std::pair{"F_VertragPreise", 1}, std::pair{"F_VertragMengen", 2}})
+        host.display.onWindow(form, [row = row](User& user) {
+            EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), row);
+            user.close();
+        });
+    host.display.onWindow("F_HeaderVertrag", [](User& user) { user.close(); });
+    host.openContract(1);
+    EXPECT_EQ(std::ranges::count(host.layouts, "save/Grid1/F_Vertrag.Grid1"), 1);
+    EXPECT_EQ(std::ranges::count(host.layouts, "save/Grid2/F_Vertrag.Grid2"), 0) << "nobody has changed it";
+    EXPECT_EQ(std::ranges::count(host.layouts, "restore/MSFlexGrid1/F_VertragPreise.MSFlexGrid1"), 1)
+        << "only where it is shown";
 }
 
 TEST_F(ContractEditor, TheHeaderIsShownAgainAfterItWasEdited) {

@@ -2,6 +2,7 @@
 #include "module/ui/controls/Button.h"
 #include "module/ui/input/GridEditor.h"
 #include "module/ui/input/RefusedInput.h"
+#include "module/ui/input/TextSorting.h"
 #include "module/ui/input/grid_keys.h"
 #include "module/ui/input/grid_text.h"
 #include "module/ui/input/number_box.h"
@@ -296,6 +297,36 @@ TEST_F(GridRules, CtrlAndArrowsSizeTheCurrentColumn) {
     });
     ui::applyGridKey(stock.grid, {{.key = Key::left, .ctrl = true}, 20});
     EXPECT_EQ(stock.grid.columns()[1].width, 19) << "from what is seen of it";
+}
+
+TEST_F(GridRules, AHeadingOrdersTextsByWhatTheyMean) {
+    ui::TextSorting sorting{stock.grid, base::Locale::german()};
+    sorting.show({{"", "tanne", "12,50", "", "05.01.2026"},
+                  {"", "Buche", "-3,00", "", "31.12.2025"},
+                  {"", "Ahorn", "", "", "ab Werk"},
+                  {"", "Buche", "1.250,00", "", ""}});
+    struct Case {
+        const char* rule;
+        int column;
+        const char* origins;
+    };
+    work([&](User& user) {
+        user.select("grid", 3, 1);
+        for (const Case& c :
+             {Case{"texts, capitals or not; equal ones as they were", 1, "2130"},
+              Case{"the other way", 1, "0312"}, Case{"numbers; what is empty comes first", 2, "2103"},
+              Case{"not all are dates: as texts", 4, "3012"}}) {
+            user.clickHeading("grid", c.column);
+            std::string origins;
+            for (int row = 0; row < 4; ++row)
+                origins += std::to_string(sorting.originOf(row));
+            EXPECT_EQ(origins, c.origins) << c.rule;
+            EXPECT_EQ(stock.grid.cell(stock.grid.currentRow(), 2), "1.250,00")
+                << "the row stays the current one";
+        }
+        sorting.show({{"", "a", "", "", "05.01.2026"}, {"", "b", "", "", "31.12.2025"}});
+        EXPECT_EQ(sorting.originOf(0), 1u) << "dates, and other rows keep the order";
+    });
 }
 
 TEST_F(GridRules, CtrlSSavesAndF1ShowsTheKeysOfTheWindow) {

@@ -15,11 +15,25 @@ const ui::Grid::Column& columnOf(const GridObject& grid, const CallArguments& ar
     return grid.target().columns()[columnNumber(grid, arguments)];
 }
 
+/// 0 for a column that the rows are not ordered by, 1 upwards, -1 downwards.
+ui::Grid::Order orderOf(std::int32_t number) {
+    return number == 0  ? ui::Grid::Order::none
+           : number > 0 ? ui::Grid::Order::ascending
+                        : ui::Grid::Order::descending;
+}
+
+std::int32_t numberOf(ui::Grid::Order order) {
+    return order == ui::Grid::Order::none ? 0 : order == ui::Grid::Order::ascending ? 1 : -1;
+}
+
 void setColumn(GridObject& grid, const CallArguments& arguments) {
     std::vector<ui::Grid::Column> columns = grid.target().columns();
     ui::Grid::Column& column = columns[columnNumber(grid, arguments)];
     column.width = arguments[1].integer();
     column.visible = arguments[2].flag();
+    // A library that keeps widths alone need not know of the rest.
+    if (arguments.has(3)) column.sized = arguments[3].flag();
+    if (arguments.has(4)) column.order = orderOf(arguments[4].integer());
     grid.target().setColumns(std::move(columns));
 }
 
@@ -39,6 +53,11 @@ const DispatchTable& GridObject::table() const {
                           [](Grid& grid, Given given) { return Variant(columnOf(grid, given).width); })
             .method<Grid>(L"ColVisible",
                           [](Grid& grid, Given given) { return Variant(columnOf(grid, given).visible); })
+            .method<Grid>(L"ColSized",
+                          [](Grid& grid, Given given) { return Variant(columnOf(grid, given).sized); })
+            .method<Grid>(
+                L"ColOrder",
+                [](Grid& grid, Given given) { return Variant(numberOf(columnOf(grid, given).order)); })
             .method<Grid>(L"SetColumn", setColumn);
     return members;
 }

@@ -146,7 +146,6 @@ std::vector<parts::KeyedGrid::Column> CalendarArea::columns(base::Fields* week) 
 void CalendarArea::open(const LogisticsContract& contract) {
     contract_ = contract;
     statements_ = CalendarStatements{contract.id, contract.record};
-    sortColumn_ = byWeek;
     editedKey_ = 0;
     changes_.forget();
     mode_.reset();
@@ -155,11 +154,14 @@ void CalendarArea::open(const LogisticsContract& contract) {
     lblMeldung.setCaption("");
     clearBoxes();
     weeks_.setColumns(columns(nullptr));
+    DataGridKalendar.markOrder(0, ui::Grid::Order::ascending);
     weeks_.clear();
 }
 
 void CalendarArea::restoreColumns() {
+    const int shown = sortColumn();
     services_.gridLayouts.restore(contract_.session, DataGridKalendar, columnsOfWeeks);
+    if (sortColumn() != shown) reload(weeks_.currentKey());
 }
 
 void CalendarArea::saveColumns() {
@@ -169,14 +171,16 @@ void CalendarArea::saveColumns() {
 void CalendarArea::reload(std::optional<std::int64_t> key) {
     const ui::BusyPointer busy{services_.display};
     std::vector<parts::KeyedRow> rows =
-        parts::KeyedRows::read(contract_.connection(), statements_.list(sortColumn_), "ID").rows;
+        parts::KeyedRows::read(contract_.connection(), statements_.list(sortColumn()), "ID").rows;
     // The translated caption is there only after the form was opened.
     if (caption_.empty()) caption_ = frmKalenderwochen.caption();
     std::string caption = caption_;
     if (!rows.empty()) {
         base::Fields& first = rows.front();
-        if (auto found = columns(&first); found.size() != weeks_.columns().size())
+        if (auto found = columns(&first); found.size() != weeks_.columns().size()) {
             weeks_.setColumns(std::move(found));
+            DataGridKalendar.markOrder(0, ui::Grid::Order::ascending);
+        }
         const std::string sum = base::numberText(first.field("PLANMENGEALL"), "0", services_.locale);
         if (!sum.empty()) caption += "   " + sum;
     }
@@ -213,13 +217,26 @@ void CalendarArea::showComparison() {
 }
 
 void CalendarArea::sortBy(int heading) {
-    // Dates are texts here and would sort by the day of the month; their weeks sort them by time.
-    const std::string& shown = weeks_.columns().at(static_cast<std::size_t>(heading)).field;
-    int number = byWeek;
-    if (shown != "DATUM" && !weeks_.empty())
-        number = static_cast<int>(weeks_.rows().front().fieldIndex(shown)) + 1;
-    sortColumn_ = sortColumn_ == number ? -number : number;
+    const auto column = static_cast<std::size_t>(heading);
+    const bool again = sortColumn() == numberOf(column);
+    DataGridKalendar.markOrder(heading, again ? ui::Grid::Order::descending : ui::Grid::Order::ascending);
     reload(std::nullopt);
+}
+
+int CalendarArea::numberOf(std::size_t column) {
+    // Dates are texts here and would sort by the day of the month; their weeks sort them by time.
+    const std::string& shown = weeks_.columns().at(column).field;
+    if (shown == "DATUM" || weeks_.empty()) return byWeek;
+    return static_cast<int>(weeks_.rows().front().fieldIndex(shown)) + 1;
+}
+
+int CalendarArea::sortColumn() {
+    const auto& columns = DataGridKalendar.columns();
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i].order == ui::Grid::Order::none) continue;
+        return columns[i].order == ui::Grid::Order::descending ? -numberOf(i) : numberOf(i);
+    }
+    return byWeek;
 }
 
 void CalendarArea::clearBoxes() {

@@ -39,7 +39,11 @@ public:
 private:
     void connect();
     void showComparison();
-    void sortBy(int column);
+    void sortBy(int heading);
+    /// The number that a column has in the list's query.
+    int numberOf(std::size_t column);
+    /// The one that the rows are ordered by, negative for descending.
+    int sortColumn();
     void clearBoxes();
     void startNew();
     void startEdit();
@@ -68,7 +72,6 @@ private:
     const std::optional<DeliveryPeriod>& period_;
     LogisticsContract contract_;
     CalendarStatements statements_;
-    int sortColumn_ = 0;
     std::int64_t editedKey_ = 0; ///< of the week in the boxes; 0 for a new one that has no row yet
     std::string shownYear_;      ///< what the boxes were filled with
     std::string shownWeek_;

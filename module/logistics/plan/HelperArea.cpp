@@ -114,15 +114,24 @@ ui::Layout HelperArea::layout() {
 
 std::vector<parts::KeyedGrid::Column> HelperArea::columns() const {
     const auto quantity = [](const char* caption, int width, const char* field, const char* mask) {
-        return parts::KeyedGrid::Column{
-            .caption = caption, .width = width, .field = field, .mask = mask, .rightAligned = true};
+        return parts::KeyedGrid::Column{.caption = caption,
+                                        .width = width,
+                                        .field = field,
+                                        .mask = mask,
+                                        .rightAligned = true,
+                                        .sorts = true};
     };
     const auto stamp = [](const char* caption, const char* field) {
-        return parts::KeyedGrid::Column{.caption = caption, .width = 16, .field = field, .mask = stampMask};
+        return parts::KeyedGrid::Column{
+            .caption = caption, .width = 16, .field = field, .mask = stampMask, .sorts = true};
     };
     return {GuardedQuantities::markColumn(),
-            {.caption = "Mitgl.Nr.", .width = 9, .field = helpers::numberField, .rightAligned = true},
-            {.caption = "Mitglied Name", .width = 26, .field = helpers::nameField},
+            {.caption = "Mitgl.Nr.",
+             .width = 9,
+             .field = helpers::numberField,
+             .rightAligned = true,
+             .sorts = true},
+            {.caption = "Mitglied Name", .width = 26, .field = helpers::nameField, .sorts = true},
             quantity("ME geplant", 13, helpers::plannedField, plannedMask),
             GuardedQuantities::column("ME angem.", GuardedQuantities::announced),
             quantity("ME angem. WB", 16, helpers::ownersField, quantityMask),
@@ -143,6 +152,7 @@ void HelperArea::open(const LogisticsContract& contract) {
 
 void HelperArea::restoreColumns() {
     services_.gridLayouts.restore(contract_.session, MSFG, helperLayout);
+    helpers_.takeOrder();
 }
 
 void HelperArea::saveColumns() {

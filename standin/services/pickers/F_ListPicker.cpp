@@ -79,7 +79,7 @@ void F_ListPicker::narrow() {
     const std::string total = std::to_string(count);
     lblCount.setCaption(count > found.size() ? filled(countTexts_.some, {std::to_string(found.size()), total})
                                              : filled(countTexts_.all, {total}));
-    grdList.setRows(std::move(found));
+    sorting_.show(std::move(found));
     grdList.setCurrent(0);
 }
 

@@ -4,6 +4,7 @@
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
+#include "module/ui/input/TextSorting.h"
 
 #include <optional>
 #include <string>
@@ -47,6 +48,7 @@ private:
     ui::Label lblFilter{*this, "lblFilter", "&Filter"};
     ui::TextBox txtFilter{*this, "txtFilter", 40};
     ui::Grid grdList{*this, "grdList", 14};
+    ui::TextSorting sorting_{grdList, base::Locale::german()};
     ui::Label lblCount{*this, "lblCount"};
     ui::Button btnOk{*this, "btnOk", "Ü&bernehmen"};
     ui::Button btnCancel{*this, "btnCancel", "Abbrechen"};

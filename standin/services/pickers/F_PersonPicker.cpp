@@ -17,12 +17,13 @@ std::string fullName(base::Fields& person) {
 F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::string& start, Found found,
                                std::int32_t current)
     : Form("F_PersonPicker", std::move(title)), search_(std::move(search)) {
-    persons_.setColumns({{.caption = "Nummer", .width = 8, .field = "NUMMER", .rightAligned = true},
-                         {.caption = "Kurzbezeichnung", .width = 26, .field = "KURZBEZEICHNUNG"},
-                         {.caption = "Name", .width = 28, .shown = fullName},
-                         {.caption = "Straße", .width = 22, .field = "STRASSE"},
-                         {.caption = "PLZ", .width = 7, .field = "PLZ"},
-                         {.caption = "Ort", .width = 20, .field = "ORT"}});
+    persons_.setColumns(
+        {{.caption = "Nummer", .width = 8, .field = "NUMMER", .rightAligned = true, .sorts = true},
+         {.caption = "Kurzbezeichnung", .width = 26, .field = "KURZBEZEICHNUNG", .sorts = true},
+         {.caption = "Name", .width = 28, .sorts = true, .shown = fullName},
+         {.caption = "Straße", .width = 22, .field = "STRASSE", .sorts = true},
+         {.caption = "PLZ", .width = 7, .field = "PLZ", .sorts = true},
+         {.caption = "Ort", .width = 20, .field = "ORT", .sorts = true}});
     limitSearch(txtSearch);
     txtSearch.onChange = [this] { narrow(); };
     connectSearch(txtSearch, grdPersons, [this] { choose(); });

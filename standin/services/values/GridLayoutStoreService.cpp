@@ -16,6 +16,8 @@ std::string layoutOf(const ui::Grid& grid) {
     for (const ui::Grid::Column& column : grid.columns()) {
         if (!layout.empty()) layout += ' ';
         layout += std::to_string(column.width) + (column.sized ? "=" : "") + (column.visible ? "" : "-");
+        if (column.order != ui::Grid::Order::none)
+            layout += column.order == ui::Grid::Order::ascending ? '<' : '>';
     }
     return layout;
 }
@@ -54,7 +56,10 @@ void GridLayoutStoreService::restore(const host::TlxVar& session, ui::Grid& grid
         if (!(layout >> width) || !(std::istringstream{width} >> characters) || characters < 1) return;
         column.width = characters;
         column.sized = width.find('=') != std::string::npos;
-        column.visible = !width.ends_with('-');
+        column.visible = width.find('-') == std::string::npos;
+        column.order = width.ends_with('<')   ? ui::Grid::Order::ascending
+                       : width.ends_with('>') ? ui::Grid::Order::descending
+                                              : ui::Grid::Order::none;
     }
     std::string more;
     if (layout >> more) return;

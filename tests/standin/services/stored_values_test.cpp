@@ -28,7 +28,8 @@ protected:
         host.gridLayouts.restore(session, form.grid, key);
         std::string text;
         for (const ui::Grid::Column& column : form.grid.columns())
-            text += std::to_string(column.width) + (column.sized ? "=" : "") + (column.visible ? " " : "h ");
+            text += std::to_string(column.width) + (column.sized ? "=" : "") +
+                    (column.order == ui::Grid::Order::descending ? ">" : "") + (column.visible ? " " : "h ");
         return text;
     }
 };
@@ -47,6 +48,9 @@ TEST_F(StoredValues, GridLayoutsAreKeptByUserAndKey) {
     form.grid.sizeColumn(1, 20);
     host.gridLayouts.save(session, form.grid, "F_TEST");
     EXPECT_EQ(widths(3), "13 20= 8 ") << "what the user sized stays sized";
+    form.grid.markOrder(1, ui::Grid::Order::descending);
+    host.gridLayouts.save(session, form.grid, "F_TEST");
+    EXPECT_EQ(widths(3), "13 20=> 8 ") << "and the rows stay in their order";
     save({wide(13), wide(31), wide(8)});
     EXPECT_EQ(widths(3, "F_OTHER"), "10 10 10 ");
     EXPECT_EQ(widths(2), "10 10 ") << "a layout of more columns is from another version";
