@@ -60,10 +60,15 @@ void WindowContent::fit(HWND over) {
     const SIZE size = sizeAround(wanted(&Extent::preferred));
     const LONG width = std::min<LONG>(std::max<LONG>(size.cx, theme_.scaled(240)), widthOf(work));
     const LONG height = std::min<LONG>(size.cy, heightOf(work));
-    RECT middle = work;
-    if (over != nullptr && IsWindowVisible(over) && !IsIconic(over)) GetWindowRect(over, &middle);
-    const LONG x = inside((middle.left + middle.right - width) / 2, width, work.left, work.right);
-    const LONG y = inside((middle.top + middle.bottom - height) / 2, height, work.top, work.bottom);
+    POINT corner{(work.left + work.right - width) / 2, (work.top + work.bottom - height) / 2};
+    if (over != nullptr && IsWindowVisible(over) && !IsIconic(over)) {
+        // The title of the one below stays in sight.
+        RECT owner{};
+        GetWindowRect(over, &owner);
+        corner = {owner.left + theme_.scaled(24), owner.top + theme_.scaled(24)};
+    }
+    const LONG x = inside(corner.x, width, work.left, work.right);
+    const LONG y = inside(corner.y, height, work.top, work.bottom);
     SetWindowPos(window_, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
     arrange();
 }

@@ -1,6 +1,7 @@
 #include "display/win32/WindowFrame.h"
 
 #include "com/automation/wide.h"
+#include "display/win32/controls/ButtonView.h"
 #include "display/win32/controls/make_view.h"
 #include "display/win32/grid/GridView.h"
 
@@ -86,7 +87,7 @@ void WindowFrame::show() {
 /// In the order of the layout, so that a label comes right before what it names; frames and tabs
 /// after what stands on them, and so below it.
 void WindowFrame::makeViews(const ui::Layout& layout, bool onPage) {
-    const bool isContainer = layout.kind == ui::Layout::Kind::frame || layout.kind == ui::Layout::Kind::tabs;
+    const bool isContainer = layout.encloses();
     const auto make = [&] {
         if (layout.control == nullptr) return;
         auto view = makeView(*this, *layout.control);
@@ -112,11 +113,24 @@ void WindowFrame::draw() {
     }
     for (const auto& view : views_)
         view->update();
+    drawPrimary();
     if (content_ == nullptr) {
         show();
     } else {
         content_->update();
     }
+}
+
+/// The way on is the window's default button.
+void WindowFrame::drawPrimary() {
+    const ui::Button* now = form_.primaryButton();
+    if (now == primary_) return;
+    const auto mark = [this](const ui::Button* button, bool primary) {
+        if (button != nullptr) static_cast<ButtonView&>(*views_[button->id()]).setPrimary(primary);
+    };
+    mark(primary_, false);
+    mark(now, true);
+    primary_ = now;
 }
 
 void WindowFrame::placeFocus() {

@@ -67,6 +67,7 @@ private:
     void makeViews();
     void makeViews(const ui::Layout& layout, bool onPage);
     void show();
+    void drawPrimary();
     void lookChanged(UINT message, WPARAM wParam, LPARAM lParam);
     void close();
 
@@ -82,7 +83,8 @@ private:
     std::unique_ptr<WindowContent> content_; ///< null until it is shown
     Keyboard keyboard_;
     EventQueue events_;
-    bool ending_ = false; ///< the windows are going
+    const ui::Button* primary_ = nullptr; ///< as it is drawn
+    bool ending_ = false;                 ///< the windows are going
 };
 
 } // namespace tellurix::windows

@@ -123,27 +123,22 @@ void F_HeaderVertrag::arrange() {
     }
     setLayout(column({
         row({
-            column({
-                frame(frmDates, {fields(1, {field(lblVertragsDatum, txtDate1), field(lblDate2, txtDate2),
-                                            field(lblDate3, txtDate3), field(lblDate4, txtDate4)})}),
-                frame(frmLieferVon,
-                      {fields(1, {field(lblLieferVon, txtLieferVon), field(lblLieferBis, txtLieferBis)})}),
-            }),
-            column({
-                       frame(frmRechnung,
-                             {fields(1, {field(lblRechnungsArt, txtRechn), field(lblBuchnungsArt, txtBuchn),
-                                         field(lblWahrung, txtWahrung)})}),
-                       frame(Frame1, {field(lblMandant, txtMandant[0], txtMandant[1])}),
-                       frame(Frame2, {field(Label1, txtLieferadresse[0], txtLieferadresse[1])}),
-                   })
-                .growing(),
-        }),
-        row({
-                frame(frmNumbers, {fields(1, std::move(numbers))}),
-                frame(frmKopfs, {fields(1, std::move(texts))}).growing(),
+                ui::groups({
+                    frame(frmDates, {fields(1, {field(lblVertragsDatum, txtDate1), field(lblDate2, txtDate2),
+                                                field(lblDate3, txtDate3), field(lblDate4, txtDate4)})}),
+                    frame(frmLieferVon, {fields(1, {field(lblLieferVon, txtLieferVon),
+                                                    field(lblLieferBis, txtLieferBis)})}),
+                    frame(frmRechnung,
+                          {fields(1, {field(lblRechnungsArt, txtRechn), field(lblBuchnungsArt, txtBuchn),
+                                      field(lblWahrung, txtWahrung)})}),
+                    frame(Frame1, {field(lblMandant, txtMandant[0], txtMandant[1])}),
+                    frame(Frame2, {field(Label1, txtLieferadresse[0], txtLieferadresse[1])}),
+                }),
+                ui::groups({frame(frmNumbers, {fields(1, std::move(numbers))})}),
+                ui::groups({frame(frmKopfs, {fields(1, std::move(texts))})}).growing(),
             })
             .growing(),
-        row({btnOk, btnCancel}),
+        ui::bar({ui::Layout{btnOk}.primary(), btnCancel}),
     }));
 }
 

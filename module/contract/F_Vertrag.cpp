@@ -19,8 +19,8 @@ namespace tellurix::contract {
 using base::OwnText;
 using base::StatementText;
 using ui::column;
-using ui::frame;
 using ui::row;
+using ui::section;
 
 namespace {
 
@@ -37,6 +37,7 @@ F_Vertrag::F_Vertrag(host::HostServices& services)
           showPriceLines(false);
       }) {
     txtKunde.setLocked(true);
+    List1.setPairs(true);
     txtAbschlag.setLocked(true);
     btnDeleteMan.setToolTip("Kunde aus dem Vertrag entfernen");
     txtMessage.setVisible(false);
@@ -69,10 +70,10 @@ void F_Vertrag::connect() {
 void F_Vertrag::arrange() {
     setLayout(column({
         row({
-            frame(frmKunde, {row({txtKunde, KundeButton, btnDeleteMan}), ui::Layout{List1}.growing(),
-                             row({btnHeader, btnZusatz})})
+            section(frmKunde, {btnHeader, btnZusatz},
+                    {row({txtKunde, KundeButton, btnDeleteMan}), ui::Layout{List1}.growing()})
                 .growing(),
-            column({
+            ui::groups({
                 row({btnAbschlag, txtAbschlag}),
                 lblOhneAbschlag,
                 chkAbgeschlossen,
@@ -83,11 +84,11 @@ void F_Vertrag::arrange() {
         }),
         additionalTexts_.layout(),
         row({
-                frame(frmPreise, {ui::Layout{Grid1}.growing(), row({PreisButton})}).growing(),
-                frame(frmMengen, {ui::Layout{Grid2}.growing(), row({PosButton})}).growing(),
+                section(frmPreise, {PreisButton}, {ui::Layout{Grid1}.growing()}).growing(),
+                section(frmMengen, {PosButton}, {ui::Layout{Grid2}.growing()}).growing(),
             })
             .growing(),
-        row({btnWord, txtMessage, btnSpeichern, btnAbbrechen}),
+        ui::bar({ui::Layout{btnSpeichern}.primary(), btnAbbrechen}, {}, {txtMessage, btnWord}),
     }));
 }
 

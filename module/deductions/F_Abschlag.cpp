@@ -37,7 +37,7 @@ F_Abschlag::F_Abschlag(host::HostServices& services)
     setLayout(ui::column({
         ui::row({ui::field(lblModell_, CmbModel), btnModels}),
         table_.layout(),
-        ui::row({btnOk, btnAbbrechen}),
+        ui::bar({ui::Layout{btnOk}.primary(), btnAbbrechen}),
     }));
 }
 

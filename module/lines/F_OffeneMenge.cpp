@@ -14,7 +14,7 @@ F_OffeneMenge::F_OffeneMenge(host::HostServices& services, const host::TlxVar& s
     btnSchliessen.onClick = [this] { unload(); };
     setCancelButton(btnSchliessen);
     setLayout(ui::column({lblZeile, ui::Layout{grdHolz}.growing(), lblSumme,
-                          ui::field(lblFrueher, lstFrueher), ui::row({btnSchliessen})}));
+                          ui::field(lblFrueher, lstFrueher), ui::bar({}, {}, {btnSchliessen})}));
 }
 
 std::string F_OffeneMenge::text(OwnText text, const std::vector<std::string>& values) const {

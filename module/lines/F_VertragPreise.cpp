@@ -73,7 +73,7 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
     };
     arrange({ui::field(lblMsz, txtMsz), ui::field(lblPreis, txtPreis), ui::field(lblUnit, cboUnit),
              ui::field(lblGeld, cboGeld), ui::field(lblPreis_Abr2, txtPreis_Abr2)},
-            {chkEdit}, {priceChange_.layout(), ui::row({priceChange_.button()})});
+            {chkEdit}, {priceChange_.layout()}, {priceChange_.button()});
 }
 
 void F_VertragPreise::prepare(bool /*shown*/) {

@@ -96,17 +96,20 @@ std::string LineEditor::unitText(const base::Value& unit) const {
     return listed == cboUnit.items().end() ? std::to_string(*key) : listed->text;
 }
 
-void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
-                         std::vector<ui::Layout> below) {
+void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> heading,
+                         std::vector<ui::Layout> details, std::vector<ui::Layout> elsewhere) {
     fields.insert(fields.begin(), ui::field(lblBezeichnung, txtBEZEICHNUNG).growing());
-    besideGrid.insert(besideGrid.begin(), UpDown1);
-    std::vector<ui::Layout> screen{
-        ui::row({ui::Layout{MSFlexGrid1}.growing(), ui::column(std::move(besideGrid))}).growing(),
-        ui::row({ui::frame(frmPosition, {ui::fields(2, std::move(fields))}).growing(), selection_.layout()}),
-    };
-    std::ranges::move(below, std::back_inserter(screen));
-    screen.push_back(ui::row({cmdNeu, cmdBearbeiten, cmdSpeichern, cmdAbbrechen, cmdLoschen, cmdOk}));
-    setLayout(ui::column(std::move(screen)));
+    heading.emplace_back(UpDown1);
+    std::vector<ui::Layout> all{ui::frame(frmPosition, {ui::fields(1, std::move(fields))})};
+    std::ranges::move(selection_.layouts(), std::back_inserter(all));
+    std::ranges::move(details, std::back_inserter(all));
+    setLayout(ui::column({
+        ui::sides(ui::section(frmLines, std::move(heading), {ui::Layout{MSFlexGrid1}.growing()}),
+                  ui::groups(std::move(all)))
+            .growing(),
+        ui::bar({cmdNeu, cmdBearbeiten, ui::Layout{cmdSpeichern}.primary(), cmdAbbrechen, cmdLoschen},
+                std::move(elsewhere), {cmdOk}),
+    }));
 }
 
 std::optional<std::int64_t> LineEditor::keyInRow(int row) const {

@@ -67,9 +67,13 @@ protected:
     /// Lines, their order or their contents are others than before.
     virtual void linesChanged() {}
 
-    /// The layout around the fields of the kind: `fields` below the description, and what goes below them.
-    void arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> besideGrid,
-                 std::vector<ui::Layout> below);
+    /// The layout around what the kind has for itself.
+    /// @param fields below the description
+    /// @param heading in the line above the list
+    /// @param details below the fields and the selection
+    /// @param elsewhere in the bar of buttons
+    void arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> heading = {},
+                 std::vector<ui::Layout> details = {}, std::vector<ui::Layout> elsewhere = {});
 
     bool viewing() const { return mode_.viewing(); }
     bool hasLines() const { return !lines_.empty(); }
@@ -93,6 +97,7 @@ protected:
     host::TlxVar session_;
     std::int32_t contract_ = 0;
 
+    ui::Frame frmLines{*this, "frmLines"};
     ui::Grid MSFlexGrid1{*this, "MSFlexGrid1", 7};
     parts::KeyedGrid lines_; ///< what stands in it
     ui::UpDown UpDown1{*this, "UpDown1"};

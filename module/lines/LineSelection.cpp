@@ -15,8 +15,8 @@ LineSelection::LineSelection(ui::Form& form, host::HostServices& services, const
     chkSelektion.setToolTip("Die Zeile hat eine Selektion");
 }
 
-ui::Layout LineSelection::layout() {
-    return ui::column({boxes_.layout(), ui::row({cmdSelect, chkSelektion})});
+std::vector<ui::Layout> LineSelection::layouts() {
+    return {boxes_.layout(), ui::row({cmdSelect, chkSelektion})};
 }
 
 void LineSelection::show(const std::string& value) {

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tellurix::lines {
 
@@ -16,7 +17,7 @@ public:
     /// @param session the screen's own copy of the session record
     LineSelection(ui::Form& form, host::HostServices& services, const host::TlxVar& session);
 
-    ui::Layout layout();
+    std::vector<ui::Layout> layouts();
     ui::Frame& quickSelection() { return boxes_.frame(); }
     const ui::Frame& quickSelection() const { return boxes_.frame(); }
     ui::Button& button() { return cmdSelect; }

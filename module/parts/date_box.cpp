@@ -10,6 +10,7 @@ void makeDateBox(ui::TextBox& box, host::HostServices& services, const host::Tlx
     ui::makeDateBox(
         box, [&services] { return services.clock.today(); },
         [&services, &session] { tellInvalid(services.display, services.localizer, session); });
+    box.setPickPicture("calendar");
     box.onPick = [&box, &services, &session, title = std::move(title)] {
         box.setText(services.listPicker.choose(session, host::ListPicker::calendar, title(), box.text()));
     };

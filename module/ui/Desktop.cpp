@@ -53,7 +53,7 @@ void Desktop::runModal(Form& form, const std::function<Event()>& nextEvent) {
     } window{windows_, form};
 
     form.load();
-    if (const auto order = form.tabOrder(); !order.empty()) dispatch(FocusEvent{order.front()});
+    if (Control* first = form.firstControl()) dispatch(FocusEvent{first});
     while (form.loaded())
         dispatch(nextEvent());
 }

@@ -18,12 +18,32 @@ void collectFocusable(const Layout& layout, std::vector<Control*>& order) {
         collectFocusable(child, order);
 }
 
+/// The first control that can take the focus and does not stand in the heading of a section, or null.
+Control* firstContent(const Layout& layout) {
+    if (layout.control != nullptr && layout.control->takesFocus() && layout.control->usable())
+        return layout.control;
+    const std::size_t first = layout.kind == Layout::Kind::section ? 1 : 0;
+    for (std::size_t i = first; i < layout.children.size(); ++i) {
+        if (Control* found = firstContent(layout.children[i])) return found;
+    }
+    return nullptr;
+}
+
 /// The field node that `matches`, or null.
 template <typename Predicate>
 const Layout* findField(const Layout& layout, const Predicate& matches) {
     if (layout.kind == Layout::Kind::field && matches(layout)) return &layout;
     for (const Layout& child : layout.children) {
         if (const Layout* found = findField(child, matches)) return found;
+    }
+    return nullptr;
+}
+
+/// The button that a layout leads on by and that can be pressed, or null.
+Button* leading(const Layout& layout) {
+    if (layout.leads && layout.control->usable()) return as<Button>(layout.control);
+    for (const Layout& child : layout.children) {
+        if (Button* found = leading(child)) return found;
     }
     return nullptr;
 }
@@ -74,7 +94,7 @@ void Form::adopt(const Layout& layout, Control* container, int page) {
     if (layout.control != nullptr) {
         layout.control->container_ = container;
         layout.control->page_ = page;
-        if (layout.kind == Layout::Kind::frame || layout.kind == Layout::Kind::tabs) {
+        if (layout.encloses()) {
             inner = layout.control;
             page = -1;
         }
@@ -88,6 +108,16 @@ std::vector<Control*> Form::tabOrder() const {
     std::vector<Control*> order;
     collectFocusable(layout_, order);
     return order;
+}
+
+Button* Form::primaryButton() const {
+    return leading(layout_);
+}
+
+Control* Form::firstControl() const {
+    if (Control* content = firstContent(layout_)) return content;
+    const std::vector<Control*> order = tabOrder();
+    return order.empty() ? nullptr : order.front();
 }
 
 Control* Form::labelled(const Label& label) const {

@@ -36,6 +36,8 @@ public:
     const Layout& layout() const { return layout_; }
     /// The controls that can take the focus by Tab at the moment, in their order.
     std::vector<Control*> tabOrder() const;
+    /// Where a visit begins: the first of them, one in the heading of a section only where there is no other.
+    Control* firstControl() const;
     /// The control that the layout puts with a label, or null.
     Control* labelled(const Label& label) const;
     /// The label that the layout puts with a control, in a table that of its column; or null.
@@ -61,6 +63,12 @@ public:
     StatusLine& status() { return status_; }
     const StatusLine& status() const { return status_; }
 
+    /// The way on at the moment: the usable one of those that the layout leads on by, or null.
+    Button* primaryButton() const;
+    /// Stands beside the field that asked for it, over its screen, instead of filling the window: a list, a
+    /// calendar.
+    bool isCard() const { return isCard_; }
+
     /// Shown in a window at the moment.
     bool loaded() const { return loaded_; }
     /// For displays: the window is about to be shown.
@@ -77,6 +85,7 @@ public:
 protected:
     void setLayout(Layout layout);
     void setCancelButton(Button& button) { cancelButton_ = &button; }
+    void setCard() { isCard_ = true; }
     /// Asked before the window closes; false keeps it open.
     virtual bool queryUnload() { return true; }
 
@@ -94,6 +103,7 @@ private:
     Button* cancelButton_ = nullptr;
     std::vector<Button*> saveButtons_;
     std::string language_;
+    bool isCard_ = false;
     bool loaded_ = false;
     bool unloading_ = false;
     bool titleDirty_ = true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Grid.h"
 #include "module/ui/controls/Label.h"
 #include "module/ui/controls/Tabs.h"
 
@@ -8,13 +9,14 @@
 
 namespace tellurix::ui {
 
-/// How the controls of a screen stand to each other, said once and without positions: a tree of
-/// rows, columns, labelled fields, frames and tabs. Every display draws from it, and the order of
-/// the controls in it is the tab order.
+/// What the controls of a screen are to each other, said once and without positions, widths or colours: a
+/// tree of rows, columns, labelled fields, groups, a list and its details, the bar of buttons. Every display
+/// draws from it what its platform has for that, and the order of the controls in it is the tab order.
 ///
-///     column({row({field(lblKunde, txtKunde), KundeButton, btnDeleteMan}),
-///             fields(2, {field(lblDate1, txtDate1), field(lblDate2, txtDate2)}),
-///             frame(frmTexts, {field(lblText, txtText)}).growing()})
+///     column({sides(section(frmLines, {UpDown1}, {Layout{grdLines}.growing()}),
+///                   groups({frame(frmLine, {fields(1, {field(lblPrice, txtPrice)})})}))
+///                 .growing(),
+///             bar({btnNew, Layout{btnSave}.primary()}, {btnChangeAll}, {btnClose})})
 class Layout {
 public:
     enum class Kind {
@@ -26,8 +28,17 @@ public:
                  ///< a growing one has a row of its own
         table,   ///< cells in `columns` columns, filled by rows; the first row are the columns' labels, and
                  ///< the label that a row begins with names its other cells, too
-        frame,   ///< a column inside the border of `control`, a Frame
-        tabs     ///< one child a page of `control`, a Tabs
+        frame,   ///< a column in a group with the caption of `control`, a Frame
+        section, ///< a frame whose first child stands in the line of its caption
+        groups,  ///< frames one below the other, whose fields share one column of labels
+        sides,   ///< a list, and beside it, or below it where that is too narrow, its current line; one that
+                 ///< grows takes the width that is left over
+        filters, ///< what says which lines of the list below are shown
+        sums,    ///< `control`, a Grid, and below its lines the sums: a row or a frame of rows, whose cells
+                 ///< are columns with the number of the grid's column in `columns`
+        bar, ///< the buttons of a screen or of a page, at the bottom: three rows, its own ones, those that
+             ///< lead elsewhere, and at the far end what closes it
+        tabs ///< one child a page of `control`, a Tabs; its bar stands with the screen's
     };
 
     /// A single control; not explicit, so that a control can stand for itself in a list.
@@ -41,11 +52,21 @@ public:
         return std::move(*this);
     }
 
+    /// The same as the way on: what Enter or Ctrl+S does here. It stands out while it can be pressed.
+    Layout primary() && {
+        leads = true;
+        return std::move(*this);
+    }
+
+    /// Its control encloses those of its children.
+    bool encloses() const { return kind == Kind::frame || kind == Kind::section || kind == Kind::tabs; }
+
     Kind kind;
-    Control* control = nullptr; ///< the control, the field's label, the frame, or the tabs
+    Control* control = nullptr; ///< the control, the field's label, the frame, the grid of sums, or the tabs
     std::vector<Layout> children;
     int columns = 1;
     bool grows = false;
+    bool leads = false;
 };
 
 inline Layout row(std::vector<Layout> children) {
@@ -77,6 +98,44 @@ inline Layout table(int columns, std::vector<Layout> cells) {
 
 inline Layout frame(Frame& frame, std::vector<Layout> children) {
     return {Layout::Kind::frame, &frame, std::move(children)};
+}
+
+/// @param heading stands in the line of the caption: mostly what opens the content of the section
+inline Layout section(Frame& frame, std::vector<Layout> heading, std::vector<Layout> children) {
+    children.insert(children.begin(), row(std::move(heading)));
+    return {Layout::Kind::section, &frame, std::move(children)};
+}
+
+inline Layout groups(std::vector<Layout> children) {
+    return {Layout::Kind::groups, nullptr, std::move(children)};
+}
+
+inline Layout sides(Layout list, Layout details) {
+    return {Layout::Kind::sides, nullptr, {std::move(list), std::move(details)}};
+}
+
+inline Layout filters(std::vector<Layout> children) {
+    return {Layout::Kind::filters, nullptr, std::move(children)};
+}
+
+/// @param rows a row or a frame of rows, whose cells are made by `under`
+inline Layout sums(Grid& grid, Layout rows) {
+    return {Layout::Kind::sums, &grid, {std::move(rows)}};
+}
+
+/// What stands below a column of the grid; of two labels the first is the caption of the second.
+template <typename... Controls>
+Layout under(int gridColumn, Controls&... controls) {
+    Layout cell = column({Layout{controls}...});
+    cell.columns = gridColumn;
+    return cell;
+}
+
+inline Layout bar(std::vector<Layout> own, std::vector<Layout> elsewhere = {},
+                  std::vector<Layout> closing = {}) {
+    return {Layout::Kind::bar,
+            nullptr,
+            {row(std::move(own)), row(std::move(elsewhere)), row(std::move(closing))}};
 }
 
 inline Layout tabs(Tabs& tabs, std::vector<Layout> pages) {

@@ -22,7 +22,7 @@ F_NewContract::F_NewContract(WorkbenchServices& services, const host::TlxVar& se
     btnCancel.setCausesValidation(false);
     setCancelButton(btnCancel);
     setLayout(ui::column({ui::fields(1, {ui::field(lblName, txtName), ui::field(lblType, cboType)}),
-                          ui::row({btnOk, btnCancel})}));
+                          ui::bar({ui::Layout{btnOk}.primary(), btnCancel})}));
 }
 
 std::optional<F_NewContract::Contract> F_NewContract::Run(const std::string& type) {

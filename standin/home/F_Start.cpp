@@ -95,12 +95,13 @@ void F_Start::connectPeriod(ui::TextBox& box) {
 
 void F_Start::arrange() {
     setLayout(column({
-        row({field(lblSearch, txtSearch), field(lblType, cboType), field(lblClosed, cboClosed),
-             field(lblFrom, txtFrom), field(lblTo, txtTo), field(lblLanguage, cboLanguage)}),
+        ui::filters({field(lblSearch, txtSearch), field(lblType, cboType), field(lblClosed, cboClosed),
+                     field(lblFrom, txtFrom), field(lblTo, txtTo), field(lblLanguage, cboLanguage)}),
         ui::Layout{grdContracts}.growing(),
-        row({btnOpen, btnNew, lblCount}),
-        row({field(lblKind, cboKind), btnProvisionReports, btnQuantityReports}),
+        lblCount,
         ui::frame(frmNotifications, {grdNotifications}),
+        ui::bar({ui::Layout{btnOpen}.primary(), btnNew},
+                {field(lblKind, cboKind), btnProvisionReports, btnQuantityReports}),
     }));
 }
 

@@ -1,9 +1,12 @@
 // The windows that are open, drawn as the session says. The topmost one can be used; the session
 // says which of its controls has the focus.
+import { placeCard } from './card.js';
 import { isOverheard } from './keys.js';
 import { buildLayout, nameTables } from './layout.js';
 import { createView } from './controls/index.js';
 import { newElementId } from './controls/view.js';
+import { showPath } from './path.js';
+import { picture } from './pictures.js';
 import { StatusLine } from './status_line.js';
 import { text } from './texts.js';
 
@@ -26,6 +29,7 @@ export class Desktop {
       const { target } = event;
       if (target.closest('button') || !target.closest('input, textarea, select, .scrolls')) event.preventDefault();
     });
+    addEventListener('resize', () => this.#placeCards());
     for (const type of ['dragover', 'drop', 'submit']) {
       root.addEventListener(type, (event) => event.preventDefault());
     }
@@ -41,12 +45,33 @@ export class Desktop {
       this.#root.setAttribute('aria-busy', drawing.busy);
     }
     const top = this.#windows.at(-1);
-    for (const window of this.#windows) {
+    const { complete, opened, closed, changed } = drawing;
+    if (complete || opened || closed || changed?.some(({ title }) => title !== undefined)) this.#stack(top);
+    document.title = top?.title ?? '';
+    this.focused = drawing.focus ? top?.views.get(drawing.focus.control) ?? null : null;
+  }
+
+  /** Shows the topmost sheet and the cards over it. */
+  #stack(top) {
+    const sheet = this.#windows.findLastIndex((window) => !window.card);
+    this.#windows.forEach((window, index) => {
       window.element.inert = window !== top;
       window.element.classList.toggle('behind', window !== top);
+      window.element.classList.toggle('covered', index < sheet);
+      if (!window.card) showPath(window.path, this.#titlesTo(index === sheet ? this.#windows.length - 1 : index));
+    });
+    this.#placeCards();
+  }
+
+  /** The titles of the windows down to that one. */
+  #titlesTo(index) {
+    return this.#windows.slice(0, index + 1).map((window) => window.title);
+  }
+
+  #placeCards() {
+    for (const { card, element, asks } of this.#windows) {
+      if (card) placeCard(element, asks?.element);
     }
-    document.title = top?.element.getAttribute('aria-label') ?? '';
-    this.focused = drawing.focus ? top?.views.get(drawing.focus.control) ?? null : null;
   }
 
   /** Puts the browser's focus where the session says it is. */
@@ -133,12 +158,13 @@ export class Desktop {
     this.perform(view.window, { type: 'focus', control: view.state.id });
   }
 
-  #open({ id, form, title, layout, controls, status }) {
+  #open({ id, form, title, card, asks, layout, controls, status }) {
     const element = document.createElement('section');
-    element.className = 'window';
+    element.className = card ? 'window card' : 'window';
+    element.id = newElementId();
     element.tabIndex = -1;
     element.dataset.form = form;
-    const window = { id, element, views: new Map(), desktop: this };
+    const window = { id, element, card, views: new Map(), desktop: this };
     if (this.#windows.length > 0) {
       element.setAttribute('role', 'dialog');
       element.setAttribute('aria-modal', 'true');
@@ -147,15 +173,21 @@ export class Desktop {
       element.classList.add('root');
     }
     for (const state of controls) window.views.set(state.id, createView(window, state));
+    // It stands beside the control that asked for it.
+    window.asks = this.#windows.at(-1)?.views.get(asks) ?? null;
+    element.classList.toggle('one-grid', controls.filter(({ kind }) => kind === 'grid').length === 1);
     // One may show another: a table that is being edited has a box in it.
     this.#draw(window, controls);
-    const content = document.createElement('div');
-    content.className = 'content scrolls';
-    content.append(buildLayout(layout, window.views));
+    const { content, bar } = buildLayout(layout, window.views);
+    const middle = document.createElement('div');
+    middle.className = 'content scrolls';
+    middle.append(content);
+    window.path = this.#titleBar(window);
     window.status = new StatusLine(() => this.perform(window, { type: 'statusAction' }));
-    element.append(this.#titleBar(window), content, window.status.element);
-    nameTables(element.querySelector('h1'), window.views);
+    element.append(window.path, middle, ...(bar ? [bar] : []), window.status.element);
+    nameTables(element, window.views);
     this.#title(window, title);
+    if (card) window.asks?.element.classList.add('asked');
     this.#windows.push(window);
     this.#root.append(element);
     for (const view of window.views.values()) {
@@ -167,9 +199,16 @@ export class Desktop {
 
   #titleBar(window) {
     const bar = document.createElement('header');
-    const heading = document.createElement('h1');
-    heading.id = newElementId();
-    bar.append(heading);
+    bar.className = 'path';
+    const titles = document.createElement('div');
+    titles.className = 'titles';
+    bar.append(titles);
+    if (!window.card) {
+      const mark = document.createElement('span');
+      mark.className = 'mark';
+      mark.append(picture('tree'));
+      bar.prepend(mark);
+    }
     if (this.#windows.length > 0) {
       const close = document.createElement('button');
       close.className = 'close';
@@ -184,8 +223,9 @@ export class Desktop {
   }
 
   #title(window, title) {
-    window.element.querySelector('h1').textContent = title;
+    window.title = title;
     window.element.setAttribute('aria-label', title);
+    if (window.card) showPath(window.path, [title]);
   }
 
   #change({ id, title, controls, status }) {
@@ -208,7 +248,10 @@ export class Desktop {
   }
 
   #close(matches) {
-    for (const window of this.#windows.filter(matches)) window.element.remove();
+    for (const window of this.#windows.filter(matches)) {
+      window.asks?.element.classList.remove('asked');
+      window.element.remove();
+    }
     this.#windows = this.#windows.filter((window) => !matches(window));
     this.focused = null;
   }

@@ -7,7 +7,8 @@ const builders = {
   column: (node, views) => box('column', node.children.map((child) => build(child, views))),
   fields(node, views) {
     const table = box('fields', node.children.flatMap((child) => fieldCells(child, views)));
-    table.style.setProperty('--columns', node.columns);
+    table.style.setProperty('--columns', node.columns ?? 1);
+    table.dataset.columns = node.columns ?? 1;
     return table;
   },
   table(node, views) {
@@ -16,10 +17,35 @@ const builders = {
     nameCells(node, views);
     return table;
   },
+  groups: (node, views) => box('groups', node.children.map((child) => build(child, views))),
+  filters: (node, views) => box('filters', node.children.map((child) => build(child, views))),
+  sides: (node, views) => box('sides', node.children.map((child) => box('side', [build(child, views)]))),
   frame(node, views) {
     const frame = viewOf(node, views);
     frame.content.append(...node.children.map((child) => build(child, views)));
+    if (node.children.length === 1 && node.children[0].kind === 'field') frame.repeats(viewOf(node.children[0], views));
     return frame.element;
+  },
+  section(node, views) {
+    const [heading, ...children] = node.children;
+    viewOf(node, views).heading.append(...(heading.children ?? []).map((child) => build(child, views)));
+    return builders.frame({ ...node, children }, views);
+  },
+  sums(node, views) {
+    const grid = viewOf(node, views);
+    const [below] = node.children;
+    const rows = below.kind === 'row' ? [below] : below.children;
+    const frame = below.kind === 'frame' ? viewOf(below, views) : null;
+    grid.showSums(rows.map(({ children }) => children.map((cell) => ({
+      column: cell.columns ?? 1,
+      content: cell.children.map((child) => build(child, views)),
+    }))), frame);
+    return grid.element;
+  },
+  bar(node, views) {
+    const groups = node.children.map(({ children = [] }) => box('buttons', children.map((child) => build(child, views))));
+    groups.at(-1).classList.add('closing');
+    return box('bar', groups);
   },
   tabs(node, views) {
     const tabs = viewOf(node, views);
@@ -28,16 +54,23 @@ const builders = {
   },
 };
 
+/** @returns what scrolls, and the bar of buttons below it: those of a page, too, while that is shown */
 export function buildLayout(node, views) {
-  return build({ children: [], ...node }, views);
+  const content = build(node, views);
+  nameTheRest(views);
+  const bars = [...content.querySelectorAll('.bar')];
+  const bar = bars.pop() ?? null;
+  bar?.prepend(...bars);
+  bar?.remove();
+  return { content, bar };
 }
 
 /** Names the tables and lists that no label stands with: by the frame around them, or by the window. */
 export function nameTables(heading, views) {
   for (const { element, focusElement, state } of views.values()) {
     if (!['grid', 'list'].includes(state.kind) || focusElement.hasAttribute('aria-labelledby')) continue;
-    const legend = element.closest('fieldset:has(> legend:not([hidden]))')?.querySelector('legend');
-    focusElement.setAttribute('aria-labelledby', (legend ?? heading).id);
+    const caption = element.closest('.frame')?.querySelector('.caption:not(:empty)');
+    focusElement.setAttribute('aria-labelledby', (caption ?? heading).id);
   }
 }
 
@@ -45,6 +78,7 @@ function build(node, views) {
   const complete = { children: [], ...node };
   const element = builders[complete.kind](complete, views);
   if (complete.grows) element.classList.add('grows');
+  if (complete.primary) element.classList.add('primary');
   return element;
 }
 
@@ -57,6 +91,18 @@ function box(className, children) {
 
 function viewOf(node, views) {
   return views.get(node.control);
+}
+
+/** What has no label is named by the button that stands in its row, or else by the frame around it. */
+function nameTheRest(views) {
+  for (const view of views.values()) {
+    if (!['text', 'list', 'check'].includes(view.state.kind) || view.focusElement.hasAttribute('aria-label')) continue;
+    if (view.focusElement.getAttribute('aria-labelledby') && !(view.state.kind === 'check' && !view.state.caption)) continue;
+    const beside = view.element.closest('.row')?.querySelectorAll(':scope > .button') ?? [];
+    const button = [...beside].find((element) => /\w{2}/.test(element.textContent));
+    const frame = view.element.closest('.frame')?.querySelector('.caption:not(:empty)');
+    if (button ?? frame) view.focusElement.setAttribute('aria-labelledby', (button ?? frame).id);
+  }
 }
 
 /** The label of a field, tied to all controls of the field. */

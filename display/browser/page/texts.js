@@ -14,6 +14,7 @@ const texts = {
     dismiss: 'Hinweis schließen',
     close: 'Schließen (Esc)',
     pick: 'Auswählen (F4)',
+    mark: 'Zeichen',
     again: 'Neu beginnen',
     endedTitle: 'Sitzung beendet',
     ended: {
@@ -43,6 +44,7 @@ const texts = {
     dismiss: 'Dismiss',
     close: 'Close (Esc)',
     pick: 'Choose (F4)',
+    mark: 'Mark',
     again: 'Start again',
     endedTitle: 'Session ended',
     ended: {

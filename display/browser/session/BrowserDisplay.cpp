@@ -147,9 +147,12 @@ PageMessage BrowserDisplay::wait() {
 void BrowserDisplay::drawWindows(json& message, bool complete) {
     json opened = json::array();
     json changed = json::array();
+    const ui::Control* asks = nullptr; // what has the focus in the window below
     for (Window& window : windows_) {
+        const ui::Control* below = std::exchange(asks, window.form->focused());
         if (complete || !window.drawn) {
             opened.push_back(drawWindow(window.id, *window.form));
+            if (below != nullptr) opened.back()["asks"] = below->id();
             window.drawn = true;
             continue;
         }

@@ -29,7 +29,7 @@ void draw(json& out, const ui::TextBox& box, bool /*whole*/) {
     out["lines"] = box.lines();
     out["maxLength"] = box.maxLength();
     out["right"] = box.rightAligned();
-    out["picks"] = static_cast<bool>(box.onPick);
+    out["picks"] = box.onPick ? json(box.pickPicture()) : json();
     // What decides about single keys can only be asked here; everything else the browser edits.
     out["filtered"] = box.filtered();
 }
@@ -64,6 +64,7 @@ void draw(json& out, const ui::ComboBox& list, bool whole) {
 void draw(json& out, const ui::ListBox& list, bool whole) {
     out["kind"] = "list";
     out["rows"] = list.rows();
+    out["pairs"] = list.pairs();
     drawItems(out, list, whole);
 }
 
@@ -159,6 +160,18 @@ const char* nameOf(Layout::Kind kind) {
         return "table";
     case Layout::Kind::frame:
         return "frame";
+    case Layout::Kind::section:
+        return "section";
+    case Layout::Kind::groups:
+        return "groups";
+    case Layout::Kind::sides:
+        return "sides";
+    case Layout::Kind::filters:
+        return "filters";
+    case Layout::Kind::sums:
+        return "sums";
+    case Layout::Kind::bar:
+        return "bar";
     case Layout::Kind::tabs:
         return "tabs";
     }
@@ -169,8 +182,8 @@ json drawLayout(const Layout& layout) {
     json out{{"kind", nameOf(layout.kind)}};
     if (layout.control != nullptr) out["control"] = layout.control->id();
     if (layout.grows) out["grows"] = true;
-    if (layout.kind == Layout::Kind::fields || layout.kind == Layout::Kind::table)
-        out["columns"] = layout.columns;
+    if (layout.leads) out["primary"] = true;
+    if (layout.columns != 1) out["columns"] = layout.columns;
     if (!layout.children.empty()) {
         json children = json::array();
         for (const Layout& child : layout.children)
@@ -221,6 +234,7 @@ json drawWindow(int id, ui::Form& form) {
     return {{"id", id},
             {"form", form.name()},
             {"title", form.title()},
+            {"card", form.isCard()},
             {"layout", drawLayout(form.layout())},
             {"status", drawStatus(form.status())},
             {"controls", std::move(controls)}};

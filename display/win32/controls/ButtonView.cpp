@@ -4,6 +4,8 @@
 #include "display/win32/native/pictures.h"
 #include "module/ui/controls/caption.h"
 
+#include <algorithm>
+
 namespace tellurix::windows {
 
 ButtonView::ButtonView(ViewHost& host, ui::Button& button) : ControlView(host, button), button_(button) {
@@ -15,8 +17,10 @@ ButtonView::~ButtonView() {
 }
 
 Room ButtonView::measure() const {
-    const int width = icon_ != nullptr ? theme().lineHeight() + theme().scaled(4)
-                                       : theme().textSize(button_.caption(), true).cx + theme().scaled(22);
+    const int width = icon_ != nullptr
+                          ? theme().lineHeight() + theme().scaled(4)
+                          : std::max(theme().textSize(button_.caption(), true).cx + theme().scaled(22),
+                                     static_cast<LONG>(theme().buttonWidth()));
     return {Extent::fixed(width), Extent::fixed(theme().lineHeight())};
 }
 
@@ -26,6 +30,10 @@ void ButtonView::draw() {
         drawPicture();
     }
     showText(widen(button_.caption()));
+}
+
+void ButtonView::setPrimary(bool primary) {
+    SendMessageW(handle(), BM_SETSTYLE, primary ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
 }
 
 void ButtonView::drawPicture() {

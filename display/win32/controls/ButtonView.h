@@ -15,6 +15,8 @@ public:
 
     Room measure() const override;
     void notified(UINT code, NMHDR* details) override;
+    /// Marked as the default button, or not.
+    void setPrimary(bool primary);
 
 private:
     void draw() override;

@@ -14,6 +14,13 @@ bool anyPresent(const Parts& parts) {
     return std::ranges::any_of(parts, [](const auto& part) { return part->present(); });
 }
 
+int widestLabel(const Parts& parts) {
+    int width = 0;
+    for (const auto& part : parts)
+        width = std::max(width, part->labelWidth());
+    return width;
+}
+
 /// Length of the gaps between the parts that are shown.
 int gapsBetween(const Parts& parts, int gap) {
     int sum = -gap;
@@ -103,6 +110,27 @@ void RowPart::place(const RECT& rect) {
     }
 }
 
+bool BarPart::present() const {
+    return anyPresent(groups_);
+}
+
+Room BarPart::room() const {
+    return roomOf(groups_, gap_, &Room::width, &Room::height);
+}
+
+void BarPart::place(const RECT& rect) {
+    const std::vector<int> widths = lengthsOf(groups_, widthOf(rect), gap_, &Room::width);
+    int x = rect.left;
+    for (std::size_t i = 0; i < groups_.size(); ++i) {
+        Part& group = *groups_[i];
+        if (!group.present()) continue;
+        x += x > rect.left ? group.leading() : 0;
+        if (&group == groups_.back().get()) x = std::max<int>(x, rect.right - widths[i]);
+        group.place({x, rect.top, x + widths[i], rect.bottom});
+        x += widths[i] + gap_;
+    }
+}
+
 bool ColumnPart::present() const {
     return anyPresent(children_);
 }
@@ -122,6 +150,36 @@ void ColumnPart::place(const RECT& rect) {
         part.place({rect.left, y, rect.left + width, y + heights[i]});
         y += heights[i] + gap_;
     }
+}
+
+int ColumnPart::labelWidth() const {
+    return widestLabel(children_);
+}
+
+void ColumnPart::setLabelWidth(int width) {
+    for (const auto& part : children_)
+        part->setLabelWidth(width);
+}
+
+Room GroupsPart::room() const {
+    // Which fields are shown changes from one moment to the next, and the widest label with them.
+    for (const auto& part : children())
+        part->setLabelWidth(labelWidth());
+    return ColumnPart::room();
+}
+
+void GroupsPart::place(const RECT& rect) {
+    setLabelWidth(labelWidth());
+    ColumnPart::place(rect);
+}
+
+int ContainerPart::labelWidth() const {
+    return present() ? widestLabel(pages_) : 0;
+}
+
+void ContainerPart::setLabelWidth(int width) {
+    for (const auto& page : pages_)
+        page->setLabelWidth(width);
 }
 
 Room ContainerPart::room() const {

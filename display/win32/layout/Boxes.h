@@ -33,18 +33,47 @@ private:
     int gap_;
 };
 
-/// Parts one below the other. Those that neither grow nor fill keep their width.
-class ColumnPart final : public Part {
+/// Groups of buttons side by side, the last of them at the far end.
+class BarPart final : public Part {
 public:
-    ColumnPart(Parts children, int gap) : children_(std::move(children)), gap_(gap) {}
+    BarPart(Parts groups, int gap) : groups_(std::move(groups)), gap_(gap) {}
 
     bool present() const override;
     Room room() const override;
     void place(const RECT& rect) override;
 
 private:
+    Parts groups_;
+    int gap_;
+};
+
+/// Parts one below the other. Those that neither grow nor fill keep their width.
+class ColumnPart : public Part {
+public:
+    ColumnPart(Parts children, int gap) : children_(std::move(children)), gap_(gap) {}
+
+    bool present() const override;
+    Room room() const override;
+    void place(const RECT& rect) override;
+    int labelWidth() const override;
+    void setLabelWidth(int width) override;
+
+protected:
+    const Parts& children() const { return children_; }
+
+private:
     Parts children_;
     int gap_;
+};
+
+/// A column of groups, whose labels share one width.
+class GroupsPart final : public ColumnPart {
+public:
+    using ColumnPart::ColumnPart;
+
+    Room room() const override;
+    void place(const RECT& rect) override;
+    bool fills() const override { return false; }
 };
 
 /// A column inside the border of a frame, or the pages behind a row of tabs.
@@ -56,6 +85,8 @@ public:
     bool present() const override { return view_.control().visible(); }
     Room room() const override;
     void place(const RECT& rect) override;
+    int labelWidth() const override;
+    void setLabelWidth(int width) override;
 
 private:
     ControlView& view_;

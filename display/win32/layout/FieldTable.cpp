@@ -9,15 +9,19 @@ namespace {
 
 using ui::Layout;
 
-/// Fields in a table of columns, labels and boxes aligned, filled by rows; a growing one has a row of its
-/// own. A row that begins with a field is a field with something behind it; what is no field takes the
-/// place of label and box.
+/// A field, or fields in a table of columns, labels and boxes aligned, filled by rows; a growing one has a
+/// row of its own. A row that begins with a field is a field with something behind it; what is no field takes
+/// the place of label and box.
 class FieldTable final : public Part {
 public:
     FieldTable(const Layout& layout, ViewHost& host)
         : columns_(static_cast<std::size_t>(layout.columns)),
           gap_(host.theme().gap()),
           columnGap_(host.theme().scaled(14)) {
+        if (layout.kind == Layout::Kind::field) {
+            cells_.push_back(cellOf(layout, host));
+            return;
+        }
         for (const Layout& child : layout.children)
             cells_.push_back(cellOf(child, host));
     }
@@ -57,8 +61,20 @@ public:
     }
 
     bool fills() const override {
-        return std::ranges::any_of(cells_, [](const Cell& cell) { return cell.present() && cell.grows(); });
+        return std::ranges::any_of(cells_, [](const Cell& cell) {
+            return cell.present() && (cell.grows() || cell.content->fills());
+        });
     }
+
+    int labelWidth() const override {
+        int width = 0;
+        for (const auto& row : rows())
+            if (row.front()->label != nullptr)
+                width = std::max(width, row.front()->label->room().width.preferred);
+        return width;
+    }
+
+    void setLabelWidth(int width) override { labelWidth_ = width; }
 
 private:
     struct Cell {
@@ -129,6 +145,7 @@ private:
     /// Two shares a column: labels and contents. A growing content takes what the others leave it.
     std::vector<Share> columnShares(const Rows& rows) const {
         std::vector<Share> shares(2 * columns_);
+        shares.front().extent = Extent::fixed(labelWidth_);
         for (const auto& row : rows) {
             for (std::size_t column = 0; column < row.size(); ++column) {
                 const Cell& cell = *row[column];
@@ -171,6 +188,7 @@ private:
     std::size_t columns_;
     int gap_;
     int columnGap_;
+    int labelWidth_ = 0; ///< that of the groups which it stands among
 };
 
 } // namespace

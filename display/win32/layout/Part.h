@@ -23,6 +23,11 @@ public:
     /// beside each other end together.
     virtual bool fills() const { return true; }
 
+    /// Width of the labels that its fields begin with, and how wide they are made to stand in line with those
+    /// of other groups.
+    virtual int labelWidth() const { return 0; }
+    virtual void setLabelWidth(int /*width*/) {}
+
     void setGrowing(bool grows) { grows_ = grows; }
     /// Space before it in a row, beside the usual gap.
     void setLeading(int pixels) { leading_ = pixels; }
@@ -49,7 +54,7 @@ std::vector<int> divide(int length, const std::vector<Share>& shares);
 std::unique_ptr<Part> makePart(const ui::Layout& layout, ViewHost& host);
 Parts makeParts(const std::vector<ui::Layout>& layouts, ViewHost& host);
 
-/// A table of fields, labels and boxes in line (see FieldTable.cpp).
+/// A field, or a table of them, labels and boxes in line (see FieldTable.cpp).
 std::unique_ptr<Part> makeFieldTable(const ui::Layout& layout, ViewHost& host);
 /// A table of cells (see CellTable.cpp).
 std::unique_ptr<Part> makeTable(const ui::Layout& layout, ViewHost& host);

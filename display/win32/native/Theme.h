@@ -30,20 +30,27 @@ public:
     int characterWidth() const { return characterWidth_; }
     int textHeight() const { return textHeight_; }
     /// Height of everything that is one line high: boxes, buttons, labels.
-    int lineHeight() const { return textHeight_ + scaled(8); }
+    int lineHeight() const { return units(14); }
+    /// Least width of a button with words.
+    int buttonWidth() const { return MulDiv(50, characterWidth_, 4); }
     /// Height of an item in a list.
     int itemHeight() const { return textHeight_ + scaled(2); }
     /// What a list is wider than its items: its border and its button or scroll bar.
     int listEdges() const { return scaled(30); }
     /// What a box or a cell is wider than its text.
     int textEdges() const { return scaled(10); }
-    int gap() const { return scaled(6); }
-    int margin() const { return scaled(10); }
+    /// Between what belongs together, between groups of it, and around the content of a window.
+    int gap() const { return units(4); }
+    int groupGap() const { return units(10); }
+    int margin() const { return units(7); }
     /// Room that a caption needs; it is broken into lines of `wrapAt` pixels at most, 0 for never.
     /// @param withMark whether "&" marks an access key in it
     SIZE textSize(const std::string& text, bool withMark, int wrapAt = 0) const;
 
 private:
+    /// Vertical dialog units, which follow the system's font.
+    int units(int count) const { return MulDiv(count, textHeight_, 8); }
+
     int dotsPerInch_;
     GdiObject<HFONT> font_;
     GdiObject<HFONT> boldFont_;

@@ -17,7 +17,6 @@ namespace tellurix::logistics {
 using base::OwnText;
 using ui::column;
 using ui::field;
-using ui::row;
 
 namespace {
 
@@ -108,22 +107,22 @@ void CalendarArea::connect() {
 }
 
 ui::Layout CalendarArea::layout() {
-    return ui::frame(
-               frmKalenderwochen,
-               {row({
-                        column({ui::Layout{DataGridKalendar}.growing(), lblMeldung}).growing(),
-                        column({
-                            ui::frame(frmKalendar,
-                                      {ui::fields(1, {field(lblKW_Year, txtJahr), field(lblKW, txtWoche),
-                                                      field(lblPlanmenge, txtPlanmenge)})}),
-                            ui::frame(frmVergleich, {ui::fields(1, {field(lblPlan, lblPlanWert),
-                                                                    field(lblVertrag, lblVertragWert),
-                                                                    field(lblDifferenz, lblDifferenzWert)})}),
-                        }),
-                    })
-                    .growing(),
-                row({btnNeu1, btnBearbeiten1, btnSpeichern1, btnAbbrechen1, btnLoschen1, btnGenWeek})})
-        .growing();
+    return column({
+        ui::sides(
+            ui::section(frmKalenderwochen, {btnGenWeek},
+                        {ui::Layout{DataGridKalendar}.growing(), lblMeldung}),
+            ui::groups(
+                {
+                    ui::frame(frmKalendar, {ui::fields(1, {field(lblKW_Year, txtJahr), field(lblKW, txtWoche),
+                                                           field(lblPlanmenge, txtPlanmenge)})}),
+                    ui::frame(frmVergleich,
+                              {ui::fields(1, {field(lblPlan, lblPlanWert), field(lblVertrag, lblVertragWert),
+                                              field(lblDifferenz, lblDifferenzWert)})}),
+                })
+                .growing())
+            .growing(),
+        ui::bar({btnNeu1, btnBearbeiten1, ui::Layout{btnSpeichern1}.primary(), btnAbbrechen1, btnLoschen1}),
+    });
 }
 
 std::vector<parts::KeyedGrid::Column> CalendarArea::columns(base::Fields* week) {

@@ -23,7 +23,7 @@ F_Vertrag_WVO::F_Vertrag_WVO(host::HostServices& services)
     std::vector<ui::Layout> pages;
     for (Area* area : areas())
         pages.push_back(area->layout());
-    setLayout(ui::column({ui::tabs(SSTab1, std::move(pages)).growing(), ui::row({btnClose})}));
+    setLayout(ui::column({ui::tabs(SSTab1, std::move(pages)).growing(), ui::bar({}, {}, {btnClose})}));
 }
 
 void F_Vertrag_WVO::Run(std::int32_t contract, const host::TlxVar& session) {

@@ -102,14 +102,21 @@ void HelperArea::connect() {
 }
 
 ui::Layout HelperArea::layout() {
-    return ui::frame(frmWaldhelfer,
-                     {ui::row({ui::field(lblFilter, txtFilter)}), ui::Layout{MSFG}.growing(), ProgressBar1,
-                      ui::frame(frmSummen, {ui::row({lblSumme, lbldruchschn, lbldruchschnMenge, lblangem,
-                                                     lblangemMenge, lblangemWB, lblangemWBMenge, lblbest,
-                                                     lblbestMenge, lblMengeneinheit, lblEinheit})}),
-                      ui::row({btnNeu2, btnBearbeiten2, btnSpeichern2, btnAbbrechen2, btnLoschen2, btnXLS}),
-                      ui::row({btnWaldhelfer, btnAMB, btnAWBMB, btnSerienmail})})
-        .growing();
+    enum Column { name = 2, planned, announced, owners, confirmed, unit };
+    return ui::column(
+        {ui::section(frmWaldhelfer, {btnWaldhelfer, btnAMB, btnAWBMB, ui::field(lblFilter, txtFilter)},
+                     {ui::sums(MSFG, ui::frame(frmSummen,
+                                               {ui::row({ui::under(name, lblSumme),
+                                                         ui::under(planned, lbldruchschn, lbldruchschnMenge),
+                                                         ui::under(announced, lblangem, lblangemMenge),
+                                                         ui::under(owners, lblangemWB, lblangemWBMenge),
+                                                         ui::under(confirmed, lblbest, lblbestMenge),
+                                                         ui::under(unit, lblMengeneinheit, lblEinheit)})}))
+                          .growing(),
+                      ProgressBar1})
+             .growing(),
+         ui::bar({btnNeu2, btnBearbeiten2, ui::Layout{btnSpeichern2}.primary(), btnAbbrechen2, btnLoschen2},
+                 {btnXLS, btnSerienmail})});
 }
 
 std::vector<parts::KeyedGrid::Column> HelperArea::columns() const {

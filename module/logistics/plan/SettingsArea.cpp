@@ -140,29 +140,34 @@ void SettingsArea::connect() {
 ui::Layout SettingsArea::layout() {
     return column({
         row({
-            frame(frmSchalter,
-                  {chkAngemeldeteMenge, chkGesperrt, chkMengenauf, chkErforderlich, chkAktive, chkVermarktung,
-                   chkSichtbar, chkHandabmas, chkVertragMGSichtbar, chkGeschaeftsfeldNeu, chkVorvertrag,
-                   chkKeine_Mengenmeldung_Auf_WB, chkLieferungAusserhalbmoeglich}),
-            column({
-                       frame(frmEinstellungen,
-                             {ui::fields(1, {field(lblAngemeldete, txtAngemeldete),
-                                             field(lblMengenmeldung, txtMengenmeldung),
-                                             field(lblUberlieferung, txtUberlieferung),
-                                             field(lblBereitstellung, txtBereitstellung),
-                                             field(lblBereitstellungTime, txtBereitstellungTime),
-                                             field(lblBelieferung, txtBelieferung),
-                                             field(lblLieferparitat, txtLieferparitat)})}),
-                       frame(frmOriginal, {row({txtOriginal, btnOriginal})}),
-                       frame(frmBemerkung, {ui::Layout{txtBemerkung}.growing()}).growing(),
-                       row({btnBearbeiten, btnSpeichern, btnAbbrechen}),
-                   })
-                .growing(),
-        }),
-        frame(frmFhpLogistik, {chkFHPLogistikVerweden, chkWaldverbandLogistikkoordinator,
-                               chkWaldhelferKannFraechterAendern, chkWaldhelferKannTransportauftraegeTeilen,
-                               field(lblTransportauftraege, txtTransportauftraege, txtTransportauftragTime,
-                                     lblTransportauftragTime)}),
+                ui::groups(
+                    {frame(frmSchalter, {chkAngemeldeteMenge, chkGesperrt, chkMengenauf, chkErforderlich,
+                                         chkAktive, chkVermarktung, chkSichtbar, chkHandabmas,
+                                         chkVertragMGSichtbar, chkGeschaeftsfeldNeu, chkVorvertrag,
+                                         chkKeine_Mengenmeldung_Auf_WB, chkLieferungAusserhalbmoeglich})}),
+                ui::groups({
+                    frame(frmEinstellungen,
+                          {ui::fields(1, {field(lblAngemeldete, txtAngemeldete),
+                                          field(lblMengenmeldung, txtMengenmeldung),
+                                          field(lblUberlieferung, txtUberlieferung),
+                                          field(lblBereitstellung, txtBereitstellung),
+                                          field(lblBereitstellungTime, txtBereitstellungTime),
+                                          field(lblBelieferung, txtBelieferung),
+                                          field(lblLieferparitat, txtLieferparitat)})}),
+                    frame(frmOriginal, {row({txtOriginal, btnOriginal})}),
+                }),
+                column({
+                           frame(frmFhpLogistik, {chkFHPLogistikVerweden, chkWaldverbandLogistikkoordinator,
+                                                  chkWaldhelferKannFraechterAendern,
+                                                  chkWaldhelferKannTransportauftraegeTeilen,
+                                                  field(lblTransportauftraege, txtTransportauftraege,
+                                                        txtTransportauftragTime, lblTransportauftragTime)}),
+                           frame(frmBemerkung, {ui::Layout{txtBemerkung}.growing()}).growing(),
+                       })
+                    .growing(),
+            })
+            .growing(),
+        ui::bar({btnBearbeiten, ui::Layout{btnSpeichern}.primary(), btnAbbrechen}),
     });
 }
 

@@ -105,18 +105,20 @@ void F_Bereitstellung_WVO::connectFilter(ui::TextBox& box) {
 }
 
 void F_Bereitstellung_WVO::arrange() {
+    enum Column { name = 1, announced = 3, remark, confirmed };
     setLayout(ui::column({
-        ui::row({ui::field(lblVertrag, txtVertrag), ui::field(lblKalender, txtKalender, txtKalenderTage)}),
-        ui::row(
-            {ui::field(lblWaldhelfer, txtWaldhelfer), ui::field(lblWHNummer, txtWHNummer), chkOhneMeldung}),
-        ui::Layout{MSFG}.growing(),
+        ui::filters({ui::field(lblVertrag, txtVertrag), ui::field(lblKalender, txtKalender, txtKalenderTage),
+                     ui::field(lblWaldhelfer, txtWaldhelfer), ui::field(lblWHNummer, txtWHNummer),
+                     chkOhneMeldung}),
+        ui::sums(MSFG, ui::frame(frmSummen,
+                                 {ui::row({ui::under(name, lblWH1), ui::under(announced, lblZuege, lblWH2),
+                                           ui::under(confirmed, lblZugesagt, lblWH3)}),
+                                  ui::row({ui::under(name, lblZ1), ui::under(announced, lblZ2),
+                                           ui::under(remark, lblVS), ui::under(confirmed, lblZ3)})}))
+            .growing(),
         ui::row({lblGemeldet, pgbSpeichern}),
-        ui::frame(frmSummen, {ui::row({ui::table(3, {ui::row({}), lblZuege, lblZugesagt, //
-                                                     lblWH1, lblWH2, lblWH3,             //
-                                                     lblZ1, lblZ2, lblZ3}),
-                                       lblVS})}),
-        ui::row({btnBearbeiten, btnSpeichern, btnAbbrechen, btnAllezusagen, btnExcel, btnExcelAlles,
-                 btnFHPExport, btnSchliesen}),
+        ui::bar({btnBearbeiten, ui::Layout{btnSpeichern}.primary(), btnAbbrechen, btnAllezusagen},
+                {btnExcel, btnExcelAlles, btnFHPExport}, {btnSchliesen}),
     }));
 }
 

@@ -55,12 +55,15 @@ void F_VertragMengenmeldung_WVO::connect() {
 }
 
 void F_VertragMengenmeldung_WVO::arrange() {
+    enum Column { announced = 2, confirmed };
     setLayout(ui::column({
-        ui::row({ui::field(lblVertrag, txtWaldhelfer, txtWaldhelferName)}),
-        ui::Layout{MSFG}.growing(),
-        ui::row({lblSummeCol2, lblCol2, lblSummeCol3, lblCol3}),
+        ui::filters({ui::field(lblVertrag, txtWaldhelfer, txtWaldhelferName)}),
+        ui::sums(MSFG, ui::row({ui::under(announced, lblSummeCol2, lblCol2),
+                                ui::under(confirmed, lblSummeCol3, lblCol3)}))
+            .growing(),
         ProgressBar1,
-        ui::row({btnBearbeiten, btnSpeichern, btnAbbrechen, btnAllezusagen, btnExcel, btnSchliesen}),
+        ui::bar({btnBearbeiten, ui::Layout{btnSpeichern}.primary(), btnAbbrechen, btnAllezusagen}, {btnExcel},
+                {btnSchliesen}),
     }));
 }
 

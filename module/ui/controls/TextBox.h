@@ -80,6 +80,9 @@ public:
     /// Opens the box's picker; set for boxes that have one. The displays then offer Ctrl, F4 and a
     /// small button for it.
     Handlers<void()> onPick;
+    /// Name of the picture on that button: "more" for a list, "calendar".
+    const std::string& pickPicture() const { return pickPicture_; }
+    void setPickPicture(std::string picture) { change(pickPicture_, std::move(picture)); }
 
 private:
     int length() const { return static_cast<int>(characters_.size()); }
@@ -91,6 +94,7 @@ private:
     mutable std::string text_;
     mutable bool textIsOld_ = false;
     std::string tag_;
+    std::string pickPicture_ = "more";
     int width_;
     int lines_ = 1;
     int maxLength_ = 0;

@@ -34,7 +34,7 @@ F_Mail::F_Mail(Draft draft, Words words)
     btnCancel.onClick = [this] { unload(); };
     setCancelButton(btnCancel);
     setLayout(ui::column({lblKind, grdRecipients, lblCount, ui::field(lblSubject, txtSubject),
-                          ui::field(lblText, txtText), ui::row({btnSend, btnCancel})}));
+                          ui::field(lblText, txtText), ui::bar({ui::Layout{btnSend}.primary(), btnCancel})}));
     showRecipients();
     grdRecipients.setCurrent(0, 1);
 }

@@ -34,7 +34,7 @@ F_Models::F_Models(ui::Display& display, ModelStore store, std::vector<std::stri
     connect();
     setLayout(ui::column({ui::row({grdModels, ui::Layout{grdLines}.growing()}).growing(),
                           ui::row({ui::field(lblName, txtName), btnSave, btnRename, btnDelete}),
-                          ui::row({btnClose})}));
+                          ui::bar({}, {}, {btnClose})}));
     load(current);
 }
 

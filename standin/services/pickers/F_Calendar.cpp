@@ -39,7 +39,8 @@ F_Calendar::F_Calendar(std::string title, Date start, Date today, const base::Lo
     connect(today);
     // The grid stands first in the tab order, so that the keys work at once.
     setLayout(ui::column({lblMonth, ui::Layout{grdDays}.growing(), lblDay,
-                          ui::row({btnPrevious, btnToday, btnNext}), ui::row({btnOk, btnCancel})}));
+                          ui::row({btnPrevious, btnToday, btnNext}),
+                          ui::bar({ui::Layout{btnOk}.primary(), btnCancel})}));
     show();
 }
 
@@ -55,6 +56,7 @@ void F_Calendar::connect(Date today) {
     btnToday.onClick = [this, today] { choose(today); };
     btnOk.onClick = [this] { choose(day_); };
     btnCancel.onClick = [this] { unload(); };
+    setCard();
     setCancelButton(btnCancel);
 }
 

@@ -43,9 +43,10 @@ F_ListPicker::F_ListPicker(std::string title, List list, CountTexts countTexts, 
     connectSearch(txtFilter, grdList, [this] { choose(); });
     btnOk.onClick = [this] { choose(); };
     btnCancel.onClick = [this] { unload(); };
+    setCard();
     setCancelButton(btnCancel);
     setLayout(ui::column({ui::field(lblFilter, txtFilter), ui::Layout{grdList}.growing(), lblCount,
-                          ui::row({btnOk, btnCancel})}));
+                          ui::bar({ui::Layout{btnOk}.primary(), btnCancel})}));
     startOn(current);
 }
 

@@ -10,8 +10,9 @@ F_LookupGrid::F_LookupGrid(std::string title, ChoiceList::Captions captions, std
     list_.onEnter = [this] { takeOver(); };
     btnOk.onClick = [this] { takeOver(); };
     btnCancel.onClick = [this] { unload(); };
+    setCard();
     setCancelButton(btnCancel);
-    setLayout(ui::column({ui::Layout{grdList}.growing(), ui::row({btnOk, btnCancel})}));
+    setLayout(ui::column({ui::Layout{grdList}.growing(), ui::bar({ui::Layout{btnOk}.primary(), btnCancel})}));
 }
 
 void F_LookupGrid::takeOver() {

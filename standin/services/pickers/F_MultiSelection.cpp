@@ -59,9 +59,9 @@ F_MultiSelection::F_MultiSelection(std::string title, List list, Words words,
 }
 
 void F_MultiSelection::arrange() {
-    setLayout(
-        ui::column({ui::row({ui::field(lblSearch, txtSearch), chkMarked}), ui::Layout{grdList}.growing(),
-                    lblCount, ui::row({btnMarkFound, btnUnmarkFound, btnOk, btnCancel})}));
+    setLayout(ui::column(
+        {ui::filters({ui::field(lblSearch, txtSearch), chkMarked}), ui::Layout{grdList}.growing(), lblCount,
+         ui::bar({ui::Layout{btnOk}.primary(), btnCancel}, {btnMarkFound, btnUnmarkFound})}));
 }
 
 void F_MultiSelection::fit(std::vector<ui::Grid::Column> columns) {

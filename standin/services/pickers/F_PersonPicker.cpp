@@ -30,6 +30,7 @@ F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::stri
     btnOk.onClick = [this] { choose(); };
     btnNone.onClick = [this] { answer(nobody); };
     btnCancel.onClick = [this] { unload(); };
+    setCard();
     setCancelButton(btnCancel);
     arrange();
 
@@ -40,7 +41,7 @@ F_PersonPicker::F_PersonPicker(std::string title, Search search, const std::stri
 
 void F_PersonPicker::arrange() {
     setLayout(ui::column({ui::field(lblSearch, txtSearch), ui::Layout{grdPersons}.growing(), lblCount,
-                          ui::row({btnOk, btnNone, btnCancel})}));
+                          ui::bar({ui::Layout{btnOk}.primary(), btnNone, btnCancel})}));
 }
 
 void F_PersonPicker::narrow() {

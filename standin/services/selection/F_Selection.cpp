@@ -78,7 +78,7 @@ void F_Selection::arrange() {
                                    ui::field(lblComparison, cboComparison)}),
                     ui::field(lblValues, grdValues), ui::field(lblLengths, txtLengths),
                     ui::row({ui::field(lblFrom, txtFrom, cboFrom), ui::field(lblTo, txtTo, cboTo)})}),
-         ui::field(lblSentence, txtSentence), ui::row({btnOk, btnCancel})}));
+         ui::field(lblSentence, txtSentence), ui::bar({ui::Layout{btnOk}.primary(), btnCancel})}));
 }
 
 void F_Selection::add() {

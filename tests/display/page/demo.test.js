@@ -254,7 +254,7 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     assert.equal(await page.locator('.grid-row.current').getAttribute('aria-rowindex'), '600');
     await page.getByRole('gridcell', { name: '598', exact: true }).dblclick();
     await state('Zeile 598');
-    await page.mouse.wheel(0, -300 * 26);
+    await page.mouse.wheel(0, -300 * 24);
     const far = page.getByRole('gridcell', { name: '297', exact: true });
     await far.waitFor();
     assert.equal(await page.evaluate(() => {

@@ -1,6 +1,7 @@
 // Plays a scenario in a real browser: play_scenario.js SCENARIO DATABASE
 // The steps are described in tests/scenarios/README.md.
 import { readFileSync } from 'node:fs';
+import { checkScreen } from './check_screen.js';
 import { control, hasFocus, open, serve, settled, startBrowser, top, until } from './support.js';
 
 const [scenario, database] = process.argv.slice(2);
@@ -124,12 +125,21 @@ class Player {
     await until(async () => { const now = await this.#shown(found); return now === wanted || now; }, name.text);
   }
 
-  /** Into the folder that TELLURIX_PICTURES names. */
-  picture([name]) {
-    const message = this.page.locator('.message');
-    const window = this.page.locator('.window:not(.behind)');
-    const path = `${process.env.TELLURIX_PICTURES}/browser-${name.text}.png`;
-    return message.or(window).last().screenshot({ path });
+  /**
+   * Into the folder that TELLURIX_PICTURES names, as it looks to different users. With TELLURIX_CHECKS what is
+   * found wrong with what is seen is told at the end.
+   */
+  async picture([name]) {
+    if (process.env.TELLURIX_CHECKS) findings.push(...await checkScreen(this.page, name.text));
+    if (!process.env.TELLURIX_PICTURES) return;
+    const size = this.page.viewportSize();
+    for (const { look, media = {}, width, height } of looks) {
+      await this.page.emulateMedia({ colorScheme: null, forcedColors: null, ...media });
+      await this.page.setViewportSize({ width, height });
+      await this.page.screenshot({ path: `${process.env.TELLURIX_PICTURES}/browser-${look}-${name.text}.png` });
+    }
+    await this.page.emulateMedia({ colorScheme: null, forcedColors: null });
+    await this.page.setViewportSize(size);
   }
 
   close() {
@@ -171,7 +181,17 @@ class Player {
   }
 }
 
-const browser = await startBrowser();
+const looks = [
+  { look: 'light', width: 1366, height: 660 },
+  { look: 'dark', media: { colorScheme: 'dark' }, width: 1366, height: 660 },
+  { look: 'forced', media: { forcedColors: 'active' }, width: 1366, height: 660 },
+  { look: 'phone', width: 390, height: 844 },
+];
+const findings = [];
+
+// A user may have chosen larger texts: TELLURIX_TEXT=24 is one and a half of the usual 16 pixels.
+const text = process.env.TELLURIX_TEXT;
+const browser = await startBrowser(text ? [`--blink-settings=defaultFontSize=${text}`] : []);
 const server = await serve(process.env.TELLURIX_WORKBENCH, '--database', database, '--port', '0', '--user', 'test');
 try {
   const { page, problems } = await open(browser, server.address);
@@ -191,6 +211,7 @@ try {
     }
   }
   await player.window([{ text: 'F_Start' }]);
+  if (findings.length > 0) throw new Error([...new Set(findings)].join('\n'));
   if (problems.length > 0) throw new Error(problems.join('\n'));
 } catch (error) {
   console.error(error.message);

@@ -350,20 +350,20 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await until(async () => (await control(page, 'MSFG').getByText('Straßer Günther').count()) === 1, 'the helper is there');
   });
 
-  test('on a low page the table of prices gives way to the change of all prices', async () => {
+  test('on a low page the list of prices and all buttons stay, beside the change of all prices', async () => {
     await openPrices();
     await control(page, 'btnPreiseAendern').click();
     await support.hasFocus(page, 'txtWert');
-    for (const [width, height] of [[1024, 700], [1366, 640], [1024, 560]]) {
+    for (const [width, height] of [[1024, 700], [1366, 640], [1024, 640]]) {
       await page.setViewportSize({ width, height });
       await until(() => page.evaluate(() => {
         const window = document.querySelector('.window:not(.behind)');
-        const bottom = (name) => window.querySelector(`[data-control="${name}"]`).getBoundingClientRect().bottom;
-        const content = window.querySelector('.content');
+        const place = (name) => window.querySelector(`[data-control="${name}"]`).getBoundingClientRect();
         const rows = window.querySelector('.grid').clientHeight / window.querySelector('.grid-row').offsetHeight;
-        const places = ['btnPreiseAendern', 'cmdOk'].map(bottom);
-        const seen = places.every((place) => place < content.getBoundingClientRect().bottom);
-        return (seen && rows >= 4 && content.scrollHeight === content.clientHeight) || { places, rows };
+        const content = window.querySelector('.content');
+        const seen = ['btnPreiseAendern', 'cmdOk'].every((name) => place(name).bottom <= innerHeight)
+          && place('txtWert').bottom < place('cmdOk').top;
+        return (seen && rows >= 10 && content.scrollHeight === content.clientHeight) || { rows, field: place('txtWert').bottom };
       }), `${width} by ${height}`);
     }
   });

@@ -3,8 +3,9 @@
 // in a long table costs no more than in a short one. Rows have a fixed height, which gives each its
 // place and the whole its height to scroll.
 import { copiedCells } from '../grid_text.js';
+import { text } from '../texts.js';
 import { charactersIn, ColumnEdge } from './column_edge.js';
-import { newElementId, View } from './view.js';
+import { newElementId, unseen, View } from './view.js';
 
 const orders = ['none', 'ascending', 'descending'];
 const rowsBeyond = 8; // drawn above and below those that are seen: scrolling shows no gaps
@@ -16,6 +17,7 @@ export class Grid extends View {
   #current = null; // the drawn current cell
   #scrolledTo = 0;
   #laidOut = false; // it has room on the screen, and is not on the page of a tab behind another
+  #sums = document.createElement('div');
   #editor = null; // the box that floats over a cell while it is edited
 
   constructor(window, state) {
@@ -81,14 +83,54 @@ export class Grid extends View {
     return heading ? charactersIn(heading.offsetWidth, this.element) : 0;
   }
 
+  /**
+   * Rows of sums, which stay in sight below the others.
+   * @param rows of cells { column, content }
+   * @param frame the frame that the screen keeps them in, or null
+   */
+  showSums(rows, frame) {
+    const group = document.createElement('div');
+    group.setAttribute('role', 'rowgroup');
+    frame?.standsAs(group);
+    this.#sums.className = 'grid-sums';
+    this.#sums.setAttribute('role', 'presentation');
+    this.#sums.append(...rows.map((cells) => {
+      const row = document.createElement('div');
+      row.setAttribute('role', 'row');
+      row.append(...cells.map(({ column, content }) => {
+        const cell = document.createElement('div');
+        cell.setAttribute('role', 'gridcell');
+        cell.dataset.sum = column;
+        cell.append(...content);
+        return cell;
+      }));
+      return row;
+    }));
+    group.replaceChildren(this.#sums);
+    this.element.append(group);
+    this.#placeSums();
+  }
+
+  /** The sums stand in the columns that they belong to; those of a hidden one are hidden with it. */
+  #placeSums() {
+    const visible = this.state.columns?.filter((column) => column.visible) ?? [];
+    for (const cell of this.#sums.querySelectorAll('[data-sum]')) {
+      const column = this.state.columns?.[cell.dataset.sum];
+      cell.hidden = !column?.visible;
+      cell.style.gridColumn = visible.indexOf(column) + 1;
+      cell.classList.toggle('right', Boolean(column?.right));
+    }
+  }
+
   #drawColumns() {
     const visible = this.state.columns.filter((column) => column.visible);
     // Where room is short, texts give way before numbers: half a name can still be recognised. What the
     // user has sized does neither give way nor grow.
-    const widths = visible.map(({ width, right, sized, caption }) => {
+    const widths = visible.map(({ width, right, sized, caption, order }) => {
       // A caption that is longer than what stands below it has to be read as well; it is bold.
-      const room = (sized ? width : Math.max(width, Math.ceil(1.15 * caption.length))) + 2;
-      return sized ? `${room}ch` : `minmax(${right ? room : Math.ceil(room / 2)}ch, ${room}fr)`;
+      const heading = Math.ceil(1.2 * caption.length) + (order ? 4 : 2);
+      const room = sized ? width + 2 : Math.max(width + 2, heading);
+      return sized ? `${room}ch` : `minmax(${right ? room : Math.max(heading, Math.ceil(room / 2))}ch, ${room}fr)`;
     });
     this.element.style.setProperty('--columns', widths.join(' ') || '1fr');
     this.element.style.setProperty('--width', visible.reduce((sum, column) => sum + column.width + 2, 0));
@@ -98,6 +140,7 @@ export class Grid extends View {
       cell.dataset.column = this.state.columns.indexOf(column);
       cell.classList.toggle('right', column.right);
       cell.textContent = column.caption;
+      if (!column.caption) cell.append(unseen(text('mark')));
       cell.title = column.caption;
       if (column.order) cell.setAttribute('aria-sort', orders[column.order]);
       new ColumnEdge(cell, {
@@ -110,6 +153,7 @@ export class Grid extends View {
       return cell;
     }));
     this.element.setAttribute('aria-colcount', visible.length);
+    this.#placeSums();
     this.#remove(() => true);
   }
 
@@ -259,7 +303,7 @@ export class Grid extends View {
     const height = this.#rowHeight;
     if (row < 0 || height === 0) return;
     const top = row * height;
-    const bottom = top + 2 * height - this.element.clientHeight;
+    const bottom = top + 2 * height - (this.element.clientHeight - this.#sums.offsetHeight);
     if (this.element.scrollTop > top) this.element.scrollTop = top;
     else if (this.element.scrollTop < bottom) this.element.scrollTop = bottom;
     this.#scrolledTo = this.element.scrollTop;

@@ -75,18 +75,29 @@ export class ComboBox extends ItemView {
   }
 }
 
+function part(className, text) {
+  const element = document.createElement('span');
+  element.className = className;
+  element.textContent = text;
+  return element;
+}
+
 export class ListBox extends ItemView {
+  #lines = document.createElement('div');
+
   constructor(window, state) {
     const list = document.createElement('div');
     super(window, state, list);
     list.classList.add('list', 'scrolls');
     list.tabIndex = 0;
     list.setAttribute('role', 'listbox');
+    this.#lines.setAttribute('role', 'presentation');
+    list.append(this.#lines);
     list.addEventListener('mousedown', (event) => {
       const option = event.target.closest('[role=option]');
       if (!option) return;
       event.preventDefault();
-      if (this.usable) this.perform({ type: 'select', index: [...list.children].indexOf(option) });
+      if (this.usable) this.perform({ type: 'select', index: [...this.#lines.children].indexOf(option) });
     });
     list.addEventListener('dblclick', () => {
       if (this.usable) this.perform({ type: 'doubleClick' });
@@ -94,13 +105,16 @@ export class ListBox extends ItemView {
   }
 
   draw(changes, before) {
-    const { items, selected, rows, width } = this.state;
-    if (changes.items) this.element.replaceChildren(...items.map((item) => this.#option(item)));
+    const { items, selected, rows, width, pairs } = this.state;
+    if (changes.items) this.#lines.replaceChildren(...items.map((item) => this.#option(item)));
+    this.#lines.style.setProperty('--half', Math.ceil(items.length / 2));
+    this.element.classList.toggle('pairs', pairs);
+    this.#lines.classList.toggle('pair-lines', pairs);
     this.element.style.setProperty('--rows', rows);
     this.element.style.setProperty('--width', width);
     if (!changes.items && before.selected === selected) return;
     this.element.querySelector('[aria-selected=true]')?.setAttribute('aria-selected', 'false');
-    const current = this.element.children[selected];
+    const current = this.#lines.children[selected];
     if (current) {
       current.setAttribute('aria-selected', 'true');
       current.scrollIntoView({ block: 'nearest' });
@@ -111,7 +125,7 @@ export class ListBox extends ItemView {
   }
 
   shown() {
-    this.element.children[this.state.selected]?.scrollIntoView({ block: 'nearest' });
+    this.#lines.children[this.state.selected]?.scrollIntoView({ block: 'nearest' });
   }
 
   #option(item) {
@@ -119,7 +133,13 @@ export class ListBox extends ItemView {
     option.id = newElementId();
     option.setAttribute('role', 'option');
     option.setAttribute('aria-selected', 'false');
-    option.textContent = item;
+    const at = this.state.pairs ? item.indexOf(': ') : -1;
+    if (at < 0) {
+      option.textContent = item;
+      return option;
+    }
+    // The whole text stays in it, for those who read or copy it.
+    option.append(part('name', item.slice(0, at)), part('colon', ': '), part('value', item.slice(at + 2)));
     return option;
   }
 }

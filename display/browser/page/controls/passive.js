@@ -1,5 +1,5 @@
 // The controls that only show something.
-import { showCaption } from '../caption.js';
+import { plainCaption, showCaption } from '../caption.js';
 import { newElementId, View } from './view.js';
 
 export class Label extends View {
@@ -24,21 +24,45 @@ export class Label extends View {
 }
 
 export class Frame extends View {
-  #legend = document.createElement('legend');
+  heading = document.createElement('div');
+  content = document.createElement('div');
+
+  #caption = document.createElement('span');
 
   constructor(window, state) {
     super(window, state, document.createElement('fieldset'), null);
-    this.content = document.createElement('div');
-    this.content.className = 'column';
     this.element.className = 'control frame';
-    this.#legend.id = newElementId();
-    this.element.append(this.#legend, this.content);
+    this.#caption.className = 'caption';
+    this.#caption.id = newElementId();
+    this.heading.className = 'heading';
+    this.heading.append(this.#caption);
+    this.content.className = 'column';
+    const group = document.createElement('div');
+    group.className = 'group';
+    group.append(this.heading, this.content);
+    this.element.append(group);
+  }
+
+  /** In a table a group of rows stands for it. */
+  standsAs(element) {
+    element.dataset.control = this.state.name;
+    element.dataset.id = this.state.id;
+    element.classList.add('control');
+    this.element = element;
+    this.draw();
+  }
+
+  /** Its only field has this label: a caption that says the same is only read out. */
+  repeats(label) {
+    this.heading.classList.toggle('repeated', plainCaption(label.state.caption) === plainCaption(this.state.caption));
   }
 
   draw() {
-    showCaption(this.#legend, this.state.caption);
-    this.#legend.hidden = this.state.caption === '';
-    this.element.disabled = !this.state.enabled;
+    const { caption, enabled } = this.state;
+    showCaption(this.#caption, caption);
+    if (caption) this.element.setAttribute('aria-label', plainCaption(caption));
+    else this.element.removeAttribute('aria-label');
+    this.element.disabled = !enabled;
   }
 }
 

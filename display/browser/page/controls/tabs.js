@@ -4,6 +4,7 @@ import { newElementId, View } from './view.js';
 export class Tabs extends View {
   #list = document.createElement('div');
   #pages = [];
+  #bars = [];
 
   constructor(window, state) {
     const element = document.createElement('div');
@@ -19,6 +20,7 @@ export class Tabs extends View {
     page.id = newElementId();
     page.setAttribute('role', 'tabpanel');
     page.append(content);
+    this.#bars.push(content.querySelector('.bar')); // they stand with the window's
     this.#pages.push(page);
     this.element.append(page);
     this.#connect();
@@ -55,6 +57,7 @@ export class Tabs extends View {
     this.#pages.forEach((page, index) => {
       const tab = this.#list.children[index];
       page.hidden = index !== this.state.selected;
+      if (this.#bars[index]) this.#bars[index].hidden = page.hidden;
       if (!tab) return;
       page.setAttribute('aria-labelledby', tab.id);
       tab.setAttribute('aria-controls', page.id);

@@ -1,5 +1,6 @@
 // A box to type into. The browser edits it, unless a filter has to see every character; either way
 // the session knows each text before anything that depends on it.
+import { picture } from '../pictures.js';
 import { text as ownText } from '../texts.js';
 import { characterOffset, insertion, keyEffect, lineEnds, typeable, unitOffset } from '../typing.js';
 import { View } from './view.js';
@@ -183,7 +184,7 @@ export class TextBox extends View {
     button.type = 'button';
     button.className = 'pick';
     button.tabIndex = -1;
-    button.textContent = '…';
+    button.append(picture(this.state.picks));
     button.title = ownText('pick');
     button.setAttribute('aria-label', ownText('pick'));
     button.addEventListener('click', () => this.perform({ type: 'pick' }));

@@ -13,6 +13,14 @@ function errorText() {
   return element;
 }
 
+/** Words for readers alone. */
+export function unseen(words) {
+  const element = document.createElement('span');
+  element.className = 'unseen';
+  element.textContent = words;
+  return element;
+}
+
 export class View {
   #error = null; // what stands beside it, once there has been something
 
