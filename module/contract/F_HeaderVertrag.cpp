@@ -56,7 +56,6 @@ F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
     btnCancel.onClick = [this] { unload(); };
     btnCancel.setCausesValidation(false);
     setCancelButton(btnCancel);
-    addSaveButton(btnOk);
     arrange();
 }
 

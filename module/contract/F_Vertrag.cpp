@@ -62,7 +62,6 @@ void F_Vertrag::connect() {
     btnSpeichern.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { unload(); };
     setCancelButton(btnAbbrechen);
-    addSaveButton(btnSpeichern);
     // A contract to take over from that is not there must not keep the window open.
     btnAbbrechen.setCausesValidation(false);
 }

@@ -62,7 +62,6 @@ void F_Abschlag::connect() {
     btnAbbrechen.onClick = [this] { cancel(); };
     btnAbbrechen.setCausesValidation(false);
     setCancelButton(btnAbbrechen);
-    addSaveButton(btnOk);
 }
 
 std::string F_Abschlag::Run(const host::TlxVar& session, std::int16_t mode, const std::string& calculation) {

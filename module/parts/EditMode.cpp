@@ -26,7 +26,6 @@ EditMode::EditMode(Buttons buttons, Controls controls, std::function<bool()> has
     add(controls_.whileEdited, {buttons.save, buttons.cancel});
     // Nobody has to correct a field in order to throw it away.
     if (buttons.cancel != nullptr) buttons.cancel->setCausesValidation(false);
-    if (buttons.save != nullptr) buttons.save->form().addSaveButton(*buttons.save);
     if (controls_.rows == nullptr) return;
     for (const auto& [key, button] :
          {std::pair{ui::Key::insert, buttons.create}, std::pair{ui::Key::f2, buttons.edit},

@@ -182,7 +182,7 @@ bool Desktop::windowKey(Form& form, const KeyDown& key) {
     } else if (key.key == Key::f1) {
         showKeys(form);
     } else if (key.key == Key{'S'} && key.ctrl) {
-        if (Button* save = form.saveButton()) press(form, *save);
+        if (Button* save = form.primaryButton()) press(form, *save);
     } else {
         return false;
     }

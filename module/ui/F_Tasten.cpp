@@ -20,8 +20,9 @@ F_Tasten::F_Tasten(const Form& window) : Form("F_Tasten") {
     grdTasten.setColumns({heading(OwnText::keyHeading, 26), heading(OwnText::effectHeading, 64)});
     btnSchliessen.setCaption(base::ownText(OwnText::close, language()));
     btnSchliessen.onClick = [this] { unload(); };
+    setCard();
     setCancelButton(btnSchliessen);
-    setLayout(column({Layout{grdTasten}.growing(), row({btnSchliessen})}));
+    setLayout(column({Layout{grdTasten}.growing(), bar({}, {}, {btnSchliessen})}));
 
     add(OwnText::keyGoOn);
     std::vector<const Grid*> grids;
@@ -33,7 +34,7 @@ F_Tasten::F_Tasten(const Form& window) : Form("F_Tasten") {
         addControl(*control);
     }
     if (presses) add(OwnText::keyPressOrTick);
-    if (const Button* save = window.saveButton()) add(OwnText::keySave, {plainCaption(save->caption())});
+    if (const Button* save = window.primaryButton()) add(OwnText::keySave, {plainCaption(save->caption())});
     if (const Button* cancel = window.cancelButton()) {
         add(OwnText::keyCancel, {plainCaption(cancel->caption())});
     } else {

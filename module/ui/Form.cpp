@@ -133,11 +133,6 @@ Label* Form::labelOf(const Control& control) const {
     return field == nullptr ? columnLabel(layout_, control) : as<Label>(field->control);
 }
 
-Button* Form::saveButton() const {
-    const auto found = std::ranges::find_if(saveButtons_, [](const Button* b) { return b->usable(); });
-    return found == saveButtons_.end() ? nullptr : *found;
-}
-
 bool Form::setFocus(Control& control) {
     if (!control.takesFocus() || !control.usable()) return false;
     focused_ = &control;

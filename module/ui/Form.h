@@ -51,9 +51,6 @@ public:
     bool setFocus(Control& control);
     /// Pressed by Esc; null lets Esc close the window.
     Button* cancelButton() const { return cancelButton_; }
-    /// Pressed by Ctrl+S: of the buttons that save something here the first that can be used, or null.
-    Button* saveButton() const;
-    void addSaveButton(Button& button) { saveButtons_.push_back(&button); }
 
     /// In which the words of the rules of input are: "en"; any other is German.
     const std::string& language() const { return language_; }
@@ -63,7 +60,8 @@ public:
     StatusLine& status() { return status_; }
     const StatusLine& status() const { return status_; }
 
-    /// The way on at the moment: the usable one of those that the layout leads on by, or null.
+    /// The way on at the moment, which Ctrl+S presses: the usable one of those that the layout leads on by, or
+    /// null.
     Button* primaryButton() const;
     /// Stands beside the field that asked for it, over its screen, instead of filling the window: a list, a
     /// calendar.
@@ -101,7 +99,6 @@ private:
     StatusLine status_;
     Control* focused_ = nullptr;
     Button* cancelButton_ = nullptr;
-    std::vector<Button*> saveButtons_;
     std::string language_;
     bool isCard_ = false;
     bool loaded_ = false;

@@ -46,8 +46,7 @@ public:
         grid.pressOn(Key::insert, btnNeu);
         grid.pressOn(Key::f2, btnEdit);
         grid.pressOn(Key::del, btnWeg);
-        addSaveButton(btnOk);
-        setLayout(ui::column({ui::frame(frame, {grid}), ui::row({btnNeu, btnEdit, btnWeg, btnOk})}));
+        setLayout(ui::column({ui::frame(frame, {grid}), ui::row({btnNeu, btnEdit, btnWeg, ui::Layout{btnOk}.primary()})}));
     }
 
     std::string at() const {
