@@ -2,6 +2,7 @@
 #include "com/automation/wide.h"
 #include "com/component/system/system_services.h"
 #include "display/win32/native/endings.h"
+#include "module/base/text.h"
 
 #include <windows.h>
 
@@ -93,7 +94,7 @@ public:
     explicit WindowsMail(host::NamedSettings& settings) : settings_(settings) {}
 
     void signOn(const host::TlxVar& session) override {
-        const std::string kind = settings_.text(session, "MAILRECIPIENTS");
+        const std::string kind = base::toUpper(base::trim(settings_.text(session, "MAILRECIPIENTS")));
         if (kind.empty() || kind == "BCC")
             kind_ = MAPI_BCC;
         else if (kind == "TO")

@@ -33,8 +33,12 @@ int portOf(const std::string& setting) {
     return port;
 }
 
-bool sameMessage(const MailMessage& one, const MailMessage& other) {
-    return one.recipients == other.recipients && one.subject == other.subject && one.text == other.text;
+/// Whether somebody who has the one would take the other for the same once more.
+bool repeats(const MailMessage& one, const MailMessage& other) {
+    return one.subject == other.subject &&
+           std::ranges::any_of(one.recipients, [&](const std::string& address) {
+               return std::ranges::find(other.recipients, address) != other.recipients.end();
+           });
 }
 
 } // namespace
@@ -113,25 +117,26 @@ bool MailService::send() {
                         form.sent()->subject, form.sent()->text};
     for (const F_Mail::Recipient& recipient : form.sent()->recipients)
         message.recipients.push_back(recipient.address);
-    if (open_ && sameMessage(*open_, message)) {
-        // Under the same identification, by which a mailbox that has it already can tell.
-        message.id = open_->id;
-        if (maybeSent_ && display_.messageBox(words("mail.again"),
-                                              ui::box::yesNo | ui::box::exclamation | ui::box::defaultButton2,
-                                              words("mail.title")) != ui::Answer::yes)
+    const auto before =
+        std::ranges::find_if(maybeSent_, [&](const MailMessage& sent) { return repeats(sent, message); });
+    if (before != maybeSent_.end()) {
+        if (display_.messageBox(words("mail.again"),
+                                ui::box::yesNo | ui::box::exclamation | ui::box::defaultButton2,
+                                words("mail.title")) != ui::Answer::yes)
             return false;
+        // Under the same identification, by which a mailbox that has it already can tell.
+        if (before->text == message.text) message.id = before->id;
     }
     const ui::BusyPointer busy{display_};
     try {
         deliver(message);
     } catch (const NotSent& failure) {
-        open_ = message;
-        maybeSent_ = failure.uncertain();
         if (!failure.refused().empty()) refused_.insert(failure.refused());
         if (!failure.uncertain()) throw;
+        maybeSent_.push_back(message);
         throw std::runtime_error{std::string{failure.what()} + "\r\n" + words("mail.maybeSent")};
     }
-    open_.reset();
+    std::erase_if(maybeSent_, [&](const MailMessage& sent) { return repeats(sent, message); });
     return true;
 }
 

@@ -5,8 +5,9 @@
 #include "standin/services/mail/mail_server.h"
 #include "standin/services/texts/Localizer.h"
 
-#include <optional>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace tellurix::standin {
 
@@ -48,9 +49,8 @@ private:
     std::vector<std::string> recipients_;
     std::string subject_;
     std::string text_;
-    std::set<std::string> refused_;   ///< addresses that the server has not taken
-    std::optional<MailMessage> open_; ///< the message whose sending failed last
-    bool maybeSent_ = false;          ///< nobody knows whether it was taken
+    std::set<std::string> refused_;      ///< addresses that the server has not taken
+    std::vector<MailMessage> maybeSent_; ///< messages of which nobody knows whether they were taken
 };
 
 } // namespace tellurix::standin

@@ -52,10 +52,15 @@ int overhear(CURL*, curl_infotype kind, char* data, std::size_t size, void* user
         const bool asks = line.starts_with(recipient) && line.find('>') != std::string::npos;
         talk.recipient = asks ? line.substr(recipient.size(), line.find('>') - recipient.size()) : "";
     } else if (kind == CURLINFO_HEADER_IN) {
-        // The first digit says how it went; what comes behind a refusal is only the farewell.
+        // The first digit says how it went; what comes behind a refusal is the farewell, or an answer to
+        // the same asked in another way.
+        constexpr std::string_view farewell = "221";
         if (line.starts_with('4') || line.starts_with('5')) {
             talk.refusal = line;
             talk.refused = talk.recipient;
+        } else if (!line.starts_with(farewell)) {
+            talk.refusal.clear();
+            talk.refused.clear();
         }
     }
     return 0;

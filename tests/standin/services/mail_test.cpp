@@ -157,6 +157,21 @@ TEST_F(Mail, IsSentForAllOrForNobodyAndNotTwice) {
         return mail.substr(mail.find("Message-ID"), 60);
     };
     EXPECT_EQ(idOf(1), idOf(2)) << "the same message";
+
+    // Neither a failure that is certain nor another mail makes it forgotten, and whoever may have it is
+    // asked about, though not all get it now.
+    const auto sendAgain = [&](const std::vector<std::string>& recipients, ui::Answer answer) {
+        display.onMessage("möglicherweise schon verschickt", answer, "Nachricht senden");
+        return send(recipients, pressSend);
+    };
+    set("MAILPORT", "1");
+    EXPECT_PRED2(contains, sendAgain({"a@example.com"}, ui::Answer::yes), std::string{"connect"});
+    const TestServer taking;
+    sendBy(taking);
+    EXPECT_EQ(send({"c@example.com"}, pressSend), "sent");
+    EXPECT_EQ(sendAgain(two, ui::Answer::no), "not sent");
+    EXPECT_EQ(sendAgain(two, ui::Answer::yes), "sent");
+    EXPECT_EQ(send(two, pressSend), "sent") << "it is known now";
 }
 
 TEST_F(Mail, GoesOverASecureConnection) {
