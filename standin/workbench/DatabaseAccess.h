@@ -6,6 +6,7 @@
 #include "standin/workbench/CommandLine.h"
 #include "standin/workbench/TraceFile.h"
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -28,6 +29,10 @@ public:
     bool isReadOnly() const { return file_ && file_->isReadOnly(); }
     /// The file, or where on a server it is.
     std::string name() const;
+    /// The folder of the file; empty for a database on a server.
+    std::filesystem::path folder() const {
+        return file_ ? std::filesystem::absolute(file_->file()).parent_path() : std::filesystem::path{};
+    }
 
 private:
     SystemClock clock_;

@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 
 namespace tellurix::standin {
@@ -88,6 +89,20 @@ struct ModuleUnloading {
     ~ModuleUnloading() { host::releaseModuleState(); }
 };
 
+/// A folder for documents that is named without its place lies beside the database's file, and is made
+/// there. On a server there is no such place: then it is as the system reads the name.
+void keepDocuments(const std::filesystem::path& besideDatabase, SettingsService& settings,
+                   const host::TlxVar& session) {
+    constexpr const char* folderSetting = "PATHOFWVOWEBVERTRAEGE";
+    const std::string folder = settings.text(session, folderSetting);
+    if (besideDatabase.empty() || folder.empty() || folder.find_first_of("/\\") != std::string::npos) return;
+    const std::filesystem::path place = besideDatabase / folder;
+    // What cannot be made is told when a document is to go there.
+    std::error_code ignored;
+    std::filesystem::create_directory(place, ignored);
+    settings.replace(folderSetting, place.string());
+}
+
 void work(Workbench& workbench, browser::BrowserDisplay& display) {
     const auto connection = workbench.database.connect();
     host::TlxVar session{.connection = connection.get(),
@@ -99,6 +114,7 @@ void work(Workbench& workbench, browser::BrowserDisplay& display) {
     WorkbenchServices services{display, session, workbench.catalogue};
     for (const auto& [name, value] : workbench.line.settings)
         services.settings().replace(name, value);
+    keepDocuments(workbench.database.folder(), services.settings(), session);
     const ErrorsOfSession errors{display, services.host().errors};
     const ModuleUnloading unloading;
     ModuleOpener module{services, session};

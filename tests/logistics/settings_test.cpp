@@ -399,6 +399,15 @@ TEST_F(LogisticsSettings, TheOriginalDocumentIsCopiedIntoTheWebFolder) {
          "PATHOFWVOWEBVERTRAEGE fehlt.",
          nullptr,
          after},
+        {"a name that cannot be stored",
+         "/home/anna/D'Angelo.pdf",
+         "d:",
+         Present::no,
+         {},
+         "",
+         "Kopieren des Vertragesdokuments zum Webserver fehlgeschlagen.\n„D'Angelo.pdf“:",
+         nullptr,
+         "c:\\VertragsdokumenteOriginal\\D'Angelo.pdf"},
         {"no file",
          "/home/anna/",
          "d:",
@@ -426,7 +435,7 @@ TEST_F(LogisticsSettings, TheOriginalDocumentIsCopiedIntoTheWebFolder) {
                 EXPECT_EQ(host.documents.copies[0].folder, c.copiedTo);
             }
             EXPECT_EQ(user.text("txtOriginal"), c.path);
-            if (std::string{c.path} == after) host.display.onMessage("nicht gespeichert", Answer::yes);
+            if (c.path != before) host.display.onMessage("nicht gespeichert", Answer::yes);
         });
     }
     EXPECT_EQ(value("SELECT ORIGINAL FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"), before) << "not saved";

@@ -1,6 +1,7 @@
 #include "module/logistics/plan/original_document.h"
 
 #include "module/base/Refused.h"
+#include "module/base/StatementText.h"
 #include "module/base/own_text.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
@@ -27,6 +28,8 @@ bool copyDocument(host::HostServices& services, const host::TlxVar& session, con
                   const std::string& name) {
     using Present = host::DocumentFiles::Present;
     if (name.empty()) throw Refused{OwnText::noFileName};
+    // A document whose path cannot be stored would be found by nobody.
+    static_cast<void>(base::StatementText{}.insideLiteral(name).text());
     std::string folder = services.settings.text(session, documentFolder);
     if (folder.empty())
         throw Refused{std::vector<Refused::Sentence>{{OwnText::settingMissing, {documentFolder}}}};

@@ -29,6 +29,8 @@ F_Mail::F_Mail(Draft draft, Words words)
         key.key = ui::Key::none;
         toggle();
     };
+    // A letter has lines: Enter does what Ctrl+Enter does in the boxes of the other screens.
+    txtText.onKeyDown = [](ui::KeyDown& key) { key.ctrl = key.ctrl || key.key == ui::Key::enter; };
     grdRecipients.onDoubleClick = [this] { toggle(); };
     btnSend.onClick = [this] { send(); };
     btnCancel.onClick = [this] { unload(); };

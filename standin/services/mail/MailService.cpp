@@ -33,6 +33,22 @@ int portOf(const std::string& setting) {
     return port;
 }
 
+/// The subject as far as a file system takes it, and a sign that parts messages of the same subject.
+std::string fileNameOf(const MailMessage& message) {
+    constexpr std::size_t longest = 80;
+    constexpr std::size_t sign = 8;
+    constexpr std::u32string_view refused = U"<>:\"/\\|?*'";
+    std::u32string name;
+    for (const char32_t character : base::decodeUtf8(message.subject)) {
+        if (name.size() == longest) break;
+        name += character < 32 || refused.find(character) != refused.npos ? U'_' : character;
+    }
+    std::string text;
+    for (const char32_t character : name)
+        text += base::encodeUtf8(character);
+    return std::string{base::trim(text)} + " " + message.id.substr(0, sign) + ".eml";
+}
+
 /// Whether somebody who has the one would take the other for the same once more.
 bool repeats(const MailMessage& one, const MailMessage& other) {
     return one.subject == other.subject &&
@@ -109,7 +125,9 @@ bool MailService::send() {
                             : kind == RecipientKind::copy    ? "mail.cc"
                                                              : "mail.to";
     F_Mail form{draft(),
-                {.title = words("mail.title"), .kind = words(kindWords), .count = words("mail.count")}};
+                {.title = words("mail.title"),
+                 .kind = words(kindWords) + (setting("MAILSERVER").empty() ? " " + words("mail.asFile") : ""),
+                 .count = words("mail.count")}};
     localizer_.localize(session_, form);
     display_.showModal(form);
     if (!form.sent()) return false;
@@ -153,7 +171,7 @@ void MailService::leaveAsFile(const MailMessage& message) {
     const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
     // Mail programs open it as a message that has yet to be sent.
     const std::string text = "X-Unsent: 1\r\n" + internetMessage(message, now, true);
-    const std::string name = message.id.substr(0, message.id.find('@')) + ".eml";
+    const std::string name = fileNameOf(message);
     const std::string outbox = setting("MAILOUTBOX");
     if (outbox.empty()) {
         display_.presentFile(name, text);

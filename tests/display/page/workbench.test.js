@@ -1,7 +1,7 @@
 // The whole program as its user has it: what the scenarios, which a browser plays too, do not show.
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
-import { mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync } from 'node:fs';
+import { mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync, rmdirSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, afterEach, before, beforeEach, describe, test } from 'node:test';
@@ -299,9 +299,10 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
   };
 
   test('an original document goes from the user\'s machine into the folder of the contracts', async () => {
-    const documents = join(folder, 'dokumente');
-    sql(`UPDATE WORKBENCH_SETTING SET [VALUE] = '${documents}' WHERE [NAME] = 'PATHOFWVOWEBVERTRAEGE'`);
+    // The sample trade has a folder beside its database.
+    const documents = join(folder, 'vertragsdokumente');
     await openLogistics();
+    rmdirSync(documents);
     await control(page, 'btnBearbeiten').click();
     // Somebody listens all the time: the browser's own dialog must not open before the driver takes it.
     page.on('filechooser', () => {});
@@ -310,24 +311,24 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
       await control(page, 'btnOriginal').click();
       await message().waitFor();
       await press('Enter');
-      await (await chooser).setFiles({ name: "D'Angelo ä.pdf", mimeType: 'application/pdf', buffer: Buffer.from(content) });
+      await (await chooser).setFiles({ name: "Vertrag #1 ä.pdf", mimeType: 'application/pdf', buffer: Buffer.from(content) });
       for (const [text, button] of answers) {
         const asked = message().filter({ hasText: text });
         await asked.waitFor();
         await asked.getByRole('button', { name: button, exact: true }).click();
         await asked.waitFor({ state: 'detached' });
       }
-      return readdirSync(folder).includes('dokumente')
+      return readdirSync(folder).includes('vertragsdokumente')
         ? readdirSync(documents).map((name) => `${name}: ${readFileSync(join(documents, name))}`) : [];
     };
     assert.deepEqual(await copy('first', ['fehlgeschlagen', 'OK']), [], 'the folder is missing');
     mkdirSync(documents);
-    const first = ["D'Angelo ä.pdf: first"];
+    const first = ["Vertrag #1 ä.pdf: first"];
     assert.deepEqual(await copy('first', ['erfolgreich', 'OK']), first);
-    assert.match(await value('txtOriginal'), /^c:\\VertragsdokumenteOriginal\\D.Angelo ä\.pdf$/);
+    assert.match(await value('txtOriginal'), /^c:\\VertragsdokumenteOriginal\\Vertrag #1 ä\.pdf$/);
     assert.deepEqual(await copy('first', ['erfolgreich', 'OK']), first, 'the same file needs no question');
     assert.deepEqual(await copy('second', ['ersetzt', 'Nein']), first);
-    assert.deepEqual(await copy('second', ['ersetzt', 'Ja'], ['erfolgreich', 'OK']), ["D'Angelo ä.pdf: second"]);
+    assert.deepEqual(await copy('second', ['ersetzt', 'Ja'], ['erfolgreich', 'OK']), ["Vertrag #1 ä.pdf: second"]);
   });
 
   test('helpers are marked, taken over and sorted with the pointer and with Enter', async () => {
