@@ -5,14 +5,6 @@
 
 namespace tellurix::odbc {
 
-namespace {
-
-SQLPOINTER attribute(SQLULEN value) {
-    return reinterpret_cast<SQLPOINTER>(value);
-}
-
-} // namespace
-
 Link::Link(const Source& source, std::chrono::seconds patience) : source_(source) {
     // An environment each: driver managers can be told to let only one call at a time into an environment,
     // and a session that waits for a lock must not keep the others waiting.

@@ -20,8 +20,8 @@ Statement::Statement(std::shared_ptr<Link> link, std::string_view text, std::str
             base::DatabaseErrorCategory::connection,
             link_->source().withoutSecrets(reportOf(SQL_HANDLE_DBC, link_->handle()).text), told_);
     if (answerTime.count() > 0)
-        SQLSetStmtAttrW(handle_, SQL_ATTR_QUERY_TIMEOUT,
-                        reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(answerTime.count())), 0);
+        SQLSetStmtAttrW(handle_, SQL_ATTR_QUERY_TIMEOUT, attribute(static_cast<SQLULEN>(answerTime.count())),
+                        0);
 }
 
 Statement::~Statement() {
@@ -44,8 +44,7 @@ void Statement::execute(std::vector<Parameter>& parameters) {
     for (std::size_t index = 0; index < parameters.size(); ++index)
         check(parameters[index].bindTo(handle_, static_cast<SQLUSMALLINT>(index + 1)));
     // Braces are sequences of the driver's to it, and plain characters to the server.
-    SQLSetStmtAttrW(handle_, SQL_ATTR_NOSCAN,
-                    reinterpret_cast<SQLPOINTER>(static_cast<SQLULEN>(SQL_NOSCAN_ON)), 0);
+    SQLSetStmtAttrW(handle_, SQL_ATTR_NOSCAN, attribute(SQL_NOSCAN_ON), 0);
     std::u16string text = wide(text_);
     const SQLRETURN result = SQLExecDirectW(handle_, pointer(text), static_cast<SQLINTEGER>(text.size()));
     nothingFound_ = result == SQL_NO_DATA;

@@ -17,7 +17,7 @@ Category categoryOfState(std::string_view state) {
     };
     static constexpr Rule rules[] = {
         {"42S02", Category::unknownName}, {"42S22", Category::unknownName}, {"42P01", Category::unknownName},
-        {"42703", Category::unknownName}, {"42702", Category::unknownName},      {"42804", Category::conversion},
+        {"42703", Category::unknownName}, {"42702", Category::unknownName}, {"42804", Category::conversion},
         {"25006", Category::readOnly},    {"22", Category::conversion},     {"23", Category::constraint},
         {"42000", Category::other},       {"42501", Category::other},       {"42", Category::syntax},
         {"40001", Category::locked},      {"40P01", Category::locked},      {"55P03", Category::locked},

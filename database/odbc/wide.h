@@ -7,7 +7,8 @@
 #include <string>
 #include <string_view>
 
-/// Texts in the encoding of the driver manager's wide functions, which is the same for every driver.
+/// Texts and attributes as the driver manager's functions take them; the encoding is the same for every
+/// driver.
 namespace tellurix::odbc {
 
 std::u16string wide(std::string_view text);
@@ -19,6 +20,11 @@ inline SQLWCHAR* pointer(std::u16string& text) {
 }
 inline SQLSMALLINT shortLength(const std::u16string& text) {
     return static_cast<SQLSMALLINT>(text.size());
+}
+
+/// A number where the functions take a pointer, as they want it for most attributes.
+inline SQLPOINTER attribute(SQLULEN value) {
+    return reinterpret_cast<SQLPOINTER>(value); // NOLINT(performance-no-int-to-ptr)
 }
 
 } // namespace tellurix::odbc

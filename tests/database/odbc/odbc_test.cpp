@@ -309,10 +309,13 @@ TEST_F(Odbc, OnlyRowsOfOneTableWithAKeyAreEdited) {
         {"SELECT DISTINCT N FROM T", "syntax: Only a query on one table can be opened for editing"},
         {"DELETE FROM T", "syntax: Only a query on one table can be opened for editing"},
         {"SELECT N FROM (SELECT N FROM T) A", "syntax: Only a query on one table can be opened for editing"},
+        {"SELECT * FROM NIRGENDS", "unknownName: ERROR: relation \"nirgends\" does not exist"},
         {"SELECT * FROM K", "other: The rows of K cannot be edited: the table has no key"},
     };
-    for (const Case& one : cases)
-        EXPECT_EQ(failureOf([&] { first_->openUpdatable(one.query); }), one.failure) << one.query;
+    for (const Case& one : cases) {
+        const std::string failure = failureOf([&] { first_->openUpdatable(one.query); });
+        EXPECT_TRUE(failure.starts_with(one.failure)) << one.query << ": " << failure;
+    }
 }
 
 TEST_F(Odbc, ALockIsWaitedForAsLongAsTheSessionSaysAndTheConnectionLivesOn) {

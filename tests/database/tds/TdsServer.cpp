@@ -93,6 +93,14 @@ public:
         });
         return query.empty() ? "SELECT 1 WHERE 1 = 0" : query;
     }
+    std::string tables() {
+        std::string query;
+        ask("SELECT name,'',0 FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'", {},
+            [&](const std::string& name, const std::string&, int) {
+                add(query, quoted(name) + " AS TABLE_NAME");
+            });
+        return query.empty() ? "SELECT N'' AS TABLE_NAME WHERE 1 = 0" : query;
+    }
     std::string key(const std::string& table) {
         std::string query;
         each(table, [&](const std::string& name, const std::string&, int place) {
@@ -113,11 +121,14 @@ private:
     static void add(std::string& query, const std::string& row) {
         query += (query.empty() ? "SELECT " : " UNION ALL SELECT ") + row;
     }
-    void each(const std::string& table,
-              const std::function<void(const std::string& name, const std::string& type, int place)>& take) {
+    using Take = std::function<void(const std::string& name, const std::string& type, int place)>;
+
+    void each(const std::string& table, const Take& take) {
+        ask("SELECT name,lower(type),pk FROM pragma_table_info(?1)", table, take);
+    }
+    void ask(const char* query, const std::string& table, const Take& take) {
         sqlite3_stmt* statement = nullptr;
-        sqlite3_prepare_v2(file_, "SELECT name,lower(type),pk FROM pragma_table_info(?1)", -1, &statement,
-                           nullptr);
+        sqlite3_prepare_v2(file_, query, -1, &statement, nullptr);
         sqlite3_bind_text(statement, 1, table.c_str(), -1, SQLITE_TRANSIENT);
         const auto text = [&](int column) {
             return std::string{reinterpret_cast<const char*>(sqlite3_column_text(statement, column))};
@@ -223,8 +234,10 @@ private:
         std::smatch called;
         try {
             const bool asks = std::regex_match(text, called, catalogueCall);
-            const auto result =
-                connection_->execute(asks ? catalogueQuery(called[1], called[2]) : understood(text));
+            const auto result = connection_->execute(
+                asks ? catalogueQuery(called[1], called[2])
+                : text.starts_with("SELECT TABLE_NAME FROM INFORMATION_SCHEMA") ? catalogue_.tables()
+                                                                                : understood(text));
             std::int64_t count = result.rowsAffected;
             if (result.rows) {
                 const TdsTable table{*result.rows, true};
