@@ -82,9 +82,9 @@ fs::path databaseFile(const CommandLine& line, const base::Clock& clock) {
 
 DatabaseAccess::DatabaseAccess(const CommandLine& line, const odbc::Database::Options& server) {
     if (const std::string source = line.server(); !source.empty()) {
-        server_.emplace(odbc::Source::parse(source), server);
+        server_ = std::make_unique<odbc::Database>(odbc::Source::parse(source), server);
     } else {
-        file_.emplace(databaseFile(line, clock_), clock_);
+        file_ = std::make_unique<embedded::Database>(databaseFile(line, clock_), clock_);
         addWhatIsMissing(*file_->connect());
     }
     if (!line.traceFile.empty()) trace_.emplace(line.traceFile);

@@ -38,8 +38,8 @@ private:
     SystemClock clock_;
     std::optional<TraceFile> trace_;
     /// One of both.
-    std::optional<embedded::Database> file_;
-    std::optional<odbc::Database> server_;
+    std::unique_ptr<embedded::Database> file_;
+    std::unique_ptr<odbc::Database> server_;
 };
 
 } // namespace tellurix::standin
