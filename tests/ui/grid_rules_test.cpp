@@ -325,6 +325,9 @@ TEST_F(GridRules, AHeadingOrdersTextsByWhatTheyMean) {
         }
         sorting.show({{"", "a", "", "", "05.01.2026"}, {"", "b", "", "", "31.12.2025"}});
         EXPECT_EQ(sorting.originOf(0), 1u) << "dates, and other rows keep the order";
+        stock.grid.setCell(0, 0, "*");
+        user.clickHeading("grid", 4);
+        EXPECT_EQ(stock.grid.cell(1, 0), "*") << "what was written into a cell goes along";
     });
 }
 

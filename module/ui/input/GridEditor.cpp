@@ -136,7 +136,8 @@ void GridEditor::pasteInto(Grid::Cell cell, const std::string& value) {
         std::string shown = write(cell.row, cell.column, box_.text());
         if (cell.row < static_cast<int>(grid_.rows().size()))
             grid_.setCell(cell.row, cell.column, std::move(shown));
-    } catch (const RefusedInput& refused) {
+    } catch (const base::Refused& refused) {
+        if (refused.sentences().empty()) throw; // already in words, of which none can be put in front
         std::vector<base::Refused::Sentence> message = refused.sentences();
         message.insert(message.begin(), placeOf(cell));
         throw RefusedInput{grid_, std::move(message)};

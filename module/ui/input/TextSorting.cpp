@@ -41,7 +41,11 @@ void TextSorting::sortBy(int column) {
 }
 
 void TextSorting::takeOrder() {
-    if (grid_.currentRow() != Grid::none) draw(originOf(grid_.currentRow()));
+    if (grid_.currentRow() == Grid::none) return;
+    // Cells may have been written since.
+    for (std::size_t row = 0; row < origins_.size(); ++row)
+        rows_[origins_[row]] = grid_.rows().at(row);
+    draw(originOf(grid_.currentRow()));
 }
 
 void TextSorting::show(std::vector<Grid::Row> rows) {

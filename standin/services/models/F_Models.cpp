@@ -32,7 +32,9 @@ F_Models::F_Models(ui::Display& display, ModelStore store, std::vector<std::stri
                          {.caption = "Bezugszeile(n)", .width = 12},
                          {.caption = "Subset", .width = 24}});
     connect();
-    setLayout(ui::column({ui::row({grdModels, ui::Layout{grdLines}.growing()}).growing(),
+    setLayout(ui::column({ui::row({ui::frame(frmModels, {ui::Layout{grdModels}.growing()}),
+                                   ui::frame(frmLines, {ui::Layout{grdLines}.growing()}).growing()})
+                              .growing(),
                           ui::row({ui::field(lblName, txtName), btnSave, btnRename, btnDelete}),
                           ui::bar({}, {}, {btnClose})}));
     load(current);

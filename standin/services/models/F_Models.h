@@ -3,6 +3,7 @@
 #include "module/ui/Display.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
+#include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
 #include "standin/services/models/ModelStore.h"
@@ -50,6 +51,8 @@ private:
     std::vector<ModelStore::Model> models_;
     std::int32_t saved_ = 0;
 
+    ui::Frame frmModels{*this, "frmModels", "Modelle"};
+    ui::Frame frmLines{*this, "frmLines", "Zeilen des Modells"};
     ui::Grid grdModels{*this, "grdModels", 12};
     ui::Grid grdLines{*this, "grdLines", 12};
     ui::Label lblName{*this, "lblName", "&Name"};

@@ -89,7 +89,7 @@ void F_MultiSelection::narrow() {
         row.insert(row.end(), entries_[i].cells.begin(), entries_[i].cells.end());
         rows.push_back(std::move(row));
     }
-    grdList.setRows(std::move(rows));
+    sorting_.show(std::move(rows));
     grdList.setCurrent(0, 1);
     showCount();
 }
@@ -127,7 +127,7 @@ void F_MultiSelection::searchOn(char32_t character) {
 void F_MultiSelection::toggle() {
     if (grdList.currentRow() == ui::Grid::none) return;
     const auto shown = static_cast<std::size_t>(grdList.currentRow());
-    const std::int64_t key = entries_[shown_[shown]].key;
+    const std::int64_t key = entryIn(shown).key;
     if (marked_.erase(key) == 0) marked_.insert(key);
     drawMark(shown);
     showCount();
@@ -135,7 +135,7 @@ void F_MultiSelection::toggle() {
 
 void F_MultiSelection::markFound(bool marked) {
     for (std::size_t i = 0; i < shown_.size(); ++i) {
-        const std::int64_t key = entries_[shown_[i]].key;
+        const std::int64_t key = entryIn(i).key;
         if (marked) {
             marked_.insert(key);
         } else {
@@ -147,7 +147,7 @@ void F_MultiSelection::markFound(bool marked) {
 }
 
 void F_MultiSelection::drawMark(std::size_t shown) {
-    grdList.setCell(static_cast<int>(shown), tickColumn, isMarked(entries_[shown_[shown]].key) ? tick : "");
+    grdList.setCell(static_cast<int>(shown), tickColumn, isMarked(entryIn(shown).key) ? tick : "");
 }
 
 void F_MultiSelection::takeOver() {

@@ -5,6 +5,7 @@
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
+#include "module/ui/input/TextSorting.h"
 
 #include <cstdint>
 #include <optional>
@@ -52,11 +53,14 @@ private:
     void drawMark(std::size_t shown);
     void takeOver();
 
+    const Entry& entryIn(std::size_t row) const {
+        return entries_[shown_[sorting_.originOf(static_cast<int>(row))]];
+    }
     bool isMarked(std::int64_t key) const { return marked_.contains(key); }
 
     std::vector<Entry> entries_;
     std::vector<std::string> searchTexts_; ///< beside the entries
-    std::vector<std::size_t> shown_;       ///< the entries that were found, beside the grid's rows
+    std::vector<std::size_t> shown_;       ///< the entries that were found, in the order of the list
     Words words_;
     std::set<std::int64_t> marked_;
     std::vector<std::int64_t> notOffered_; ///< marked from the start, without an entry
@@ -66,6 +70,7 @@ private:
     ui::TextBox txtSearch{*this, "txtSearch", 40};
     ui::CheckBox chkMarked{*this, "chkMarked", "Nur &gewählte zeigen"};
     ui::Grid grdList{*this, "grdList", 16};
+    ui::TextSorting sorting_{grdList, base::Locale::german()};
     ui::Label lblCount{*this, "lblCount"};
     ui::Button btnMarkFound{*this, "btnMarkFound", "Alle Treffer &wählen"};
     ui::Button btnUnmarkFound{*this, "btnUnmarkFound", "Alle Treffer a&bwählen"};

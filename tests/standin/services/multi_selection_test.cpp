@@ -60,6 +60,18 @@ TEST_F(MultiSelection, AnswersTheMarkedKeys) {
              user.click("btnOk");
          },
          Keys{fourth}},
+        {"ordered by a heading, a mark belongs to its row",
+         {},
+         [](User& user) {
+             user.clickHeading("grdList", 1);
+             user.clickHeading("grdList", 1);
+             EXPECT_EQ(numbersIn(user.grid("grdList")), "3007 3006 3004 3003 3002 3001 ");
+             user.select("grdList", 5, 1);
+             user.key(Key::space);
+             EXPECT_TRUE(numbersIn(user.grid("grdList")).ends_with(" 3002 ✓3001 "));
+             user.key(Key::enter);
+         },
+         Keys{first}},
         {"typing searches, Enter goes to the list, Space marks, Enter takes over",
          {},
          [](User& user) {
