@@ -17,6 +17,16 @@ std::optional<Decimal> numberIn(const Value& field) {
     return std::nullopt;
 }
 
+bool sameValue(const Value& left, const Value& right) {
+    const auto empty = [](const Value& value) {
+        const auto* text = std::get_if<std::string>(&value);
+        return std::holds_alternative<Null>(value) || (text != nullptr && text->empty());
+    };
+    if (left == right || (empty(left) && empty(right))) return true;
+    const auto number = numberIn(left);
+    return number && number == numberIn(right);
+}
+
 std::string numberText(const Value& field, std::string_view mask, const Locale& locale) {
     const auto number = numberIn(field);
     return number ? formatNumber(*number, mask, locale) : std::string{};

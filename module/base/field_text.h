@@ -18,5 +18,7 @@ std::string dateText(const Value& field);
 std::string numberText(const Value& field, std::string_view mask, const Locale& locale);
 /// A field of any numeric type as an exact number; nothing for NULL and for what is no number.
 std::optional<Decimal> numberIn(const Value& field);
+/// Whether two fields say the same: numbers of whatever type by their size, NULL like an empty text.
+bool sameValue(const Value& left, const Value& right);
 
 } // namespace tellurix::base

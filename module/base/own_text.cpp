@@ -60,6 +60,18 @@ constexpr Words wordsOf(OwnText text) {
         return {"Von jemand anderem geändert und übernommen: {}.",
                 "Changed by someone else and taken over: {}."};
 
+    case OwnText::undo:
+        return {"&Rückgängig", "&Undo"};
+    case OwnText::endEditingFirst:
+        return {"Bitte zuerst die Bearbeitung speichern oder abbrechen.",
+                "Please save or cancel what is being edited first."};
+    case OwnText::lineDeleted:
+        return {"Zeile gelöscht.", "Line deleted."};
+    case OwnText::namedLineDeleted:
+        return {"Zeile gelöscht: „{}“.", "Line deleted: \"{}\"."};
+    case OwnText::lineRestored:
+        return {"Zeile wiederhergestellt.", "Line restored."};
+
     case OwnText::sourceUnknown:
         return {"Den Vertrag „{}“ gibt es nicht.", "There is no contract \"{}\"."};
     case OwnText::sourceIsItself:
@@ -153,6 +165,13 @@ constexpr Words wordsOf(OwnText text) {
             "legt sie neu an.",
             "Someone else has deleted this week in the meantime. Everything typed is still there: \"Save\" "
             "creates it anew."};
+    case OwnText::weeksMade:
+        return {"Wochen automatisch erstellt.", "Weeks made automatically."};
+    case OwnText::weeksUndone:
+        return {"Die Wochen sind wieder wie vorher.", "The weeks are as they were before."};
+    case OwnText::weeksPartlyUndone:
+        return {"Die Wochen sind wieder wie vorher, bis auf {}: Diese hat inzwischen jemand geändert.",
+                "The weeks are as they were before, but for {} that someone has changed since."};
     case OwnText::weeksGenerated:
         return {"Wochen neu: {}, schon vorhanden: {}. Ersetzte Planmengen: {}.",
                 "New weeks: {}, already there: {}. Plan quantities replaced: {}."};
@@ -189,12 +208,6 @@ constexpr Words wordsOf(OwnText text) {
             "den Tausendern.",
             "This is no quantity. Please type a whole number up to 99.999.998, points between the thousands "
             "are fine."};
-    case OwnText::quantitiesChanged:
-        return {
-            "Jemand anderer hat inzwischen Mengen geändert, die auch hier geändert sind (Zeilen: {}, zuerst "
-            "„{}“). Sollen sie überschrieben werden?",
-            "Someone else has changed quantities in the meantime that are changed here, too (rows: {}, first "
-            "\"{}\"). Overwrite them?"};
     case OwnText::savingStopped:
         return {
             "Das Speichern brach bei „{}“ ab. Geschrieben sind {} von {} geänderten Zeilen. Die übrigen sind "

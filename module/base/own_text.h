@@ -30,6 +30,12 @@ enum class OwnText {
     takeTheirs,
     goBack,
     takenFromOthers, ///< the fields
+    // Undoing
+    undo, ///< a button
+    endEditingFirst,
+    lineDeleted,
+    namedLineDeleted, ///< its description
+    lineRestored,
     // Taking lines over: {} is the name of the source
     sourceUnknown,
     sourceIsItself,
@@ -68,7 +74,10 @@ enum class OwnText {
     noFileName,
     weekOutsidePeriod, ///< first and last week
     weekIsGone,
-    weeksGenerated, ///< how many are new, how many were there, how many plan quantities were replaced
+    weeksMade,
+    weeksUndone,
+    weeksPartlyUndone, ///< how many stay
+    weeksGenerated,    ///< how many are new, how many were there, how many plan quantities were replaced
     // Surcharges and deductions
     statisticMissing,
     valueMissing,
@@ -82,9 +91,8 @@ enum class OwnText {
     replaceByModel,   ///< a question: the model's name
     // Quantities of the forest helpers
     noQuantity,
-    quantitiesChanged, ///< a question: in how many rows, what the first is called
-    savingStopped,     ///< at which row, how many are written, of how many
-    rowsGone,          ///< their names
+    savingStopped, ///< at which row, how many are written, of how many
+    rowsGone,      ///< their names
     // Weekly provision reports
     reportMissing,   ///< marks a helper
     helpersReported, ///< how many, of how many

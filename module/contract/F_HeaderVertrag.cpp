@@ -144,6 +144,7 @@ void F_HeaderVertrag::arrange() {
 int F_HeaderVertrag::Run(const host::TlxVar& session, std::int32_t contract) {
     session_ = session;
     contract_ = contract;
+    takenOver_.clear();
     for (std::size_t i = 0; i < txtKopf.size(); ++i)
         txtKopf[i].setMaxLength(services_.columnWidth.of(session_, "VERTRAEGE", numbered("KOPF", i)));
     homeCurrency_ = session.homeCurrency;
@@ -238,6 +239,7 @@ void F_HeaderVertrag::save() {
     static_cast<void>(updateStatement()); // refuses what no statement can carry before anything is asked
     if (!row_.settle([this] { return readRow(); })) return;
     updateContract(*session_.connection, updateStatement(), contract_);
+    takenOver_ = row_.takenOver();
     unload();
 }
 

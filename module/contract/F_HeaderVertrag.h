@@ -30,6 +30,9 @@ public:
 
     /// Edits the head data of a contract; returns 0 when the screen is closed.
     int Run(const host::TlxVar& session, std::int32_t contract);
+    /// What the last visit has saved although the user did not change it, because a colleague had: a
+    /// sentence, empty for nothing.
+    const std::string& takenOver() const { return takenOver_; }
 
 private:
     void connectDates();
@@ -48,6 +51,7 @@ private:
     std::int32_t contract_ = 0;
     int accessLevel_ = 0;
     std::string homeCurrency_;
+    std::string takenOver_;
 
     ui::Frame frmDates{*this, "frmDates", "Termine"};
     ui::Label lblVertragsDatum{*this, "lblVertragsDatum", "Vertragsdatum*"};

@@ -224,9 +224,8 @@ void F_Vertrag::openDeductions() {
 }
 
 void F_Vertrag::openLogistics() {
-    StatementText query{"SELECT ID_VERTRAG FROM VERTRAEGE WHERE ID_VERTRAG = "};
     // The form makes a record for whatever contract it is given.
-    requireContract(*session_.connection->open(query.number(id_).text()));
+    openContract().requirePresent();
     host::moduleState()
         .screen<logistics::F_Vertrag_WVO>(
             "F_Vertrag_WVO", [this] { return std::make_unique<logistics::F_Vertrag_WVO>(services_); })
@@ -291,6 +290,7 @@ void F_Vertrag::openHeader() {
     auto& header = host::moduleState().screen<F_HeaderVertrag>(
         "F_HeaderVertrag", [this] { return std::make_unique<F_HeaderVertrag>(services_); });
     header.Run(session_, id_);
+    status().say(header.takenOver());
     ShowHeader();
     StatementText query{"SELECT ID_ACCESS_LEVELS FROM VERTRAEGE WHERE ID_VERTRAG = "};
     accessLevel_ = session_.connection->open(query.number(id_).text())->integer("ID_ACCESS_LEVELS");

@@ -123,6 +123,7 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     list_.open({.services = &services_, .session = session_, .id = contract_});
     mode_.reset();
     newId_ = noRow;
+    undo_.forget();
     prepare(shown);
     loadUnits();
     lines_.setColumns(gridColumns());
@@ -267,6 +268,7 @@ void LineEditor::save() {
     const bool settled = mode_.state() == State::fresh ||
                          row_.settle([this] { return openWholeInPlace(MSFlexGrid1.currentRow()); });
     if (!settled) return;
+    const std::string taken = row_.takenOver();
     StoreSelection(selection_.literal());
     if (!lineHasSelection()) {
         parts::tellInvalid(services_.display, services_.localizer, session_);
@@ -277,6 +279,7 @@ void LineEditor::save() {
     mode_.enter(State::view);
     reloadLine(MSFlexGrid1.currentRow());
     parts::SafeSetFocus(MSFlexGrid1);
+    undo_.say(taken);
 }
 
 void LineEditor::saveLine() {
@@ -313,11 +316,28 @@ void LineEditor::discardNewRow() {
 
 void LineEditor::removeLine() {
     const int removed = place();
-    list_.remove(lines_.keyOf(removed - 1), removed);
+    auto line = list_.remove(lines_.keyOf(removed - 1), removed);
     LoadGrid();
     showCurrentLine();
     mode_.enter(State::view);
     parts::SafeSetFocus(hasLines() ? static_cast<ui::Control&>(MSFlexGrid1) : cmdNeu);
+    const auto words = [this](OwnText text, const std::vector<std::string>& values = {}) {
+        return base::ownText(text, session_.language, values);
+    };
+    if (!line) return undo_.say(words(OwnText::lineDeleted)); // by somebody else, a moment ago
+    const std::string name = line->text("BEZEICHNUNG");
+    undo_.offer(name.empty() ? words(OwnText::lineDeleted) : words(OwnText::namedLineDeleted, {name}),
+                [this, line = std::move(*line), removed]() mutable { return restoreLine(line, removed); });
+}
+
+std::string LineEditor::restoreLine(parts::KeyedRow& line, int place) {
+    if (!viewing()) throw base::Refused{OwnText::endEditingFirst};
+    const std::int64_t restored = list_.restore(line, std::min(place, lines_.rowCount() + 1));
+    LoadGrid();
+    lines_.select(restored);
+    showCurrentLine();
+    mode_.enter(State::view);
+    return base::ownText(OwnText::lineRestored, session_.language);
 }
 
 void LineEditor::moveLine(int step) {

@@ -7,6 +7,7 @@
 #include "module/parts/EditMode.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/parts/SharedRow.h"
+#include "module/parts/UndoOffers.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"
@@ -125,6 +126,8 @@ private:
     void cancel();
     void discardNewRow();
     void removeLine();
+    /// @return what is said then
+    std::string restoreLine(parts::KeyedRow& line, int place);
     void moveLine(int step);
     void StoreSelection(const std::string& literal);
     bool lineHasSelection();
@@ -148,6 +151,7 @@ private:
     ui::Button cmdOk{*this, "cmdOk", "Schließen"};
 
     parts::EditMode mode_;
+    parts::UndoOffers undo_{status(), session_};
 };
 
 } // namespace tellurix::lines

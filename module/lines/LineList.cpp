@@ -2,6 +2,7 @@
 
 #include "module/base/Refused.h"
 #include "module/base/StatementText.h"
+#include "module/base/text.h"
 
 #include <algorithm>
 
@@ -86,13 +87,46 @@ void LineList::discard(std::int64_t id) const {
     connection().execute(statements_.removeOf(id));
 }
 
-void LineList::remove(std::int64_t id, int place) const {
+std::optional<parts::KeyedRow> LineList::remove(std::int64_t id, int place) const {
     // By its key: in the meantime another user may have moved another line to this place.
     auto line = connection().openUpdatable(statements_.lineOf(id));
-    if (line->atEnd()) return;
+    if (line->atEnd()) return std::nullopt;
+    parts::KeyedRow removed{*line, "ID"};
     line->remove();
     line.reset();
     connection().execute(statements_.closeGapBehind(place));
+    return removed;
+}
+
+std::int64_t LineList::restore(parts::KeyedRow& line, int place) const {
+    contract_.requirePresent();
+    const std::int64_t id = begin();
+    bool opened = false;
+    try {
+        // The new line has no place yet, so no two ever have the same.
+        connection().execute(statements_.openGapAt(place));
+        opened = true;
+        const auto made = toEdit(id);
+        for (std::size_t i = 0; i < line.fieldCount(); ++i) {
+            const std::string name = base::toUpper(line.fieldName(i));
+            if (name != "ID" && name != "ID_VERTRAG") made->setField(name, line.field(i));
+        }
+        made->setField("ORDNUNG", std::int64_t{place});
+        made->update();
+    } catch (...) {
+        takeBack(id, opened ? place : 0);
+        throw;
+    }
+    return id;
+}
+
+void LineList::takeBack(std::int64_t id, int gap) const {
+    try {
+        discard(id);
+        if (gap != 0) connection().execute(statements_.closeGapBehind(gap));
+    } catch (const std::exception&) {
+        // The failure that led here is the one to be told.
+    }
 }
 
 void LineList::swap(std::int64_t id, int place, std::int64_t other, int otherPlace) const {

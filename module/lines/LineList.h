@@ -55,7 +55,11 @@ public:
     /// Removes a row that was begun and is not to become a line.
     void discard(std::int64_t id) const;
     /// Removes a line, and moves those behind its place up; nothing where it is gone already.
-    void remove(std::int64_t id, int place) const;
+    /// @return the whole line as it was
+    std::optional<parts::KeyedRow> remove(std::int64_t id, int place) const;
+    /// Makes a removed line anew, at a place from which on the others move down. @return its new `ID`
+    /// @throws base::Refused when the contract is gone
+    std::int64_t restore(parts::KeyedRow& line, int place) const;
     /// Lets two lines change their places. They never have the same place; where a statement fails, one may
     /// be left at 0, which reading and repairing puts right.
     void swap(std::int64_t id, int place, std::int64_t other, int otherPlace) const;
@@ -75,6 +79,8 @@ private:
     base::Connection& connection() const { return contract_.connection(); }
     std::unique_ptr<base::UpdatableRecordset> toEdit(const std::string& query) const;
     std::string selection(const std::string& query) const;
+    /// Removes what a restoring that failed has left, as far as it can. @param gap its place, 0 for none
+    void takeBack(std::int64_t id, int gap) const;
 
     const LineKind& kind_;
     parts::OpenContract contract_;

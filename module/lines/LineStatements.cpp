@@ -83,4 +83,14 @@ std::string LineStatements::closeGapBehind(int place) const {
         .text();
 }
 
+std::string LineStatements::openGapAt(int place) const {
+    StatementText statement{"UPDATE "};
+    return statement.identifier(table_)
+        .fixed(" SET ORDNUNG = ORDNUNG + 1 WHERE ORDNUNG >= ")
+        .number(place)
+        .fixed(" AND ID_VERTRAG = ")
+        .number(contract_)
+        .text();
+}
+
 } // namespace tellurix::lines

@@ -37,6 +37,8 @@ public:
 
     /// Moves all lines behind a place up by one.
     std::string closeGapBehind(int place) const;
+    /// Moves the line at a place and all behind it down by one.
+    std::string openGapAt(int place) const;
 
 private:
     std::string table_;

@@ -6,8 +6,8 @@
 #include "module/logistics/quantity_cell.h"
 #include "module/logistics/row_saving.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/RowMerge.h"
 #include "module/parts/ShownProgress.h"
-#include "module/parts/questions.h"
 #include "module/ui/input/RefusedInput.h"
 
 #include <algorithm>
@@ -21,9 +21,9 @@ using base::Value;
 
 namespace {
 
-/// Whatever type the server keeps it in.
-bool sameQuantity(const Value& left, const Value& right) {
-    return base::numberIn(left) == base::numberIn(right);
+/// With all decimals: what is shown in fewer may differ all the same.
+std::string exactText(const Value& quantity) {
+    return base::numberText(quantity, "##,##0.######", base::Locale::german());
 }
 
 void appendQuantity(StatementText& statement, const Value& quantity) {
@@ -81,9 +81,6 @@ parts::KeyedGrid::Column GuardedQuantities::column(std::string caption, const ch
 
 void GuardedQuantities::show(std::vector<parts::KeyedRow> rows) {
     cell_.close();
-    read_.clear();
-    for (parts::KeyedRow& row : rows)
-        read_[row.key()] = {row.field(announced), row.field(confirmed)};
     rows_.show(std::move(rows));
     screen_.changed();
 }
@@ -135,29 +132,38 @@ std::string GuardedQuantities::sum(std::string_view field) const {
 
 bool GuardedQuantities::save(host::HostServices& services, const host::TlxVar& session,
                              const std::string& present) {
-    const QuantitiesByKey now = read(*session.connection, present);
-    if (!mayOverwrite(services, session, now)) return false;
-    writeRows(services, session, now);
-    tellGone(services, session, now);
+    takenOver_.clear();
+    const auto now = settle(services, session, present);
+    if (!now) return false;
+    writeRows(services, session, *now);
+    tellGone(services, session, *now);
     return true;
 }
 
-bool GuardedQuantities::mayOverwrite(host::HostServices& services, const host::TlxVar& session,
-                                     const QuantitiesByKey& present) {
-    int changed = 0;
-    std::string first;
-    for (parts::KeyedRow& row : rows_.rows()) {
-        const auto now = present.find(row.key());
-        if (now == present.end()) continue;
-        const Quantities& before = read_.at(row.key());
-        const bool overwrites =
-            (row.touched(announced) && !sameQuantity(before.announced, now->second.announced)) ||
-            (row.touched(confirmed) && !sameQuantity(before.confirmed, now->second.confirmed));
-        if (overwrites && changed++ == 0) first = screen_.nameOf(row);
+std::optional<GuardedQuantities::QuantitiesByKey> GuardedQuantities::settle(host::HostServices& services,
+                                                                            const host::TlxVar& session,
+                                                                            const std::string& present) {
+    const auto captionOf = [this](std::string_view field) {
+        return std::ranges::find(rows_.columns(), field, &parts::KeyedGrid::Column::field)->caption;
+    };
+    parts::RowMerge merge{services, session};
+    while (true) {
+        QuantitiesByKey now = read(*session.connection, present);
+        for (parts::KeyedRow& row : rows_.rows()) {
+            const auto found = now.find(row.key());
+            if (found == now.end()) continue;
+            const std::string name = screen_.nameOf(row) + ", ";
+            merge.field(row, announced, found->second.announced, name + captionOf(announced), exactText);
+            merge.field(row, confirmed, found->second.confirmed, name + captionOf(confirmed), exactText);
+        }
+        rows_.redraw();
+        screen_.changed();
+        if (merge.settled()) {
+            takenOver_ = merge.takenOver();
+            return now;
+        }
+        if (!merge.ask()) return std::nullopt;
     }
-    return changed == 0 ||
-           parts::confirmed(services.display, base::ownText(OwnText::quantitiesChanged, session.language,
-                                                            {std::to_string(changed), first}));
 }
 
 void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxVar& session,
@@ -168,21 +174,16 @@ void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxV
         std::ranges::count_if(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); }));
     std::size_t written = 0;
     for (parts::KeyedRow& row : rows_.rows()) {
-        const auto now = present.find(row.key());
-        if (now != present.end()) {
-            const Quantities quantities{row.touched(announced) ? row.field(announced) : now->second.announced,
-                                        row.touched(confirmed) ? row.field(confirmed)
-                                                               : now->second.confirmed};
+        if (present.contains(row.key())) {
             try {
-                session.connection->execute(statement(screen_.condition, row.key(), quantities.announced,
-                                                      quantities.confirmed, moment));
+                session.connection->execute(statement(screen_.condition, row.key(), row.field(announced),
+                                                      row.field(confirmed), moment));
             } catch (const std::exception& error) {
                 rows_.redraw();
                 stopSaving(services, error, screen_.nameOf(row), written, all);
             }
             written += row.touched() ? 1U : 0U;
             row.settle();
-            read_[row.key()] = quantities;
         }
         progress.step();
     }

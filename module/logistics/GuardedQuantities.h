@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -71,12 +72,17 @@ public:
     /// Gives every row its announced quantity as confirmed one, with all its decimals. Nothing is written.
     void confirmAll();
 
-    /// Writes all rows, in the order of the grid.
+    /// Writes all rows, in the order of the grid, after they have been read again: what both the user and a
+    /// colleague have changed is asked about.
     /// @param present a query of the rows as they are now: ID and both quantities
-    /// @return false when the user does not want to write over what a colleague has entered
+    /// @return false when the user wants to go back: nothing is written
     /// @throws base::Refused after a failure, which has been reported: it tells where it happened and how
     ///         many rows are written. The others stay typed and marked, and the next call writes them.
     bool save(host::HostServices& services, const host::TlxVar& session, const std::string& present);
+
+    /// What the last save has written although the user did not type it, because it came from somebody else:
+    /// a sentence, empty for nothing.
+    const std::string& takenOver() const { return takenOver_; }
 
 private:
     struct Quantities {
@@ -86,9 +92,9 @@ private:
     using QuantitiesByKey = std::map<std::int64_t, Quantities>;
     static QuantitiesByKey read(base::Connection& connection, const std::string& query);
     std::string write(int row, int column, const std::string& text);
-    /// Asks before something typed goes over something that is there since the rows were read.
-    bool mayOverwrite(host::HostServices& services, const host::TlxVar& session,
-                      const QuantitiesByKey& present);
+    /// Brings the rows together with what the database has. @return nothing when the user wants to go back
+    std::optional<QuantitiesByKey> settle(host::HostServices& services, const host::TlxVar& session,
+                                          const std::string& present);
     void writeRows(host::HostServices& services, const host::TlxVar& session, const QuantitiesByKey& present);
     void tellGone(host::HostServices& services, const host::TlxVar& session, const QuantitiesByKey& present);
 
@@ -98,7 +104,7 @@ private:
     ui::ProgressBar& bar_;
     Screen screen_;
     ui::GridEditor cell_;
-    QuantitiesByKey read_; ///< as the rows were read, or written since
+    std::string takenOver_; ///< in the last save
 };
 
 } // namespace tellurix::logistics

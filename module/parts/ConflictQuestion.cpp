@@ -13,7 +13,18 @@ namespace {
 constexpr std::size_t fewestLines = 2;
 constexpr std::size_t mostLines = 12;
 
+constexpr std::size_t mostNames = 5;
+
 } // namespace
+
+std::string takenOverFromOthers(const std::vector<std::string>& fields, std::string_view language) {
+    if (fields.empty()) return {};
+    std::string names;
+    for (std::size_t i = 0; i < std::min(fields.size(), mostNames); ++i)
+        names += (names.empty() ? "" : ", ") + fields[i];
+    if (fields.size() > mostNames) names += " …";
+    return base::ownText(OwnText::takenFromOthers, language, {names});
+}
 
 ConflictQuestion::ConflictQuestion(host::HostServices& services, const host::TlxVar& session)
     : Form("F_Inzwischen"), services_(services), session_(session) {

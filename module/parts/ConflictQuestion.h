@@ -7,6 +7,7 @@
 #include "module/ui/controls/TextBox.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tellurix::parts {
@@ -17,6 +18,9 @@ struct Conflict {
     std::string mine;   ///< what the user has, as a text; empty for nothing
     std::string theirs; ///< what the database has by now
 };
+
+/// The fields that came from somebody else, in a sentence; empty for none. Of many only the first are named.
+std::string takenOverFromOthers(const std::vector<std::string>& fields, std::string_view language);
 
 /// Shows what two have changed, and asks whose is to stay. Closing the window goes back.
 class ConflictQuestion final : public ui::Form {

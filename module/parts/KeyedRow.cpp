@@ -30,12 +30,31 @@ KeyedRow::KeyedRow(base::Recordset& row, std::int64_t key, Names names)
 
 void KeyedRow::set(std::string_view name, base::Value value) {
     const std::size_t field = fieldIndex(name);
+    if (read_.empty()) read_ = values_;
     values_[field] = std::move(value);
     touched_[field] = true;
 }
 
+const base::Value& KeyedRow::asRead(std::string_view name) const {
+    return (read_.empty() ? values_ : read_)[fieldIndex(name)];
+}
+
 void KeyedRow::refresh(std::string_view name, base::Value value) {
-    values_[fieldIndex(name)] = std::move(value);
+    const std::size_t field = fieldIndex(name);
+    if (!read_.empty()) read_[field] = value;
+    values_[field] = std::move(value);
+    touched_[field] = false;
+}
+
+void KeyedRow::rebase(std::string_view name, base::Value value) {
+    const std::size_t field = fieldIndex(name);
+    if (read_.empty()) read_ = values_;
+    read_[field] = std::move(value);
+}
+
+void KeyedRow::settle() {
+    read_.clear();
+    touched_.assign(touched_.size(), false);
 }
 
 bool KeyedRow::touched(std::string_view name) const {

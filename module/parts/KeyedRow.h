@@ -24,13 +24,17 @@ public:
     base::Value field(std::size_t index) override { return values_[index]; }
     /// Gives a field another value, as when the user has typed it.
     void set(std::string_view name, base::Value value);
-    /// Takes over what the database has by now.
+    /// The value of a field as it was read, whatever was typed over it.
+    const base::Value& asRead(std::string_view name) const;
+    /// Takes over what the database has by now: the field does not count as touched any more.
     void refresh(std::string_view name, base::Value value);
+    /// As if the field had been read so; what was typed over it stays.
+    void rebase(std::string_view name, base::Value value);
     /// Whether a field has been set since the row was read, to whatever value.
     bool touched(std::string_view name) const;
     bool touched() const;
     /// The values are those of the database now: nothing counts as touched any more.
-    void settle() { touched_.assign(touched_.size(), false); }
+    void settle();
 
 private:
     friend class KeyedRows;
@@ -40,7 +44,8 @@ private:
     std::int64_t key_;
     Names names_; ///< shared by the rows of one query
     std::vector<base::Value> values_;
-    std::vector<bool> touched_; ///< beside the values
+    std::vector<base::Value> read_; ///< the same as they were read; empty while nothing was set
+    std::vector<bool> touched_;     ///< beside the values
 };
 
 /// The rows of one query.

@@ -17,6 +17,8 @@ struct OpenContract {
     std::string name = {}; ///< `VERTRAG_NAME`, which is also the accounting name
 
     base::Connection& connection() const { return *session.connection; }
+    /// @throws base::Refused when a colleague has deleted it
+    void requirePresent() const;
 };
 
 } // namespace tellurix::parts

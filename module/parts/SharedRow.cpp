@@ -19,15 +19,6 @@ namespace {
 /// With all decimals: what is shown in fewer may differ all the same.
 constexpr const char* exactMask = "0.00######";
 
-/// NULL and an empty text are the same to everybody who reads them.
-bool sameValue(const base::Value& left, const base::Value& right) {
-    const auto empty = [](const base::Value& value) {
-        const auto* text = std::get_if<std::string>(&value);
-        return std::holds_alternative<base::Null>(value) || (text != nullptr && text->empty());
-    };
-    return left == right || (empty(left) && empty(right));
-}
-
 std::function<std::string()> nameFrom(const ui::TextBox& box) {
     return [&box] { return nameOf(box); };
 }
@@ -142,7 +133,7 @@ std::vector<SharedRow::Kept*> SharedRow::inConflict(Fields& now) {
     std::vector<Kept*> conflicts;
     for (Kept& kept : fields_) {
         base::Value value = now.field(kept.field.column);
-        if (sameValue(value, kept.read)) continue;
+        if (base::sameValue(value, kept.read)) continue;
         if (!changed(kept)) {
             take(kept, now);
             if (std::ranges::find(takenOver_, kept.field.name()) == takenOver_.end())
@@ -178,11 +169,7 @@ bool SharedRow::settle(const std::function<std::unique_ptr<base::Recordset>()>& 
 }
 
 std::string SharedRow::takenOver() const {
-    if (takenOver_.empty()) return {};
-    std::string names;
-    for (const std::string& name : takenOver_)
-        names += (names.empty() ? "" : ", ") + name;
-    return base::ownText(OwnText::takenFromOthers, session_.language, {names});
+    return takenOverFromOthers(takenOver_, session_.language);
 }
 
 } // namespace tellurix::parts

@@ -300,7 +300,9 @@ TEST_F(LogisticsCalendar, SavingWritesOneWeek) {
         EXPECT_EQ(host.statements[0],
                   "SELECT ID FROM  WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG = 1 AND JAHR = "
                   "2025 AND WOCHE = 24 AND ID<>6");
-        EXPECT_EQ(host.statements[1],
+        EXPECT_EQ(host.statements[1], "SELECT ID,JAHR,WOCHE,PLANMENGE FROM WVO_VERTAG_KALENDER WHERE ID = 6")
+            << "what a colleague has saved meanwhile";
+        EXPECT_EQ(host.statements[2],
                   "UPDATE WVO_VERTAG_KALENDER SET JAHR = 2025,WOCHE = 24,PLANMENGE = 99 WHERE ID = 6");
         EXPECT_EQ(user.grid("DataGridKalendar").currentRow(), 5);
         EXPECT_EQ(user.caption("frmKalenderwochen"), "Kalenderwochen   1599");
@@ -408,6 +410,141 @@ TEST_F(LogisticsCalendar, DeletingAsksAndTakesTheCurrentWeek) {
         EXPECT_TRUE(user.usable("btnGenWeek"));
     });
     EXPECT_EQ(stored(fibreWood), "");
+}
+
+TEST_F(LogisticsCalendar, WhatAColleagueHasSavedOfTheSameWeekIsKeptOrAskedAbout) {
+    struct Case {
+        const char* rule;
+        const char* box;
+        const char* typed;
+        const char* colleague;
+        const char* difference; ///< null: nothing is asked
+        const char* button;
+        const char* stored;
+    };
+    const Case cases[] = {
+        {"another field", "txtWoche", "30", "PLANMENGE = 5.55", nullptr, "", "2025 | 30 | 5.55"},
+        {"the week, written otherwise", "txtWoche", "07", "WOCHE = 7", nullptr, "", "2025 | 7 | 250.25"},
+        {"the same field, mine", "txtPlanmenge", "77", "PLANMENGE = 55.5",
+         "Planmenge – Sie: 77,00 – inzwischen: 55,50", "btnMeines", "2025 | 19 | 77.00"},
+        {"the same field, theirs", "txtPlanmenge", "77", "PLANMENGE = 55.5",
+         "Planmenge – Sie: 77,00 – inzwischen: 55,50", "btnDeren", "2025 | 19 | 55.50"},
+        {"the same field, back", "txtPlanmenge", "77", "PLANMENGE = 55.5",
+         "Planmenge – Sie: 77,00 – inzwischen: 55,50", "btnZuruck", "2025 | 19 | 55.50"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        host.database.execute("UPDATE WVO_VERTAG_KALENDER SET WOCHE = 19,PLANMENGE = 250.25 WHERE ID = 1");
+        host.database.execute(
+            "UPDATE VERTRAEGE SET LIEFERVON = NULL WHERE ID_VERTRAG = 3"); // any week can be typed
+        openWeeks(fibreWood, [&](User& user) {
+            current(user, 0);
+            user.click("btnBearbeiten1");
+            user.type(c.box, c.typed);
+            host.database.execute(std::string{"UPDATE WVO_VERTAG_KALENDER SET "} + c.colleague +
+                                  " WHERE ID = 1");
+            if (c.difference != nullptr) onConflict(c.difference, c.button);
+            user.click("btnSpeichern1");
+            EXPECT_EQ(user.status().find("übernommen: Planmenge.") != std::string::npos,
+                      std::string{c.rule} == "another field");
+            if (user.usable("btnAbbrechen1")) user.click("btnAbbrechen1");
+        });
+        EXPECT_EQ(row("SELECT JAHR,WOCHE,PLANMENGE FROM WVO_VERTAG_KALENDER WHERE ID = 1"), c.stored);
+    }
+}
+
+TEST_F(LogisticsCalendar, AWeekThatBecomesAnotherOnesByAColleaguesYearIsRefused) {
+    host.database.execute("UPDATE VERTRAEGE SET LIEFERVON = NULL WHERE ID_VERTRAG = 3");
+    host.display.onMessage("Text 223 [KW]");
+    openWeeks(fibreWood, [&](User& user) {
+        host.database.execute("UPDATE WVO_VERTAG_KALENDER SET JAHR = 2026 WHERE ID = 2");
+        current(user, 0);
+        user.click("btnBearbeiten1");
+        user.type("txtWoche", "20");
+        host.database.execute("UPDATE WVO_VERTAG_KALENDER SET JAHR = 2026 WHERE ID = 1");
+        user.click("btnSpeichern1");
+        EXPECT_EQ(user.focused(), "txtWoche");
+        user.click("btnAbbrechen1");
+    });
+}
+
+TEST_F(LogisticsCalendar, AGenerationIsUndone) {
+    struct Case {
+        const char* rule;
+        std::function<void(User&)> since;
+        const char* said;
+        const char* stored;
+    };
+    const char* before = "2024/40 210.00";
+    const Case cases[] = {
+        {"at once", [](User&) {}, "Die Wochen sind wieder wie vorher.", before},
+        {"a week was deleted since",
+         [this](User&) {
+             host.database.execute("DELETE FROM WVO_VERTAG_KALENDER WHERE WOCHE = 27 AND JAHR = 2024");
+         },
+         "Die Wochen sind wieder wie vorher.", before},
+        {"weeks were planned since",
+         [this](User&) {
+             host.database.execute(
+                 "UPDATE WVO_VERTAG_KALENDER SET PLANMENGE = 5 WHERE JAHR = 2024 AND WOCHE = 27");
+             host.database.execute(
+                 "UPDATE WVO_VERTAG_KALENDER SET PLANMENGE = 6 WHERE JAHR = 2024 AND WOCHE = 40");
+         },
+         "Die Wochen sind wieder wie vorher, bis auf 2: Diese hat inzwischen jemand geändert.",
+         "2024/40 6.00, 2024/27 5.00"},
+        {"a colleague has added one since",
+         [this](User&) {
+             host.database.execute(
+                 "INSERT INTO WVO_VERTAG_KALENDER (ID_WVO_VERTRAG,JAHR,WOCHE,PLANMENGE) SELECT "
+                 "ID,2025,3,9 FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 5");
+         },
+         "Die Wochen sind wieder wie vorher.", "2024/40 210.00, 2025/3 9.00"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.rule);
+        openWeeks(5, [&](User& user) {
+            user.click("btnGenWeek");
+            EXPECT_EQ(user.status(), "Wochen automatisch erstellt.|&Rückgängig");
+            user.click("btnNeu1");
+            user.pressStatus();
+            EXPECT_EQ(host.display.errors().back(), "Bitte zuerst die Bearbeitung speichern oder abbrechen.");
+            user.click("btnAbbrechen1");
+            c.since(user);
+            user.pressStatus();
+            EXPECT_EQ(user.status(), c.said);
+            EXPECT_EQ(user.caption("lblMeldung"), "");
+        });
+        EXPECT_EQ(stored(5), c.stored);
+        host.database.execute(
+            "DELETE FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG = (SELECT ID FROM WVO_VERTRAG "
+            "WHERE ID_VERTRAEGE = 5) AND (WOCHE <> 40 OR JAHR <> 2024)");
+        host.database.execute(
+            "UPDATE WVO_VERTAG_KALENDER SET PLANMENGE = 210 WHERE JAHR = 2024 AND WOCHE = 40");
+    }
+}
+
+TEST_F(LogisticsCalendar, TwoGenerationsAreUndoneOneAfterTheOther) {
+    openWeeks(5, [&](User& user) {
+        user.click("btnGenWeek");
+        const std::string first = stored(5);
+        host.database.execute("UPDATE VERTRAG_MENGEN SET MENGE = MENGE * 2 WHERE ID_VERTRAG = 5");
+        user.click("btnGenWeek");
+        user.pressStatus();
+        EXPECT_EQ(stored(5), first);
+        user.pressStatus();
+    });
+    EXPECT_EQ(stored(5), "2024/40 210.00");
+}
+
+TEST_F(LogisticsCalendar, WhatAFailedGenerationHasMadeIsUndone) {
+    openWeeks(5, [&](User& user) {
+        host.database.failOn("2024,30,NULL");
+        user.click("btnGenWeek");
+        host.database.failOn("");
+        EXPECT_EQ(stored(5), "2024/40 210.00, 2024/27 NULL, 2024/28 NULL, 2024/29 NULL");
+        user.pressStatus();
+    });
+    EXPECT_EQ(stored(5), "2024/40 210.00");
 }
 
 } // namespace

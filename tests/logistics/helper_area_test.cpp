@@ -173,7 +173,7 @@ TEST_F(ForestHelpers, QuantitiesAreEditedInPlaceAndGuarded) {
     edit(fibreWood, [&](User& user) {
         typeCell(user, 0, announcedCell, "5");
         colleague("MENGE_ANG = 6", 1);
-        host.display.onMessage("zuerst „Huber Josef“", Answer::no);
+        onConflict("Huber Josef, ME angem. – Sie: 5 – inzwischen: 6", "btnZuruck");
         user.click("btnSpeichern2");
         host.display.onMessage("noch nicht gespeichert", Answer::yes);
         user.close();

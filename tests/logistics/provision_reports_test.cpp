@@ -431,6 +431,51 @@ TEST_F(ProvisionReports, KeepWhatOthersHaveDoneMeanwhile) {
     EXPECT_EQ(stored(), "[20 | 4 | 1 | Selbst][22 | 6 | 5 | ][24 | 7 | NULL | NULL][21 | NULL | 2 | ]");
 }
 
+TEST_F(ProvisionReports, WhatBothHaveChangedIsAskedAbout) {
+    struct Case {
+        const char* rule;
+        int column;
+        const char* typed;
+        const char* colleague; ///< what he changes of the first report
+        const char* difference;
+        const char* mine;
+        const char* theirs;
+    };
+    const Case cases[] = {
+        {"loads", confirmed, "2", "ZUEG_ZUGESAGT = 7", "Huber Josef, Züge zugesagt – Sie: 2 – inzwischen: 7",
+         "[20 | 4 | 2 | Fuhrwerk Reisinger]", "[20 | 4 | 7 | Fuhrwerk Reisinger]"},
+        {"a carrier", carrier, "Selbst", "FRAECHTER_TEXT = 'Bahn'",
+         "Huber Josef, Bemerkung – Sie: Selbst – inzwischen: Bahn", "[20 | 4 | 3 | Selbst]",
+         "[20 | 4 | 3 | Bahn]"},
+        {"loads that were emptied", confirmed, "2", "ZUEG_ZUGESAGT = NULL",
+         "Huber Josef, Züge zugesagt – Sie: 2 – inzwischen: (leer)", "[20 | 4 | 2 | Fuhrwerk Reisinger]",
+         "[20 | 4 | NULL | Fuhrwerk Reisinger]"},
+    };
+    for (const Case& c : cases) {
+        for (const char* button : {"btnMeines", "btnDeren", "btnZuruck"}) {
+            SCOPED_TRACE(std::string{c.rule} + " " + button);
+            host.database.execute("UPDATE WVO_BEREITMELDUNG_KW SET ZUEGE = 4,ZUEG_ZUGESAGT = 3,"
+                                  "FRAECHTER_TEXT = 'Fuhrwerk Reisinger' WHERE ID = 1");
+            edit([&](User& user) {
+                enter(user, 0, c.column, c.typed);
+                host.database.execute(std::string{"UPDATE WVO_BEREITMELDUNG_KW SET "} + c.colleague +
+                                      " WHERE ID = 1");
+                host.statements.clear();
+                onConflict(c.difference, button);
+                user.click("btnSpeichern");
+                const bool goesBack = button == std::string{"btnZuruck"};
+                EXPECT_EQ(user.usable("btnSpeichern"), goesBack);
+                EXPECT_EQ(user.grid("MSFG").cell(0, 2), goesBack ? "*" : "");
+            });
+            EXPECT_EQ(stored()
+                          .substr(0, std::string{c.mine}.size() + 20)
+                          .find(button == std::string{"btnMeines"} ? c.mine : c.theirs),
+                      0U)
+                << stored();
+        }
+    }
+}
+
 TEST_F(ProvisionReports, TheSwitchHidesFromTheEyeAlone) {
     work([&](User& user) {
         user.click("chkOhneMeldung");

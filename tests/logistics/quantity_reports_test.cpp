@@ -279,18 +279,25 @@ TEST_F(QuantityReports, AFailureInBetweenSaysHowFarItCame) {
 TEST_F(QuantityReports, WhatAColleagueHasEnteredMeanwhile) {
     struct Case {
         const char* rule;
-        const char* change;           ///< of the first contract; null: it is deleted
-        std::optional<Answer> answer; ///< to a question about it; nothing is asked
+        const char* change; ///< of the first contract; null: it is deleted
+        const char* byNow;  ///< in a question about it; null: nothing is asked
+        const char* answer;
         const char* stored;
+        const char* named = ""; ///< in the status line
     };
     const Case cases[] = {
-        {"stays where nothing was typed", "MENGE_ANG = 444", std::nullopt,
-         "444.00 | 77.00 | 2026-03-09 08:00:00"},
-        {"is asked about where something was", "MENGE_BES = 444", Answer::no,
+        {"stays where nothing was typed", "MENGE_ANG = 444", nullptr, "",
+         "444.00 | 77.00 | 2026-03-09 08:00:00",
+         "übernommen: R-2025-003 Faserholz Judenburg / lutro-t, Menge angem.."},
+        {"is asked about where something was", "MENGE_BES = 444.5", "444,5", "btnZuruck",
+         "400.00 | 444.50 | 2025-05-02 10:30:00"},
+        {"is overwritten on demand", "MENGE_BES = 444", "444", "btnMeines",
+         "400.00 | 77.00 | 2026-03-09 08:00:00"},
+        {"is taken over on demand", "MENGE_BES = 444", "444", "btnDeren",
          "400.00 | 444.00 | 2025-05-02 10:30:00"},
-        {"is overwritten on demand", "MENGE_BES = 444", Answer::yes, "400.00 | 77.00 | 2026-03-09 08:00:00"},
-        {"a NULL counts", "MENGE_BES = NULL", Answer::no, "400.00 | NULL | 2025-05-02 10:30:00"},
-        {"a deleted row is told", nullptr, std::nullopt, "no row"},
+        {"a NULL counts", "MENGE_BES = NULL", "(leer)", "btnZuruck", "400.00 | NULL | 2025-05-02 10:30:00"},
+        {"the same is no conflict", "MENGE_BES = 77", nullptr, "", "400.00 | 77.00 | 2025-05-02 10:30:00"},
+        {"a deleted row is told", nullptr, nullptr, "", "no row"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.rule);
@@ -303,17 +310,20 @@ TEST_F(QuantityReports, WhatAColleagueHasEnteredMeanwhile) {
             } else {
                 colleague(c.change, 1);
             }
-            if (c.answer)
-                host.display.onMessage("(Zeilen: 1, zuerst „R-2025-003 Faserholz Judenburg / lutro-t“",
-                                       *c.answer);
+            if (c.byNow != nullptr)
+                onConflict(std::string{"R-2025-003 Faserholz Judenburg / lutro-t, Menge best. – Sie: 77 – "
+                                       "inzwischen: "} +
+                               c.byNow,
+                           c.answer);
             host.statements.clear();
             user.click("btnSpeichern");
-            const bool refused = c.answer == Answer::no;
+            EXPECT_NE(user.status().find(c.named), std::string::npos) << user.status();
+            const bool refused = c.answer == std::string{"btnZuruck"};
             EXPECT_EQ(sent("UPDATE").size(), refused ? 0U : c.change == nullptr ? 2U : 3U);
             EXPECT_EQ(user.usable("btnSpeichern"), refused);
         });
         EXPECT_EQ(stored(1), c.stored);
-        EXPECT_EQ(stored(6).substr(0, 5), c.answer == Answer::no ? "80.50" : "90.00");
+        EXPECT_EQ(stored(6).substr(0, 5), c.answer == std::string{"btnZuruck"} ? "80.50" : "90.00");
         colleague("MENGE_ANG = 400, MENGE_BES = 350, DATUM_CHANGE_ZENT = '02.05.2025 10:30:00'", 1);
         colleague("MENGE_ANG = 80.5, MENGE_BES = 0, DATUM_CHANGE_ZENT = NULL", 6);
     }

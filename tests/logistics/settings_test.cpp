@@ -78,7 +78,7 @@ TEST_F(LogisticsSettings, SavingWritesEverySettingInOneStatement) {
         host.statements.clear();
         user.click("btnSpeichern");
         EXPECT_EQ(
-            host.statements.at(1),
+            host.statements.at(2), // behind the unit and what a colleague has saved meanwhile
             "UPDATE WVO_VERTRAG SET ANGEMELDETEMENGE = 1,GESPERRT = NULL,MENGENAUF = NULL,ERFORDERLICH = "
             "1,AKTIVE = NULL,VERMARKTUNG = NULL,SICHTBAR = 1,HANDABMAS = NULL,VERTRAG_MG_SICHTBAR = "
             "NULL,GESCHAEFTSFELD_NEU = 1,VORVERTRAG = NULL,ANGEMELDETE = '20250613',MENGENMELDUNG = "
@@ -439,6 +439,72 @@ TEST_F(LogisticsSettings, TheOriginalDocumentIsCopiedIntoTheWebFolder) {
         });
     }
     EXPECT_EQ(value("SELECT ORIGINAL FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"), before) << "not saved";
+}
+
+TEST_F(LogisticsSettings, WhatAColleagueHasSavedMeanwhileIsKeptOrAskedAbout) {
+    struct Case {
+        const char* rule;
+        const char* box;
+        const char* typed; ///< null: it is ticked
+        const char* colleague;
+        const char* difference; ///< null: nothing is asked
+        const char* column;
+        const char* mine;
+        const char* theirs;
+    };
+    const Case cases[] = {
+        {"another text", "txtUberlieferung", "7,5", "BEMERKUNG = 'deren'", nullptr, "BEMERKUNG", nullptr,
+         "deren"},
+        {"another tick", "chkGesperrt", nullptr, "AKTIVE = 1", nullptr, "AKTIVE", nullptr, "true"},
+        {"a weekday", "chkGesperrt", nullptr, "BEREITSELLUNGS = 3", nullptr, "BEREITSELLUNGS", nullptr, "3"},
+        {"a lookup", "chkGesperrt", nullptr, "ID_WVO_T_BELIEFERUNG = NULL", nullptr, "ID_WVO_T_BELIEFERUNG",
+         nullptr, "NULL"},
+        {"the same number", "txtUberlieferung", "7,5", "UBERLIEFERUNG = 9.25",
+         "Überlieferung in % – Sie: 7,50 – inzwischen: 9,25", "UBERLIEFERUNG", "7.50", "9.25"},
+        {"the same text", "txtBemerkung", "meins", "BEMERKUNG = 'deren'",
+         "Bemerkung – Sie: meins – inzwischen: deren", "BEMERKUNG", "meins", "deren"},
+        {"the same weekday", "txtBereitstellung", "", "BEREITSELLUNGS = 3",
+         "Bereitstellungsmeldung bis – Sie: (leer) – inzwischen: Dienstag", "BEREITSELLUNGS", "NULL", "3"},
+    };
+    for (const Case& c : cases) {
+        for (const char* button : {"btnMeines", "btnDeren", "btnZuruck"}) {
+            if (c.difference == nullptr && button != std::string{"btnDeren"}) continue;
+            SCOPED_TRACE(std::string{c.rule} + " " + button);
+            host.database.execute(
+                "UPDATE WVO_VERTRAG SET UBERLIEFERUNG = 5,BEMERKUNG = 'alt',AKTIVE = NULL,GESPERRT = NULL,"
+                "BEREITSELLUNGS = 2,ID_WVO_T_BELIEFERUNG = 1 WHERE ID_VERTRAEGE = 3");
+            editSettings(fibreWood, [&](User& user) {
+                c.typed == nullptr ? user.click(c.box) : user.type(c.box, c.typed);
+                host.database.execute(std::string{"UPDATE WVO_VERTRAG SET "} + c.colleague +
+                                      " WHERE ID_VERTRAEGE = 3");
+                if (c.difference != nullptr) onConflict(c.difference, button);
+                user.click("btnSpeichern");
+                EXPECT_EQ(user.status().find("übernommen: ") != std::string::npos, c.difference == nullptr)
+                    << user.status();
+                const bool goesBack = button == std::string{"btnZuruck"};
+                EXPECT_EQ(user.usable("btnSpeichern"), goesBack);
+                if (goesBack) user.click("btnAbbrechen");
+            });
+            EXPECT_EQ(value(std::string{"SELECT "} + c.column + " FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"),
+                      button == std::string{"btnMeines"} ? c.mine : c.theirs);
+        }
+    }
+}
+
+TEST_F(LogisticsSettings, ATickThatAColleagueTookAwayAsksForItsDates) {
+    host.database.execute(
+        "UPDATE WVO_VERTRAG SET ANGEMELDETEMENGE = 1,ANGEMELDETE = NULL WHERE ID_VERTRAEGE = 3");
+    host.display.onMessage("Text 223 [Angemeldete Menge wird zugesagt am]");
+    editSettings(fibreWood, [&](User& user) {
+        user.type("txtBemerkung", "meins");
+        host.database.execute("UPDATE WVO_VERTRAG SET ANGEMELDETEMENGE = NULL WHERE ID_VERTRAEGE = 3");
+        user.click("btnSpeichern");
+        EXPECT_EQ(user.focused(), "txtAngemeldete");
+        user.type("1.6.25");
+        user.click("btnSpeichern");
+    });
+    EXPECT_EQ(row("SELECT ANGEMELDETEMENGE,ANGEMELDETE,BEMERKUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = 3"),
+              "NULL | 2025-06-01 | meins");
 }
 
 } // namespace

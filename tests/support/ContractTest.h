@@ -24,6 +24,19 @@ protected:
     /// The same for a query of one field.
     std::string value(const std::string& query) { return row(query); }
 
+    /// The next window asks about what both have changed, shown so, and is answered with a button; without
+    /// one it is closed.
+    /// @param meanwhile happens while it is open
+    void onConflict(const std::string& differences, const std::string& button,
+                    const std::function<void()>& meanwhile = {}) {
+        host.display.onWindow("F_Inzwischen", [=](User& user) {
+            EXPECT_EQ(user.text("txtUnterschiede"), differences);
+            if (meanwhile) meanwhile();
+            if (button.empty()) return user.close();
+            user.click(button);
+        });
+    }
+
     std::set<std::string> ownTables; ///< which the test changes in rows of any contract
     TestHost host{*connection_};
 };

@@ -22,6 +22,7 @@ namespace {
 
 constexpr const char* columnsOfWeeks = "F_VERTRAG_WVO_KAL";
 constexpr const char* yearMask = "0000";
+constexpr const char* weekMask = "#0";
 constexpr const char* planMask = "#####0";
 constexpr const char* twoDecimals = "##,##0.00";
 /// The number of the column with year and week in the list's query.
@@ -36,9 +37,10 @@ bool hasField(const base::Fields& row, std::string_view name) {
 } // namespace
 
 CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
-                           const std::optional<DeliveryPeriod>& period)
+                           const std::optional<DeliveryPeriod>& period, parts::UndoOffers& undo)
     : services_(services),
       period_(period),
+      undo_(undo),
       frmKalenderwochen(form, "frmKalenderwochen"),
       DataGridKalendar(form, "DataGridKalendar", 16),
       lblMeldung(form, "lblMeldung"),
@@ -64,6 +66,7 @@ CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
       btnGenWeek(form, "btnGenWeek", "autom. Erstellen"),
       weeks_(DataGridKalendar, services.locale),
       plan_(txtPlanmenge, planMask, services.locale),
+      row_(services, contract_.session),
       mode_({.create = &btnNeu1,
              .edit = &btnBearbeiten1,
              .save = &btnSpeichern1,
@@ -74,6 +77,30 @@ CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
              .rows = &DataGridKalendar},
             [this] { return weeks_.currentKey().has_value(); }) {
     connect();
+    connectRow();
+}
+
+void CalendarArea::connectRow() {
+    const auto digits = [this](ui::TextBox& box, const ui::Label& label, std::string& shown,
+                               const char* field, const char* mask) {
+        const auto text = [this, field, mask](base::Fields& week) {
+            return base::numberText(week.field(field), mask, services_.locale);
+        };
+        row_.add(
+            {.column = field,
+             .name = [&label] { return ui::plainCaption(label.caption()); },
+             .show =
+                 [&box, &shown, text](base::Fields& week) {
+                     shown = text(week);
+                     box.show(shown);
+                 },
+             .mine = [this, &box, mask] { return base::reformatNumber(box.text(), mask, services_.locale); },
+             .theirs = text,
+             .typed = &box});
+    };
+    digits(txtJahr, lblKW_Year, shownYear_, "JAHR", yearMask);
+    digits(txtWoche, lblKW, shownWeek_, "WOCHE", weekMask);
+    row_.number(plan_, "PLANMENGE");
 }
 
 void CalendarArea::connect() {
@@ -251,9 +278,7 @@ void CalendarArea::startNew() {
 
 void CalendarArea::startEdit() {
     parts::KeyedRow& week = weeks_.row(DataGridKalendar.currentRow());
-    txtJahr.show(base::numberText(week.field("JAHR"), yearMask, services_.locale));
-    txtWoche.show(week.text("WOCHE"));
-    plan_.show(week.field("PLANMENGE"));
+    row_.show(week);
     edit(parts::EditMode::State::edit, week.key());
 }
 
@@ -323,6 +348,13 @@ bool CalendarArea::complete() {
 void CalendarArea::save() {
     if (!complete()) return;
     base::Connection& connection = contract_.connection();
+    std::string taken;
+    if (mode_.state() == parts::EditMode::State::edit) {
+        if (!row_.settle([&] { return connection.open(statements_.week(editedKey_)); })) return;
+        taken = row_.takenOver();
+        // With a colleague's year or week it can be another week than the one that was checked.
+        if (!taken.empty() && !complete()) return;
+    }
     if (editedKey_ == 0) {
         connection.execute(statements_.insert());
         // Kept for the next attempt, if this one fails before the row has its values.
@@ -338,6 +370,7 @@ void CalendarArea::save() {
     }
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(DataGridKalendar);
+    undo_.say(taken);
 }
 
 void CalendarArea::cancel() {
@@ -368,9 +401,14 @@ void CalendarArea::generate() {
     if (period == nullptr) return;
     const ui::BusyPointer busy{services_.display};
     lblMeldung.setCaption("");
+    WeekGeneration generation{statements_};
+    const std::vector<base::IsoWeek> weeks = generatedWeeks(*period);
     std::string made;
     try {
-        made = makeWeeks(generatedWeeks(*period));
+        generation.run(contract_.connection(), weeks);
+        made = words(OwnText::weeksGenerated,
+                     {std::to_string(generation.made()), std::to_string(weeks.size() - generation.made()),
+                      std::to_string(generation.replaced())});
     } catch (const std::exception& error) {
         // The weeks that were made are shown; the next generation makes the others.
         services_.errors.report(error);
@@ -378,23 +416,20 @@ void CalendarArea::generate() {
     reload(std::nullopt);
     mode_.refresh();
     lblMeldung.setCaption(std::move(made));
+    generation.finish(weeks_.rows());
+    if (generation.wrote())
+        undo_.offer(words(OwnText::weeksMade), [this, generation] { return undoGeneration(generation); });
 }
 
-std::string CalendarArea::makeWeeks(const std::vector<base::IsoWeek>& weeks) {
-    base::Connection& connection = contract_.connection();
-    std::size_t made = 0;
-    for (const base::IsoWeek& week : weeks) {
-        if (!connection.open(statements_.findGenerated(week))->atEnd()) continue;
-        connection.execute(statements_.insertGenerated(week));
-        ++made;
-    }
-    std::int64_t replaced = 0;
-    if (!weeks.empty()) {
-        replaced = connection.open(statements_.countPlanned())->integer("ANZAHL");
-        connection.execute(statements_.spread(weeks.size()));
-    }
-    return words(OwnText::weeksGenerated,
-                 {std::to_string(made), std::to_string(weeks.size() - made), std::to_string(replaced)});
+std::string CalendarArea::undoGeneration(const WeekGeneration& generation) {
+    if (!mode_.viewing()) throw base::Refused{OwnText::endEditingFirst};
+    const ui::BusyPointer busy{services_.display};
+    const std::size_t kept = generation.undo(contract_.connection());
+    lblMeldung.setCaption("");
+    reload(std::nullopt);
+    mode_.refresh();
+    return kept == 0 ? words(OwnText::weeksUndone)
+                     : words(OwnText::weeksPartlyUndone, {std::to_string(kept)});
 }
 
 std::string CalendarArea::words(OwnText text, const std::vector<std::string>& values) const {

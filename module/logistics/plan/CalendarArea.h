@@ -4,10 +4,13 @@
 #include "module/host/services.h"
 #include "module/logistics/plan/Area.h"
 #include "module/logistics/plan/CalendarStatements.h"
+#include "module/logistics/plan/WeekGeneration.h"
 #include "module/logistics/plan/calendar_weeks.h"
 #include "module/parts/EnteredChanges.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/parts/NumberField.h"
+#include "module/parts/SharedRow.h"
+#include "module/parts/UndoOffers.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Grid.h"
 
@@ -22,7 +25,9 @@ namespace tellurix::logistics {
 class CalendarArea final : public Area {
 public:
     /// @param period of the contract, as the settings area has read it
-    CalendarArea(ui::Form& form, host::HostServices& services, const std::optional<DeliveryPeriod>& period);
+    /// @param undo what the form can undo
+    CalendarArea(ui::Form& form, host::HostServices& services, const std::optional<DeliveryPeriod>& period,
+                 parts::UndoOffers& undo);
 
     ui::Layout layout() override;
     void open(const LogisticsContract& contract) override;
@@ -38,6 +43,7 @@ public:
 
 private:
     void connect();
+    void connectRow();
     void showComparison();
     void sortBy(int heading);
     /// The number that a column has in the list's query.
@@ -52,9 +58,8 @@ private:
     void cancel();
     void removeWeek();
     void generate();
-    /// Makes the weeks that are missing and spreads the contract's quantity.
-    /// @return what the user is told of it
-    std::string makeWeeks(const std::vector<base::IsoWeek>& weeks);
+    /// @return what is said then
+    std::string undoGeneration(const WeekGeneration& generation);
 
     /// The delivery period; nothing when there is none, and the user has been told.
     const DeliveryPeriod* requiredPeriod();
@@ -70,6 +75,7 @@ private:
 
     host::HostServices& services_;
     const std::optional<DeliveryPeriod>& period_;
+    parts::UndoOffers& undo_;
     LogisticsContract contract_;
     CalendarStatements statements_;
     std::int64_t editedKey_ = 0; ///< of the week in the boxes; 0 for a new one that has no row yet
@@ -104,6 +110,7 @@ private:
 
     parts::KeyedGrid weeks_;
     parts::NumberField plan_;
+    parts::SharedRow row_;
     parts::EditMode mode_;
 };
 

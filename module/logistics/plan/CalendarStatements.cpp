@@ -1,6 +1,7 @@
 #include "module/logistics/plan/CalendarStatements.h"
 
 #include "module/base/StatementText.h"
+#include "module/base/field_text.h"
 #include "module/logistics/day_table.h"
 
 #include <cstdlib>
@@ -9,6 +10,17 @@ namespace tellurix::logistics {
 
 using base::IsoWeek;
 using base::StatementText;
+
+namespace {
+
+StatementText& expectingPlan(StatementText& statement, std::int64_t key, const base::Value& expected) {
+    statement.fixed(" WHERE ID = ").number(key);
+    const auto number = base::numberIn(expected);
+    return number ? statement.fixed(" AND PLANMENGE = ").number(number->toString())
+                  : statement.fixed(" AND PLANMENGE IS NULL");
+}
+
+} // namespace
 
 // clang-format off
 
@@ -54,9 +66,22 @@ std::string CalendarStatements::insertGenerated(const IsoWeek& week) const {
         " WHERE WVO_VERTRAG.ID_VERTRAEGE = ").number(contract_).text();
 }
 
-std::string CalendarStatements::countPlanned() const {
-    StatementText query{"SELECT COUNT(PLANMENGE) AS ANZAHL FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG = "};
+std::string CalendarStatements::plans() const {
+    StatementText query{"SELECT ID,PLANMENGE FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG = "};
     return query.number(record_).text();
+}
+
+std::string CalendarStatements::replacePlan(std::int64_t key, const base::Value& expected,
+                                            const base::Value& plan) const {
+    StatementText statement{"UPDATE WVO_VERTAG_KALENDER SET PLANMENGE = "};
+    const auto number = base::numberIn(plan);
+    number ? statement.number(number->toString()) : statement.null();
+    return expectingPlan(statement, key, expected).text();
+}
+
+std::string CalendarStatements::removePlanned(std::int64_t key, const base::Value& expected) const {
+    StatementText statement{"DELETE FROM WVO_VERTAG_KALENDER"};
+    return expectingPlan(statement, key, expected).text();
 }
 
 std::string CalendarStatements::spread(std::size_t weeks) const {
@@ -86,6 +111,10 @@ std::string CalendarStatements::insert() const {
 std::string CalendarStatements::newest() const {
     StatementText query{"SELECT MAX(ID) FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG = "};
     return query.number(record_).text();
+}
+
+std::string CalendarStatements::week(std::int64_t key) const {
+    return StatementText{"SELECT ID,JAHR,WOCHE,PLANMENGE FROM WVO_VERTAG_KALENDER WHERE ID = "}.number(key).text();
 }
 
 std::string CalendarStatements::update(const std::string& year, const std::string& week,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/database.h"
 #include "module/logistics/plan/calendar_weeks.h"
 
 #include <cstdint>
@@ -22,8 +23,12 @@ public:
 
     std::string findGenerated(const base::IsoWeek& week) const;
     std::string insertGenerated(const base::IsoWeek& week) const;
-    /// How many weeks have a plan quantity, in a column ANZAHL.
-    std::string countPlanned() const;
+    /// Keys and plan quantities of all weeks.
+    std::string plans() const;
+    /// Gives a week another plan quantity, as long as it still has the one that is expected.
+    std::string replacePlan(std::int64_t key, const base::Value& expected, const base::Value& plan) const;
+    /// Removes a week, as long as it has the plan quantity that is expected.
+    std::string removePlanned(std::int64_t key, const base::Value& expected) const;
     /// Gives every week of the contract the same part of its quantity, those of no delivery period and
     /// those entered by hand as well: the plan follows the contract.
     std::string spread(std::size_t weeks) const;
@@ -34,6 +39,8 @@ public:
     std::string insert() const;
     /// The key of the newest row.
     std::string newest() const;
+    /// Year, week and plan quantity of a row.
+    std::string week(std::int64_t key) const;
     /// @param plan a number with a decimal comma or point
     std::string update(const std::string& year, const std::string& week, const std::string& plan,
                        std::int64_t key) const;

@@ -13,9 +13,9 @@ using base::StatementText;
 F_Vertrag_WVO::F_Vertrag_WVO(host::HostServices& services)
     : Form("F_Vertrag_WVO", "Lieferprofil Vertragsdefinition"),
       services_(services),
-      settings_(*this, services),
-      calendar_(*this, services, settings_.deliveryPeriod()),
-      helpers_(*this, services) {
+      settings_(*this, services, undo_),
+      calendar_(*this, services, settings_.deliveryPeriod(), undo_),
+      helpers_(*this, services, undo_) {
     btnClose.onClick = [this] { unload(); };
     // Nobody has to correct a field in order to leave.
     btnClose.setCausesValidation(false);
@@ -28,6 +28,7 @@ F_Vertrag_WVO::F_Vertrag_WVO(host::HostServices& services)
 
 void F_Vertrag_WVO::Run(std::int32_t contract, const host::TlxVar& session) {
     session_ = session;
+    undo_.forget();
     const LogisticsContract record = openRecord(contract);
     for (Area* area : areas())
         area->open(record);

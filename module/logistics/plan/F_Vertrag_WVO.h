@@ -43,6 +43,7 @@ private:
 
     host::HostServices& services_;
     host::TlxVar session_;
+    parts::UndoOffers undo_{status(), session_};
 
     ui::Tabs SSTab1{*this, "SSTab1", {"Einstellungen", "Kalenderwochen", "Waldhelfer"}};
     SettingsArea settings_;

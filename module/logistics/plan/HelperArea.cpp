@@ -29,8 +29,9 @@ constexpr int longestFilter = 60;
 
 } // namespace
 
-HelperArea::HelperArea(ui::Form& form, host::HostServices& services)
+HelperArea::HelperArea(ui::Form& form, host::HostServices& services, parts::UndoOffers& undo)
     : services_(services),
+      undo_(undo),
       frmWaldhelfer(form, "frmWaldhelfer", "Waldhelfer"),
       lblFilter(form, "lblFilter", "Ansicht nach Nummer oder Name Filtern ..."),
       txtFilter(form, "txtFilter", 24),
@@ -207,6 +208,7 @@ void HelperArea::save() {
     if (!quantities_.save(services_, contract_.session, helpers::presentQuantities(contract_.record))) return;
     reload(std::nullopt);
     parts::SafeSetFocus(MSFG);
+    undo_.say(quantities_.takenOver());
 }
 
 void HelperArea::cancel() {

@@ -4,6 +4,7 @@
 #include "module/logistics/GuardedQuantities.h"
 #include "module/logistics/plan/Area.h"
 #include "module/logistics/plan/HelperSelection.h"
+#include "module/parts/UndoOffers.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Label.h"
@@ -17,7 +18,8 @@ namespace tellurix::logistics {
 /// confirmed.
 class HelperArea final : public Area {
 public:
-    HelperArea(ui::Form& form, host::HostServices& services);
+    /// @param undo what the form can undo
+    HelperArea(ui::Form& form, host::HostServices& services, parts::UndoOffers& undo);
 
     ui::Layout layout() override;
     void open(const LogisticsContract& contract) override;
@@ -45,6 +47,7 @@ private:
     void confirm(const std::string& statement);
 
     host::HostServices& services_;
+    parts::UndoOffers& undo_;
     LogisticsContract contract_;
     std::string filter_; ///< of the rows that are shown
 

@@ -1,7 +1,6 @@
 #include "module/logistics/plan/SettingsArea.h"
 
 #include "module/base/Refused.h"
-#include "module/base/field_text.h"
 #include "module/base/text.h"
 #include "module/logistics/plan/original_document.h"
 #include "module/parts/Assignments.h"
@@ -33,8 +32,9 @@ std::function<std::string()> captionOf(const ui::Label& label) {
 
 } // namespace
 
-SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services)
+SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services, parts::UndoOffers& undo)
     : services_(services),
+      undo_(undo),
       frmSchalter(form, "frmSchalter", "Schalter"),
       chkAngemeldeteMenge(form, "chkAngemeldeteMenge", "Angemeldete Menge wird sofort zugesagt"),
       chkGesperrt(form, "chkGesperrt", "Vertrag gesperrt"),
@@ -100,11 +100,13 @@ SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services)
                       parts::named("WVO_T_BEREITSELLUNGS")),
       transportauftraege_(txtTransportauftraege, services, contract_.session,
                           captionOf(lblTransportauftraege), parts::named("WVO_T_BEREITSELLUNGS")),
+      row_(services, contract_.session),
       mode_({.edit = &btnBearbeiten, .save = &btnSpeichern, .cancel = &btnAbbrechen},
             {.whileEdited = {&frmSchalter, &frmEinstellungen, &frmBemerkung, &frmOriginal, &frmFhpLogistik}},
             [] { return true; }) {
     txtBemerkung.setLines(2);
     connect();
+    connectRow();
 }
 
 void SettingsArea::connect() {
@@ -135,6 +137,57 @@ void SettingsArea::connect() {
                              &txtBereitstellungTime, &txtBelieferung, &txtLieferparitat, &txtBemerkung,
                              &txtOriginal, &txtTransportauftraege, &txtTransportauftragTime})
         changes_.watch(*box);
+}
+
+void SettingsArea::connectRow() {
+    row_.flag(chkAngemeldeteMenge, "ANGEMELDETEMENGE");
+    row_.flag(chkGesperrt, "GESPERRT");
+    row_.flag(chkMengenauf, "MENGENAUF");
+    row_.flag(chkErforderlich, "ERFORDERLICH");
+    row_.flag(chkAktive, "AKTIVE");
+    row_.flag(chkVermarktung, "VERMARKTUNG");
+    row_.flag(chkSichtbar, "SICHTBAR");
+    row_.flag(chkHandabmas, "HANDABMAS");
+    row_.flag(chkVertragMGSichtbar, "VERTRAG_MG_SICHTBAR");
+    row_.flag(chkGeschaeftsfeldNeu, "GESCHAEFTSFELD_NEU");
+    row_.flag(chkVorvertrag, "VORVERTRAG");
+    row_.flag(chkKeine_Mengenmeldung_Auf_WB, "KEINE_MENGENMELDUNG_AUF_WB");
+    row_.flag(chkLieferungAusserhalbmoeglich, "LIEFERUNGAUSSERHALBMOEGLICH");
+    row_.flag(chkFHPLogistikVerweden, "FHP_LOGISTIK_VERWENDEN");
+    row_.flag(chkWaldverbandLogistikkoordinator, "FHP_WALDVERBAND_KOORDINATOR");
+    row_.flag(chkWaldhelferKannFraechterAendern, "FHP_WH_FR_AENDERN");
+    row_.flag(chkWaldhelferKannTransportauftraegeTeilen, "FHP_WH_TA_TEILEN");
+
+    row_.date(txtAngemeldete, "ANGEMELDETE");
+    row_.date(txtMengenmeldung, "MENGENMELDUNG");
+    row_.number(uberlieferung_, "UBERLIEFERUNG");
+    row_.text(txtBemerkung, "BEMERKUNG");
+    row_.text(txtOriginal, "ORIGINAL");
+    row_.lookup(belieferung_, "ID_WVO_T_BELIEFERUNG", "WVO_T_BELIEFERUNGLONG");
+    row_.lookup(lieferparitat_, "ID_WVO_T_LIEFERPARITAT", "WVO_T_LIEFERPARITATLONG");
+    connectWeekday(bereitstellung_, "BEREITSELLUNGS");
+    row_.text(txtBereitstellungTime, "BEREITSELLUNGSTIME");
+    connectWeekday(transportauftraege_, "FHP_TA_SENDETAG");
+    row_.text(txtTransportauftragTime, "FHP_TA_SENDETIME");
+}
+
+void SettingsArea::connectWeekday(parts::LookupBox& box, const char* column) {
+    row_.add({.column = column,
+              .name = [&box] { return parts::nameOf(box.box()); },
+              .show =
+                  [this, &box, column](base::Fields& row) {
+                      const std::string day = weekdayIn(row, column);
+                      box.show(day, day.empty() ? "" : row.text(column));
+                  },
+              .mine = [&box] { return box.box().text(); },
+              .theirs = [this, column](base::Fields& row) { return weekdayIn(row, column); },
+              .typed = &box.box()});
+}
+
+std::string SettingsArea::weekdayIn(base::Fields& row, std::string_view column) const {
+    // 0 stands for no day, where others write NULL.
+    const std::int64_t day = row.integer(column);
+    return day == 0 ? std::string{} : weekdayName(day, services_.locale);
 }
 
 ui::Layout SettingsArea::layout() {
@@ -187,7 +240,7 @@ void SettingsArea::reload(std::optional<std::int64_t> /*key*/) {
     LoadSettings();
 }
 
-void SettingsArea::LoadSettings() {
+std::unique_ptr<base::Recordset> SettingsArea::readRow() {
     // clang-format off
     StatementText query{"SELECT "
         "WVO_VERTRAG.ANGEMELDETEMENGE,WVO_VERTRAG.GESPERRT,WVO_VERTRAG.MENGENAUF,WVO_VERTRAG.ERFORDERLICH,WVO_VERTRAG.AKTIVE,WVO_VERTRAG.VERMARKTUNG,WVO_VERTRAG.SICHTBAR,WVO_VERTRAG.HANDABMAS,WVO_VERTRAG.VORVERTRAG,"
@@ -204,51 +257,16 @@ void SettingsArea::LoadSettings() {
         " LEFT JOIN WVO_T_LIEFERPARITAT ON WVO_T_LIEFERPARITAT.ID = WVO_VERTRAG.ID_WVO_T_LIEFERPARITAT"
         " WHERE VERTRAEGE.ID_VERTRAG = "};
     // clang-format on
-    const auto row = contract_.connection().open(query.number(contract_.id).text());
-    if (row->atEnd()) throw base::Refused{OwnText::contractIsGone};
-
-    chkAngemeldeteMenge.setChecked(row->flag("ANGEMELDETEMENGE"));
-    chkGesperrt.setChecked(row->flag("GESPERRT"));
-    chkMengenauf.setChecked(row->flag("MENGENAUF"));
-    chkErforderlich.setChecked(row->flag("ERFORDERLICH"));
-    chkAktive.setChecked(row->flag("AKTIVE"));
-    chkVermarktung.setChecked(row->flag("VERMARKTUNG"));
-    chkSichtbar.setChecked(row->flag("SICHTBAR"));
-    chkHandabmas.setChecked(row->flag("HANDABMAS"));
-    chkVertragMGSichtbar.setChecked(row->flag("VERTRAG_MG_SICHTBAR"));
-    chkGeschaeftsfeldNeu.setChecked(row->flag("GESCHAEFTSFELD_NEU"));
-    chkVorvertrag.setChecked(row->flag("VORVERTRAG"));
-    chkKeine_Mengenmeldung_Auf_WB.setChecked(row->flag("KEINE_MENGENMELDUNG_AUF_WB"));
-    chkLieferungAusserhalbmoeglich.setChecked(row->flag("LIEFERUNGAUSSERHALBMOEGLICH"));
-    chkFHPLogistikVerweden.setChecked(row->flag("FHP_LOGISTIK_VERWENDEN"));
-    chkWaldverbandLogistikkoordinator.setChecked(row->flag("FHP_WALDVERBAND_KOORDINATOR"));
-    chkWaldhelferKannFraechterAendern.setChecked(row->flag("FHP_WH_FR_AENDERN"));
-    chkWaldhelferKannTransportauftraegeTeilen.setChecked(row->flag("FHP_WH_TA_TEILEN"));
-
-    txtAngemeldete.setText(base::dateText(row->field("ANGEMELDETE")));
-    txtMengenmeldung.setText(base::dateText(row->field("MENGENMELDUNG")));
-    uberlieferung_.show(row->field("UBERLIEFERUNG"));
-    txtBemerkung.setText(row->text("BEMERKUNG"));
-    txtOriginal.setText(row->text("ORIGINAL"));
-    belieferung_.show(row->text("WVO_T_BELIEFERUNGLONG"), row->text("ID_WVO_T_BELIEFERUNG"));
-    lieferparitat_.show(row->text("WVO_T_LIEFERPARITATLONG"), row->text("ID_WVO_T_LIEFERPARITAT"));
-    showWeekday(bereitstellung_, *row, "BEREITSELLUNGS");
-    txtBereitstellungTime.setText(row->text("BEREITSELLUNGSTIME"));
-    showWeekday(transportauftraege_, *row, "FHP_TA_SENDETAG");
-    txtTransportauftragTime.setText(row->text("FHP_TA_SENDETIME"));
-
-    period_ = deliveryPeriodOf(row->field("LIEFERVON"), row->field("LIEFERBIS"));
-    changes_.forget();
+    return contract_.connection().open(query.number(contract_.id).text());
 }
 
-void SettingsArea::showWeekday(parts::LookupBox& box, base::Recordset& row, std::string_view columnName) {
-    // 0 stands for no day, where others write NULL.
-    const std::int64_t day = row.integer(columnName);
-    if (day == 0) {
-        box.show("", "");
-    } else {
-        box.show(weekdayName(day, services_.locale), std::to_string(day));
-    }
+void SettingsArea::LoadSettings() {
+    const auto row = readRow();
+    if (row->atEnd()) throw base::Refused{OwnText::contractIsGone};
+
+    row_.show(*row);
+    period_ = deliveryPeriodOf(row->field("LIEFERVON"), row->field("LIEFERBIS"));
+    changes_.forget();
 }
 
 void SettingsArea::startEdit() {
@@ -266,13 +284,21 @@ void SettingsArea::cancel() {
 
 void SettingsArea::save() {
     if (!datesAreThere()) return;
-    const std::string statement = updateStatement();
+    const std::string document = txtOriginal.text();
+    std::string path = original();
+    static_cast<void>(updateStatement(path)); // refuses what no statement can carry before anything is asked
     warnOfMissingUnit();
-    contract_.connection().execute(statement);
+    if (!row_.settle([this] { return readRow(); })) return;
+    const std::string taken = row_.takenOver();
+    // What came from a colleague can need a date that is not here.
+    if (!taken.empty() && !datesAreThere()) return;
+    if (txtOriginal.text() != document) path = original();
+    contract_.connection().execute(updateStatement(path));
     // Tells as well whether there still is a record that was written to.
     LoadSettings();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(btnBearbeiten);
+    undo_.say(taken);
 }
 
 bool SettingsArea::datesAreThere() {
@@ -302,8 +328,11 @@ void SettingsArea::chooseDocument() {
     changes_.note();
 }
 
-std::string SettingsArea::updateStatement() {
-    const std::string original = pathForAll(services_, contract_.session, parts::typedText(txtOriginal));
+std::string SettingsArea::original() {
+    return pathForAll(services_, contract_.session, parts::typedText(txtOriginal));
+}
+
+std::string SettingsArea::updateStatement(const std::string& original) {
     if (!txtUberlieferung.text().empty()) static_cast<void>(uberlieferung_.value()); // refuses what is none
     StatementText statement{"UPDATE WVO_VERTRAG SET "};
     parts::Assignments assign{statement, services_, contract_.session};

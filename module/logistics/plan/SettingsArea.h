@@ -7,9 +7,12 @@
 #include "module/parts/EnteredChanges.h"
 #include "module/parts/LookupBox.h"
 #include "module/parts/NumberField.h"
+#include "module/parts/SharedRow.h"
+#include "module/parts/UndoOffers.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/CheckBox.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -18,7 +21,8 @@ namespace tellurix::logistics {
 /// The logistics settings of the contract: its row in `WVO_VERTRAG`.
 class SettingsArea final : public Area {
 public:
-    SettingsArea(ui::Form& form, host::HostServices& services);
+    /// @param undo what the form can undo
+    SettingsArea(ui::Form& form, host::HostServices& services, parts::UndoOffers& undo);
 
     ui::Layout layout() override;
     void open(const LogisticsContract& contract) override;
@@ -34,6 +38,8 @@ public:
 
 private:
     void connect();
+    void connectRow();
+    std::unique_ptr<base::Recordset> readRow();
     void LoadSettings();
     void startEdit();
     void save();
@@ -43,12 +49,15 @@ private:
     void warnOfMissingUnit();
     void chooseDocument();
     /// @throws ui::RefusedInput when no statement can carry a text
-    std::string updateStatement();
+    std::string original();
+    std::string updateStatement(const std::string& original);
     void forgetLogisticsProcess();
-    void showWeekday(parts::LookupBox& box, base::Recordset& row, std::string_view column);
+    void connectWeekday(parts::LookupBox& box, const char* column);
+    std::string weekdayIn(base::Fields& row, std::string_view column) const;
     void tell(const std::string& message);
 
     host::HostServices& services_;
+    parts::UndoOffers& undo_;
     LogisticsContract contract_;
     std::optional<DeliveryPeriod> period_;
     parts::EnteredChanges changes_;
@@ -109,6 +118,7 @@ private:
     parts::LookupBox lieferparitat_;
     parts::LookupBox bereitstellung_;
     parts::LookupBox transportauftraege_;
+    parts::SharedRow row_;
     parts::EditMode mode_;
 };
 

@@ -197,7 +197,7 @@ void F_Bereitstellung_WVO::cancel() {
 void F_Bereitstellung_WVO::save() {
     ProvisionSaving saving{services_, session_, statements_, table_};
     try {
-        saving.write(pgbSpeichern);
+        if (!saving.write(pgbSpeichern)) return showSums();
     } catch (...) {
         showSums();
         throw;
@@ -209,6 +209,7 @@ void F_Bereitstellung_WVO::save() {
     const auto notTaken = saving.notTaken();
     reload();
     parts::SafeSetFocus(MSFG);
+    status().say(saving.takenOver());
     if (!notTaken.empty())
         parts::ShowMessage(services_.display, own(OwnText::reportsNotTaken, {listed(notTaken)}),
                            ui::box::exclamation);

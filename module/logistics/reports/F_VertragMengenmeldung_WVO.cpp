@@ -141,6 +141,7 @@ void F_VertragMengenmeldung_WVO::save() {
     if (!quantities_.save(services_, session_, quantity_report::presentQuantities(helper()))) return;
     load();
     parts::SafeSetFocus(MSFG);
+    status().say(quantities_.takenOver());
 }
 
 void F_VertragMengenmeldung_WVO::cancel() {

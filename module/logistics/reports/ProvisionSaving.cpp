@@ -19,18 +19,26 @@ bool isEmpty(KeyedRow& row) {
 
 } // namespace
 
-void ProvisionSaving::write(ui::ProgressBar& bar) {
-    const std::vector<KeyedRow*> gone = table_.refresh(
-        KeyedRows::read(*session_.connection, statements_.reports(), reportField::report).rows);
-    for (KeyedRow* row : gone)
-        gone_.push_back(ProvisionTable::nameOf(*row));
+bool ProvisionSaving::settle() {
+    while (true) {
+        goneRows_ = table_.refresh(
+            KeyedRows::read(*session_.connection, statements_.reports(), reportField::report).rows, merge_);
+        if (merge_.settled()) return true;
+        if (!merge_.ask()) return false;
+    }
+}
+
+bool ProvisionSaving::write(ui::ProgressBar& bar) {
     table_.requireCarriers();
+    if (!settle()) return false;
+    for (KeyedRow* row : goneRows_)
+        gone_.push_back(ProvisionTable::nameOf(*row));
 
     const int changed = table_.changed();
     parts::ShownProgress progress{services_.display, bar, static_cast<int>(table_.rows().size())};
     for (KeyedRow& row : table_.rows()) {
         progress.step();
-        if (std::ranges::find(gone, &row) != gone.end()) continue;
+        if (std::ranges::find(goneRows_, &row) != goneRows_.end()) continue;
         try {
             writeRow(row);
         } catch (const std::exception& error) {
@@ -42,6 +50,7 @@ void ProvisionSaving::write(ui::ProgressBar& bar) {
         row.settle();
     }
     table_.redraw();
+    return true;
 }
 
 void ProvisionSaving::writeRow(KeyedRow& row) {

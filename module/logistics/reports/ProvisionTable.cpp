@@ -1,6 +1,7 @@
 #include "module/logistics/reports/ProvisionTable.h"
 
 #include "module/base/StatementText.h"
+#include "module/base/field_text.h"
 #include "module/base/own_text.h"
 #include "module/base/text.h"
 #include "module/base/whole_number.h"
@@ -26,6 +27,19 @@ constexpr std::int64_t mostLoads = 9999;
 constexpr const char* nameColumn = "NAME";
 constexpr std::array<const char*, 3> typedFields{reportField::announced, reportField::confirmed,
                                                  reportField::carrier};
+
+/// What stands in it now stays, if it was typed; the report is none any more.
+void forgetReport(KeyedRow& row) {
+    for (const char* field : typedFields)
+        row.touched(field) ? row.rebase(field, base::Null{}) : row.refresh(field, base::Null{});
+    row.refresh(reportField::report, base::Null{});
+}
+
+std::string reportText(const base::Value& value) {
+    const auto* text = std::get_if<std::string>(&value);
+    if (text != nullptr) return *text;
+    return base::numberText(value, "0", base::Locale::german());
+}
 
 /// Whether a text can stand between the quotes of a statement as it is.
 bool canBeQuoted(const std::string& text) {
@@ -212,7 +226,7 @@ void ProvisionTable::requireCarriers() {
     }
 }
 
-std::vector<KeyedRow*> ProvisionTable::refresh(std::vector<KeyedRow> now) {
+std::vector<KeyedRow*> ProvisionTable::refresh(std::vector<KeyedRow> now, parts::RowMerge& merge) {
     // A helper may have several reports: each belongs to one row.
     const auto taken = [this](const KeyedRow& report) {
         return std::ranges::any_of(
@@ -227,12 +241,21 @@ std::vector<KeyedRow*> ProvisionTable::refresh(std::vector<KeyedRow> now) {
             found = std::ranges::find_if(now, [&](KeyedRow& other) {
                 return other.integer(reportField::helper) == row.key() && !taken(other);
             });
-        for (const char* field : typedFields)
-            if (!row.touched(field))
-                row.refresh(field, found == now.end() ? base::Value{} : found->field(field));
+        if (reportedBefore && found == now.end() && row.touched()) {
+            gone.push_back(&row);
+            continue;
+        }
+        for (const char* field : typedFields) {
+            const std::string& caption = shown_.columns()[static_cast<std::size_t>(columnOf(field))].caption;
+            merge.field(row, field, found == now.end() ? base::Value{} : found->field(field),
+                        nameOf(row) + ", " + caption, reportText);
+        }
         row.refresh(reportField::report, found == now.end() ? base::Value{} : base::Value{found->key()});
-        if (reportedBefore && found == now.end() && row.touched()) gone.push_back(&row);
     }
+    // Before the user has answered, nobody has been told of them.
+    if (merge.settled())
+        for (KeyedRow* row : gone)
+            forgetReport(*row);
     redraw();
     return gone;
 }

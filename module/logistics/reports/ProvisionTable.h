@@ -3,6 +3,7 @@
 #include "module/base/Refused.h"
 #include "module/logistics/reports/ProvisionStatements.h"
 #include "module/parts/KeyedGrid.h"
+#include "module/parts/RowMerge.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/input/GridEditor.h"
 
@@ -59,8 +60,9 @@ public:
     /// What was not typed takes the values that the database has by now, so that it is nobody's work that
     /// is overwritten. A report that has come meanwhile belongs to its helper's row.
     /// @param now the week's reports
+    /// @param merge is told of what both the user and somebody else have changed
     /// @return the rows with typed values whose report is gone; they have none from now on
-    std::vector<parts::KeyedRow*> refresh(std::vector<parts::KeyedRow> now);
+    std::vector<parts::KeyedRow*> refresh(std::vector<parts::KeyedRow> now, parts::RowMerge& merge);
 
     /// All rows for a spreadsheet (see KeyedGrid::text).
     /// @param internal with the columns that are not meant for the companies
