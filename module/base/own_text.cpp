@@ -176,6 +176,14 @@ constexpr Words wordsOf(OwnText text) {
         return {"Wochen neu: {}, schon vorhanden: {}. Ersetzte Planmengen: {}.",
                 "New weeks: {}, already there: {}. Plan quantities replaced: {}."};
 
+    case OwnText::lineOfNumber:
+        return {"Zeile {}", "Line {}"};
+    case OwnText::article:
+        return {"Artikel", "Article"};
+    case OwnText::statisticRemoved:
+        return {"Statistik der Zeile {} gelöscht.", "Statistic of line {} deleted."};
+    case OwnText::statisticPutBack:
+        return {"Statistik der Zeile {} wiederhergestellt.", "Statistic of line {} restored."};
     case OwnText::statisticMissing:
         return {"In dieser Zeile fehlt die Statistik.", "This line has no statistic."};
     case OwnText::valueMissing:

@@ -79,6 +79,10 @@ enum class OwnText {
     weeksPartlyUndone, ///< how many stay
     weeksGenerated,    ///< how many are new, how many were there, how many plan quantities were replaced
     // Surcharges and deductions
+    lineOfNumber, ///< its number
+    article,
+    statisticRemoved, ///< the line's number
+    statisticPutBack, ///< the line's number
     statisticMissing,
     valueMissing,
     refersToItself, ///< the line

@@ -221,6 +221,7 @@ void F_Vertrag::openDeductions() {
     auto& deductions = host::moduleState().screen<deductions::F_Abschlag>(
         "F_Abschlag", [this] { return std::make_unique<deductions::F_Abschlag>(services_); });
     txtAbschlag.setText(deductions.Run(session_, deductionsOfContract, name_));
+    status().say(deductions.takenOver());
 }
 
 void F_Vertrag::openLogistics() {

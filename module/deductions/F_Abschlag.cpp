@@ -32,7 +32,10 @@ constexpr char32_t lastKeyCode = 0x7FFF;
 } // namespace
 
 F_Abschlag::F_Abschlag(host::HostServices& services)
-    : Form("F_Abschlag", "Zu - / Abschlag Modell"), services_(services), table_(*this, services.locale) {
+    : Form("F_Abschlag", "Zu - / Abschlag Modell"),
+      services_(services),
+      table_(*this, services.locale),
+      shared_(table_, services, session_, model_, [this] { return ui::plainCaption(lblModell_.caption()); }) {
     connect();
     setLayout(ui::column({
         ui::row({ui::field(lblModell_, CmbModel), btnModels}),
@@ -43,6 +46,10 @@ F_Abschlag::F_Abschlag(host::HostServices& services)
 
 void F_Abschlag::connect() {
     table_.onChange = [this] { changed_ = typed_ = true; };
+    table_.beforeRemoval = [this](std::size_t line) {
+        undo_.offer(base::ownText(OwnText::statisticRemoved, session_.language, {std::to_string(line + 1)}),
+                    [this, line, values = table_.read(line)] { return putBack(line, values); });
+    };
     for (std::size_t line = 0; line < LineTable::size; ++line) {
         table_.Command1[line].onClick = [this, line] { FindWarenId(line); };
         table_.Command2[line].onClick = [this, line] { selectSubset(line); };
@@ -82,6 +89,8 @@ void F_Abschlag::RunActions(const host::TlxVar& session, std::int16_t mode) {
     mode_ = mode;
     changed_ = typed_ = done_ = false;
     partlySaved_.reset();
+    takenOver_.clear();
+    undo_.forget();
     loadLists();
     table_.start(session_.language);
     SetNullValues();
@@ -116,23 +125,33 @@ std::string F_Abschlag::ReadModelColumn(const std::string& column) {
     return model->atEnd() ? std::string{} : model->text(column);
 }
 
-void F_Abschlag::LoadLines() {
+StoredLines F_Abschlag::readStored() {
+    StoredLines stored;
     auto row = session_.connection->open(statements_.readLines());
-    if (!row->atEnd()) model_ = row->text("ABS_MODEL");
+    if (!row->atEnd()) stored.model = row->text("ABS_MODEL");
     for (; !row->atEnd(); row->moveNext()) {
         const std::int64_t number = row->integer("LINE_NUM", -1);
         // What no line of the screen can show is not touched before the lines are saved.
         if (number < 0 || number >= static_cast<std::int64_t>(LineTable::size)) continue;
-        const auto line = static_cast<std::size_t>(number);
-        table_.show(line, {.statistic = static_cast<int>(
-                               row->integer("STATISTIK", host::CalculationLine::noStatistic)),
-                           .designation = row->text("BEZEICH"),
-                           .value = row->text("WERT_TEXT"),
-                           .references = row->text("WERT_LINE"),
-                           .subset = row->text("SUBSET_DEF"),
-                           .article = static_cast<std::int32_t>(row->integer("ART_ID"))});
-        FillSubset(line);
+        stored.lines[static_cast<std::size_t>(number)] = {
+            .statistic = static_cast<int>(row->integer("STATISTIK", host::CalculationLine::noStatistic)),
+            .designation = row->text("BEZEICH"),
+            .value = row->text("WERT_TEXT"),
+            .references = row->text("WERT_LINE"),
+            .subset = row->text("SUBSET_DEF"),
+            .article = static_cast<std::int32_t>(row->integer("ART_ID"))};
     }
+    return stored;
+}
+
+void F_Abschlag::LoadLines() {
+    shared_.show(readStored());
+    showLines();
+}
+
+void F_Abschlag::showLines() {
+    for (std::size_t line = 0; line < LineTable::size; ++line)
+        FillSubset(line);
     showModel();
     table_.refresh();
 }
@@ -144,15 +163,42 @@ std::optional<LineFault> F_Abschlag::fault() const {
     return firstFault(all, services_.locale);
 }
 
-void F_Abschlag::save() {
+bool F_Abschlag::linesAreRight() {
     if (const auto wrong = fault()) {
         parts::ShowMessage(services_.display,
                            services_.localizer.text(host::textNumber::invalidEntry, session_),
                            ui::box::exclamation);
         table_.mark(*wrong);
-        return;
+        return false;
     }
     requireTexts();
+    return true;
+}
+
+bool F_Abschlag::settle() {
+    // What a failed save has left is nobody's work: all lines are written again.
+    if (partlySaved_) return true;
+    const bool settled = shared_.settle([this] { return readStored(); });
+    showLines();
+    return settled;
+}
+
+std::string F_Abschlag::putBack(std::size_t line, const host::CalculationLine& values) {
+    host::CalculationLine present = table_.read(line);
+    present.statistic = values.statistic;
+    present.article = values.article;
+    table_.show(line, present);
+    FillSubset(line);
+    table_.refresh();
+    changed_ = typed_ = true;
+    return base::ownText(OwnText::statisticPutBack, session_.language, {std::to_string(line + 1)});
+}
+
+void F_Abschlag::save() {
+    if (!linesAreRight() || !settle()) return;
+    const std::string taken = shared_.takenOver();
+    // With a colleague's lines there can be a gap between them.
+    if (!taken.empty() && !linesAreRight()) return;
     PartlySaved saved;
     for (std::size_t line = 0; line < LineTable::size; ++line)
         saved.of += IsCorectLine(line) ? 1U : 0U;
@@ -168,6 +214,7 @@ void F_Abschlag::save() {
     }
     // Where there is no line there is none that keeps the name.
     storedModel_ = saved.of == 0 ? "" : model_;
+    takenOver_ = taken;
     done_ = true;
     unload();
     host::moduleState().context.blnOK = host::Boolean16::True;

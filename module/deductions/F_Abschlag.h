@@ -3,8 +3,10 @@
 #include "module/base/own_text.h"
 #include "module/deductions/CalculationStatements.h"
 #include "module/deductions/LineTable.h"
+#include "module/deductions/SharedLines.h"
 #include "module/host/module_state.h"
 #include "module/host/services.h"
+#include "module/parts/UndoOffers.h"
 #include "module/ui/Form.h"
 
 #include <cstdint>
@@ -16,8 +18,9 @@ namespace tellurix::deductions {
 /// The surcharge and deduction lines of one calculation, and the model that they were taken from.
 ///
 /// "Ok" deletes the lines of the calculation and writes those of the screen anew, one statement at a
-/// time. A failure in between leaves part of them, tells how many, and keeps the screen open with
-/// everything in it: another "Ok" writes all. "Abbrechen" writes nothing.
+/// time, after what a colleague has saved meanwhile has been brought together with them. A failure in between
+/// leaves part of them, tells how many, and keeps the screen open with everything in it: another "Ok" writes
+/// all. "Abbrechen" writes nothing.
 class F_Abschlag final : public ui::Form, public host::Screen, private host::CalculationForm {
 public:
     explicit F_Abschlag(host::HostServices& services);
@@ -27,6 +30,9 @@ public:
     /// @param calculation its name, which is the contract's
     /// @return the name of the model as it is stored then, empty for none
     std::string Run(const host::TlxVar& session, std::int16_t mode, const std::string& calculation);
+    /// What the last visit has saved although the user did not change it, because a colleague had: a
+    /// sentence, empty for nothing.
+    const std::string& takenOver() const { return takenOver_; }
     /// Starts with empty lines and loads those of the calculation.
     void RunActions(const host::TlxVar& session, std::int16_t mode);
 
@@ -59,7 +65,16 @@ private:
     void loadLists();
     void LoadLines();
     std::string ReadModelColumn(const std::string& column);
+    StoredLines readStored();
+    /// Shows of the lines what is not theirs alone: subsets, the model, doubts.
+    void showLines();
     std::optional<LineFault> fault() const;
+    /// @return false when the lines cannot be saved, which the user has been told
+    bool linesAreRight();
+    /// @return false when nothing is to be written
+    bool settle();
+    /// @return what is said then
+    std::string putBack(std::size_t line, const host::CalculationLine& values);
 
     void save();
     void writeLines(PartlySaved& saved);
@@ -96,11 +111,14 @@ private:
     bool typed_ = false;      ///< by the user, since the lines were read or taken from a model
     bool done_ = false;       ///< saved or cancelled: the window closes without a question
     std::optional<PartlySaved> partlySaved_;
+    std::string takenOver_;
 
     ui::Label lblModell_{*this, "lblModell", "Modell"};
     ui::ComboBox CmbModel{*this, "CmbModel", 40};
     ui::Button btnModels{*this, "btnModels", "Modelle"};
     LineTable table_;
+    SharedLines shared_;
+    parts::UndoOffers undo_{status(), session_};
     ui::Button btnOk{*this, "btnOk", "Ok"};
     ui::Button btnAbbrechen{*this, "btnAbbrechen", "Abbrechen"};
 };

@@ -109,6 +109,12 @@ CheckedLine LineTable::checked(std::size_t line) const {
             .designation = TextBez[line].text()};
 }
 
+const std::string& LineTable::heading(std::size_t column) const {
+    const std::array<const ui::Label*, 5> headings{&lblStatistik_, &lblBezeichnung_, &lblWert_,
+                                                   &lblBezugszeilen_, &lblSubset_};
+    return headings.at(column)->caption();
+}
+
 std::string LineTable::amountText(const std::string& text) const {
     const auto amount = amountIn(text, locale_);
     return amount ? base::formatNumber(*amount, shownMask, locale_) : text;
@@ -147,6 +153,7 @@ void LineTable::statisticKey(std::size_t line, ui::KeyDown& key) {
     const int index =
         empty == list.items().end() ? ui::ItemList::none : static_cast<int>(empty - list.items().begin());
     if (index == list.selected()) return;
+    if (beforeRemoval) beforeRemoval(line);
     list.select(index);
     statisticChosen(line);
 }

@@ -35,6 +35,8 @@ public:
     void show(std::size_t line, const host::CalculationLine& values);
     host::CalculationLine read(std::size_t line) const;
     CheckedLine checked(std::size_t line) const;
+    /// What a column is called, from 0 for the statistic to 4 for the subset.
+    const std::string& heading(std::size_t column) const;
     /// A value in the form in which it is shown and stored; a text that is no number stays as it is.
     std::string amountText(const std::string& text) const;
 
@@ -53,6 +55,8 @@ public:
 
     /// The user changed something.
     std::function<void()> onChange;
+    /// The user is about to take the statistic out of a line by Del.
+    std::function<void(std::size_t line)> beforeRemoval;
 
 private:
     ui::Label lblStatistik_;

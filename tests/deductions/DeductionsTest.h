@@ -23,12 +23,15 @@ protected:
             host.statements.clear();
             user.click("btnAbschlag");
             model = user.text("txtAbschlag");
+            said = user.status();
             user.click("btnAbbrechen");
         });
         host.display.onWindow("F_Abschlag", script);
         host.openContract(contract, type);
         return model;
     }
+
+    std::string said; ///< by the editor, when the lines are closed
 
     static std::string at(const char* array, std::size_t line) {
         return std::string{array} + "(" + std::to_string(line) + ")";

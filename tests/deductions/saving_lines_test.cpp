@@ -53,6 +53,8 @@ TEST_F(SavingDeductions, WritesEveryLineAnewInTheGivenOrder) {
         const std::string read = "SELECT SUBSET_DEF FROM ABSCHLAG WHERE RECH_NAME = '" + name +
                                  "' AND VER_TYPE = 'V' AND LINE_NUM = ";
         const std::vector<std::string> expected{
+            // What a colleague has saved meanwhile.
+            "SELECT * FROM ABSCHLAG WHERE RECH_NAME = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V'",
             "DELETE FROM ABSCHLAG WHERE RECH_NAME = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V'",
             "INSERT INTO ABSCHLAG (RECH_NAME,LINE_NUM,VER_TYPE) VALUES ( 'R-2025-002 Lärche Villach' , 0 , 'V' "
             ")",
