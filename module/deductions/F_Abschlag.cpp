@@ -196,9 +196,9 @@ std::string F_Abschlag::putBack(std::size_t line, const host::CalculationLine& v
 
 void F_Abschlag::save() {
     if (!linesAreRight() || !settle()) return;
-    const std::string taken = shared_.takenOver();
     // With a colleague's lines there can be a gap between them.
-    if (!taken.empty() && !linesAreRight()) return;
+    if (!linesAreRight()) return;
+    const std::string taken = shared_.takenOver();
     PartlySaved saved;
     for (std::size_t line = 0; line < LineTable::size; ++line)
         saved.of += IsCorectLine(line) ? 1U : 0U;

@@ -350,10 +350,11 @@ void CalendarArea::save() {
     base::Connection& connection = contract_.connection();
     std::string taken;
     if (mode_.state() == parts::EditMode::State::edit) {
+        const std::string checked = txtJahr.text() + "/" + txtWoche.text();
         if (!row_.settle([&] { return connection.open(statements_.week(editedKey_)); })) return;
         taken = row_.takenOver();
         // With a colleague's year or week it can be another week than the one that was checked.
-        if (!taken.empty() && !complete()) return;
+        if (txtJahr.text() + "/" + txtWoche.text() != checked && !complete()) return;
     }
     if (editedKey_ == 0) {
         connection.execute(statements_.insert());

@@ -291,7 +291,7 @@ void SettingsArea::save() {
     if (!row_.settle([this] { return readRow(); })) return;
     const std::string taken = row_.takenOver();
     // What came from a colleague can need a date that is not here.
-    if (!taken.empty() && !datesAreThere()) return;
+    if (!datesAreThere()) return;
     if (txtOriginal.text() != document) path = original();
     contract_.connection().execute(updateStatement(path));
     // Tells as well whether there still is a record that was written to.
