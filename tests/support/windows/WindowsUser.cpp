@@ -149,7 +149,7 @@ std::string WindowsUser::errorOf(HWND control) {
                GetWindowLongPtrW(window, GWLP_USERDATA) == reinterpret_cast<LONG_PTR>(control);
     }};
     EnumChildWindows(GetParent(control), lookAt, reinterpret_cast<LPARAM>(&search));
-    return search.found == nullptr ? std::string{} : windows::narrow(windowText(search.found));
+    return search.found == nullptr ? std::string{} : windowText(search.found);
 }
 
 bool WindowsUser::isGrid(HWND control) {
