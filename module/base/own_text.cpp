@@ -21,6 +21,50 @@ constexpr Words wordsOf(OwnText text) {
     case OwnText::deliveryAddress:
         return {"Lieferadresse", "Delivery address"};
 
+    case OwnText::saved:
+        return {"Gespeichert", "Saved"};
+    case OwnText::writtenAtOnce:
+        return {"{} – schon gespeichert, „Abbrechen“ nimmt es nicht zurück",
+                "{} – saved already, \"Cancel\" does not take it back"};
+    case OwnText::headSaved:
+        return {"Kopf gespeichert", "Head saved"};
+    case OwnText::deductionsSaved:
+        return {"Zu- und Abschläge gespeichert", "Surcharges and deductions saved"};
+    case OwnText::customerSaved:
+        return {"Kunde eingetragen", "Customer entered"};
+    case OwnText::customerRemoved:
+        return {"Kunde entfernt", "Customer removed"};
+    case OwnText::textSaved:
+        return {"Zusatztext eingetragen", "Additional text entered"};
+    case OwnText::takenOver:
+        return {"{} und {} übernommen", "{} and {} taken over"};
+    case OwnText::onePrice:
+        return {"1 Preis", "1 price"};
+    case OwnText::prices:
+        return {"{} Preise", "{} prices"};
+    case OwnText::oneQuantity:
+        return {"1 Menge", "1 quantity"};
+    case OwnText::quantities:
+        return {"{} Mengen", "{} quantities"};
+    case OwnText::selectionSaved:
+        return {"Selektion gespeichert", "Selection saved"};
+    case OwnText::onePriceChanged:
+        return {"1 Preis geändert", "1 price changed"};
+    case OwnText::pricesChanged:
+        return {"{} Preise geändert", "{} prices changed"};
+    case OwnText::modelTaken:
+        return {"Modell „{}“ übernommen, noch nicht gespeichert", "Model \"{}\" taken, not saved yet"};
+    case OwnText::weekDeleted:
+        return {"Woche gelöscht", "Week deleted"};
+    case OwnText::helperAdded:
+        return {"Waldhelfer hinzugefügt", "Forest helper added"};
+    case OwnText::helperRemoved:
+        return {"Waldhelfer entfernt", "Forest helper removed"};
+    case OwnText::helpersChosen:
+        return {"Waldhelfer hinzugefügt: {}, entfernt: {}", "Forest helpers added: {}, removed: {}"};
+    case OwnText::discardChanges:
+        return {"Die Änderungen sind noch nicht gespeichert. Verwerfen?",
+                "The changes have not been saved yet. Discard them?"};
     case OwnText::textNotSaved:
         return {"Der Text konnte nicht gespeichert werden. Verwerfen?",
                 "The text could not be saved. Discard it?"};
@@ -87,10 +131,6 @@ constexpr Words wordsOf(OwnText text) {
                 "same?"};
     case OwnText::whichSource:
         return {"Welcher Vertrag „{}“?", "Which contract \"{}\"?"};
-    case OwnText::oneLineTakenOver:
-        return {"Es wurde 1 Zeile übernommen.", "1 line was taken over."};
-    case OwnText::linesTakenOver:
-        return {"Es wurden {} Zeilen übernommen.", "{} lines were taken over."};
     case OwnText::someTakenOver:
         return {"Es wurden nur {} von {} Zeilen übernommen.", "Only {} of {} lines were taken over."};
 

@@ -15,6 +15,29 @@ enum class OwnText {
     contractDate,
     deliveryPeriod,
     deliveryAddress,
+    // What the status lines say has been done
+    saved,
+    writtenAtOnce, ///< what was written
+    headSaved,
+    deductionsSaved,
+    customerSaved,
+    customerRemoved,
+    textSaved,
+    takenOver, ///< the prices, the quantities
+    onePrice,
+    prices, ///< how many
+    oneQuantity,
+    quantities, ///< how many
+    selectionSaved,
+    onePriceChanged,
+    pricesChanged, ///< how many
+    modelTaken,    ///< its name
+    weekDeleted,
+    helperAdded,
+    helperRemoved,
+    helpersChosen, ///< how many are added, how many are removed
+    // Questions of more than one screen
+    discardChanges,
     // The contract editor
     textNotSaved, ///< a question
     contractIsGone,
@@ -42,9 +65,7 @@ enum class OwnText {
     sourceWithoutLines,
     sourceOfOtherType, ///< a question: name, its type, the contract's own type
     whichSource,       ///< title of the list of contracts with the same name
-    oneLineTakenOver,
-    linesTakenOver, ///< how many
-    someTakenOver,  ///< how many, of how many
+    someTakenOver,     ///< how many, of how many
     // Contract lines
     lineIsGone,
     listWasOld,

@@ -84,6 +84,10 @@ void AdditionalTexts::write(Text& text) {
     if (text.box.text() == text.written) return;
     setContractField(contract_.connection(), text.column, parts::typedText(text.box), contract_.id);
     text.written = text.box.text();
+    const auto own = [this](base::OwnText words, const std::vector<std::string>& values = {}) {
+        return base::ownText(words, contract_.session.language, values);
+    };
+    text.box.form().status().say(own(base::OwnText::writtenAtOnce, {own(base::OwnText::textSaved)}));
 }
 
 bool AdditionalTexts::keepsRefused() {

@@ -6,7 +6,9 @@
 #include "module/contract/contract_row.h"
 #include "module/contract/header_captions.h"
 #include "module/parts/Assignments.h"
+#include "module/parts/contract_title.h"
 #include "module/parts/date_box.h"
+#include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
 
 namespace tellurix::contract {
@@ -20,6 +22,7 @@ using ui::row;
 
 namespace {
 
+constexpr const char* screenCaption = "Kopf";
 constexpr const char* numberMask = "#########0.00";
 
 std::string numbered(const std::string& base, std::size_t index) {
@@ -29,7 +32,7 @@ std::string numbered(const std::string& base, std::size_t index) {
 } // namespace
 
 F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
-    : Form("F_HeaderVertrag", "Kopf"),
+    : Form("F_HeaderVertrag", screenCaption),
       services_(services),
       rechnungsart_(
           txtRechn, services, session_, [this] { return ui::plainCaption(lblRechnungsArt.caption()); },
@@ -53,10 +56,10 @@ F_HeaderVertrag::F_HeaderVertrag(host::HostServices& services)
     connectCurrency();
     connectRow();
     btnOk.onClick = [this] { save(); };
-    btnCancel.onClick = [this] { unload(); };
+    btnCancel.onClick = [this] { cancel(); };
     btnCancel.setCausesValidation(false);
-    setCancelButton(btnCancel);
     arrange();
+    changes_.watchAll(*this);
 }
 
 void F_HeaderVertrag::connectDates() {
@@ -145,6 +148,7 @@ int F_HeaderVertrag::Run(const host::TlxVar& session, std::int32_t contract) {
     session_ = session;
     contract_ = contract;
     takenOver_.clear();
+    saved_ = cancelled_ = false;
     for (std::size_t i = 0; i < txtKopf.size(); ++i)
         txtKopf[i].setMaxLength(services_.columnWidth.of(session_, "VERTRAEGE", numbered("KOPF", i)));
     homeCurrency_ = session.homeCurrency;
@@ -156,7 +160,9 @@ int F_HeaderVertrag::Run(const host::TlxVar& session, std::int32_t contract) {
 }
 
 void F_HeaderVertrag::setCaptions() {
-    services_.localizer.localize(session_, *this);
+    const std::string name = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
+                                                            " ID_VERTRAG = " + std::to_string(contract_));
+    parts::localizeWithTitle(services_, session_, *this, screenCaption, name);
     const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
     const auto caption = [this](ui::Label& label, int number) {
         label.setCaption(services_.localizer.text(number, session_));
@@ -200,6 +206,7 @@ void F_HeaderVertrag::LoadHeader() {
     requireContract(*row);
     row_.show(*row);
     accessLevel_ = static_cast<int>(row->integer("ID_ACCESS_LEVELS", session_.accessLevel));
+    changes_.forget();
 }
 
 void F_HeaderVertrag::leaveCurrency() {
@@ -240,7 +247,18 @@ void F_HeaderVertrag::save() {
     if (!row_.settle([this] { return readRow(); })) return;
     updateContract(*session_.connection, updateStatement(), contract_);
     takenOver_ = row_.takenOver();
+    saved_ = true;
     unload();
+}
+
+void F_HeaderVertrag::cancel() {
+    cancelled_ = true;
+    unload();
+}
+
+bool F_HeaderVertrag::queryUnload() {
+    return saved_ || cancelled_ || !changes_.any() ||
+           parts::confirmed(services_.display, base::ownText(base::OwnText::closeChanged, session_.language));
 }
 
 } // namespace tellurix::contract

@@ -2,6 +2,7 @@
 
 #include "module/host/module_state.h"
 #include "module/host/services.h"
+#include "module/parts/EnteredChanges.h"
 #include "module/parts/LookupBox.h"
 #include "module/parts/NumberField.h"
 #include "module/parts/PersonBox.h"
@@ -33,6 +34,8 @@ public:
     /// What the last visit has saved although the user did not change it, because a colleague had: a
     /// sentence, empty for nothing.
     const std::string& takenOver() const { return takenOver_; }
+    /// Whether the last visit has written the row.
+    bool saved() const { return saved_; }
 
 private:
     void connectDates();
@@ -43,6 +46,8 @@ private:
     void LoadHeader();
     std::unique_ptr<base::Recordset> readRow();
     void save();
+    void cancel();
+    bool queryUnload() override;
     void leaveCurrency();
     std::string updateStatement();
 
@@ -52,6 +57,9 @@ private:
     int accessLevel_ = 0;
     std::string homeCurrency_;
     std::string takenOver_;
+    parts::EnteredChanges changes_;
+    bool saved_ = false;
+    bool cancelled_ = false; ///< on purpose: the window closes without a question
 
     ui::Frame frmDates{*this, "frmDates", "Termine"};
     ui::Label lblVertragsDatum{*this, "lblVertragsDatum", "Vertragsdatum*"};

@@ -12,6 +12,7 @@
 #include "module/host/text_numbers.h"
 #include "module/logistics/plan/F_Vertrag_WVO.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/questions.h"
 #include "module/parts/grid_layout.h"
 
 namespace tellurix::contract {
@@ -125,6 +126,10 @@ void F_Vertrag::SetContractField(const std::string& column, const std::string& v
     setContractField(*session_.connection, column, value, contract);
 }
 
+void F_Vertrag::say(OwnText text, const std::vector<std::string>& values) {
+    status().say(base::ownText(text, session_.language, values));
+}
+
 parts::OpenContract F_Vertrag::openContract() const {
     return {.services = &services_, .session = session_, .id = id_, .name = name_};
 }
@@ -221,7 +226,8 @@ void F_Vertrag::openDeductions() {
     auto& deductions = host::moduleState().screen<deductions::F_Abschlag>(
         "F_Abschlag", [this] { return std::make_unique<deductions::F_Abschlag>(services_); });
     txtAbschlag.setText(deductions.Run(session_, deductionsOfContract, name_));
-    status().say(deductions.takenOver());
+    if (host::moduleState().context.blnOK == host::Boolean16::True)
+        status().say(parts::savedText(OwnText::deductionsSaved, deductions.takenOver(), session_.language));
 }
 
 void F_Vertrag::openLogistics() {
@@ -275,6 +281,7 @@ void F_Vertrag::chooseCustomer() {
     SetContractField("ID_PERSONAL", std::to_string(chosen), id_);
     customer_ = chosen;
     showCustomer();
+    say(OwnText::writtenAtOnce, {base::ownText(OwnText::customerSaved, session_.language)});
 }
 
 void F_Vertrag::removeCustomer() {
@@ -285,13 +292,15 @@ void F_Vertrag::removeCustomer() {
     contract->update();
     customer_ = 0;
     txtKunde.setText("");
+    say(OwnText::writtenAtOnce, {base::ownText(OwnText::customerRemoved, session_.language)});
 }
 
 void F_Vertrag::openHeader() {
     auto& header = host::moduleState().screen<F_HeaderVertrag>(
         "F_HeaderVertrag", [this] { return std::make_unique<F_HeaderVertrag>(services_); });
     header.Run(session_, id_);
-    status().say(header.takenOver());
+    if (header.saved())
+        status().say(parts::savedText(OwnText::headSaved, header.takenOver(), session_.language));
     ShowHeader();
     StatementText query{"SELECT ID_ACCESS_LEVELS FROM VERTRAEGE WHERE ID_VERTRAG = "};
     accessLevel_ = session_.connection->open(query.number(id_).text())->integer("ID_ACCESS_LEVELS");
@@ -323,7 +332,9 @@ void F_Vertrag::save() {
 bool F_Vertrag::queryUnload() {
     if (newContract_ && notYetSaved_) {
         const std::string question = services_.localizer.text(host::textNumber::discardContract, session_);
-        if (parts::ShowMessage(services_.display, question, ui::box::yesNo) != ui::Answer::yes) return false;
+        if (parts::ShowMessage(services_.display, question, ui::box::yesNo | ui::box::defaultButton2) !=
+            ui::Answer::yes)
+            return false;
         const ui::BusyPointer busy{services_.display};
         discardContract(*session_.connection, id_);
         releaseLineScreens();

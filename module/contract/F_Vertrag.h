@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/contract/AdditionalTexts.h"
 #include "module/contract/TakeOverFrame.h"
 #include "module/host/module_state.h"
@@ -18,6 +19,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tellurix::contract {
 
@@ -54,6 +56,7 @@ private:
     void arrange();
     void connect();
     parts::OpenContract openContract() const;
+    void say(base::OwnText text, const std::vector<std::string>& values = {});
     void loadContract();
     void loadFlags();
     /// @return false when nothing is to be written

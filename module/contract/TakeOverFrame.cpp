@@ -195,13 +195,17 @@ void TakeOverFrame::takeOver() {
     clear();
     copy(lines);
     tookOver_();
-    if (lines.done() == lines.total()) {
-        const std::string count = std::to_string(lines.done());
-        parts::ShowMessage(services().display,
-                           lines.done() == 1 ? words(OwnText::oneLineTakenOver)
-                                             : words(OwnText::linesTakenOver, {count}),
-                           ui::box::information);
-    }
+    if (lines.done() == lines.total()) tellTakenOver(lines.total() - lines.quantities(), lines.quantities());
+}
+
+void TakeOverFrame::tellTakenOver(int prices, int quantities) {
+    const auto counted = [this](int count, OwnText one, OwnText several) {
+        return count == 1 ? words(one) : words(several, {std::to_string(count)});
+    };
+    const std::string what =
+        words(OwnText::takenOver, {counted(prices, OwnText::onePrice, OwnText::prices),
+                                   counted(quantities, OwnText::oneQuantity, OwnText::quantities)});
+    btnUbernehmen.form().status().say(words(OwnText::writtenAtOnce, {what}));
 }
 
 void TakeOverFrame::copy(lines::TakeOver& lines) {

@@ -60,6 +60,7 @@ private:
     /// Whether the source is of the contract's own type, or the user wants its lines all the same.
     bool acceptsTypeOf(std::int32_t source);
     void copy(lines::TakeOver& lines);
+    void tellTakenOver(int prices, int quantities);
     std::string words(base::OwnText text, const std::vector<std::string>& values = {}) const;
 
     parts::OpenContract contract_;

@@ -5,6 +5,7 @@
 #include "module/base/text.h"
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/contract_title.h"
 #include "module/parts/questions.h"
 #include "module/parts/typed_text.h"
 #include "module/ui/controls/caption.h"
@@ -17,6 +18,7 @@ using base::StatementText;
 
 namespace {
 
+constexpr const char* screenCaption = "Zu - / Abschlag Modell";
 constexpr const char* table = "ABSCHLAG";
 constexpr const char* articlesOfGoods = "WAREN";
 constexpr const char* articleChosen = "1LV";
@@ -32,7 +34,7 @@ constexpr char32_t lastKeyCode = 0x7FFF;
 } // namespace
 
 F_Abschlag::F_Abschlag(host::HostServices& services)
-    : Form("F_Abschlag", "Zu - / Abschlag Modell"),
+    : Form("F_Abschlag", screenCaption),
       services_(services),
       table_(*this, services.locale),
       shared_(table_, services, session_, model_, [this] { return ui::plainCaption(lblModell_.caption()); }) {
@@ -68,7 +70,6 @@ void F_Abschlag::connect() {
     btnOk.onClick = [this] { save(); };
     btnAbbrechen.onClick = [this] { cancel(); };
     btnAbbrechen.setCausesValidation(false);
-    setCancelButton(btnAbbrechen);
 }
 
 std::string F_Abschlag::Run(const host::TlxVar& session, std::int16_t mode, const std::string& calculation) {
@@ -79,7 +80,7 @@ std::string F_Abschlag::Run(const host::TlxVar& session, std::int16_t mode, cons
     const int width = services_.columnWidth.of(session_, table, "BEZEICH");
     for (ui::TextBox& designation : table_.TextBez)
         designation.setMaxLength(width);
-    services_.localizer.localize(session_, *this);
+    parts::localizeWithTitle(services_, session_, *this, screenCaption, calculation);
     services_.display.showModal(*this);
     return storedModel_;
 }
@@ -371,6 +372,7 @@ void F_Abschlag::chooseModel() {
     model_ = chosen.text;
     changed_ = true;
     typed_ = false;
+    status().say(base::ownText(OwnText::modelTaken, session_.language, {model_}));
 }
 
 void F_Abschlag::manageModels() {

@@ -46,10 +46,7 @@ F_VertragMengen::F_VertragMengen(host::HostServices& services)
 }
 
 void F_VertragMengen::prepare(bool shown) {
-    services_.localizer.localize(session_, *this);
     if (!shown) return;
-    name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
-                                           " ID_VERTRAG = " + std::to_string(contract_));
     StatementText query{"SELECT UBERLIEFERUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = "};
     const auto logistics = session_.connection->open(query.number(contract_).text());
     overDelivery_ = {};

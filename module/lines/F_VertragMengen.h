@@ -32,7 +32,6 @@ private:
     void explainOpenQuantity();
     DeliveredQuantity delivered() const;
 
-    std::string name_;           ///< of the contract
     base::Decimal overDelivery_; ///< per cent that may be delivered above the quantity
     base::Decimal agreed_;       ///< quantity of the current line
 

@@ -56,9 +56,11 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
       price_(txtPreis, priceMask, services.locale),
       secondPrice_(txtPreis_Abr2, secondPriceMask, services.locale),
       cellEditor_(MSFlexGrid1, txtEdit),
-      priceChange_(*this, services.locale, [this] {
+      priceChange_(*this, services.locale, [this](int count) {
           LoadGrid();
           showCurrentLine();
+          say(count == 1 ? base::OwnText::onePriceChanged : base::OwnText::pricesChanged,
+              {std::to_string(count)});
       }) {
     connectFields();
     cellEditor_.canEdit = [this](int, int column) {
@@ -85,7 +87,6 @@ void F_VertragPreise::prepare(bool /*shown*/) {
         site_ = Site::stockPrice;
     }
 
-    services_.localizer.localize(session_, *this);
     if (site_ == Site::stockPrice) lblPreis_Abr2.setCaption("Stockpreis");
     lblMsz.setVisible(showsPercent_);
     txtMsz.setVisible(showsPercent_);
@@ -168,6 +169,15 @@ void F_VertragPreise::writeFields(base::UpdatableRecordset& line) {
     line.setField("PREIS_ABR2", secondPrice_.value());
 }
 
+bool F_VertragPreise::changed() const {
+    return LineEditor::changed() || (cellEditor_.open() && txtEdit.touched());
+}
+
+bool F_VertragPreise::escape() {
+    // While a line is edited the frame waits, and the line is what Esc means.
+    return !(viewing() && priceChange_.close()) && LineEditor::escape();
+}
+
 void F_VertragPreise::stateShown() {
     chkEdit.setEnabled(viewing() && hasLines());
     priceChange_.setEnabled(viewing() && hasLines());
@@ -230,6 +240,7 @@ std::string F_VertragPreise::CommitCellEdit(int row, int column, const std::stri
     session_.connection->execute(statement.text());
     // Where the layout has moved the columns, the price stands in another cell than the edited one.
     reloadLine(row);
+    say(base::OwnText::saved);
     return MSFlexGrid1.cell(row, column);
 }
 

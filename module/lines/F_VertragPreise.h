@@ -28,6 +28,10 @@ private:
     bool confirmSave() override;
     void requireFields() override;
     void writeFields(base::UpdatableRecordset& line) override;
+    /// Also a price that is being typed into its cell.
+    bool changed() const override;
+    /// Hides the change of all prices first.
+    bool escape() override;
     void stateShown() override;
     void linesChanged() override;
 

@@ -3,6 +3,7 @@
 #include "module/base/Refused.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/contract_title.h"
 #include "module/parts/grid_layout.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
@@ -22,9 +23,10 @@ constexpr const char* selectionColumn = "SELEKTION_VALUE";
 
 LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::string name,
                        std::string title)
-    : Form(std::move(name), std::move(title)),
+    : Form(std::move(name), title),
       services_(services),
       lines_(MSFlexGrid1, services.locale),
+      caption_(std::move(title)),
       kind_(kind),
       list_(kind),
       newId_(noRow),
@@ -110,6 +112,8 @@ void LineEditor::arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout>
         ui::bar({cmdNeu, cmdBearbeiten, ui::Layout{cmdSpeichern}.primary(), cmdAbbrechen, cmdLoschen},
                 std::move(elsewhere), {cmdOk}),
     }));
+    changes_.watchAll(*this, &frmPosition);
+    changes_.watchAll(*this, &selection_.quickSelection());
 }
 
 std::optional<std::int64_t> LineEditor::keyInRow(int row) const {
@@ -124,6 +128,10 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     mode_.reset();
     newId_ = noRow;
     undo_.forget();
+    if (shown)
+        name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
+                                               " ID_VERTRAG = " + std::to_string(contract_));
+    parts::localizeWithTitle(services_, session_, *this, caption_, shown ? name_ : std::string{});
     prepare(shown);
     loadUnits();
     lines_.setColumns(gridColumns());
@@ -202,6 +210,7 @@ void LineEditor::showCurrentLine() {
         showNoLine();
         selection_.show("");
     }
+    changes_.forget();
     currentLineShown();
 }
 
@@ -218,6 +227,7 @@ void LineEditor::startNew() {
     emptyForNewLine();
     rowBefore_ = MSFlexGrid1.currentRow();
     MSFlexGrid1.setCurrent(ui::Grid::none, MSFlexGrid1.currentColumn());
+    changes_.forget();
     mode_.enter(State::fresh);
     parts::SafeSetFocus(txtBEZEICHNUNG);
 }
@@ -225,6 +235,7 @@ void LineEditor::startNew() {
 void LineEditor::startEdit() {
     const auto line = openInPlace(MSFlexGrid1.currentRow());
     showSelection(line->text(selectionColumn));
+    changes_.forget();
     mode_.enter(State::edit);
     parts::SafeSetFocus(txtBEZEICHNUNG);
 }
@@ -258,7 +269,9 @@ void LineEditor::selectInDialog() {
     list_.setDialogSelectionOf(*chosen, id);
     selection_.showChosen(*chosen);
     row_.keep(selectionColumn, *chosen);
-    if (viewing()) currentLineShown();
+    if (!viewing()) return;
+    currentLineShown();
+    say(OwnText::selectionSaved);
 }
 
 void LineEditor::save() {
@@ -279,7 +292,7 @@ void LineEditor::save() {
     mode_.enter(State::view);
     reloadLine(MSFlexGrid1.currentRow());
     parts::SafeSetFocus(MSFlexGrid1);
-    undo_.say(taken);
+    undo_.say(parts::savedText(OwnText::saved, taken, session_.language));
 }
 
 void LineEditor::saveLine() {
@@ -361,9 +374,23 @@ void LineEditor::moveLine(int step) {
     linesChanged();
 }
 
+bool LineEditor::changed() const {
+    // The row of a new line was made for something that was chosen for it.
+    return !viewing() && (changes_.any() || newId_ != noRow);
+}
+
+void LineEditor::say(OwnText text, const std::vector<std::string>& values) {
+    undo_.say(base::ownText(text, session_.language, values));
+}
+
+bool LineEditor::escape() {
+    // The button is pressed on purpose; this key may be meant for something else.
+    return viewing() || !changed() ||
+           parts::confirmed(services_.display, base::ownText(OwnText::discardChanges, session_.language));
+}
+
 bool LineEditor::queryUnload() {
-    // The close box during an edit would throw away what was typed, and the row of a line never saved.
-    if (!viewing() &&
+    if (changed() &&
         !parts::confirmed(services_.display, base::ownText(OwnText::closeUnsaved, session_.language)))
         return false;
     discardNewRow();

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/host/module_state.h"
 #include "module/host/services.h"
 #include "module/lines/LineList.h"
 #include "module/lines/LineSelection.h"
 #include "module/parts/EditMode.h"
+#include "module/parts/EnteredChanges.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/parts/SharedRow.h"
 #include "module/parts/UndoOffers.h"
@@ -76,6 +78,12 @@ protected:
     void arrange(std::vector<ui::Layout> fields, std::vector<ui::Layout> heading = {},
                  std::vector<ui::Layout> details = {}, std::vector<ui::Layout> elsewhere = {});
 
+    /// Whether the user has entered something that is not written.
+    virtual bool changed() const;
+    bool escape() override;
+    /// Says what has been done.
+    void say(base::OwnText text, const std::vector<std::string>& values = {});
+
     bool viewing() const { return mode_.viewing(); }
     bool hasLines() const { return !lines_.empty(); }
     /// Place of the current line in its contract, from 1; 0 when there is no line.
@@ -97,6 +105,7 @@ protected:
     host::HostServices& services_;
     host::TlxVar session_;
     std::int32_t contract_ = 0;
+    std::string name_; ///< `VERTRAG_NAME`, while the screen is shown
 
     ui::Frame frmLines{*this, "frmLines"};
     ui::Grid MSFlexGrid1{*this, "MSFlexGrid1", 7};
@@ -136,9 +145,11 @@ private:
     void showSelection(const std::string& value);
     bool queryUnload() override;
 
+    const std::string caption_; ///< what the title begins with
     const LineKind& kind_;
     LineList list_;
-    std::int64_t newId_;       ///< `ID` of the new line, -1 while it has no row
+    std::int64_t newId_; ///< `ID` of the new line, -1 while it has no row
+    parts::EnteredChanges changes_;
     int rowBefore_;            ///< row that was current when the new line was begun
     base::Value unlistedUnit_; ///< the line's unit where the list does not offer it
 

@@ -8,6 +8,7 @@
 #include "module/parts/typed_text.h"
 #include "module/ui/input/number_box.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace tellurix::lines {
@@ -27,7 +28,7 @@ Decimal changedPrice(const Decimal& price, const Decimal& by, ChangeKind kind) {
     return (price * (Decimal{100} + by)).dividedByTenTo(2).rounded(2);
 }
 
-PriceChange::PriceChange(ui::Form& form, const base::Locale& locale, std::function<void()> changed)
+PriceChange::PriceChange(ui::Form& form, const base::Locale& locale, std::function<void(int)> changed)
     : locale_(locale),
       changed_(std::move(changed)),
       btnPreiseAendern(form, "btnPreiseAendern", "Preise ändern"),
@@ -76,6 +77,13 @@ void PriceChange::hide() {
 
 ChangeKind PriceChange::kind() const {
     return cmbFixProzent.selected() == percentage ? ChangeKind::percent : ChangeKind::amount;
+}
+
+bool PriceChange::close() {
+    if (!frmPreiseAendern.visible()) return false;
+    hide();
+    parts::SafeSetFocus(btnPreiseAendern);
+    return true;
 }
 
 void PriceChange::press() {
@@ -149,8 +157,9 @@ void PriceChange::change() {
     const auto by = base::parseNumber(amount, locale_);
     if (amount.empty() || (by && *by == Decimal{})) return;
     contract_.connection().execute(statement());
+    const auto count = std::ranges::count_if(lines_, [](const Line& line) { return line.price.has_value(); });
     hide();
-    changed_();
+    changed_(static_cast<int>(count));
 }
 
 } // namespace tellurix::lines

@@ -31,14 +31,16 @@ base::Decimal changedPrice(const base::Decimal& price, const base::Decimal& by, 
 /// changes.
 class PriceChange {
 public:
-    /// @param changed called after the prices in the database have changed
-    PriceChange(ui::Form& form, const base::Locale& locale, std::function<void()> changed);
+    /// @param changed called after the prices in the database have changed, with how many
+    PriceChange(ui::Form& form, const base::Locale& locale, std::function<void(int)> changed);
 
     ui::Layout layout();
     ui::Button& button() { return btnPreiseAendern; }
     void setEnabled(bool enabled);
     /// The preview shows the lines as they are now.
     void linesChanged();
+    /// Hides the frame, without a change. @return false when it is hidden already
+    bool close();
     /// Begins with the prices of another contract: the frame is hidden, the amount forgotten.
     void open(parts::OpenContract contract);
 
@@ -59,7 +61,7 @@ private:
 
     base::Locale locale_;
     parts::OpenContract contract_;
-    std::function<void()> changed_;
+    std::function<void(int)> changed_;
     std::vector<Line> lines_;
 
     ui::Button btnPreiseAendern;

@@ -68,7 +68,9 @@ const Copy copiedPrices{
 } // namespace
 
 TakeOver::TakeOver(base::Connection& connection, std::int32_t source, std::int32_t target)
-    : connection_(connection), inserts_(insertsFor(copiedQuantities, connection, source, target)) {
+    : connection_(connection),
+      inserts_(insertsFor(copiedQuantities, connection, source, target)),
+      quantities_(total()) {
     std::vector<std::string> prices = insertsFor(copiedPrices, connection, source, target);
     inserts_.insert(inserts_.end(), std::make_move_iterator(prices.begin()),
                     std::make_move_iterator(prices.end()));

@@ -17,6 +17,8 @@ public:
 
     /// How many lines the source has.
     int total() const { return static_cast<int>(inserts_.size()); }
+    /// How many of them are quantity lines; the others are price lines.
+    int quantities() const { return quantities_; }
     /// How many were taken over so far, also when `run` has thrown.
     int done() const { return done_; }
     /// @param progress called after each line
@@ -26,6 +28,7 @@ public:
 private:
     base::Connection& connection_;
     std::vector<std::string> inserts_; ///< the statement of each line
+    int quantities_;
     int done_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/ui/controls/CheckBox.h"
+#include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/TextBox.h"
 
 #include <string>
@@ -13,6 +14,9 @@ class EnteredChanges {
 public:
     void watch(ui::TextBox& box);
     void watch(ui::CheckBox& box);
+    void watch(ui::ComboBox& list);
+    /// Watches all of them that stand in a frame, once the layout has been said; null for the whole form.
+    void watchAll(ui::Form& form, const ui::Control* frame = nullptr);
 
     bool any() const { return any_; }
     void note() { any_ = true; }

@@ -20,6 +20,11 @@ bool missing(host::HostServices& services, const host::TlxVar& session, const ui
     return false;
 }
 
+std::string savedText(base::OwnText saved, const std::string& takenOver, const std::string& language) {
+    const std::string text = base::ownText(saved, language);
+    return takenOver.empty() ? text : text + ". " + takenOver;
+}
+
 bool confirmed(ui::Display& display, const std::string& question, int icon) {
     return ShowMessage(display, question, ui::box::yesNo + icon + ui::box::defaultButton2) == ui::Answer::yes;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/host/TlxVar.h"
 #include "module/host/services.h"
 #include "module/ui/controls/Label.h"
@@ -20,6 +21,10 @@ void tellInvalid(ui::Display& display, host::HostLocalizer& localizer, const hos
 /// @return false
 bool missing(host::HostServices& services, const host::TlxVar& session, const ui::Label& label,
              ui::Control& box);
+
+/// What the status line says after saving: what was saved, and what came from somebody else meanwhile.
+/// @param takenOver a sentence, empty for nothing
+std::string savedText(base::OwnText saved, const std::string& takenOver, const std::string& language);
 
 /// Asks a question whose No is the default, because Yes loses something.
 bool confirmed(ui::Display& display, const std::string& question, int icon = ui::box::question);

@@ -173,6 +173,7 @@ void Desktop::showKeys(const Form& form) {
 }
 
 bool Desktop::windowKey(Form& form, const KeyDown& key) {
+    if (key.key == Key::escape && !form.escape()) return true;
     if (key.key == Key::escape && form.cancelButton() != nullptr) {
         press(form, *form.cancelButton());
     } else if (key.key == Key::escape || (key.key == Key::f4 && key.alt)) {

@@ -51,6 +51,10 @@ public:
     bool setFocus(Control& control);
     /// Pressed by Esc; null lets Esc close the window.
     Button* cancelButton() const { return cancelButton_; }
+    /// Esc, before it presses that button or closes the window: a screen closes the innermost thing that is
+    /// open in it, and asks where something typed would be lost by accident.
+    /// @return false when that was all that Esc is to do
+    virtual bool escape() { return true; }
 
     /// In which the words of the rules of input are: "en"; any other is German.
     const std::string& language() const { return language_; }

@@ -179,7 +179,7 @@ TEST_F(ContractEditor, ANewContractIsDiscardedOnYesOnly) {
             user.click("btnAbbrechen");
             EXPECT_TRUE(user.window().loaded()) << "No keeps the editor open";
             user.close();
-            EXPECT_EQ(host.display.messages().back().flags, ui::box::yesNo);
+            EXPECT_EQ(host.display.messages().back().flags, ui::box::yesNo | ui::box::defaultButton2);
             host.statements.clear();
             user.key(Key::escape);
         },
@@ -275,6 +275,7 @@ TEST_F(ContractEditor, RemovingAndChoosingTheCustomerWritesAtOnce) {
         user.key(Key::enter);
         EXPECT_EQ(user.text("txtKunde"),
                   value("SELECT KURZBEZEICHNUNG FROM PERSONAL WHERE ID_PERSONAL = 11"));
+        EXPECT_EQ(user.status(), "Kunde eingetragen – schon gespeichert, „Abbrechen“ nimmt es nicht zurück");
         host.pickedPerson = 0;
         user.click("KundeButton");
         EXPECT_NE(user.text("txtKunde"), "") << "choosing nobody changes nothing";

@@ -137,9 +137,27 @@ TEST_F(ContractHeader, CancellingWritesNothingEvenWithABadDate) {
     editHeader(1, [](User& user) {
         user.type("txtKopf(0)", "geändert");
         user.type("txtDate1", "99");
-        user.key(Key::escape);
+        user.click("btnCancel");
     });
     EXPECT_EQ(value("SELECT KOPF1 FROM VERTRAEGE WHERE ID_VERTRAG = 1"), before);
+}
+
+TEST_F(ContractHeader, EscAndTheCloseBoxAskOnceAboutWhatWasTyped) {
+    const std::function<void(User&)> ways[] = {[](User& user) { user.key(Key::escape); },
+                                               [](User& user) { user.close(); }};
+    for (const auto& leave : ways) {
+        editHeader(1, [&](User& user) {
+            EXPECT_EQ(user.window().title(), "Kopf – R-2025-001 Fichte Wolfsberg");
+            user.type("txtKopf(0)", "geändert");
+            host.display.onMessage("noch nicht gespeichert", ui::Answer::no);
+            leave(user);
+            EXPECT_EQ(ui::box::defaultOf(host.display.messages().back().flags), 1) << "No is the default";
+            EXPECT_EQ(user.text("txtKopf(0)"), "geändert");
+            host.display.onMessage("noch nicht gespeichert", ui::Answer::yes);
+            leave(user);
+        });
+        editHeader(1, leave); // nothing was typed: nothing is asked
+    }
 }
 
 TEST_F(ContractHeader, ABadDateShowsTheMessageAndKeepsTheFocus) {
@@ -222,7 +240,7 @@ TEST_F(ContractHeader, AFreeTextIsAsLongAsItsColumn) {
         EXPECT_EQ(user.text("txtKopf(1)"), "Länge");
         user.type("txtKopf(2)", "ohne Grenze");
         EXPECT_EQ(user.text("txtKopf(2)"), "ohne Grenze");
-        user.key(Key::escape);
+        user.click("btnCancel");
     });
 }
 

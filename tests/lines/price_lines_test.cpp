@@ -191,6 +191,7 @@ TEST_F(PriceLines, ANewLineIsWrittenWithItsSelectionAtTheEnd) {
         user.type("txtGKL", "");
         user.type("txtLange", "4.5,x,6");
         user.click("cmdSpeichern");
+        EXPECT_EQ(user.status(), "Gespeichert");
         EXPECT_EQ(user.text("txtLange"), "4.5,6");
         EXPECT_EQ(cells(user.grid("MSFlexGrid1"), 3), "|Dünne Fichte d'Or|1250,50|Fm o.R.|EUR");
         EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), 3);
@@ -208,12 +209,18 @@ TEST_F(PriceLines, CancellingANewLineLeavesNothingBehind) {
     struct Case {
         const char* rule;
         bool dialogFirst;
-        bool closeBox;
+        std::function<void(User&)> leave;
+        bool asks;
+        bool closes;
     };
+    const auto press = [](User& user) { user.click("cmdAbbrechen"); };
+    const auto escape = [](User& user) { user.key(Key::escape); };
+    const auto close = [](User& user) { user.close(); };
     const Case cases[] = {
-        {"before its row was made", false, false},
-        {"after its row was made", true, false},
-        {"by the window's close box", true, true},
+        {"before its row was made", false, press, false, false},
+        {"after its row was made", true, press, false, false},
+        {"by Esc, which may be meant for something else", false, escape, true, false},
+        {"by the window's close box", true, close, true, true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.rule);
@@ -224,15 +231,15 @@ TEST_F(PriceLines, CancellingANewLineLeavesNothingBehind) {
                 user.click("cmdSelect");
                 EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "4");
             }
-            if (c.closeBox) {
+            if (c.asks) {
                 host.display.onMessage("nicht gespeichert", Answer::no);
-                user.close();
+                c.leave(user);
                 EXPECT_EQ(ui::box::defaultOf(host.display.messages().back().flags), 1) << "No is the default";
                 EXPECT_EQ(user.text("txtBEZEICHNUNG"), "verworfen");
                 host.display.onMessage("nicht gespeichert", Answer::yes);
-                return user.close();
             }
-            user.key(Key::escape);
+            c.leave(user);
+            if (c.closes) return;
             EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), 0) << "the line before is the current one again";
             EXPECT_EQ(user.text("txtBEZEICHNUNG"), "Fichte Blochholz A/B");
             EXPECT_EQ(user.text("txtHs"), "B");
@@ -241,6 +248,29 @@ TEST_F(PriceLines, CancellingANewLineLeavesNothingBehind) {
         });
         EXPECT_EQ(value("SELECT COUNT(*) FROM VERTRAG_PREISE WHERE ID_VERTRAG = 1"), "3");
     }
+}
+
+TEST_F(PriceLines, WhatWasNotChangedIsLeftWithoutAQuestionAndTheInnermostClosesFirst) {
+    editPrices(1, [&](User& user) {
+        EXPECT_EQ(user.window().title(), "Preise – R-2025-001 Fichte Wolfsberg");
+        user.click("cmdBearbeiten");
+        user.key(Key::escape);
+        EXPECT_TRUE(user.usable("cmdNeu")) << "nothing was typed";
+        user.click("btnPreiseAendern");
+        user.type("txtWert", "5");
+        user.key(Key::escape);
+        EXPECT_FALSE(user.usable("txtWert"));
+        EXPECT_EQ(user.focused(), "btnPreiseAendern");
+        user.click("chkEdit");
+        user.select("MSFlexGrid1", 0, 2);
+        user.doubleClick("MSFlexGrid1");
+        user.type("4");
+        host.display.onMessage("nicht gespeichert", Answer::no);
+        user.close();
+        EXPECT_EQ(user.text("txtEdit"), "4") << "a price that is being typed is not lost by accident";
+        user.key(Key::escape);
+        user.key(Key::escape);
+    });
 }
 
 TEST_F(PriceLines, APriceOfZeroIsAskedFor) {

@@ -164,6 +164,7 @@ TEST_F(ForestHelpers, QuantitiesAreEditedInPlaceAndGuarded) {
                   "100.00 OR  MENGE_ANG is not null  ) AND WVO_VERTRAG_WALDHELFER.ID = 4");
         EXPECT_EQ(cell(user, 0, 8), "09.03.2026 08:00");
         EXPECT_EQ(user.grid("MSFG").currentRow(), 3) << "where the user was";
+        EXPECT_EQ(user.status(), "Gespeichert");
     });
     EXPECT_EQ(stored(1), "1250.00 | 350.00 | 2026-03-09 08:00:00");
     EXPECT_EQ(stored(2), "250.00 | NULL | NULL");
@@ -206,6 +207,7 @@ TEST_F(ForestHelpers, ManyAreAddedAndRemovedAtOnce) {
                   "VALUES (1,25,NULL)");
         EXPECT_EQ(numbers(user), "3001 3002 3005 3006 3007 ");
         EXPECT_EQ(cell(user, 0, 3), "300") << "the plan is divided anew";
+        EXPECT_EQ(user.status(), "Waldhelfer hinzugefügt: 2, entfernt: 1");
         EXPECT_EQ(stored(1), "400.00 | 350.00 | 2025-05-02 10:30:00")
             << "those who stay keep their quantities";
 
@@ -248,6 +250,7 @@ TEST_F(ForestHelpers, OneIsAddedByTheSearch) {
         EXPECT_EQ(host.picks.back(), "2PVA2/2");
         EXPECT_EQ(user.text("txtFilter") + "/" + numbers(user), "/3001 3002 3003 3005 3006 ");
         EXPECT_EQ(cell(user, user.grid("MSFG").currentRow(), 1), "3006");
+        EXPECT_EQ(user.status(), "Waldhelfer hinzugefügt");
         host.pickedPerson = 21;
         user.click("btnNeu2");
         EXPECT_EQ(cell(user, user.grid("MSFG").currentRow(), 1), "3002") << "is there already";

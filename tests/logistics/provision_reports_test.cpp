@@ -236,7 +236,10 @@ TEST_F(ProvisionReports, AreWrittenRowByRow) {
                               "3005|fehlt|||\n");
         EXPECT_EQ(sums(user), "4 10.002 / 11 10.008") << "as typed";
         host.statements.clear();
+        host.display.onMessage("Verwerfen?", Answer::no);
+        user.key(Key::escape);
         user.click("btnSpeichern");
+        EXPECT_EQ(user.status(), "Gespeichert");
         EXPECT_EQ(host.statements.front(),
                   "SELECT ID,ID_PERSONAL_WH AS ID_PERSONAL,ZUEGE,ZUEG_ZUGESAGT,FRAECHTER_TEXT FROM "
                   "WVO_BEREITMELDUNG_KW WHERE ID_VERTRAEGE = 3 AND JAHR = 2025 AND WOCHE = 23");

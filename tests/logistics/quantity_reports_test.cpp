@@ -375,6 +375,9 @@ TEST_F(QuantityReports, ClosingAsksAndTheNextCallFindsTheHelper) {
         user.close(); // the cell is still open
         user.key(Key::enter);
         EXPECT_EQ(cell(user, 0, confirmedColumn), "77");
+        host.display.onMessage("Verwerfen?", Answer::no);
+        user.key(Key::escape);
+        EXPECT_EQ(cell(user, 0, confirmedColumn), "77") << "Esc may be meant for something else";
         host.display.onMessage("noch nicht gespeichert", Answer::yes);
         user.select("MSFG", 1, announcedColumn);
         user.doubleClick("MSFG"); // a cell is left open

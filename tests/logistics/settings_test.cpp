@@ -38,7 +38,7 @@ TEST_F(LogisticsSettings, OpeningReadsInTheGivenOrderAndShowsWhatItRead) {
         EXPECT_EQ(host.statements[4],
                   "SELECT WARENEINHEIT.EINHEIT FROM VERTRAG_MENGEN INNER JOIN WARENEINHEIT ON "
                   "WARENEINHEIT.EINHEIT_ID = VERTRAG_MENGEN.ID_WARENEINHEIT WHERE ID_VERTRAG = 3");
-        EXPECT_EQ(user.window().title(), "Lieferprofil Vertragsdefinition");
+        EXPECT_EQ(user.window().title(), "Lieferprofil Vertragsdefinition – R-2025-003 Faserholz Judenburg");
         EXPECT_EQ(user.caption("lblEinheit"), "atro-t");
         std::string ticked;
         for (ui::Control* control : user.window().controls())
@@ -91,6 +91,7 @@ TEST_F(LogisticsSettings, SavingWritesEverySettingInOneStatement) {
         EXPECT_EQ(user.text("txtBemerkung"), "Rampe bei D´Angelo") << "read again";
         EXPECT_FALSE(user.usable("btnSpeichern"));
         EXPECT_EQ(user.focused(), "btnBearbeiten");
+        EXPECT_EQ(user.status(), "Gespeichert");
     });
 }
 

@@ -45,7 +45,7 @@ void leaveLinesBehind(User& user, ScriptedDisplay& display) {
     user.type(prices ? "txtPreis" : "txtMenge", "7777");
     user.select("cboUnit", 3);
     user.type("txtHa", "EI");
-    user.key(ui::Key::escape);
+    user.click("cmdAbbrechen");
     if (prices) {
         user.select("MSFlexGrid1", last, 2);
         user.doubleClick("MSFlexGrid1"); // leaves the cell open

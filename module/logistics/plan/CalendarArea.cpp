@@ -371,7 +371,7 @@ void CalendarArea::save() {
     }
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(DataGridKalendar);
-    undo_.say(taken);
+    undo_.say(parts::savedText(OwnText::saved, taken, contract_.session.language));
 }
 
 void CalendarArea::cancel() {
@@ -395,6 +395,7 @@ void CalendarArea::removeWeek() {
     lblMeldung.setCaption("");
     reload(std::nullopt);
     mode_.refresh();
+    undo_.say(words(OwnText::weekDeleted));
 }
 
 void CalendarArea::generate() {

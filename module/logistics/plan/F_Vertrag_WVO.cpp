@@ -1,6 +1,7 @@
 #include "module/logistics/plan/F_Vertrag_WVO.h"
 
 #include "module/base/StatementText.h"
+#include "module/parts/contract_title.h"
 #include "module/parts/questions.h"
 
 #include <algorithm>
@@ -10,8 +11,14 @@ namespace tellurix::logistics {
 using base::OwnText;
 using base::StatementText;
 
+namespace {
+
+constexpr const char* screenCaption = "Lieferprofil Vertragsdefinition";
+
+} // namespace
+
 F_Vertrag_WVO::F_Vertrag_WVO(host::HostServices& services)
-    : Form("F_Vertrag_WVO", "Lieferprofil Vertragsdefinition"),
+    : Form("F_Vertrag_WVO", screenCaption),
       services_(services),
       settings_(*this, services, undo_),
       calendar_(*this, services, settings_.deliveryPeriod(), undo_),
@@ -32,7 +39,7 @@ void F_Vertrag_WVO::Run(std::int32_t contract, const host::TlxVar& session) {
     const LogisticsContract record = openRecord(contract);
     for (Area* area : areas())
         area->open(record);
-    services_.localizer.localize(session_, *this);
+    parts::localizeWithTitle(services_, session_, *this, screenCaption, record.name);
     for (std::size_t area = 0; area < areas().size(); ++area)
         RefreshArea(area);
     SSTab1.select(0);

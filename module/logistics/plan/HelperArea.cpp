@@ -20,6 +20,8 @@
 
 namespace tellurix::logistics {
 
+using base::OwnText;
+
 namespace {
 
 constexpr const char* helperLayout = "F_VERTRAG_WVO_WH";
@@ -208,7 +210,7 @@ void HelperArea::save() {
     if (!quantities_.save(services_, contract_.session, helpers::presentQuantities(contract_.record))) return;
     reload(std::nullopt);
     parts::SafeSetFocus(MSFG);
-    undo_.say(quantities_.takenOver());
+    undo_.say(parts::savedText(OwnText::saved, quantities_.takenOver(), contract_.session.language));
 }
 
 void HelperArea::cancel() {
@@ -229,17 +231,25 @@ void HelperArea::addOne() {
         const auto row = contract_.connection().open(helpers::rowsOf(contract_.record, person));
         return row->atEnd() ? std::nullopt : std::optional{row->integer("ID")};
     };
-    if (!rowOfPerson()) contract_.connection().execute(helpers::add(contract_.record, person));
+    const bool isNew = !rowOfPerson();
+    if (isNew) contract_.connection().execute(helpers::add(contract_.record, person));
     // The new row has to be seen, whatever the filter says.
     txtFilter.setText("");
     filter_.clear();
     reload(rowOfPerson());
     parts::SafeSetFocus(MSFG);
+    if (isNew) say(OwnText::helperAdded);
+}
+
+void HelperArea::say(OwnText text, const std::vector<std::string>& values) {
+    undo_.say(base::ownText(text, contract_.session.language, values));
 }
 
 void HelperArea::chooseAll() {
+    std::optional<HelperSelection::Change> change;
     try {
-        if (!selection_.run(contract_)) return;
+        change = selection_.run(contract_);
+        if (!change) return;
     } catch (const base::Refused&) {
         // What was written before the failure is shown; should that fail too, the message says how much it
         // is.
@@ -251,6 +261,7 @@ void HelperArea::chooseAll() {
         throw;
     }
     reload(std::nullopt);
+    say(OwnText::helpersChosen, {std::to_string(change->added), std::to_string(change->removed)});
 }
 
 void HelperArea::removeCurrent() {
@@ -263,6 +274,7 @@ void HelperArea::removeCurrent() {
     if (!parts::confirmed(services_.display, question, ui::box::exclamation)) return;
     contract_.connection().execute(helpers::remove(*key));
     reload(std::nullopt);
+    say(OwnText::helperRemoved);
 }
 
 void HelperArea::confirm(const std::string& statement) {

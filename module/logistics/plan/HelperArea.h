@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/host/services.h"
 #include "module/logistics/GuardedQuantities.h"
 #include "module/logistics/plan/Area.h"
@@ -43,6 +44,7 @@ private:
     void addOne();
     void chooseAll();
     void removeCurrent();
+    void say(base::OwnText text, const std::vector<std::string>& values = {});
     /// Sends a statement on all helpers of the contract, and tells that it is done.
     void confirm(const std::string& statement);
 

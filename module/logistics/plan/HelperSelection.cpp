@@ -34,18 +34,20 @@ HelperSelection::Persons HelperSelection::read(const LogisticsContract& contract
     return persons;
 }
 
-bool HelperSelection::run(const LogisticsContract& contract) {
+std::optional<HelperSelection::Change> HelperSelection::run(const LogisticsContract& contract) {
     const Persons before = read(contract);
     host::HostServices& services = *contract.services;
     const std::string restriction = services.personQuery.restriction(contract.session, personTable);
     const auto chosen = services.multiSelection.choose(
         contract.session, helperList, helpers::eligible(contract.session.language, restriction),
         {before.begin(), before.end()});
-    if (!chosen) return false;
+    if (!chosen) return std::nullopt;
     const Persons marked{chosen->begin(), chosen->end()};
     // The list may have been open for long: whom a colleague has added meanwhile is not added once more.
-    write(contract, without(without(marked, before), read(contract)), without(before, marked));
-    return true;
+    const Persons added = without(without(marked, before), read(contract));
+    const Persons removed = without(before, marked);
+    write(contract, added, removed);
+    return Change{added.size(), removed.size()};
 }
 
 void HelperSelection::write(const LogisticsContract& contract, const Persons& added, const Persons& removed) {

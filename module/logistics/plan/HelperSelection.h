@@ -3,7 +3,9 @@
 #include "module/logistics/plan/Area.h"
 #include "module/ui/controls/ProgressBar.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <set>
 
 namespace tellurix::logistics {
@@ -14,11 +16,17 @@ public:
     /// @param bar shows the progress while rows are written
     explicit HelperSelection(ui::ProgressBar& bar) : bar_(bar) {}
 
+    /// What a choice has come to.
+    struct Change {
+        std::size_t added = 0;
+        std::size_t removed = 0;
+    };
+
     /// Lets the user mark the helpers and writes what is different.
-    /// @return false when the user cancelled
+    /// @return nothing when the user cancelled
     /// @throws base::Refused after a failure, which has been reported: it tells how many were added and
     ///         removed before it
-    bool run(const LogisticsContract& contract);
+    std::optional<Change> run(const LogisticsContract& contract);
 
 private:
     using Persons = std::set<std::int64_t>;

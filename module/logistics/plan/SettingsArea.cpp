@@ -298,7 +298,7 @@ void SettingsArea::save() {
     LoadSettings();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(btnBearbeiten);
-    undo_.say(taken);
+    undo_.say(parts::savedText(OwnText::saved, taken, contract_.session.language));
 }
 
 bool SettingsArea::datesAreThere() {

@@ -209,7 +209,7 @@ void F_Bereitstellung_WVO::save() {
     const auto notTaken = saving.notTaken();
     reload();
     parts::SafeSetFocus(MSFG);
-    status().say(saving.takenOver());
+    status().say(parts::savedText(OwnText::saved, saving.takenOver(), session_.language));
     if (!notTaken.empty())
         parts::ShowMessage(services_.display, own(OwnText::reportsNotTaken, {listed(notTaken)}),
                            ui::box::exclamation);
@@ -220,6 +220,10 @@ void F_Bereitstellung_WVO::exportTable(bool internal) {
                               std::to_string(week_.week) + " (" + txtKalenderTage.text() + ")";
     services_.spreadsheets.exportTable(session_,
                                        spreadsheetParameters("0;;;0;;;;0;;0;", table_.text(internal)), title);
+}
+
+bool F_Bereitstellung_WVO::escape() {
+    return !table_.hasTyped() || parts::confirmed(services_.display, own(OwnText::discardChanges));
 }
 
 bool F_Bereitstellung_WVO::queryUnload() {

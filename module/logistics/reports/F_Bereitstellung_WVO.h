@@ -32,6 +32,7 @@ private:
     void connectChoice();
     void connectFilter(ui::TextBox& box);
     void arrange();
+    bool escape() override;
     bool queryUnload() override;
 
     /// What stands in the two boxes of the choice.

@@ -141,7 +141,13 @@ void F_VertragMengenmeldung_WVO::save() {
     if (!quantities_.save(services_, session_, quantity_report::presentQuantities(helper()))) return;
     load();
     parts::SafeSetFocus(MSFG);
-    status().say(quantities_.takenOver());
+    status().say(parts::savedText(base::OwnText::saved, quantities_.takenOver(), session_.language));
+}
+
+bool F_VertragMengenmeldung_WVO::escape() {
+    return !quantities_.changed() ||
+           parts::confirmed(services_.display,
+                            base::ownText(base::OwnText::discardChanges, session_.language));
 }
 
 void F_VertragMengenmeldung_WVO::cancel() {

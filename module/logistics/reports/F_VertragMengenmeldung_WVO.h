@@ -43,6 +43,7 @@ private:
     void save();
     void cancel();
     void exportListings();
+    bool escape() override;
     bool queryUnload() override;
 
     host::HostServices& services_;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "module/host/TlxVar.h"
+#include "module/host/services.h"
+#include "module/ui/Form.h"
+
+#include <string>
+
+namespace tellurix::parts {
+
+/// Has the host translate the words of a form, and puts the contract behind the caption that its title
+/// begins with: "Preise – R-2025-001".
+/// @param caption the form's own, of which an earlier visit has made the title of another contract
+/// @param contract its name; empty where the title is to be the caption alone
+void localizeWithTitle(host::HostServices& services, const host::TlxVar& session, ui::Form& form,
+                       const std::string& caption, const std::string& contract);
+
+} // namespace tellurix::parts
