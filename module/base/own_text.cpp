@@ -62,6 +62,33 @@ constexpr Words wordsOf(OwnText text) {
         return {"Waldhelfer entfernt", "Forest helper removed"};
     case OwnText::helpersChosen:
         return {"Waldhelfer hinzugefügt: {}, entfernt: {}", "Forest helpers added: {}, removed: {}"};
+    case OwnText::takesNumber:
+        return {"Hier passt eine Zahl bis {}", "A number up to {} fits here"};
+    case OwnText::takesDigits:
+        return {"Hier passen nur Ziffern", "Only digits fit here"};
+    case OwnText::takesDate:
+        return {"Hier passt ein Datum: 15.1.2025, 15.1., h für heute, +7",
+                "A date fits here: 15.1.2025, 15.1., h for today, +7"};
+    case OwnText::takesTime:
+        return {"Hier passt eine Uhrzeit: 7:30", "A time fits here: 7:30"};
+    case OwnText::takesQuantity:
+        return {"Hier passt eine ganze Zahl", "A whole number fits here"};
+    case OwnText::takesLines:
+        return {"Hier passen Zeilennummern mit Komma dazwischen: 1,2",
+                "Line numbers fit here, with commas between them: 1,2"};
+    case OwnText::takesNoMore:
+        return {"Mehr als {} Zeichen passen hier nicht", "No more than {} characters fit here"};
+    case OwnText::textIsCut:
+        return {"Nicht alles passt: {} von {} Zeichen übernommen",
+                "Not all of it fits: {} of {} characters taken"};
+    case OwnText::dateFormat:
+        return {"{}: TT.MM.JJJJ", "{}: DD.MM.YYYY"};
+    case OwnText::timeFormat:
+        return {"{}: hh:mm", "{}: hh:mm"};
+    case OwnText::notInList:
+        return {"Nicht in der Liste", "Not in the list"};
+    case OwnText::nothingFound:
+        return {"Keine Treffer", "Nothing found"};
     case OwnText::discardChanges:
         return {"Die Änderungen sind noch nicht gespeichert. Verwerfen?",
                 "The changes have not been saved yet. Discard them?"};

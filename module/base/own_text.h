@@ -36,6 +36,21 @@ enum class OwnText {
     helperAdded,
     helperRemoved,
     helpersChosen, ///< how many are added, how many are removed
+    // What boxes take, told when something else is typed
+    takesNumber, ///< the largest
+    takesDigits,
+    takesDate,
+    takesTime,
+    takesQuantity,
+    takesLines,
+    takesNoMore, ///< how many characters fit
+    textIsCut,   ///< how many characters were taken, of how many
+    // What stands beside a field with an error
+    dateFormat, ///< the field's label
+    timeFormat, ///< the field's label
+    notInList,
+    // Lists
+    nothingFound,
     // Questions of more than one screen
     discardChanges,
     // The contract editor

@@ -63,7 +63,7 @@ void TakeOverFrame::clear() {
 }
 
 void TakeOverFrame::Choice::show(const std::string& shown, const std::string& of) {
-    box.setText(shown);
+    box.show(shown);
     text = shown;
     key = of;
 }
@@ -162,6 +162,7 @@ std::optional<std::string> TakeOverFrame::nameOf(std::int32_t contract) {
 }
 
 bool TakeOverFrame::refuse(ui::TextBox& box, const std::string& why) {
+    box.setError(why);
     parts::ShowMessage(services().display, why, ui::box::exclamation);
     parts::SafeSetFocus(box);
     return false;

@@ -63,6 +63,7 @@ void LineTable::connect(std::size_t line) {
         leaveValue(line);
         return true;
     };
+    txtWert[line].setTakes({base::OwnText::takesLines});
     txtWert[line].onKeyPress = [](char32_t& key) {
         if ((key < U'0' || key > U'9') && key != U',') key = 0;
     };
@@ -86,6 +87,7 @@ void LineTable::start(std::string language) {
 
 void LineTable::show(std::size_t line, const host::CalculationLine& values) {
     CmbStat[line].select(values.statistic);
+    CmbStat[line].setError({});
     TextBez[line].show(values.designation);
     TextWert[line].show(values.value.empty() ? "" : amountText(values.value));
     txtWert[line].show(values.references);
@@ -210,7 +212,7 @@ void LineTable::mark(const LineFault& fault) {
         base::ownText(statistic ? base::OwnText::statisticMissing : base::OwnText::valueMissing, language_);
     Label1[fault.line].setWarning(reason);
     lacking.form().setFocus(lacking);
-    lacking.setWarning(reason);
+    lacking.setError(reason);
 }
 
 } // namespace tellurix::deductions

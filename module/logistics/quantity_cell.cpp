@@ -22,6 +22,7 @@ bool isQuantityCharacter(char32_t character) {
 void takeQuantities(ui::TextBox& box) {
     box.setRightAligned(true);
     box.setMaxLength(longestQuantity);
+    box.setTakes({base::OwnText::takesQuantity});
     box.onKeyPress = [](char32_t& key) {
         if (!isQuantityCharacter(key)) key = 0;
     };

@@ -1,5 +1,6 @@
 #include "module/parts/LookupBox.h"
 
+#include "module/base/own_text.h"
 #include "module/parts/typed_text.h"
 
 namespace tellurix::parts {
@@ -42,9 +43,11 @@ bool LookupBox::leave() {
     if (!services_.lookupValidation.resolve(session_, source_.resolution(box_), box_, shown, source_.shown)) {
         // A host that shows nothing for what it did not find would take away what was typed.
         if (box_.text() != typed) box_.setText(typed);
+        box_.setError(base::ownText(base::OwnText::notInList, session_.language));
         return false;
     }
     resolvedText_ = box_.text();
+    box_.setError({});
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "module/base/StatementText.h"
 #include "module/base/number_format.h"
+#include "module/base/own_text.h"
 #include "module/base/whole_number.h"
 #include "module/host/module_state.h"
 #include "module/ui/input/number_box.h"
@@ -74,6 +75,7 @@ bool PersonBox::leave() {
         services_.lookupValidation.resolve(session_, query, number_, &shortName_, "KURZBEZEICHNUNG");
     tell();
     if (found) resolvedNumber_ = number_.text();
+    number_.setError(found ? std::string{} : base::ownText(base::OwnText::notInList, session_.language));
     return found;
 }
 

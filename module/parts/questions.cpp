@@ -15,6 +15,7 @@ void tellInvalid(ui::Display& display, host::HostLocalizer& localizer, const hos
 
 bool missing(host::HostServices& services, const host::TlxVar& session, const ui::Label& label,
              ui::Control& box) {
+    box.setError(services.localizer.text(host::textNumber::invalidEntry, session));
     tellInvalid(services.display, services.localizer, session, &label);
     SafeSetFocus(box);
     return false;

@@ -17,7 +17,7 @@ namespace tellurix::parts {
 void tellInvalid(ui::Display& display, host::HostLocalizer& localizer, const host::TlxVar& session,
                  const ui::Label* label = nullptr);
 
-/// Tells which box has to be filled in, and gives it the focus.
+/// Tells which box has to be filled in, there as well, and gives it the focus.
 /// @return false
 bool missing(host::HostServices& services, const host::TlxVar& session, const ui::Label& label,
              ui::Control& box);

@@ -25,6 +25,8 @@ char32_t accessKeyOf(const Control& control) {
     return ui::accessKeyOf(captionText(control).value_or(""));
 }
 
+constexpr Key undoKey{'Z'}; // with Ctrl
+
 bool editable(const TextBox* box) {
     return box != nullptr && box->changeable();
 }
@@ -64,6 +66,12 @@ void Desktop::dispatch(const Event& event) {
     try {
         std::visit([this, form](const auto& happened) { handle(*form, happened); }, event);
     } catch (const RefusedInput& refused) {
+        // The last sentence says what to do; where it is, is seen.
+        const auto& sentences = refused.sentences();
+        refused.control().setError(sentences.empty() ? refused.what()
+                                                     : base::ownText(sentences.back().text,
+                                                                     refused.control().form().language(),
+                                                                     sentences.back().values));
         errors_.report(refused);
         goTo(refused.control());
     } catch (const std::exception& error) {
@@ -85,6 +93,7 @@ bool Desktop::leave(Form& form) {
         form.setFocus(*from);
         return false;
     }
+    if (from != nullptr) from->left();
     return form.loaded() && form.focused() == from;
 }
 
@@ -118,6 +127,7 @@ void Desktop::press(Form& form, Control& control) {
         button->onClick();
     } else if (CheckBox* check = as<CheckBox>(&control)) {
         check->setChecked(!check->checked());
+        check->noteChange();
         check->onClick();
     }
 }
@@ -147,6 +157,8 @@ void Desktop::handle(Form& form, const KeyDownEvent& event) {
         press(form, *control);
     } else if (Grid* grid = as<Grid>(control)) {
         gridKey(form, *grid, {key, event.columnWidth});
+    } else if (TextBox* box = as<TextBox>(control); box != nullptr && key.ctrl && key.key == undoKey) {
+        if (editable(box) && box->undo()) box->onChange();
     } else {
         applyKey(*control, key.key);
     }
@@ -258,6 +270,7 @@ void Desktop::handle(Form& form, const TextEditedEvent& event) {
     if (!editable(&box) || !moveFocus(form, box)) {
         box.markDirty(); // the display shows what has not come about
     } else if (box.edited(event.text, event.selectionStart, event.selectionLength)) {
+        form.status().goOn();
         box.onChange();
     } else {
         // Something that helps the user type has written it.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/ui/Display.h"
+#include "module/ui/controls/TextBox.h"
 #include "module/ui/input/events.h"
 #include "module/ui/input/grid_keys.h"
 
@@ -26,7 +27,8 @@ namespace tellurix::ui {
 ///   heading of the current column (grid_keys.h has the other keys).
 /// - Characters go through the box's key filter, pasted ones too. A box that a display has edited by
 ///   itself keeps the new text where that needs no filter; else it is typed in place of the old one.
-///   A text that comes at once is one change, however long it is.
+///   A text that comes at once is one change, however long it is. What is not taken makes the box flash and
+///   say what it takes; Ctrl+Z takes back in one go what was typed in one go, where no display does.
 ///
 /// An error inside an event goes to the host's error handling, and the window stays as it is. Where it
 /// is about what stands in one control (`RefusedInput`), that control gets the focus.

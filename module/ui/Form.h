@@ -64,8 +64,8 @@ public:
     StatusLine& status() { return status_; }
     const StatusLine& status() const { return status_; }
 
-    /// The way on at the moment, which Ctrl+S presses: the usable one of those that the layout leads on by, or
-    /// null.
+    /// The way on at the moment, which Ctrl+S presses: the usable one of those that the layout leads on by,
+    /// or null.
     Button* primaryButton() const;
     /// Stands beside the field that asked for it, over its screen, instead of filling the window: a list, a
     /// calendar.

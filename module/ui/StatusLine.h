@@ -19,6 +19,11 @@ public:
     /// Says nothing any more.
     void clear() { say({}); }
 
+    /// The user goes on typing: what was said is about what was before. An offer stays.
+    void goOn() {
+        if (action_.empty() && !text_.empty()) clear();
+    }
+
     const std::string& text() const { return text_; }
     /// Empty without an offer.
     const std::string& action() const { return action_; }

@@ -126,7 +126,7 @@ TEST_F(SavingDeductions, RefusesLinesThatAreNoBlock) {
             user.click("btnOk");
             if (c.wrong == nullptr) return;
             EXPECT_EQ(user.focused(), c.wrong);
-            EXPECT_EQ(user.control<ui::ComboBox>(c.wrong).warning(), "In dieser Zeile fehlt die Statistik.");
+            EXPECT_EQ(user.error(c.wrong), "In dieser Zeile fehlt die Statistik.");
             EXPECT_EQ(sentFrom(before), std::vector<std::string>{}) << "nothing is written";
             user.click("btnModels");
             EXPECT_EQ(host.modelCalls.back(), "fill/ABSCHLAG") << "no management of models either";
@@ -147,7 +147,7 @@ TEST_F(SavingDeductions, WhatIsStoredWrongIsShownAndNotSavedAgain) {
         EXPECT_EQ(line(user, 15), "Rundung|Rundung|0,01|1|");
         user.click("btnOk");
         EXPECT_EQ(user.focused(), "TextWert(1)");
-        EXPECT_EQ(user.control<ui::TextBox>("TextWert(1)").warning(), "In dieser Zeile fehlt der Wert.");
+        EXPECT_EQ(user.error("TextWert(1)"), "In dieser Zeile fehlt der Wert.");
         EXPECT_EQ(user.control<ui::Label>("Label1(1)").warning(), "In dieser Zeile fehlt der Wert.");
         user.type("-3");
         EXPECT_EQ(user.control<ui::Label>("Label1(1)").warning(), "") << "the mark goes with the next change";

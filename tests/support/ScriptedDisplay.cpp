@@ -136,6 +136,14 @@ std::string User::error(std::string_view control) {
     return find(control).error();
 }
 
+std::string User::refusal(std::string_view control) {
+    return this->control<ui::TextBox>(control).refusal();
+}
+
+void User::ctrl(char letter) {
+    desktop_.dispatch(ui::KeyDownEvent{{.key = static_cast<ui::Key>(letter), .ctrl = true}});
+}
+
 std::string User::status() {
     const ui::StatusLine& line = window().status();
     return line.action().empty() ? line.text() : line.text() + "|" + line.action();

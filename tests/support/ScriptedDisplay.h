@@ -50,6 +50,10 @@ public:
     bool checked(std::string_view control);
     /// What stands beside it as its error.
     std::string error(std::string_view control);
+    /// What stands under a box that has not taken something.
+    std::string refusal(std::string_view control);
+    /// Ctrl with a letter.
+    void ctrl(char letter);
     /// The text in the status line, with what it offers behind "|": "Gelöscht|&Rückgängig".
     std::string status();
     /// Presses what the status line offers.

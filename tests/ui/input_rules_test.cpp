@@ -273,6 +273,77 @@ TEST_F(InputRules, ANumberBoxTakesWhatItsMaskCanShow) {
     });
 }
 
+TEST_F(InputRules, WhatIsNotTakenSaysWhatWouldBe) {
+    struct Case {
+        const char* rule;
+        const char* box;
+        std::function<void(User&)> act;
+        const char* says;
+    };
+    const auto typed = [](const char* text) { return [text](User& user) { user.type(text); }; };
+    const auto pasted = [](const char* box, const char* text) {
+        return [box, text](User& user) { user.paste(box, text); };
+    };
+    order.txtName.setMaxLength(5);
+    const Case cases[] = {
+        {"a letter in a number", "txtMenge", typed("1x"), "Hier passt eine Zahl bis 999999,99"},
+        {"until something is taken", "txtMenge", typed("1x2"), ""},
+        {"a letter in a date", "txtDatum", typed("x"),
+         "Hier passt ein Datum: 15.1.2025, 15.1., h für heute, +7"},
+        {"no room", "txtName", typed("abcdef"), "Mehr als 5 Zeichen passen hier nicht"},
+        {"a pasted text that is cut", "txtName", pasted("txtName", "Maierhofer"),
+         "Nicht alles passt: 5 von 10 Zeichen übernommen"},
+        {"or filtered", "txtMenge", pasted("txtMenge", "3 Fm"),
+         "Nicht alles passt: 1 von 4 Zeichen übernommen"},
+        {"or not taken at all", "txtMenge", pasted("txtMenge", "x"), "Hier passt eine Zahl bis 999999,99"},
+        {"what fits says nothing", "txtName", pasted("txtName", "Maier"), ""},
+    };
+    work([&](User& user) {
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.rule);
+            user.type(c.box, "");
+            user.control<ui::TextBox>(c.box).selectAll();
+            const int before = user.control<ui::TextBox>(c.box).refusals();
+            c.act(user);
+            EXPECT_EQ(user.refusal(c.box), c.says);
+            EXPECT_GE(user.control<ui::TextBox>(c.box).refusals(), before + (*c.says == '\0' ? 0 : 1));
+        }
+        user.type("txtMenge", "x");
+        user.key(Key::tab);
+        EXPECT_EQ(user.refusal("txtMenge"), "") << "the box has been left";
+        user.close();
+    });
+}
+
+TEST_F(InputRules, CtrlZTakesBackWhatWasTypedInOneGo) {
+    work([&](User& user) {
+        order.txtMenge.show("7,00");
+        user.focus("txtMenge");
+        user.type("12,5");
+        user.key(Key::backspace);
+        user.ctrl('Z');
+        EXPECT_EQ(user.text("txtMenge"), "7,00");
+        EXPECT_EQ(order.txtMenge.selectionLength(), 4) << "as it was before";
+        user.type("12");
+        order.txtMenge.select(0, 0); // the user has gone elsewhere
+        user.type("3");
+        EXPECT_EQ(user.text("txtMenge"), "312");
+        user.ctrl('Z');
+        EXPECT_EQ(user.text("txtMenge"), "12");
+        user.ctrl('Z');
+        EXPECT_EQ(user.text("txtMenge"), "7,00");
+        user.ctrl('Z');
+        EXPECT_EQ(user.text("txtMenge"), "7,00") << "there is nothing more";
+        user.type("9");
+        order.txtMenge.show("8,00");
+        user.ctrl('Z');
+        EXPECT_EQ(user.text("txtMenge"), "8,00") << "another value is not undone";
+        user.type("txtGesperrt", "x");
+        user.ctrl('Z');
+        user.close();
+    });
+}
+
 TEST_F(InputRules, WhatADisplayEditedByItselfIsWhatCouldHaveBeenTyped) {
     struct Case {
         const char* rule;
@@ -366,6 +437,12 @@ TEST_F(InputRules, AnErrorInAnEventIsReportedAndTheWindowStaysWithWhatWasTyped) 
         user.type("txtName", "Grün");
         user.click("btnRefuse");
         EXPECT_EQ(user.focused(), "txtMenge") << "where something has to be put right";
+        EXPECT_EQ(user.error("txtMenge"), base::ownText(base::OwnText::numberMissing, "de"));
+        user.focus("txtName");
+        EXPECT_NE(user.error("txtMenge"), "") << "it is still wrong";
+        user.type("txtMenge", "5");
+        user.focus("txtName");
+        EXPECT_EQ(user.error("txtMenge"), "");
         user.click("btnFail");
         EXPECT_EQ(user.focused(), "btnFail");
         EXPECT_EQ(display.errors().size(), 2u);
@@ -385,7 +462,11 @@ TEST_F(InputRules, TheStatusLineSaysTheNewestAndItsOfferIsDoneOnce) {
         });
     };
     work([&](User& user) {
+        order.status().say("Gespeichert");
+        user.type("txtName", "x");
+        EXPECT_EQ(user.status(), "") << "it was about what was before";
         offer();
+        user.type("txtName", "y");
         user.alt(U'r');
         EXPECT_EQ(display.errors().size(), 1U);
         EXPECT_EQ(user.status(), "Zeile gelöscht|&Rückgängig") << "what failed can be tried again";

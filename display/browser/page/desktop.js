@@ -118,12 +118,14 @@ export class Desktop {
       this.say({ type: 'paste', control: view.state.id, text: inserted });
     }
     if (view?.state.kind !== 'text' || view.state.locked) return;
-    if (!view.state.filtered) {
-      view.type(inserted);
-      return;
-    }
+    if (view.state.filtered) this.paste(inserted);
+    else view.type(inserted);
+  }
+
+  /** Text that the session looks at before it comes into the box. */
+  paste(text) {
     this.#saySelection();
-    this.say({ type: 'paste', control: view.state.id, text: inserted });
+    this.say({ type: 'paste', control: this.focused.state.id, text });
   }
 
   sayKey(key) {

@@ -136,10 +136,13 @@ export class Keyboard {
   }
 
   #paste(event) {
-    const kind = this.#desktop.viewOf(event.target)?.state.kind;
-    if (kind !== 'grid' && this.#isFree(event.target)) return;
-    event.preventDefault();
     const text = event.clipboardData?.getData('text/plain') ?? '';
-    if (text && !this.#notices.blocking && !this.#box.shown) this.#input.perform(() => this.#desktop.insert(text));
+    // The browser would cut a text that is too long without a word.
+    const view = this.#desktop.viewOf(event.target);
+    const cut = view?.cuts?.(text);
+    if (view?.state.kind !== 'grid' && this.#isFree(event.target) && !cut) return;
+    event.preventDefault();
+    if (!text || this.#notices.blocking || this.#box.shown) return;
+    this.#input.perform(() => (cut ? this.#desktop.paste(text) : this.#desktop.insert(text)));
   }
 }

@@ -32,6 +32,8 @@ void draw(json& out, const ui::TextBox& box, bool /*whole*/) {
     out["picks"] = box.onPick ? json(box.pickPicture()) : json();
     // What decides about single keys can only be asked here; everything else the browser edits.
     out["filtered"] = box.filtered();
+    out["refusal"] = box.refusal();
+    out["refusals"] = box.refusals();
 }
 
 void draw(json& out, const ui::Button& button, bool /*whole*/) {

@@ -31,8 +31,8 @@ json answersFor(const KeyTraits& traits) {
 } // namespace
 
 int keyUsesOf(const KeyTraits& traits) {
-    return static_cast<int>(traits.kind) * 8 + (traits.listens ? 4 : 0) + (traits.severalLines ? 2 : 0) +
-           (traits.locked ? 1 : 0);
+    return static_cast<int>(traits.kind) * 16 + (traits.filtered ? 8 : 0) + (traits.listens ? 4 : 0) +
+           (traits.severalLines ? 2 : 0) + (traits.locked ? 1 : 0);
 }
 
 const char* nameOfUse(KeyUse use) {
@@ -52,10 +52,11 @@ const char* nameOfUse(KeyUse use) {
 std::string keyUsesModule() {
     json all = json::object();
     for (int kind = 0; kind <= static_cast<int>(ControlKind::progressBar); ++kind) {
-        for (int flags = 0; flags < 8; ++flags) {
-            const KeyTraits traits{ControlKind{kind}, (flags & 4) != 0, (flags & 2) != 0, (flags & 1) != 0};
+        for (int flags = 0; flags < 16; ++flags) {
+            const KeyTraits traits{ControlKind{kind}, (flags & 4) != 0, (flags & 2) != 0, (flags & 1) != 0,
+                                   (flags & 8) != 0};
             const bool isBox = traits.kind == ControlKind::textBox;
-            if (isBox || (!traits.severalLines && !traits.locked))
+            if (isBox || (!traits.severalLines && !traits.locked && !traits.filtered))
                 all[std::to_string(keyUsesOf(traits))] = answersFor(traits);
         }
     }

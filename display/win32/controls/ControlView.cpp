@@ -51,7 +51,9 @@ void ControlView::destroy() {
 
 void ControlView::place(const RECT& rect) {
     RECT own = rect;
-    own.right -= error_.size().cx;
+    // A box over a cell of a table has no room beside it: there the frame has to do.
+    const int beside = static_cast<int>(error_.size().cx);
+    if (widthOf(rect) > beside + theme().lineHeight()) own.right -= beside;
     error_.place({own.right, rect.top, rect.right, rect.bottom});
     placeControl(own);
 }
@@ -83,8 +85,13 @@ void ControlView::drawError() {
     if (had != error_.shown()) RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
 }
 
+void ControlView::setFlashing(bool flashing) {
+    flashing_ = flashing;
+    RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+}
+
 void ControlView::frameError() const {
-    if (!error_.shown()) return;
+    if (!error_.shown() && !flashing_) return;
     RECT frame{};
     GetWindowRect(handle_, &frame);
     OffsetRect(&frame, static_cast<int>(-frame.left), static_cast<int>(-frame.top));

@@ -104,7 +104,7 @@ public:
     /// WM_COMMAND of a part beside it.
     virtual void partNotified(UINT /*code*/) {}
     /// WM_CTLCOLOR… of one of its windows: sets up the device context. @return the background
-    HBRUSH colourOf(HWND window, HDC dc) const;
+    virtual HBRUSH colourOf(HWND window, HDC dc) const;
 
 protected:
     /// Makes the native window. It goes by `destroy`, or along with the window that it stands in.
@@ -115,6 +115,8 @@ protected:
     virtual Room measure() const = 0;
     virtual void placeControl(const RECT& rect);
     virtual HBRUSH colour(HDC dc) const;
+    /// Frames the control as one with an error, or takes that away; one that has an error stays framed.
+    void setFlashing(bool flashing);
     /// What is shown while the pointer rests over it; a warning before anything else.
     virtual std::string tip() const {
         return control_.warning().empty() ? control_.toolTip() : control_.warning();
@@ -164,6 +166,7 @@ private:
     Room room_;
     bool shown_ = false; ///< of the control alone, whatever is around it
     bool onPage_ = false;
+    bool flashing_ = false;
     bool new_ = true;
     bool stale_ = false;
     bool pressing_ = false;

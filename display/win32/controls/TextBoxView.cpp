@@ -3,8 +3,10 @@
 #include "com/automation/wide.h"
 #include "display/win32/native/clipboard.h"
 #include "display/win32/native/shown_text.h"
+#include "module/base/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tellurix::windows {
 
@@ -12,10 +14,13 @@ namespace {
 
 constexpr wchar_t selectAllCharacter = 1; // Ctrl+A
 constexpr wchar_t undoCharacter = 26;     // Ctrl+Z
+constexpr UINT_PTR flashTimer = 1;
+constexpr UINT flashTime = 250; ///< milliseconds
 
 } // namespace
 
-TextBoxView::TextBoxView(ViewHost& host, ui::TextBox& box) : ControlView(host, box), box_(box) {
+TextBoxView::TextBoxView(ViewHost& host, ui::TextBox& box)
+    : ControlView(host, box), box_(box), hint_(host.theme(), host.window()), refusals_(box.refusals()) {
     make();
 }
 
@@ -32,7 +37,7 @@ void TextBoxView::make() {
 }
 
 bool TextBoxView::has(HWND window) const {
-    return ControlView::has(window) || window == pick_;
+    return ControlView::has(window) || window == pick_ || hint_.has(window);
 }
 
 Room TextBoxView::measure() const {
@@ -73,6 +78,14 @@ void TextBoxView::draw() {
     showSelection();
     InvalidateRect(handle(), nullptr, FALSE);
     drawPick();
+    drawRefusal();
+}
+
+void TextBoxView::drawRefusal() {
+    hint_.show(box_.refusal(), handle());
+    if (box_.refusals() == std::exchange(refusals_, box_.refusals()) || box_.refusal().empty()) return;
+    setFlashing(true);
+    SetTimer(handle(), flashTimer, flashTime, nullptr);
 }
 
 void TextBoxView::showSelection() {
@@ -145,7 +158,12 @@ void TextBoxView::paste() {
     if (!box_.changeable()) return;
     const std::string text = editedText(clipboardText(handle()), severalLines());
     if (text.empty()) return;
-    if (box_.filtered()) {
+    const auto characters = static_cast<std::size_t>(base::decodeUtf8(text).size());
+    const int kept = static_cast<int>(base::decodeUtf8(box_.text()).size()) - selection().length;
+    const bool fits = box_.maxLength() == 0 || characters + static_cast<std::size_t>(kept) <=
+                                                   static_cast<std::size_t>(box_.maxLength());
+    // The native control would cut a text that is too long without a word.
+    if (box_.filtered() || !fits) {
         if (auto selected = newSelection()) tell(*selected);
         tell(ui::PasteEvent{&box_, text});
     } else {
@@ -167,9 +185,15 @@ LRESULT TextBoxView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_UNDO:
     case EM_UNDO:
-        // It would bring back text past the filter.
-        if (box_.filtered()) return FALSE;
-        break;
+        // The native one would bring back text past the filter.
+        if (!box_.filtered()) break;
+        tell(ui::KeyDownEvent{{.key = ui::Key{'Z'}, .ctrl = true}});
+        return FALSE;
+    case WM_TIMER:
+        if (wParam != flashTimer) break;
+        KillTimer(handle(), flashTimer);
+        setFlashing(false);
+        return 0;
     case WM_CHAR:
         if (wParam == selectAllCharacter) {
             SendMessageW(handle(), EM_SETSEL, 0, -1);
@@ -183,6 +207,10 @@ LRESULT TextBoxView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         break;
     }
     return native(message, wParam, lParam);
+}
+
+HBRUSH TextBoxView::colourOf(HWND window, HDC dc) const {
+    return hint_.has(window) ? TypingHint::colour(dc) : ControlView::colourOf(window, dc);
 }
 
 HBRUSH TextBoxView::colour(HDC dc) const {

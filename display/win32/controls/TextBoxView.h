@@ -1,6 +1,7 @@
 #pragma once
 
 #include "display/win32/controls/ControlView.h"
+#include "display/win32/controls/TypingHint.h"
 #include "module/ui/controls/TextBox.h"
 
 namespace tellurix::windows {
@@ -18,6 +19,7 @@ public:
     void notified(UINT code, NMHDR* details) override;
     void partNotified(UINT code) override;
     HBRUSH colour(HDC dc) const override;
+    HBRUSH colourOf(HWND window, HDC dc) const override;
 
 private:
     struct Selection {
@@ -30,6 +32,7 @@ private:
     DWORD wantedStyle() const;
     void draw() override;
     void drawPick();
+    void drawRefusal();
     void showSelection();
     void enable(bool visible, bool enabled) override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -40,6 +43,8 @@ private:
 
     ui::TextBox& box_;
     HWND pick_ = nullptr;
+    TypingHint hint_;
+    int refusals_ = 0; ///< as they were counted when the box was drawn last
     DWORD style_ = 0;
     Selection known_; ///< as the form knows it
 };

@@ -79,7 +79,19 @@ private:
                cell.column >= block->first.column && cell.column <= block->last.column;
     }
 
+    /// A box to tick, as the system draws it.
+    void paintTickBox(RECT cell, bool ticked) {
+        const int size = theme_.scaled(13);
+        cell.left += theme_.scaled(4);
+        cell.top = (cell.top + cell.bottom - size) / 2;
+        cell.right = cell.left + size;
+        cell.bottom = cell.top + size;
+        DrawFrameControl(dc_, &cell, DFC_BUTTON, DFCS_BUTTONCHECK | (ticked ? DFCS_CHECKED : 0U));
+    }
+
     void paintText(RECT cell, const std::string& text, bool rightAligned) {
+        if (text == ui::Grid::ticked || text == ui::Grid::unticked)
+            return paintTickBox(cell, text == ui::Grid::ticked);
         cell.left += theme_.scaled(4);
         cell.right -= theme_.scaled(5);
         // The system's fonts for windows have no tick.

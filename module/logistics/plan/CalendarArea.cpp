@@ -302,7 +302,7 @@ const DeliveryPeriod* CalendarArea::requiredPeriod() {
 void CalendarArea::pick(ui::TextBox& box, const ui::Label& label, const std::string& choices) {
     // A period that ends before it begins has nothing to choose from.
     if (choices.empty()) {
-        refuseWeek();
+        refuseWeek(box);
         return;
     }
     box.setText(services_.listPicker.choose(contract_.session, choices, ui::plainCaption(label.caption()),
@@ -317,19 +317,20 @@ bool CalendarArea::leaveYear() {
     txtJahr.setText(base::reformatNumber(txtJahr.text(), yearMask, services_.locale));
     const auto year = base::wholeNumber<int>(txtJahr.text());
     if (!year || !period_ || sameWeek()) return true;
-    return yearLiesIn(*period_, *year) || refuseWeek();
+    return yearLiesIn(*period_, *year) || refuseWeek(txtJahr);
 }
 
 bool CalendarArea::leaveWeek() {
     const auto year = base::wholeNumber<int>(txtJahr.text());
     const auto week = base::wholeNumber<int>(txtWoche.text());
     if (!year || !week || !period_ || sameWeek()) return true;
-    return weekLiesIn(*period_, {*year, *week}) || refuseWeek();
+    return weekLiesIn(*period_, {*year, *week}) || refuseWeek(txtWoche);
 }
 
-bool CalendarArea::refuseWeek() {
-    parts::ShowMessage(services_.display, words(OwnText::weekOutsidePeriod, {weeksText(*period_)}),
-                       ui::box::exclamation);
+bool CalendarArea::refuseWeek(ui::TextBox& box) {
+    const std::string why = words(OwnText::weekOutsidePeriod, {weeksText(*period_)});
+    box.setError(why);
+    parts::ShowMessage(services_.display, why, ui::box::exclamation);
     return false;
 }
 

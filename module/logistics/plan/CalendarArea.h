@@ -69,7 +69,7 @@ private:
     bool leaveYear();
     bool leaveWeek();
     /// @return false
-    bool refuseWeek();
+    bool refuseWeek(ui::TextBox& box);
     bool complete();
     std::string words(base::OwnText text, const std::vector<std::string>& values = {}) const;
 

@@ -188,6 +188,7 @@ void HelperArea::applyFilter() {
         filter_ = before;
         throw;
     }
+    if (helpers_.empty() && !filter_.empty()) say(OwnText::nothingFound);
 }
 
 void HelperArea::showSums() {

@@ -111,7 +111,9 @@ SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services, parts::
 
 void SettingsArea::connect() {
     const auto time = [this](ui::TextBox& box, const ui::Label& label) {
-        ui::makeTimeBox(box, [this, &label] {
+        ui::makeTimeBox(box, [this, &box, &label] {
+            box.setError(base::ownText(OwnText::timeFormat, contract_.session.language,
+                                       {ui::plainCaption(label.caption())}));
             parts::tellInvalid(services_.display, services_.localizer, contract_.session, &label);
         });
     };

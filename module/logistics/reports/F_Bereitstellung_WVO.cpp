@@ -92,14 +92,18 @@ void F_Bereitstellung_WVO::connectChoice() {
 
 void F_Bereitstellung_WVO::connectFilter(ui::TextBox& box) {
     box.setMaxLength(60);
-    box.onLeave = [this] {
+    const auto filter = [this, &box] {
         reload();
+        if (table_.empty() && week_.chosen() && !box.text().empty()) status().say(own(OwnText::nothingFound));
+    };
+    box.onLeave = [filter] {
+        filter();
         return true;
     };
-    box.onKeyDown = [this](ui::KeyDown& key) {
+    box.onKeyDown = [this, filter](ui::KeyDown& key) {
         if (key.key != ui::Key::enter) return;
         key.key = ui::Key::none;
-        reload();
+        filter();
         parts::SafeSetFocus(MSFG);
     };
 }

@@ -61,7 +61,16 @@ public:
     /// Not empty: what stands in it cannot be taken as it is. It has a red frame then, and this is shown
     /// beside it, until it has been put right.
     const std::string& error() const { return error_; }
-    void setError(std::string text) { change(error_, std::move(text)); }
+    void setError(std::string text) {
+        change(error_, std::move(text));
+        errorIsOld_ = false;
+    }
+    /// The user has changed what it holds: the error is not about that any more.
+    void noteChange() { errorIsOld_ = true; }
+    /// It has been left and nothing was found wrong; only then does an old error go.
+    virtual void left() {
+        if (errorIsOld_) setError({});
+    }
     /// Drawn faintly, as something that is not in use yet; it can be used all the same.
     bool quiet() const { return quiet_; }
     void setQuiet(bool quiet) { change(quiet_, quiet); }
@@ -111,6 +120,7 @@ private:
     bool enabled_ = true;
     bool visible_ = true;
     bool quiet_ = false;
+    bool errorIsOld_ = false;
     bool dirty_ = true;
 };
 

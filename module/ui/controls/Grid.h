@@ -21,6 +21,9 @@ class Button;
 class Grid final : public Control {
 public:
     static constexpr ControlKind ownKind = ControlKind::grid;
+    /// A cell that says one of these is a box to tick.
+    static constexpr const char* ticked = "☑";
+    static constexpr const char* unticked = "☐";
 
     /// How a column orders the rows.
     enum class Order { none, ascending, descending };

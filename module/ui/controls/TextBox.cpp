@@ -3,6 +3,7 @@
 #include "module/base/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tellurix::ui {
 
@@ -35,8 +36,10 @@ const std::string& TextBox::text() const {
 }
 
 void TextBox::setText(std::string text) {
-    setError({});
+    befores_.clear();
+    inOneGo_ = false;
     if (text == this->text()) return;
+    setError({});
     characters_ = decodeUtf8(text);
     text_ = std::move(text);
     markDirty();
@@ -45,10 +48,52 @@ void TextBox::setText(std::string text) {
 
 void TextBox::show(std::string text) {
     setText(std::move(text));
+    setError({});
+    change(refusal_, std::string{});
     touched_ = false;
 }
 
+void TextBox::refuse(std::string text) {
+    refusal_ = std::move(text);
+    ++refusals_;
+    markDirty();
+}
+
+void TextBox::left() {
+    Control::left();
+    change(refusal_, std::string{});
+}
+
+std::size_t TextBox::room() const {
+    if (maxLength_ == 0) return std::u32string::npos;
+    return static_cast<std::size_t>(std::max(maxLength_ - (length() - selectionLength_), 0));
+}
+
+void TextBox::remember() {
+    touched_ = true;
+    noteChange();
+    change(refusal_, std::string{});
+    if (std::exchange(inOneGo_, true)) return;
+    constexpr std::size_t kept = 50;
+    if (befores_.size() == kept) befores_.erase(befores_.begin());
+    befores_.push_back({characters_, selectionStart_, selectionLength_});
+}
+
+bool TextBox::undo() {
+    if (befores_.empty()) return false;
+    Before before = std::move(befores_.back());
+    befores_.pop_back();
+    characters_ = std::move(before.characters);
+    textIsOld_ = true;
+    noteChange();
+    change(refusal_, std::string{});
+    markDirty();
+    select(before.selectionStart, before.selectionLength);
+    return true;
+}
+
 void TextBox::select(int start, int length) {
+    inOneGo_ = false;
     const int end = this->length();
     const int from = std::clamp(start, 0, end);
     change(selectionStart_, from);
@@ -66,10 +111,10 @@ bool TextBox::edited(std::string text, int selectionStart, int selectionLength) 
     const std::u32string before = shownText(characters_, lines_ > 1);
     if (!onlyRemoves(before, after)) {
         const bool fits = maxLength_ == 0 || after.size() <= static_cast<std::size_t>(maxLength_);
-        const auto isText = [this](char32_t character) { return takes(character); };
-        if (filtered() || !fits || !std::ranges::all_of(after, isText)) return false;
+        const auto ofText = [this](char32_t character) { return isText(character); };
+        if (filtered() || !fits || !std::ranges::all_of(after, ofText)) return false;
     }
-    if (after != before) touched_ = true;
+    if (after != before) remember();
     characters_ = std::move(after);
     text_ = std::move(text);
     textIsOld_ = false;
@@ -86,20 +131,18 @@ std::string TextBox::textAfterTyping(std::string_view typed) const {
 }
 
 void TextBox::replaceSelection(std::u32string_view characters) {
+    remember();
     characters_.replace(static_cast<std::size_t>(selectionStart_), static_cast<std::size_t>(selectionLength_),
                         characters);
     textIsOld_ = true;
-    touched_ = true;
     markDirty();
     select(selectionStart_ + static_cast<int>(characters.size()), 0);
+    inOneGo_ = true;
 }
 
 bool TextBox::typeOver(std::string_view typed) {
     std::u32string insertion = decodeUtf8(typed);
-    if (maxLength_ > 0) {
-        const int room = std::max(maxLength_ - (length() - selectionLength_), 0);
-        insertion.resize(std::min(insertion.size(), static_cast<std::size_t>(room)));
-    }
+    insertion.resize(std::min(insertion.size(), room()));
     if (insertion.empty()) return false;
     replaceSelection(insertion);
     return true;

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/ui/controls/Control.h"
 
+#include <optional>
 #include <string_view>
+#include <vector>
 
 namespace tellurix::ui {
 
@@ -21,7 +24,7 @@ public:
 
     const std::string& text() const;
     /// Shows a text; the caret goes behind it. Does not call `onChange`: that tells what the user did. An
-    /// error was about the text before.
+    /// error was about another text.
     void setText(std::string text);
     /// As `setText`, for a value as it was read: the user has not touched it.
     void show(std::string text);
@@ -46,6 +49,21 @@ public:
     bool rightAligned() const { return rightAligned_; }
     void setRightAligned(bool right) { change(rightAligned_, right); }
 
+    /// What it takes, in words that are shown when something is typed that it does not take.
+    struct Takes {
+        base::OwnText text;
+        std::vector<std::string> values = {};
+    };
+    const std::optional<Takes>& takes() const { return takes_; }
+    void setTakes(Takes what) { takes_ = std::move(what); }
+    /// Something typed was not taken: the box flashes, and the text is shown under it until something is, or
+    /// the box is left.
+    void refuse(std::string text);
+    const std::string& refusal() const { return refusal_; }
+    /// Counts them: each is a flash.
+    int refusals() const { return refusals_; }
+    void left() override;
+
     int selectionStart() const { return selectionStart_; }
     int selectionLength() const { return selectionLength_; }
     void select(int start, int length);
@@ -55,7 +73,7 @@ public:
     /// to take something out; what comes in it says character by character.
     bool filtered() const { return onKeyPress || onKeyDown; }
     /// Whether a character is text for this box: only one of several lines takes a line end.
-    bool takes(char32_t character) const { return character >= 32 || (character == U'\n' && lines_ > 1); }
+    bool isText(char32_t character) const { return character >= 32 || (character == U'\n' && lines_ > 1); }
 
     /// Takes over what a display's own editing made of the text.
     /// @return false when that cannot stand as it is, and nothing changed: something came in that the
@@ -66,6 +84,11 @@ public:
     bool typeOver(std::string_view typed);
     /// What would stand in the box after typing `typed` in place of the selection.
     std::string textAfterTyping(std::string_view typed) const;
+    /// How many characters can be typed in place of the selection; as many as one likes without a limit.
+    std::size_t room() const;
+    /// Takes back what the user did in one go: typed, or took out, without going elsewhere in between.
+    /// @return whether there was anything to take back
+    bool undo();
     /// Removes the selection, or the character before (`-1`) or behind (`+1`) the caret.
     /// @return whether there was anything to remove
     bool erase(int direction);
@@ -85,7 +108,15 @@ public:
     void setPickPicture(std::string picture) { change(pickPicture_, std::move(picture)); }
 
 private:
+    /// The box as it was before something was done in one go.
+    struct Before {
+        std::u32string characters;
+        int selectionStart;
+        int selectionLength;
+    };
     int length() const { return static_cast<int>(characters_.size()); }
+    /// The user is about to change the text.
+    void remember();
     /// Puts characters in place of the selection; the caret goes behind them.
     void replaceSelection(std::u32string_view characters);
 
@@ -100,6 +131,11 @@ private:
     int maxLength_ = 0;
     int selectionStart_ = 0;
     int selectionLength_ = 0;
+    std::optional<Takes> takes_;
+    std::string refusal_;
+    int refusals_ = 0;
+    std::vector<Before> befores_;
+    bool inOneGo_ = false;
     bool touched_ = false;
     bool locked_ = false;
     bool rightAligned_ = false;

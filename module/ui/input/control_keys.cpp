@@ -1,6 +1,7 @@
 #include "module/ui/input/control_keys.h"
 
 #include "module/base/text.h"
+#include "module/ui/Form.h"
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/ListBox.h"
@@ -28,6 +29,15 @@ void moveInTabs(Tabs& tabs, Key key) {
     const int last = static_cast<int>(tabs.captions().size()) - 1;
     const int step = key == Key::right ? 1 : key == Key::left ? -1 : 0;
     choose(tabs, std::clamp(tabs.selected() + step, 0, last));
+}
+
+/// Tells what a box takes, or what else is wrong with what was typed.
+void refuse(TextBox& box, const TextBox::Takes& why) {
+    box.refuse(base::ownText(why.text, box.form().language(), why.values));
+}
+
+void refuse(TextBox& box) {
+    if (box.takes()) refuse(box, *box.takes());
 }
 
 } // namespace
@@ -65,6 +75,7 @@ void choose(Control& control, int index, int column) {
     } else if (ItemList* list = asItemList(&control)) {
         if (index == list->selected()) return;
         list->select(index);
+        control.noteChange();
         list->onChange();
     } else if (Tabs* tabs = as<Tabs>(&control)) {
         if (index == tabs->selected()) return;
@@ -88,31 +99,41 @@ void applyKey(Control& control, Key key) {
 }
 
 bool typeCharacter(TextBox& box, char32_t character) {
+    box.form().status().goOn();
     if (box.onKeyPress) box.onKeyPress(character);
-    if (character == 0 || !box.typeOver(base::encodeUtf8(character))) return false;
+    if (character == 0) {
+        refuse(box);
+        return false;
+    }
+    if (!box.typeOver(base::encodeUtf8(character))) {
+        refuse(box, {base::OwnText::takesNoMore, {std::to_string(box.maxLength())}});
+        return false;
+    }
     box.onChange();
     return true;
 }
 
 bool typeText(TextBox& box, const std::string& text) {
     std::u32string characters = base::decodeUtf8(box.onPaste ? box.onPaste(text) : text);
-    bool whole = std::erase_if(characters, [&box](char32_t c) { return !box.takes(c); }) == 0;
-    const std::string all = base::encodeUtf8(characters);
-    bool changed = false;
+    bool whole = std::erase_if(characters, [&box](char32_t c) { return !box.isText(c); }) == 0;
+    box.form().status().goOn();
+    std::size_t taken = 0;
     if (!box.onKeyPress) {
-        const std::string wanted = box.textAfterTyping(all);
-        changed = box.typeOver(all);
-        whole &= box.text() == wanted;
+        taken = std::min(characters.size(), box.room());
+        box.typeOver(base::encodeUtf8(characters));
     } else {
         for (char32_t character : characters) {
             box.onKeyPress(character);
-            const bool came = character != 0 && box.typeOver(base::encodeUtf8(character));
-            changed |= came;
-            whole &= came;
+            if (character != 0 && box.typeOver(base::encodeUtf8(character))) ++taken;
         }
     }
-    if (changed) box.onChange();
-    return whole;
+    if (taken > 0) box.onChange();
+    if (taken == 0 && !text.empty()) {
+        refuse(box);
+    } else if (taken < characters.size()) {
+        refuse(box, {base::OwnText::textIsCut, {std::to_string(taken), std::to_string(characters.size())}});
+    }
+    return whole && taken == characters.size();
 }
 
 } // namespace tellurix::ui

@@ -11,6 +11,7 @@ namespace tellurix::ui {
 void makeDateBox(TextBox& box, std::function<base::Date()> today, std::function<void()> showInvalid) {
     constexpr int longestDate = 10; // "dd.mm.yyyy"
     box.setMaxLength(longestDate);
+    box.setTakes({base::OwnText::takesDate});
     box.onKeyPress = [](char32_t& key) {
         // The letters are those of "heute".
         if (std::u32string_view{U"0123456789.-/+hHeEuUtT"}.find(key) == std::u32string_view::npos) key = 0;

@@ -13,8 +13,8 @@ namespace tellurix::ui {
 namespace {
 
 /// Keys that go the same way.
-enum class Keys { space, sideways, upOrDown, toAnEnd, page, erasing, insert, edit, all, every };
-enum class When { always, silent, withCtrl, listening, severalLines, locked };
+enum class Keys { space, sideways, upOrDown, toAnEnd, page, erasing, insert, edit, all, undo, every };
+enum class When { always, silent, withCtrl, listening, severalLines, locked, filtered };
 
 struct Row {
     ControlKind kind;
@@ -24,7 +24,7 @@ struct Row {
 };
 
 /// The first row that fits counts. Without one the key is the native control's.
-constexpr std::array<Row, 31> keyTable{{
+constexpr std::array<Row, 32> keyTable{{
     {ControlKind::button, Keys::space, When::always, KeyUse::rules},
     {ControlKind::checkBox, Keys::space, When::always, KeyUse::rules},
     {ControlKind::tabs, Keys::sideways, When::always, KeyUse::rules},
@@ -49,6 +49,8 @@ constexpr std::array<Row, 31> keyTable{{
     {ControlKind::grid, Keys::every, When::withCtrl, KeyUse::native},
     {ControlKind::grid, Keys::every, When::listening, KeyUse::overheard},
 
+    // A display's own undoing would bring back text past the filter.
+    {ControlKind::textBox, Keys::undo, When::filtered, KeyUse::rules},
     {ControlKind::textBox, Keys::every, When::silent, KeyUse::native},
     // Moving in it is the native box's; the screen may have other plans for it all the same.
     {ControlKind::textBox, Keys::sideways, When::always, KeyUse::overheard},
@@ -84,6 +86,8 @@ bool isAmong(Key key, Keys keys) {
         return key == Key::f2;
     case Keys::all:
         return key == Key{'A'};
+    case Keys::undo:
+        return key == Key{'Z'};
     case Keys::every:
         return true;
     }
@@ -104,6 +108,8 @@ bool isSo(When when, const KeyTraits& traits, const KeyDown& key) {
         return traits.severalLines;
     case When::locked:
         return traits.locked;
+    case When::filtered:
+        return traits.filtered && !traits.locked && key.ctrl;
     }
     return false;
 }
@@ -116,6 +122,7 @@ KeyTraits keyTraitsOf(const Control* control) {
     if (const TextBox* box = as<TextBox>(control)) {
         traits.severalLines = box->lines() > 1;
         traits.locked = box->locked();
+        traits.filtered = box->filtered();
     }
     return traits;
 }

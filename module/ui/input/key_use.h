@@ -20,6 +20,7 @@ struct KeyTraits {
     bool listens = false;                  ///< the screen looks at its keys
     bool severalLines = false;
     bool locked = false;
+    bool filtered = false; ///< the screen looks at what is typed
 
     auto operator<=>(const KeyTraits&) const = default;
 };

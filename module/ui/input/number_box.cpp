@@ -9,6 +9,16 @@ namespace tellurix::ui {
 
 namespace {
 
+/// The largest number that a mask can show, as it is typed.
+std::string largestInMask(const std::string& mask, const base::Locale& locale) {
+    std::string largest;
+    for (const char place : mask) {
+        if (place == '#' || place == '0') largest += '9';
+        if (place == '.') largest += locale.decimal;
+    }
+    return largest;
+}
+
 /// Decides about the characters typed into a number box.
 class NumberKeys {
 public:
@@ -50,6 +60,7 @@ private:
 
 void takeNumbers(TextBox& box, const std::string& mask, const base::Locale& locale) {
     box.setMaxLength(base::longestInMask(mask));
+    box.setTakes({base::OwnText::takesNumber, {largestInMask(mask, locale)}});
     box.onKeyPress = NumberKeys{box, mask, locale};
     box.onPaste = [locale](const std::string& pasted) {
         // The thousands of a number copied from a list must not be taken for its decimals.
@@ -71,6 +82,7 @@ void makeNumberBox(TextBox& box, std::string mask, const base::Locale& locale) {
 void makeDigitBox(TextBox& box) {
     constexpr int mostDigits = 18;
     box.setMaxLength(mostDigits);
+    box.setTakes({base::OwnText::takesDigits});
     box.onKeyPress = [](char32_t& key) {
         if (key < U'0' || key > U'9') key = 0;
     };

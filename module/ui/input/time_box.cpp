@@ -32,6 +32,7 @@ std::optional<std::string> timeText(std::string_view typed) {
 void makeTimeBox(TextBox& box, std::function<void()> showInvalid) {
     constexpr int longestTime = 5; // "hh:mm"
     box.setMaxLength(longestTime);
+    box.setTakes({base::OwnText::takesTime});
     box.onKeyPress = [](char32_t& key) {
         if ((key < U'0' || key > U'9') && key != U':') key = 0;
     };

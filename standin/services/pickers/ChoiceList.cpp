@@ -37,8 +37,9 @@ void ChoiceList::show(std::vector<Choice> choices, std::vector<std::string> chos
         rows.push_back({"", std::move(choice.code), std::move(choice.name)});
     grid_.setRows(std::move(rows));
     drawMarks();
-    const auto marked =
-        std::ranges::find_if(grid_.rows(), [](const ui::Grid::Row& row) { return !row[markColumn].empty(); });
+    const auto marked = std::ranges::find_if(grid_.rows(), [](const ui::Grid::Row& row) {
+        return row[markColumn] == ui::Grid::ticked || row[markColumn] == mark;
+    });
     const bool anyMarked = marked != grid_.rows().end();
     grid_.setCurrent(anyMarked ? static_cast<int>(marked - grid_.rows().begin()) : 0, codeColumn);
 }
@@ -71,7 +72,8 @@ void ChoiceList::drawMarks() {
         const std::string& code = grid_.cell(row, codeColumn);
         const bool isChosen =
             std::ranges::any_of(chosen_, [&](const std::string& other) { return same(other, code); });
-        grid_.setCell(row, markColumn, isChosen ? mark : "");
+        const char* chosen = several_ ? ui::Grid::ticked : mark;
+        grid_.setCell(row, markColumn, isChosen ? chosen : several_ ? ui::Grid::unticked : "");
     }
 }
 

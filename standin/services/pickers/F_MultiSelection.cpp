@@ -12,7 +12,7 @@ namespace tellurix::standin {
 namespace {
 
 constexpr int tickColumn = 0;
-constexpr const char* tick = "✓";
+constexpr const char* tick = "✓"; // over the column
 constexpr std::size_t narrowestColumn = 4;
 constexpr std::size_t widestColumn = 30;
 
@@ -85,7 +85,7 @@ void F_MultiSelection::narrow() {
             words, [&](const std::string& word) { return searchTexts_[i].find(word) != std::string::npos; });
         if (!hasAll) continue;
         shown_.push_back(i);
-        ui::Grid::Row row{isMarked(entries_[i].key) ? tick : ""};
+        ui::Grid::Row row{tickBox(entries_[i].key)};
         row.insert(row.end(), entries_[i].cells.begin(), entries_[i].cells.end());
         rows.push_back(std::move(row));
     }
@@ -147,7 +147,7 @@ void F_MultiSelection::markFound(bool marked) {
 }
 
 void F_MultiSelection::drawMark(std::size_t shown) {
-    grdList.setCell(static_cast<int>(shown), tickColumn, isMarked(entryIn(shown).key) ? tick : "");
+    grdList.setCell(static_cast<int>(shown), tickColumn, tickBox(entryIn(shown).key));
 }
 
 void F_MultiSelection::takeOver() {

@@ -57,6 +57,9 @@ private:
         return entries_[shown_[sorting_.originOf(static_cast<int>(row))]];
     }
     bool isMarked(std::int64_t key) const { return marked_.contains(key); }
+    const char* tickBox(std::int64_t key) const {
+        return isMarked(key) ? ui::Grid::ticked : ui::Grid::unticked;
+    }
 
     std::vector<Entry> entries_;
     std::vector<std::string> searchTexts_; ///< beside the entries

@@ -134,6 +134,31 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await state('|77||');
   });
 
+  test('what a box does not take makes it flash, with a hint under it; Ctrl+Z undoes in one go', async () => {
+    await page.context().grantPermissions(['clipboard-read', 'clipboard-write']);
+    const box = control(page, 'txtAmount');
+    const around = (name) => page.locator(`.text-box:has([data-control="${name}"])`);
+    const hint = around('txtAmount').locator('.hint');
+    await box.click();
+    await type('12x');
+    await until(async () => (await hint.count()) > 0 && (await hint.isVisible()), 'hint');
+    assert.match(await hint.textContent(), /^Hier passt eine Zahl bis 9+,99$/);
+    assert.match(await around('txtAmount').getAttribute('class'), /flashes/);
+    await type(',5');
+    await until(async () => !(await hint.isVisible()), 'no hint');
+    await state('||12,5|');
+    await press('Control+z');
+    await state('|||');
+
+    // The browser would cut what is too long for a box that it edits by itself.
+    await control(page, 'txtName').click();
+    await page.evaluate(() => navigator.clipboard.writeText('x'.repeat(40)));
+    await press('Control+v');
+    const cut = around('txtName').locator('.hint');
+    await until(async () => (await cut.count()) > 0 && (await cut.isVisible()), 'told');
+    assert.equal(await cut.textContent(), 'Nicht alles passt: 30 von 40 Zeichen übernommen');
+  });
+
   test('a box with an error is marked and described by it until it is right', async () => {
     await press('Tab');
     await type('99\t');

@@ -249,6 +249,24 @@ TEST_F(DemoFormOnWindows, LeavingCanBeRefused) {
     EXPECT_EQ(WindowsUser::errorOf(user.control("txtDate")), "") << "it is right";
 }
 
+TEST_F(DemoFormOnWindows, WhatABoxDoesNotTakeIsToldAndCtrlZUndoesInOneGo) {
+    goTo("txtAmount");
+    user.type("12x");
+    EXPECT_NE(WindowsUser::hintOf(user.control("txtAmount")).find("Hier passt eine Zahl bis"),
+              std::string::npos);
+    user.type(",5");
+    EXPECT_EQ(WindowsUser::hintOf(user.control("txtAmount")), "");
+    EXPECT_EQ(text("txtAmount"), "12,5");
+    ctrl('Z');
+    EXPECT_EQ(text("txtAmount"), "");
+    goTo("txtName");
+    copyToClipboard(std::string(40, 'x'));
+    ctrl('V');
+    EXPECT_EQ(text("txtName"), std::string(30, 'x'));
+    EXPECT_EQ(WindowsUser::hintOf(user.control("txtName")),
+              "Nicht alles passt: 30 von 40 Zeichen übernommen");
+}
+
 TEST_F(DemoFormOnWindows, TheStatusBarSaysWhatWasDoneAndItsOfferIsPressed) {
     goTo("txtKunde");
     user.type("Maier");

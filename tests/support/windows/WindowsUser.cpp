@@ -98,6 +98,16 @@ std::string plain(const std::string& caption) {
     return text;
 }
 
+/// What one of the windows about a control says.
+std::string wordsAbout(HWND control, int number) {
+    Search search{[=](HWND window) {
+        return classOf(window) == L"Static" && GetDlgCtrlID(window) == number &&
+               GetWindowLongPtrW(window, GWLP_USERDATA) == reinterpret_cast<LONG_PTR>(control);
+    }};
+    EnumChildWindows(GetParent(control), lookAt, reinterpret_cast<LPARAM>(&search));
+    return search.found == nullptr ? std::string{} : windowText(search.found);
+}
+
 } // namespace
 
 WindowsUser::WindowsUser(DWORD thread)
@@ -144,12 +154,11 @@ std::string WindowsUser::textOf(HWND control) {
 }
 
 std::string WindowsUser::errorOf(HWND control) {
-    Search search{[control](HWND window) {
-        return classOf(window) == L"Static" &&
-               GetWindowLongPtrW(window, GWLP_USERDATA) == reinterpret_cast<LONG_PTR>(control);
-    }};
-    EnumChildWindows(GetParent(control), lookAt, reinterpret_cast<LPARAM>(&search));
-    return search.found == nullptr ? std::string{} : windowText(search.found);
+    return wordsAbout(control, 0);
+}
+
+std::string WindowsUser::hintOf(HWND control) {
+    return wordsAbout(control, 1);
 }
 
 bool WindowsUser::isGrid(HWND control) {

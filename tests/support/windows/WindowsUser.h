@@ -34,6 +34,8 @@ public:
     static std::string textOf(HWND control);
     /// The text that stands beside a control as its error, empty for none.
     static std::string errorOf(HWND control);
+    /// What stands under a box that has not taken something, empty for nothing.
+    static std::string hintOf(HWND control);
     /// Texts of a grid's row, from 0; none where there is no such row.
     static std::vector<std::string> rowOf(HWND grid, int row);
 

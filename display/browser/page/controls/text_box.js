@@ -11,6 +11,8 @@ export class TextBox extends View {
   #toShow = null; // a selection of the session that has not been shown yet
   #left = null; // the browser's selection when the box lost the focus
   #beforeComposing = null;
+  #refusals = null; // as the session had counted them when the box was drawn last
+  #hint = null;
 
   constructor(window, state) {
     const input = document.createElement(state.lines > 1 ? 'textarea' : 'input');
@@ -49,6 +51,7 @@ export class TextBox extends View {
     this.element.style.setProperty('--width', width);
     if (lines > 1) input.rows = lines;
     this.#drawPick(picks);
+    this.#drawRefusal();
     if (changes.selection) {
       const [start, length] = changes.selection;
       this.#toShow = { start, length };
@@ -170,6 +173,33 @@ export class TextBox extends View {
     input.value = before.value;
     input.setSelectionRange(before.selectionStart, before.selectionEnd);
     this.desktop.later(() => this.desktop.insert(text));
+  }
+
+  /** Whether a box that the browser edits would take only the beginning of a text. */
+  cuts(text) {
+    const all = insertion(text, this.focusElement, { ...this.state, maxLength: 0 });
+    return !this.state.locked && insertion(text, this.focusElement, this.state) !== all;
+  }
+
+  /** Something typed was not taken: the box flashes, and what it takes stands under it for a while. */
+  #drawRefusal() {
+    const { refusal, refusals } = this.state;
+    const flashes = this.#refusals !== null && refusals !== this.#refusals;
+    this.#refusals = refusals;
+    if (refusal && !this.#hint) {
+      this.#hint = document.createElement('span');
+      this.#hint.className = 'hint';
+      this.#hint.setAttribute('role', 'alert');
+      this.element.append(this.#hint);
+    }
+    if (this.#hint) {
+      if (this.#hint.textContent !== refusal) this.#hint.textContent = refusal;
+      this.#hint.hidden = !refusal;
+    }
+    if (!flashes || !refusal) return;
+    this.element.classList.remove('flashes');
+    void this.element.offsetWidth; // an animation begins anew only where it was seen to be away
+    this.element.classList.add('flashes');
   }
 
   #drawPick(picks) {

@@ -79,9 +79,12 @@ export class View {
     this.#error.textContent = error;
     this.#error.hidden = !error || !this.state.visible;
     if (error) {
-      this.element.after(this.#error);
       target.setAttribute('aria-invalid', 'true');
-      target.setAttribute('aria-describedby', this.#error.id);
+      // A box over a cell of a table has no place beside it: it is framed, and described all the same.
+      const beside = this.element.parentNode !== null && !this.element.closest('.grid');
+      if (beside) this.element.after(this.#error);
+      if (beside) target.setAttribute('aria-describedby', this.#error.id);
+      else target.setAttribute('aria-description', error);
     } else {
       target.removeAttribute('aria-invalid');
       target.removeAttribute('aria-describedby');
