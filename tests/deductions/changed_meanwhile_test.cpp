@@ -77,9 +77,10 @@ TEST_F(DeductionsMeanwhile, WhatOnlyTheColleagueChangedIsSavedWithTheRest) {
                 << "directly behind the read";
         });
         EXPECT_EQ(lines(), c.stored);
+        const std::string saved = "Zu- und Abschläge gespeichert";
         EXPECT_EQ(said, c.named == nullptr
-                            ? ""
-                            : std::string{"Von jemand anderem geändert und übernommen: "} + c.named + ".");
+                            ? saved
+                            : saved + ". Von jemand anderem geändert und übernommen: " + c.named + ".");
         EXPECT_EQ(model, std::string{c.rule} == "the model" ? "Neu" : "Alt");
     }
 }
