@@ -15,8 +15,10 @@ namespace tellurix::parts {
 /// written as typed, even where it looks the same.
 class NumberField {
 public:
-    /// @param mask what can be typed, and how a number is shown on leaving
-    NumberField(ui::TextBox& box, std::string mask, const base::Locale& locale);
+    /// @param mask how a number is shown
+    /// @param typed what can be typed, and stays as typed on leaving; empty for the same mask
+    NumberField(ui::TextBox& box, std::string mask, const base::Locale& locale,
+                const std::string& typed = {});
 
     void show(base::Value value);
     /// What to write: NULL for an empty box, a typed number with a decimal point.

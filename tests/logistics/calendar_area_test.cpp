@@ -367,9 +367,25 @@ TEST_F(LogisticsCalendar, AFailedSaveLeavesNoRowBehind) {
         host.database.failOn("");
         user.click("btnAbbrechen1");
         EXPECT_EQ(weeks(user), "2024/50|09.12.2024-15.12.2024|5,00\n");
+
+        user.click("btnNeu1");
+        enter(user, "2024", "51", "12,5");
+        user.key(ui::Key::tab);
+        EXPECT_EQ(user.text("txtPlanmenge"), "12,5") << "what was typed is not rounded to what is shown";
+        host.database.failOn("SET JAHR");
+        user.click("btnSpeichern1");
+        host.database.failOn("");
+        host.display.onMessage("nicht gespeichert", Answer::yes);
     });
     EXPECT_EQ(stored(4), "2024/50 5.00");
-    EXPECT_EQ(host.display.errors().size(), 2u);
+    EXPECT_EQ(host.display.errors().size(), 3u);
+    openWeeks(4, [&](User& user) {
+        host.database.execute(
+            "DELETE FROM WVO_VERTAG_KALENDER WHERE ID_WVO_VERTRAG = (SELECT ID FROM WVO_VERTRAG WHERE "
+            "ID_VERTRAEGE = 4)");
+        user.clickHeading("DataGridKalendar", 1);
+        EXPECT_FALSE(user.usable("btnBearbeiten1")) << "no week is left to be edited";
+    });
 }
 
 TEST_F(LogisticsCalendar, AWeekThatAColleagueDeletedIsSavedAnew) {

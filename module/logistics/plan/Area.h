@@ -40,6 +40,8 @@ public:
     /// Gives the columns the widths that the user had chosen, and keeps those that they have now.
     virtual void restoreColumns() {}
     virtual void saveColumns() {}
+    /// The form closes without what has not been saved.
+    virtual void discard() {}
 };
 
 } // namespace tellurix::logistics

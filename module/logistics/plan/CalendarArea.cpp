@@ -24,6 +24,8 @@ constexpr const char* columnsOfWeeks = "F_VERTRAG_WVO_KAL";
 constexpr const char* yearMask = "0000";
 constexpr const char* weekMask = "#0";
 constexpr const char* planMask = "#####0";
+/// The generation plans with two decimals, and so can the user.
+constexpr const char* typedPlan = "#####0.00";
 constexpr const char* twoDecimals = "##,##0.00";
 /// The number of the column with year and week in the list's query.
 constexpr int byWeek = 2;
@@ -65,7 +67,7 @@ CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
       btnLoschen1(form, "btnLoschen1", "Löschen"),
       btnGenWeek(form, "btnGenWeek", "autom. Erstellen"),
       weeks_(DataGridKalendar, services.locale),
-      plan_(txtPlanmenge, planMask, services.locale),
+      plan_(txtPlanmenge, planMask, services.locale, typedPlan),
       row_(services, contract_.session),
       mode_({.create = &btnNeu1,
              .edit = &btnBearbeiten1,
@@ -247,6 +249,8 @@ void CalendarArea::sortBy(int heading) {
     const bool again = sortColumn() == numberOf(column);
     DataGridKalendar.markOrder(heading, again ? ui::Grid::Order::descending : ui::Grid::Order::ascending);
     reload(std::nullopt);
+    // Somebody else may have deleted the weeks.
+    mode_.refresh();
 }
 
 int CalendarArea::numberOf(std::size_t column) {
@@ -375,11 +379,16 @@ void CalendarArea::save() {
     undo_.say(parts::savedText(OwnText::saved, taken, contract_.session.language));
 }
 
+void CalendarArea::discard() {
+    if (mode_.state() != parts::EditMode::State::fresh || editedKey_ == 0) return;
+    // A row that a failed save has left without values.
+    contract_.connection().execute(statements_.remove(editedKey_));
+    editedKey_ = 0;
+}
+
 void CalendarArea::cancel() {
     if (mode_.state() == parts::EditMode::State::fresh && editedKey_ != 0) {
-        // A row that a failed save has left without values.
-        contract_.connection().execute(statements_.remove(editedKey_));
-        editedKey_ = 0;
+        discard();
         reload(std::nullopt);
     }
     clearBoxes();

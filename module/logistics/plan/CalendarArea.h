@@ -36,6 +36,7 @@ public:
     bool changed() const override { return !mode_.viewing() && changes_.any(); }
     void restoreColumns() override;
     void saveColumns() override;
+    void discard() override;
 
     /// The columns of the list; two more where the host's record set has their fields.
     /// @param week a row of the record set, null for one without these fields

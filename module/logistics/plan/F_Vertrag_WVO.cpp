@@ -90,8 +90,10 @@ bool F_Vertrag_WVO::queryUnload() {
         !parts::confirmed(services_.display, base::ownText(OwnText::closeChanged, session_.language)))
         return false;
     try {
-        for (Area* area : all)
+        for (Area* area : all) {
+            area->discard();
             area->saveColumns();
+        }
     } catch (const std::exception& error) {
         // Widths that could not be kept are no reason to stay.
         services_.errors.report(error);

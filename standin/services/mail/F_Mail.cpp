@@ -35,8 +35,9 @@ F_Mail::F_Mail(Draft draft, Words words)
     btnSend.onClick = [this] { send(); };
     btnCancel.onClick = [this] { unload(); };
     setCancelButton(btnCancel);
+    // Nothing sends by mistake: Ctrl+S, which saves elsewhere, has no button here.
     setLayout(ui::column({lblKind, grdRecipients, lblCount, ui::field(lblSubject, txtSubject),
-                          ui::field(lblText, txtText), ui::bar({ui::Layout{btnSend}.primary(), btnCancel})}));
+                          ui::field(lblText, txtText), ui::bar({btnSend, btnCancel})}));
     showRecipients();
     grdRecipients.setCurrent(0, 1);
 }
