@@ -1,5 +1,7 @@
 #include "database/ado/errors.h"
 
+#include "database/servers/server_errors.h"
+
 #include <oledberr.h>
 
 #include <string>
@@ -10,48 +12,6 @@ namespace tellurix::windows::ado {
 namespace {
 
 using Category = base::DatabaseErrorCategory;
-
-/// The numbers of SQL Server, which are more exact than its SQLSTATEs.
-Category categoryOfNumber(std::int32_t number) {
-    switch (number) {
-    case 102: // incorrect syntax near …
-    case 105: // unclosed quotation mark
-    case 156: // incorrect syntax near a keyword
-    case 170:
-    case 319:
-        return Category::syntax;
-    case 207:  // column
-    case 208:  // table
-    case 4104: // a column with its table
-        return Category::unknownName;
-    case 220: // arithmetic overflow
-    case 232:
-    case 241: // date from a text
-    case 242: // date out of range
-    case 244:
-    case 245: // number from a text
-    case 248:
-    case 2628: // text too long
-    case 8114:
-    case 8115:
-    case 8152: // text too long
-        return Category::conversion;
-    case 515:  // NOT NULL
-    case 547:  // foreign key or check
-    case 2601: // unique index
-    case 2627: // key
-        return Category::constraint;
-    case 1204:
-    case 1205: // deadlock
-    case 1222: // lock timeout
-        return Category::locked;
-    case 4060:  // no such database
-    case 18456: // login failed
-        return Category::connection;
-    default:
-        return Category::other;
-    }
-}
 
 Category categoryOfState(std::string_view state) {
     struct Rule {
@@ -140,7 +100,8 @@ base::DatabaseError databaseError(const AutomationError& error, Dispatch& connec
             report = {};
         }
     }
-    Category category = categoryOfNumber(report.number);
+    // The numbers of a server are more exact than its SQLSTATEs.
+    Category category = servers::categoryOfNumber(report.number);
     if (category == Category::other) category = categoryOfState(report.state);
     if (category == Category::other) category = categoryOfCode(error.code());
     std::string text = report.text.empty() ? error.what() : std::move(report.text);

@@ -2,9 +2,8 @@
 
 #include "com/automation/AutomationError.h"
 #include "database/ado/constants.h"
+#include "database/servers/server_values.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 
@@ -50,24 +49,10 @@ DECIMAL decimalOf(CY amount) {
     return number;
 }
 
-/// The number that the single stands for: 0.1 is 0.1 and not 0.100000001.
-double doubleFrom(float number) {
-    std::array<char, 32> text{};
-    const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    double value = number;
-    std::from_chars(text.data(), end, value);
-    return value;
-}
-
-bool isIntegral(FieldType type) {
-    return type == FieldType::tinyInteger || type == FieldType::smallInteger || type == FieldType::integer ||
-           type == FieldType::bigInteger;
-}
-
 /// Some providers hand on large integers as decimals.
 base::Value numberFrom(const DECIMAL& number, FieldType type) {
     const base::Decimal value = decimalFrom(number);
-    if (!isIntegral(type)) return value;
+    if (!servers::isIntegral(type)) return value;
     return value.rounded(0).units();
 }
 
@@ -175,7 +160,7 @@ base::Value valueOf(const VARIANT& value, FieldType type) {
     case VT_UI8:
         return std::int64_t{Variant::copyOf(value).as(VT_I8).llVal};
     case VT_R4:
-        return doubleFrom(value.fltVal);
+        return servers::doubleFrom(value.fltVal);
     case VT_R8:
         return value.dblVal;
     case VT_CY:

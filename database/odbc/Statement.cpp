@@ -1,6 +1,7 @@
 #include "database/odbc/Statement.h"
 
 #include "database/odbc/Source.h"
+#include "database/servers/server_values.h"
 
 #include <array>
 
@@ -137,7 +138,7 @@ base::Value Statement::value(SQLUSMALLINT number, const Column& column) {
     case FieldType::floating: {
         if (column.sqlType == SQL_REAL) {
             SQLREAL single = 0;
-            if (read(SQL_C_FLOAT, &single, sizeof(single))) return doubleFrom(single);
+            if (read(SQL_C_FLOAT, &single, sizeof(single))) return servers::doubleFrom(single);
             return base::Null{};
         }
         SQLDOUBLE floating = 0;

@@ -1,10 +1,9 @@
 #include "database/odbc/values.h"
 
+#include "database/servers/server_values.h"
 #include "module/base/text.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstdlib>
 
 namespace tellurix::odbc {
@@ -21,11 +20,6 @@ constexpr SQLSMALLINT momentWithZone = -155;
 constexpr SQLULEN longestLimited = 8000;
 
 constexpr std::size_t mostDigits = 18;
-
-bool isIntegral(FieldType type) {
-    return type == FieldType::tinyInteger || type == FieldType::smallInteger || type == FieldType::integer ||
-           type == FieldType::bigInteger;
-}
 
 [[noreturn]] void failConversion(const std::string& text, std::string_view statement) {
     throw base::DatabaseError(base::DatabaseErrorCategory::conversion,
@@ -93,14 +87,6 @@ base::Decimal decimalFrom(const std::string& text, std::string_view statement) {
     return cut->rounded(cut->scale() - 1);
 }
 
-double doubleFrom(float number) {
-    std::array<char, 32> text{};
-    const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    double value = number;
-    std::from_chars(text.data(), end, value);
-    return value;
-}
-
 base::DateTime momentFrom(const SQL_TIMESTAMP_STRUCT& moment) {
     using namespace std::chrono;
     constexpr SQLUINTEGER halfMillisecond = 500'000;
@@ -160,7 +146,7 @@ void Parameter::setText(const std::string& text, const Column& column) {
                             : base::Decimal::parse(base::trim(text));
     if (number && (type == FieldType::decimal || type == FieldType::floating))
         setNumber(*number, column);
-    else if (number && number->scale() == 0 && isIntegral(type))
+    else if (number && number->scale() == 0 && servers::isIntegral(type))
         value_ = static_cast<SQLBIGINT>(number->units());
     else if (number && number->scale() == 0 && type == FieldType::flag)
         value_ = static_cast<SQLCHAR>(number->units() != 0 ? 1 : 0);

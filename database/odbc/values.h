@@ -29,8 +29,6 @@ std::string textOf(const base::Value& value);
 /// @throws base::DatabaseError (conversion) when 18 digits before the point do not suffice, or it is no
 /// number
 base::Decimal decimalFrom(const std::string& text, std::string_view statement);
-/// The number that the single stands for: 0.1 is 0.1 and not 0.100000001.
-double doubleFrom(float number);
 base::DateTime momentFrom(const SQL_TIMESTAMP_STRUCT& moment);
 SQL_TIMESTAMP_STRUCT timestampFrom(base::DateTime moment);
 

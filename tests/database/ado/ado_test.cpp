@@ -87,6 +87,7 @@ TEST(AdoErrors, AreWhatTheServerReported) {
         {inCommand, {{inCommand, 208, "42S02", "Tabelle"}}, "unknownName: Tabelle (Provider, 208)"},
         {inCommand, {{inCommand, 8114, "42000", "Zahl"}}, "conversion: Zahl (Provider, 8114)"},
         {inCommand, {{inCommand, 1205, "40001", "Opfer"}}, "locked: Opfer (Provider, 1205)"},
+        {inCommand, {{inCommand, 1105, "42000", "Voll"}}, "storageFull: Voll (Provider, 1105)"},
         {DB_E_INTEGRITYVIOLATION,
          {{DB_E_INTEGRITYVIOLATION, 2627, "23000", "Doppelt"}, {inCommand, 3621, "01000", "Beendet"}},
          "constraint: Doppelt\nBeendet (Provider, 2627)"},
