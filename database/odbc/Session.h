@@ -28,10 +28,11 @@ public:
     template <typename Work>
     auto send(std::string_view text, std::string_view told, bool repeatable, const Work& work) {
         for (bool again = false;; again = true) {
+            // Rows that cannot be read any more lose the link.
+            takeRowsIntoMemory();
             const bool isNew = link_ == nullptr;
             if (isNew) connect();
             try {
-                takeRowsIntoMemory();
                 return work(std::make_unique<Statement>(link_, text, told, options_.answerTime));
             } catch (const base::DatabaseError& error) {
                 if (error.category() != base::DatabaseErrorCategory::connection) throw;

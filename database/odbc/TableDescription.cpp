@@ -135,8 +135,10 @@ std::shared_ptr<const TableDescription> TableDescription::of(Session& session, c
     Catalogue catalogue{session, query, told};
     auto description = std::make_shared<TableDescription>();
     description->columns = catalogue.columns();
-    // Of one that is not there the query itself says so, better than the catalogue does.
-    if (!description->columns.empty()) description->key = catalogue.key();
+    // Of one that is not there the query itself says so, better than the catalogue does; the next time it may
+    // be there.
+    if (description->columns.empty()) return description;
+    description->key = catalogue.key();
     session.link().tables()[query.table] = description;
     return description;
 }

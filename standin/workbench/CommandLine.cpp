@@ -94,7 +94,7 @@ CommandLine CommandLine::parse(std::span<const std::string> arguments) {
         } else if (argument == "--") {
             optionsEnded = true;
         } else if (takeOption(forBoth, arguments, i)) {
-            if (line.command == Command::help || line.command == Command::version) break;
+            if (line.command == Command::help || line.command == Command::version) return line;
         } else if (takeOption(forServing, arguments, i)) {
             servingOption = argument.substr(0, argument.find('='));
         } else if (takeOption(forSql, arguments, i)) {

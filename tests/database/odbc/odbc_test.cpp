@@ -316,6 +316,9 @@ TEST_F(Odbc, OnlyRowsOfOneTableWithAKeyAreEdited) {
         const std::string failure = failureOf([&] { first_->openUpdatable(one.query); });
         EXPECT_TRUE(failure.starts_with(one.failure)) << one.query << ": " << failure;
     }
+    // What was not there may be there the next time.
+    second_->execute("CREATE TABLE NIRGENDS (ID int PRIMARY KEY, N int)");
+    EXPECT_TRUE(first_->openUpdatable("SELECT * FROM NIRGENDS")->atEnd());
 }
 
 TEST_F(Odbc, ALockIsWaitedForAsLongAsTheSessionSaysAndTheConnectionLivesOn) {

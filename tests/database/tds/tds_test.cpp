@@ -115,6 +115,18 @@ TEST_F(TdsDriver, ALostConnectionIsToldByAWriteAndMadeAnewByTheNextStatement) {
     // What is compared is read anew; then the row is written.
     row->update();
     EXPECT_EQ(answer(*connection, "SELECT N FROM L"), "3");
+    // Rows that were still on their way are lost with it; the next query is not.
+    for (int doubled = 0; doubled < 6; ++doubled)
+        connection->execute("INSERT INTO L (N) SELECT N FROM L");
+    const auto rows = connection->execute("SELECT A.N FROM L A, L B, L C").rows;
+    EXPECT_FALSE(rows->atEnd());
+    lose();
+    EXPECT_EQ(answer(*connection, "SELECT COUNT(*) FROM L"), "64");
+    const std::string half = failureOf([&] {
+        while (!rows->atEnd())
+            rows->moveNext();
+    });
+    EXPECT_TRUE(half.starts_with("connection: ")) << half;
     lose();
     EXPECT_TRUE(
         failureOf([&] { connection->execute("SET NOCOUNT ON SELECT 1"); }).starts_with("connection: "));

@@ -35,6 +35,9 @@ TEST(CommandLineParsing, TakesEveryOption) {
     EXPECT_EQ(sql.command, CommandLine::Command::sql);
     EXPECT_TRUE(sql.emptyDatabase);
     EXPECT_EQ(sql.texts, (std::vector<std::string>{"A", "-- B", "--empty"}));
+    // Who asks for help gets it, whatever stands before.
+    EXPECT_EQ(parse({"--port", "1", "--help"}).command, CommandLine::Command::help);
+    EXPECT_EQ(parse({"--empty", "--version", "more"}).command, CommandLine::Command::version);
 }
 
 TEST(CommandLineParsing, RefusesWhatMeansNothing) {
