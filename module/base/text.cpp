@@ -96,6 +96,13 @@ std::string replaceAll(std::string text, std::string_view from, std::string_view
     return text;
 }
 
+std::string joined(const std::vector<std::string>& texts, std::string_view between) {
+    std::string all;
+    for (const std::string& text : texts)
+        all.append(all.empty() ? std::string_view{} : between).append(text);
+    return all;
+}
+
 std::string filled(std::string text, const std::vector<std::string>& values) {
     std::size_t from = 0;
     for (const std::string& value : values) {

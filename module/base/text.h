@@ -23,6 +23,9 @@ std::string_view trim(std::string_view text);
 /// Every `from` replaced by `to`.
 std::string replaceAll(std::string text, std::string_view from, std::string_view to);
 
+/// The texts one behind the other, with something between them.
+std::string joined(const std::vector<std::string>& texts, std::string_view between);
+
 /// Puts the values in the places of the "{}" in a text, from left to right.
 std::string filled(std::string text, const std::vector<std::string>& values);
 

@@ -148,7 +148,7 @@ int F_HeaderVertrag::Run(const host::TlxVar& session, std::int32_t contract) {
     session_ = session;
     contract_ = contract;
     takenOver_.clear();
-    saved_ = cancelled_ = false;
+    saved_ = false;
     for (std::size_t i = 0; i < txtKopf.size(); ++i)
         txtKopf[i].setMaxLength(services_.columnWidth.of(session_, "VERTRAEGE", numbered("KOPF", i)));
     homeCurrency_ = session.homeCurrency;
@@ -160,8 +160,7 @@ int F_HeaderVertrag::Run(const host::TlxVar& session, std::int32_t contract) {
 }
 
 void F_HeaderVertrag::setCaptions() {
-    const std::string name = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
-                                                            " ID_VERTRAG = " + std::to_string(contract_));
+    const std::string name = parts::contractName(services_, session_, contract_);
     parts::localizeWithTitle(services_, session_, *this, screenCaption, name);
     const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
     const auto caption = [this](ui::Label& label, int number) {
@@ -248,17 +247,17 @@ void F_HeaderVertrag::save() {
     updateContract(*session_.connection, updateStatement(), contract_);
     takenOver_ = row_.takenOver();
     saved_ = true;
+    changes_.forget();
     unload();
 }
 
 void F_HeaderVertrag::cancel() {
-    cancelled_ = true;
+    changes_.forget();
     unload();
 }
 
 bool F_HeaderVertrag::queryUnload() {
-    return saved_ || cancelled_ || !changes_.any() ||
-           parts::confirmed(services_.display, base::ownText(base::OwnText::closeChanged, session_.language));
+    return !changes_.any() || parts::confirmed(services_, session_, base::OwnText::closeChanged);
 }
 
 } // namespace tellurix::contract

@@ -59,7 +59,6 @@ private:
     std::string takenOver_;
     parts::EnteredChanges changes_;
     bool saved_ = false;
-    bool cancelled_ = false; ///< on purpose: the window closes without a question
 
     ui::Frame frmDates{*this, "frmDates", "Termine"};
     ui::Label lblVertragsDatum{*this, "lblVertragsDatum", "Vertragsdatum*"};

@@ -101,8 +101,7 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     newContract_ = newVertrag;
     btnLieferprofil_WVO.setVisible(true);
 
-    name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
-                                           " ID_VERTRAG = " + std::to_string(id_));
+    name_ = parts::contractName(services_, session_, id_);
     additionalTexts_.open(openContract());
     takeOver_.open(openContract());
     if (newContract_) {
@@ -332,9 +331,7 @@ void F_Vertrag::save() {
 bool F_Vertrag::queryUnload() {
     if (newContract_ && notYetSaved_) {
         const std::string question = services_.localizer.text(host::textNumber::discardContract, session_);
-        if (parts::ShowMessage(services_.display, question, ui::box::yesNo | ui::box::defaultButton2) !=
-            ui::Answer::yes)
-            return false;
+        if (!parts::confirmed(services_.display, question, 0)) return false;
         const ui::BusyPointer busy{services_.display};
         discardContract(*session_.connection, id_);
         releaseLineScreens();

@@ -183,7 +183,7 @@ void TakeOverFrame::takeOver() {
         refuse(txtVertrag, services().localizer.text(host::textNumber::invalidEntry, contract_.session));
         return;
     }
-    if (!nameOf(contract_.id)) throw base::Refused{OwnText::contractIsGone};
+    contract_.requirePresent();
     if (!resolveSource()) return;
     const std::int32_t source = base::wholeNumber<std::int32_t>(source_.key).value();
     lines::TakeOver lines{contract_.connection(), source, contract_.id};

@@ -356,23 +356,27 @@ void F_Abschlag::chooseModel() {
     if (index == ui::ItemList::none) return;
     const ui::ItemList::Item chosen = CmbModel.items()[static_cast<std::size_t>(index)];
     if (chosen.text == model_) return;
-    const bool replaces = !typed_ || confirmed(OwnText::replaceByModel, {chosen.text});
+    const bool replaces =
+        !typed_ || parts::confirmed(services_, session_, OwnText::replaceByModel, {chosen.text});
     if (!replaces) {
         showModel();
         return;
     }
-    try {
-        if (chosen.itemData != notKept)
+    if (chosen.itemData != notKept) {
+        try {
             services_.models.copy(session_, category(host::moduleState().context.F_Main.get()),
                                   static_cast<std::int32_t>(chosen.itemData), *this);
-    } catch (...) {
-        showModel();
-        throw;
+        } catch (...) {
+            showModel();
+            throw;
+        }
+        // The lines that something could be put back into are gone.
+        undo_.forget();
     }
     model_ = chosen.text;
     changed_ = true;
     typed_ = false;
-    status().say(base::ownText(OwnText::modelTaken, session_.language, {model_}));
+    undo_.say(base::ownText(OwnText::modelTaken, session_.language, {model_}));
 }
 
 void F_Abschlag::manageModels() {
@@ -410,10 +414,6 @@ void F_Abschlag::setLines(const host::CalculationLines& lines) {
     table_.refresh();
 }
 
-bool F_Abschlag::confirmed(OwnText question, const std::vector<std::string>& values) {
-    return parts::confirmed(services_.display, base::ownText(question, session_.language, values));
-}
-
 void F_Abschlag::cancel() {
     // What a failed save has left is asked about like anything that is lost.
     done_ = !partlySaved_;
@@ -423,9 +423,10 @@ void F_Abschlag::cancel() {
 bool F_Abschlag::queryUnload() {
     if (!done_ && changed_) {
         const bool leaves =
-            partlySaved_ ? confirmed(OwnText::closePartlySaved,
-                                     {std::to_string(partlySaved_->lines), std::to_string(partlySaved_->of)})
-                         : confirmed(OwnText::closeChanged);
+            partlySaved_
+                ? parts::confirmed(services_, session_, OwnText::closePartlySaved,
+                                   {std::to_string(partlySaved_->lines), std::to_string(partlySaved_->of)})
+                : parts::confirmed(services_, session_, OwnText::closeChanged);
         if (!leaves) return false;
         done_ = true;
     }

@@ -97,7 +97,6 @@ private:
     host::CalculationLines lines() const override;
     void setLines(const host::CalculationLines& lines) override;
 
-    bool confirmed(base::OwnText question, const std::vector<std::string>& values = {});
     void cancel();
     bool queryUnload() override;
 

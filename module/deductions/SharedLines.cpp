@@ -101,10 +101,6 @@ bool SharedLines::changed(std::size_t line) const {
     return false;
 }
 
-void SharedLines::nameTaken(std::string name) {
-    if (std::ranges::find(takenOver_, name) == takenOver_.end()) takenOver_.push_back(std::move(name));
-}
-
 void SharedLines::takeLine(std::size_t line, const CalculationLine& from) {
     table_.show(line, from);
     shown_[line] = table_.read(line);
@@ -124,7 +120,7 @@ void SharedLines::compareLine(std::size_t line, const CalculationLine& now,
     if (read_.lines[line] == now) return;
     if (!changed(line)) {
         takeLine(line, now);
-        nameTaken(name(line));
+        takenOver_.add(name(line));
     } else if (text(table_.read(line)) == text(now)) {
         read_.lines[line] = now;
     } else if (read_.lines[line].statistic != now.statistic) {
@@ -145,7 +141,7 @@ void SharedLines::compareMembers(std::size_t line, const CalculationLine& now,
         const std::string had = text(member, table_.read(line));
         if (!mine[member]) {
             takeMember(line, member, now);
-            nameTaken(name(line, member));
+            takenOver_.add(name(line, member));
         } else if (had == text(member, now)) {
             copyMember(member, read_.lines[line], now);
         } else {
@@ -158,7 +154,7 @@ void SharedLines::compareModel(const std::string& now, std::vector<InConflict>& 
     if (read_.model == now) return;
     if (model_ == shownModel_) {
         model_ = shownModel_ = read_.model = now;
-        nameTaken(modelName_());
+        takenOver_.add(modelName_());
     } else if (model_ == now) {
         read_.model = now;
     } else {

@@ -8,7 +8,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tellurix::deductions {
@@ -43,7 +42,7 @@ public:
     /// @return false when the user wants to go back: nothing is to be written
     bool settle(const std::function<StoredLines()>& read);
     /// What came from somebody else, in a sentence; empty for nothing.
-    std::string takenOver() const { return parts::takenOverFromOthers(takenOver_, session_.language); }
+    std::string takenOver() const { return takenOver_.sentence(session_.language); }
 
 private:
     /// Something that both have changed.
@@ -61,7 +60,6 @@ private:
     void takeMember(std::size_t line, std::size_t member, const host::CalculationLine& from);
     void takeLine(std::size_t line, const host::CalculationLine& from);
     void answer(const InConflict& conflict, const StoredLines& now, bool theirs);
-    void nameTaken(std::string name);
 
     std::string text(std::size_t member, const host::CalculationLine& line) const;
     std::string text(const host::CalculationLine& line) const;
@@ -78,7 +76,7 @@ private:
     StoredLines read_;             ///< as they were stored
     host::CalculationLines shown_; ///< what the screen made of them
     std::string shownModel_;
-    std::vector<std::string> takenOver_;
+    parts::TakenOver takenOver_;
 };
 
 } // namespace tellurix::deductions

@@ -128,9 +128,7 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     mode_.reset();
     newId_ = noRow;
     undo_.forget();
-    if (shown)
-        name_ = services_.dataAccess.readValue(session_, "VERTRAG_NAME", "VERTRAEGE",
-                                               " ID_VERTRAG = " + std::to_string(contract_));
+    if (shown) name_ = parts::contractName(services_, session_, contract_);
     parts::localizeWithTitle(services_, session_, *this, caption_, shown ? name_ : std::string{});
     prepare(shown);
     loadUnits();
@@ -385,14 +383,11 @@ void LineEditor::say(OwnText text, const std::vector<std::string>& values) {
 
 bool LineEditor::escape() {
     // The button is pressed on purpose; this key may be meant for something else.
-    return viewing() || !changed() ||
-           parts::confirmed(services_.display, base::ownText(OwnText::discardChanges, session_.language));
+    return viewing() || !changed() || parts::confirmed(services_, session_, OwnText::discardChanges);
 }
 
 bool LineEditor::queryUnload() {
-    if (changed() &&
-        !parts::confirmed(services_.display, base::ownText(OwnText::closeUnsaved, session_.language)))
-        return false;
+    if (changed() && !parts::confirmed(services_, session_, OwnText::closeUnsaved)) return false;
     discardNewRow();
     return true;
 }

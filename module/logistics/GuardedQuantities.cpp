@@ -3,6 +3,7 @@
 #include "module/base/StatementText.h"
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
+#include "module/base/text.h"
 #include "module/logistics/quantity_cell.h"
 #include "module/logistics/row_saving.h"
 #include "module/parts/M_Common.h"
@@ -82,6 +83,7 @@ parts::KeyedGrid::Column GuardedQuantities::column(std::string caption, const ch
 void GuardedQuantities::show(std::vector<parts::KeyedRow> rows) {
     cell_.close();
     rows_.show(std::move(rows));
+    pending_.clear();
     screen_.changed();
 }
 
@@ -136,6 +138,7 @@ bool GuardedQuantities::save(host::HostServices& services, const host::TlxVar& s
     const auto now = settle(services, session, present);
     if (!now) return false;
     writeRows(services, session, *now);
+    takenOver_ = pending_.sentence(session.language);
     tellGone(services, session, *now);
     return true;
 }
@@ -146,9 +149,10 @@ std::optional<GuardedQuantities::QuantitiesByKey> GuardedQuantities::settle(host
     const auto captionOf = [this](std::string_view field) {
         return std::ranges::find(rows_.columns(), field, &parts::KeyedGrid::Column::field)->caption;
     };
-    parts::RowMerge merge{services, session};
-    while (true) {
-        QuantitiesByKey now = read(*session.connection, present);
+    QuantitiesByKey now;
+    parts::RowMerge merge{services, session, pending_};
+    const bool settled = merge.settle([&] {
+        now = read(*session.connection, present);
         for (parts::KeyedRow& row : rows_.rows()) {
             const auto found = now.find(row.key());
             if (found == now.end()) continue;
@@ -158,12 +162,8 @@ std::optional<GuardedQuantities::QuantitiesByKey> GuardedQuantities::settle(host
         }
         rows_.redraw();
         screen_.changed();
-        if (merge.settled()) {
-            takenOver_ = merge.takenOver();
-            return now;
-        }
-        if (!merge.ask()) return std::nullopt;
-    }
+    });
+    return settled ? std::optional{std::move(now)} : std::nullopt;
 }
 
 void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxVar& session,
@@ -196,7 +196,8 @@ void GuardedQuantities::tellGone(host::HostServices& services, const host::TlxVa
         if (row.touched() && !present.contains(row.key())) gone.push_back(screen_.nameOf(row));
     }
     if (gone.empty()) return;
-    parts::ShowMessage(services.display, base::ownText(OwnText::rowsGone, session.language, {listed(gone)}),
+    parts::ShowMessage(services.display,
+                       base::ownText(OwnText::rowsGone, session.language, {base::joined(gone, ", ")}),
                        ui::box::exclamation);
 }
 

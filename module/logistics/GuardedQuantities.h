@@ -2,6 +2,7 @@
 
 #include "module/base/date_time.h"
 #include "module/host/services.h"
+#include "module/parts/ConflictQuestion.h"
 #include "module/parts/KeyedGrid.h"
 #include "module/ui/controls/ProgressBar.h"
 #include "module/ui/input/GridEditor.h"
@@ -104,7 +105,8 @@ private:
     ui::ProgressBar& bar_;
     Screen screen_;
     ui::GridEditor cell_;
-    std::string takenOver_; ///< in the last save
+    parts::TakenOver pending_; ///< since the rows were shown
+    std::string takenOver_;    ///< in the last save
 };
 
 } // namespace tellurix::logistics

@@ -1,6 +1,5 @@
 #include "module/logistics/row_saving.h"
 
-#include "module/base/Refused.h"
 #include "module/base/date_format.h"
 
 namespace tellurix::logistics {
@@ -10,17 +9,13 @@ std::string centreStamp(base::DateTime now) {
 }
 
 void stopSaving(host::HostServices& services, const std::exception& error, const std::string& row,
-                std::size_t written, std::size_t changed) {
+                std::size_t written, std::size_t changed,
+                const std::vector<base::Refused::Sentence>& besides) {
     services.errors.report(error);
-    throw base::Refused{
-        {{base::OwnText::savingStopped, {row, std::to_string(written), std::to_string(changed)}}}};
-}
-
-std::string listed(const std::vector<std::string>& names) {
-    std::string list;
-    for (const std::string& name : names)
-        list += (list.empty() ? "" : ", ") + name;
-    return list;
+    std::vector<base::Refused::Sentence> sentences{
+        {base::OwnText::savingStopped, {row, std::to_string(written), std::to_string(changed)}}};
+    sentences.insert(sentences.end(), besides.begin(), besides.end());
+    throw base::Refused{sentences};
 }
 
 } // namespace tellurix::logistics

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/Refused.h"
 #include "module/base/date_time.h"
 #include "module/host/services.h"
 
@@ -19,11 +20,10 @@ std::string centreStamp(base::DateTime now);
 /// Reports what stopped the saving of many rows.
 /// @param row by which a message calls the row that failed
 /// @param written of the `changed` rows
+/// @param besides what else is to be told of the saving
 /// @throws base::Refused always: where it happened and how far the saving came
 [[noreturn]] void stopSaving(host::HostServices& services, const std::exception& error,
-                             const std::string& row, std::size_t written, std::size_t changed);
-
-/// Names for a message, with ", " between them.
-std::string listed(const std::vector<std::string>& names);
+                             const std::string& row, std::size_t written, std::size_t changed,
+                             const std::vector<base::Refused::Sentence>& besides = {});
 
 } // namespace tellurix::logistics

@@ -1,6 +1,7 @@
 #include "module/parts/ConflictQuestion.h"
 
 #include "module/base/own_text.h"
+#include "module/base/text.h"
 
 #include <algorithm>
 
@@ -17,13 +18,16 @@ constexpr std::size_t mostNames = 5;
 
 } // namespace
 
-std::string takenOverFromOthers(const std::vector<std::string>& fields, std::string_view language) {
-    if (fields.empty()) return {};
-    std::string names;
-    for (std::size_t i = 0; i < std::min(fields.size(), mostNames); ++i)
-        names += (names.empty() ? "" : ", ") + fields[i];
-    if (fields.size() > mostNames) names += " …";
-    return base::ownText(OwnText::takenFromOthers, language, {names});
+void TakenOver::add(std::string field) {
+    if (std::ranges::find(fields_, field) == fields_.end()) fields_.push_back(std::move(field));
+}
+
+std::string TakenOver::sentence(std::string_view language) const {
+    if (fields_.empty()) return {};
+    const std::vector<std::string> first(
+        fields_.begin(), fields_.begin() + static_cast<std::ptrdiff_t>(std::min(fields_.size(), mostNames)));
+    return base::ownText(OwnText::takenFromOthers, language,
+                         {base::joined(first, ", ") + (fields_.size() > mostNames ? " …" : "")});
 }
 
 ConflictQuestion::ConflictQuestion(host::HostServices& services, const host::TlxVar& session)
@@ -55,13 +59,12 @@ ConflictQuestion::Answer ConflictQuestion::ask(const std::vector<Conflict>& conf
     btnMeines.setCaption(words(OwnText::saveMine));
     btnDeren.setCaption(words(OwnText::takeTheirs));
     btnZuruck.setCaption(words(OwnText::goBack));
-    std::string differences;
+    std::vector<std::string> differences;
     for (const Conflict& conflict : conflicts)
-        differences +=
-            (differences.empty() ? "" : "\n") +
-            words(OwnText::bothValues, {conflict.field, shown(conflict.mine), shown(conflict.theirs)});
+        differences.push_back(
+            words(OwnText::bothValues, {conflict.field, shown(conflict.mine), shown(conflict.theirs)}));
     txtUnterschiede.setLines(static_cast<int>(std::clamp(conflicts.size() + 1, fewestLines, mostLines)));
-    txtUnterschiede.show(std::move(differences));
+    txtUnterschiede.show(base::joined(differences, "\n"));
     txtUnterschiede.select(0, 0);
     answer_ = Answer::back;
     services_.display.showModal(*this);

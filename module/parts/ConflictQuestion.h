@@ -19,8 +19,17 @@ struct Conflict {
     std::string theirs; ///< what the database has by now
 };
 
-/// The fields that came from somebody else, in a sentence; empty for none. Of many only the first are named.
-std::string takenOverFromOthers(const std::vector<std::string>& fields, std::string_view language);
+/// The fields that came from somebody else, by what the user knows them by.
+class TakenOver {
+public:
+    void add(std::string field);
+    void clear() { fields_.clear(); }
+    /// Empty for none. Of many only the first are named.
+    std::string sentence(std::string_view language) const;
+
+private:
+    std::vector<std::string> fields_; ///< each once
+};
 
 /// Shows what two have changed, and asks whose is to stay. Closing the window goes back.
 class ConflictQuestion final : public ui::Form {

@@ -1,7 +1,5 @@
 #include "module/parts/EditMode.h"
 
-#include "module/ui/Form.h"
-
 #include <utility>
 
 namespace tellurix::parts {

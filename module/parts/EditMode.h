@@ -13,8 +13,7 @@ namespace tellurix::parts {
 /// and what can be used when.
 ///
 /// While an area is looked at, a row can be begun, edited and removed; while one is edited, or a new
-/// one is filled in, it can be saved and cancelled, and nothing else. The save button becomes one of the
-/// window's (see ui::Form).
+/// one is filled in, it can be saved and cancelled, and nothing else.
 class EditMode {
 public:
     enum class State { view, edit, fresh };

@@ -10,9 +10,12 @@ namespace tellurix::parts {
 NumberField::NumberField(ui::TextBox& box, std::string mask, const base::Locale& locale,
                          const std::string& typed)
     : box_(box), mask_(std::move(mask)), locale_(locale) {
-    ui::makeNumberBox(box_, typed.empty() ? mask_ : typed, locale_);
-    // A number of which more can be typed than is shown stays as it was typed.
-    if (!typed.empty()) box_.onLeave = [] { return true; };
+    if (typed.empty()) {
+        ui::makeNumberBox(box_, mask_, locale_);
+    } else {
+        box_.setRightAligned(true);
+        ui::takeNumbers(box_, typed, locale_);
+    }
 }
 
 void NumberField::show(base::Value value) {

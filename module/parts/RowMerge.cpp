@@ -11,7 +11,7 @@ void RowMerge::field(KeyedRow& row, std::string_view field, const base::Value& n
     if (base::sameValue(row.asRead(field), now)) return;
     if (!row.touched(field)) {
         row.refresh(field, now);
-        takenOver_.push_back(name);
+        takenOver_.add(name);
         return;
     }
     const std::string mine = text(row.field(field));
@@ -20,6 +20,14 @@ void RowMerge::field(KeyedRow& row, std::string_view field, const base::Value& n
         row.rebase(field, now);
     } else {
         conflicts_.push_back({&row, std::string{field}, now, {name, mine, theirs}});
+    }
+}
+
+bool RowMerge::settle(const std::function<void()>& compare) {
+    for (;;) {
+        compare();
+        if (settled()) return true;
+        if (!ask()) return false;
     }
 }
 

@@ -16,8 +16,15 @@ namespace tellurix::parts {
 class RowMerge {
 public:
     /// @param session the screen's own copy of the session record
-    RowMerge(host::HostServices& services, const host::TlxVar& session)
-        : services_(services), session_(session) {}
+    /// @param takenOver the fields that come from somebody else are added to it
+    RowMerge(host::HostServices& services, const host::TlxVar& session, TakenOver& takenOver)
+        : services_(services), session_(session), takenOver_(takenOver) {}
+
+    /// Compares until nothing is in conflict: after each answer the rows are read again, because it takes its
+    /// time.
+    /// @param compare reads the rows and brings their fields together
+    /// @return false when the user wants to go back: nothing is to be written
+    bool settle(const std::function<void()>& compare);
 
     /// Brings one field together.
     /// @param now what the database has in it
@@ -28,12 +35,6 @@ public:
 
     /// Whether no field is in conflict.
     bool settled() const { return conflicts_.empty(); }
-    /// Asks about those that are, and does what the answer says. The rows have to be read again then.
-    /// @return false when the user wants to go back: nothing is to be written
-    bool ask();
-
-    /// The fields that came from somebody else, in a sentence; empty for none.
-    std::string takenOver() const { return takenOverFromOthers(takenOver_, session_.language); }
 
 private:
     struct InConflict {
@@ -42,11 +43,13 @@ private:
         base::Value now;
         Conflict shown;
     };
+    /// Asks about the fields in conflict, and does what the answer says.
+    bool ask();
 
     host::HostServices& services_;
     const host::TlxVar& session_;
     std::vector<InConflict> conflicts_;
-    std::vector<std::string> takenOver_;
+    TakenOver& takenOver_;
 };
 
 } // namespace tellurix::parts

@@ -3,7 +3,6 @@
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
 #include "module/base/own_text.h"
-#include "module/parts/ConflictQuestion.h"
 #include "module/parts/typed_text.h"
 #include "module/ui/controls/caption.h"
 
@@ -136,8 +135,7 @@ std::vector<SharedRow::Kept*> SharedRow::inConflict(Fields& now) {
         if (base::sameValue(value, kept.read)) continue;
         if (!changed(kept)) {
             take(kept, now);
-            if (std::ranges::find(takenOver_, kept.field.name()) == takenOver_.end())
-                takenOver_.push_back(kept.field.name());
+            takenOver_.add(kept.field.name());
         } else if (kept.field.mine() == kept.field.theirs(now)) {
             kept.read = std::move(value);
         } else {
@@ -166,10 +164,6 @@ bool SharedRow::settle(const std::function<std::unique_ptr<base::Recordset>()>& 
             }
         }
     }
-}
-
-std::string SharedRow::takenOver() const {
-    return takenOverFromOthers(takenOver_, session_.language);
 }
 
 } // namespace tellurix::parts

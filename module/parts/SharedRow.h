@@ -2,6 +2,7 @@
 
 #include "module/base/database.h"
 #include "module/host/services.h"
+#include "module/parts/ConflictQuestion.h"
 #include "module/parts/LookupBox.h"
 #include "module/parts/NumberField.h"
 #include "module/parts/PersonBox.h"
@@ -11,11 +12,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tellurix::parts {
-
-struct Conflict;
 
 /// The fields of a screen over one row of the database, which others write as well. It fills the controls,
 /// keeps every field as it was read, and before the screen writes brings together what the user and what
@@ -63,7 +63,7 @@ public:
     bool settle(const std::function<std::unique_ptr<base::Recordset>()>& read);
 
     /// The fields that came from somebody else since the row was shown, in a sentence; empty for none.
-    std::string takenOver() const;
+    std::string takenOver() const { return takenOver_.sentence(session_.language); }
 
 private:
     struct Kept {
@@ -78,7 +78,7 @@ private:
     host::HostServices& services_;
     const host::TlxVar& session_;
     std::vector<Kept> fields_;
-    std::vector<std::string> takenOver_;
+    TakenOver takenOver_;
 };
 
 } // namespace tellurix::parts

@@ -2,6 +2,11 @@
 
 namespace tellurix::parts {
 
+std::string contractName(host::HostServices& services, const host::TlxVar& session, std::int32_t contract) {
+    return services.dataAccess.readValue(session, "VERTRAG_NAME", "VERTRAEGE",
+                                         " ID_VERTRAG = " + std::to_string(contract));
+}
+
 void localizeWithTitle(host::HostServices& services, const host::TlxVar& session, ui::Form& form,
                        const std::string& caption, const std::string& contract) {
     form.setTitle(caption);

@@ -4,9 +4,13 @@
 #include "module/host/services.h"
 #include "module/ui/Form.h"
 
+#include <cstdint>
 #include <string>
 
 namespace tellurix::parts {
+
+/// `VERTRAG_NAME`.
+std::string contractName(host::HostServices& services, const host::TlxVar& session, std::int32_t contract);
 
 /// Has the host translate the words of a form, and puts the contract behind the caption that its title
 /// begins with: "Preise – R-2025-001".

@@ -30,4 +30,9 @@ bool confirmed(ui::Display& display, const std::string& question, int icon) {
     return ShowMessage(display, question, ui::box::yesNo + icon + ui::box::defaultButton2) == ui::Answer::yes;
 }
 
+bool confirmed(host::HostServices& services, const host::TlxVar& session, base::OwnText question,
+               const std::vector<std::string>& values) {
+    return confirmed(services.display, base::ownText(question, session.language, values));
+}
+
 } // namespace tellurix::parts

@@ -6,6 +6,7 @@
 #include "module/ui/controls/Label.h"
 
 #include <string>
+#include <vector>
 
 namespace tellurix::parts {
 
@@ -28,5 +29,7 @@ std::string savedText(base::OwnText saved, const std::string& takenOver, const s
 
 /// Asks a question whose No is the default, because Yes loses something.
 bool confirmed(ui::Display& display, const std::string& question, int icon = ui::box::question);
+bool confirmed(host::HostServices& services, const host::TlxVar& session, base::OwnText question,
+               const std::vector<std::string>& values = {});
 
 } // namespace tellurix::parts

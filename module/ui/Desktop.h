@@ -22,7 +22,7 @@ namespace tellurix::ui {
 /// - Alt with a letter presses the button, ticks the box or goes to the field with that access key;
 ///   where several have it, it goes from one to the next. The offer in the status line comes after them.
 /// - Esc closes what is open inside the screen, then presses the cancel button, or closes the window; Ctrl+S
-///   presses the save button, F1 shows the keys of the window.
+///   presses the primary button, F1 shows the keys of the window.
 /// - In a grid a letter goes to the row that begins with it, and Ctrl with Enter is a click on the
 ///   heading of the current column (grid_keys.h has the other keys).
 /// - Characters go through the box's key filter, pasted ones too. A box that a display has edited by

@@ -30,8 +30,6 @@ public:
     /// Does what is offered. The offer is gone then, and the text too, unless something new was said.
     void act();
 
-    /// Counts what was said: a text that is said twice is to be noticed twice.
-    int said() const { return said_; }
     bool dirty() const { return dirty_; }
     /// For displays: it has been drawn as it is now.
     void drawn() { dirty_ = false; }
@@ -40,7 +38,7 @@ private:
     std::string text_;
     std::string action_;
     std::function<void()> act_;
-    int said_ = 0;
+    int said_ = 0; ///< how many texts there were
     bool dirty_ = true;
 };
 

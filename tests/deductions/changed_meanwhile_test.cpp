@@ -177,5 +177,22 @@ TEST_F(DeductionsMeanwhile, AStatisticTakenOutByDelComesBack) {
     });
 }
 
+TEST_F(DeductionsMeanwhile, NothingIsPutBackIntoTheLinesOfAModel) {
+    host.modelLines[0] = {.statistic = 5, .designation = "Fracht", .value = "8.5"};
+    edit(1, [&](User& user) {
+        user.focus("CmbStat(0)");
+        user.key(ui::Key::del);
+        host.display.onMessage("durch das Modell „Eins“ ersetzt", ui::Answer::yes);
+        user.select("CmbModel", 0);
+        const std::string taken = line(user, 0);
+        user.focus("CmbStat(0)");
+        user.key(ui::Key::del);
+        user.pressStatus();
+        EXPECT_EQ(user.status(), "Statistik der Zeile 1 wiederhergestellt.") << "and nothing more to undo";
+        EXPECT_EQ(line(user, 0), taken);
+        user.click("btnAbbrechen");
+    });
+}
+
 } // namespace
 } // namespace tellurix::tests

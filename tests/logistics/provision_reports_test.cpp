@@ -434,6 +434,36 @@ TEST_F(ProvisionReports, KeepWhatOthersHaveDoneMeanwhile) {
     EXPECT_EQ(stored(), "[20 | 4 | 1 | Selbst][22 | 6 | 5 | ][24 | 7 | NULL | NULL][21 | NULL | 2 | ]");
 }
 
+TEST_F(ProvisionReports, ASavingThatStopsTellsWhoseReportIsGone) {
+    edit([&](User& user) {
+        enter(user, 1, confirmed, "2");
+        enter(user, 2, confirmed, "5");
+        host.database.execute("DELETE FROM WVO_BEREITMELDUNG_KW WHERE ID = 2");
+        host.database.failOn("INSERT INTO WVO_BEREITMELDUNG_KW");
+        user.click("btnSpeichern");
+        host.database.failOn("");
+        EXPECT_NE(lastError().find("Jemand anderer hat die Meldung inzwischen gelöscht: Müller Käthe."),
+                  std::string::npos)
+            << lastError();
+        // What is saved now makes a new report of hers, and the user knows it.
+        user.click("btnSpeichern");
+    });
+    EXPECT_EQ(stored(), "[20 | 4 | 3 | Fuhrwerk Reisinger][21 | NULL | 2 | ][22 | NULL | 5 | ]");
+}
+
+TEST_F(ProvisionReports, WhatCameFromAColleagueIsToldThoughTheUserFirstWentBack) {
+    edit([&](User& user) {
+        enter(user, 0, confirmed, "2");
+        host.database.execute(
+            "UPDATE WVO_BEREITMELDUNG_KW SET ZUEG_ZUGESAGT = 7,FRAECHTER_TEXT = 'Bahn' WHERE ID = 1");
+        for (const char* button : {"btnZuruck", "btnMeines"}) {
+            onConflict("Huber Josef, Züge zugesagt – Sie: 2 – inzwischen: 7", button);
+            user.click("btnSpeichern");
+        }
+        EXPECT_NE(user.status().find("Huber Josef, Bemerkung"), std::string::npos) << user.status();
+    });
+}
+
 TEST_F(ProvisionReports, WhatBothHaveChangedIsAskedAbout) {
     struct Case {
         const char* rule;

@@ -379,18 +379,19 @@ void CalendarArea::save() {
     undo_.say(parts::savedText(OwnText::saved, taken, contract_.session.language));
 }
 
-void CalendarArea::discard() {
-    if (mode_.state() != parts::EditMode::State::fresh || editedKey_ == 0) return;
-    // A row that a failed save has left without values.
+bool CalendarArea::removeUnfinished() {
+    if (mode_.state() != parts::EditMode::State::fresh || editedKey_ == 0) return false;
     contract_.connection().execute(statements_.remove(editedKey_));
     editedKey_ = 0;
+    return true;
+}
+
+void CalendarArea::discard() {
+    removeUnfinished();
 }
 
 void CalendarArea::cancel() {
-    if (mode_.state() == parts::EditMode::State::fresh && editedKey_ != 0) {
-        discard();
-        reload(std::nullopt);
-    }
+    if (removeUnfinished()) reload(std::nullopt);
     clearBoxes();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(DataGridKalendar);

@@ -57,6 +57,8 @@ private:
     void edit(parts::EditMode::State state, std::int64_t key);
     void save();
     void cancel();
+    /// Removes the row that a failed save has left without values. @return whether there was one
+    bool removeUnfinished();
     void removeWeek();
     void generate();
     /// @return what is said then

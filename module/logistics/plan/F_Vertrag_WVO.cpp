@@ -87,17 +87,19 @@ void F_Vertrag_WVO::SetButtons() {
 bool F_Vertrag_WVO::queryUnload() {
     const auto all = areas();
     if (std::ranges::any_of(all, [](const Area* area) { return area->changed(); }) &&
-        !parts::confirmed(services_.display, base::ownText(OwnText::closeChanged, session_.language)))
+        !parts::confirmed(services_, session_, OwnText::closeChanged))
         return false;
-    try {
-        for (Area* area : all) {
-            area->discard();
-            area->saveColumns();
+    // What fails here is no reason to stay.
+    const auto ofAll = [&](void (Area::*act)()) {
+        try {
+            for (Area* area : all)
+                (area->*act)();
+        } catch (const std::exception& error) {
+            services_.errors.report(error);
         }
-    } catch (const std::exception& error) {
-        // Widths that could not be kept are no reason to stay.
-        services_.errors.report(error);
-    }
+    };
+    ofAll(&Area::discard);
+    ofAll(&Area::saveColumns);
     settings_.warnOnClosing();
     return true;
 }

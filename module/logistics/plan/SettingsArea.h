@@ -48,7 +48,7 @@ private:
     bool datesAreThere();
     void warnOfMissingUnit();
     void chooseDocument();
-    /// @throws ui::RefusedInput when no statement can carry a text
+    /// Both throw ui::RefusedInput when no statement can carry a text.
     std::string original();
     std::string updateStatement(const std::string& original);
     void forgetLogisticsProcess();

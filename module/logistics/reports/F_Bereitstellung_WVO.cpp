@@ -167,6 +167,7 @@ void F_Bereitstellung_WVO::reload() {
     week_ = chosen;
     statements_ = statements;
     table_.show(std::move(rows), week_.chosen());
+    takenOver_.clear();
     loaded_ = choice();
     mode_.enter(parts::EditMode::State::view);
     showSums();
@@ -199,23 +200,24 @@ void F_Bereitstellung_WVO::cancel() {
 }
 
 void F_Bereitstellung_WVO::save() {
-    ProvisionSaving saving{services_, session_, statements_, table_};
+    ProvisionSaving saving{services_, session_, statements_, table_, takenOver_};
     try {
         if (!saving.write(pgbSpeichern)) return showSums();
     } catch (...) {
         showSums();
         throw;
     }
-    if (const auto gone = saving.gone(); !gone.empty()) {
+    const auto besides = saving.besides();
+    if (saving.someAreGone()) {
         showSums();
-        throw base::Refused{{{OwnText::reportsGone, {listed(gone)}}}};
+        throw base::Refused{besides};
     }
-    const auto notTaken = saving.notTaken();
+    const std::string takenOver = takenOver_.sentence(session_.language);
     reload();
     parts::SafeSetFocus(MSFG);
-    status().say(parts::savedText(OwnText::saved, saving.takenOver(), session_.language));
-    if (!notTaken.empty())
-        parts::ShowMessage(services_.display, own(OwnText::reportsNotTaken, {listed(notTaken)}),
+    status().say(parts::savedText(OwnText::saved, takenOver, session_.language));
+    if (!besides.empty())
+        parts::ShowMessage(services_.display, base::Refused{besides}.message(session_.language),
                            ui::box::exclamation);
 }
 
@@ -227,11 +229,11 @@ void F_Bereitstellung_WVO::exportTable(bool internal) {
 }
 
 bool F_Bereitstellung_WVO::escape() {
-    return !table_.hasTyped() || parts::confirmed(services_.display, own(OwnText::discardChanges));
+    return !table_.hasTyped() || parts::confirmed(services_, session_, OwnText::discardChanges);
 }
 
 bool F_Bereitstellung_WVO::queryUnload() {
-    return !table_.hasTyped() || parts::confirmed(services_.display, own(OwnText::closeChanged));
+    return !table_.hasTyped() || parts::confirmed(services_, session_, OwnText::closeChanged);
 }
 
 } // namespace tellurix::logistics

@@ -4,6 +4,7 @@
 #include "module/host/ReportScreen.h"
 #include "module/logistics/reports/ProvisionStatements.h"
 #include "module/logistics/reports/ProvisionTable.h"
+#include "module/parts/ConflictQuestion.h"
 #include "module/parts/EditMode.h"
 #include "module/parts/LookupBox.h"
 #include "module/ui/Form.h"
@@ -99,6 +100,7 @@ private:
     parts::LookupBox contractBox_;
     parts::LookupBox weekBox_;
     ProvisionTable table_;
+    parts::TakenOver takenOver_; ///< since the table was shown
     parts::EditMode mode_;
 };
 

@@ -145,9 +145,7 @@ void F_VertragMengenmeldung_WVO::save() {
 }
 
 bool F_VertragMengenmeldung_WVO::escape() {
-    return !quantities_.changed() ||
-           parts::confirmed(services_.display,
-                            base::ownText(base::OwnText::discardChanges, session_.language));
+    return !quantities_.changed() || parts::confirmed(services_, session_, base::OwnText::discardChanges);
 }
 
 void F_VertragMengenmeldung_WVO::cancel() {
@@ -163,7 +161,7 @@ void F_VertragMengenmeldung_WVO::exportListings() {
 
 bool F_VertragMengenmeldung_WVO::queryUnload() {
     if (!quantities_.changed()) return true;
-    return parts::confirmed(services_.display, base::ownText(base::OwnText::closeChanged, session_.language));
+    return parts::confirmed(services_, session_, base::OwnText::closeChanged);
 }
 
 } // namespace tellurix::logistics

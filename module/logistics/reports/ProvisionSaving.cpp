@@ -1,5 +1,6 @@
 #include "module/logistics/reports/ProvisionSaving.h"
 
+#include "module/base/text.h"
 #include "module/logistics/row_saving.h"
 #include "module/parts/ShownProgress.h"
 
@@ -7,6 +8,7 @@
 
 namespace tellurix::logistics {
 
+using base::OwnText;
 using parts::KeyedRow;
 using parts::KeyedRows;
 
@@ -20,20 +22,15 @@ bool isEmpty(KeyedRow& row) {
 } // namespace
 
 bool ProvisionSaving::settle() {
-    while (true) {
+    return merge_.settle([this] {
         goneRows_ = table_.refresh(
             KeyedRows::read(*session_.connection, statements_.reports(), reportField::report).rows, merge_);
-        if (merge_.settled()) return true;
-        if (!merge_.ask()) return false;
-    }
+    });
 }
 
 bool ProvisionSaving::write(ui::ProgressBar& bar) {
     table_.requireCarriers();
     if (!settle()) return false;
-    for (KeyedRow* row : goneRows_)
-        gone_.push_back(ProvisionTable::nameOf(*row));
-
     const int changed = table_.changed();
     parts::ShownProgress progress{services_.display, bar, static_cast<int>(table_.rows().size())};
     for (KeyedRow& row : table_.rows()) {
@@ -45,7 +42,7 @@ bool ProvisionSaving::write(ui::ProgressBar& bar) {
             table_.redraw();
             stopSaving(services_, error, ProvisionTable::nameOf(row),
                        static_cast<std::size_t>(changed - table_.changed()),
-                       static_cast<std::size_t>(changed));
+                       static_cast<std::size_t>(changed), besidesFailure());
         }
         row.settle();
     }
@@ -70,6 +67,26 @@ void ProvisionSaving::writeRow(KeyedRow& row) {
     const auto result = session_.connection->execute(ProvisionStatements::change(row, services_.clock.now()));
     // The batches of this screen have the server count nothing, for the rest of the session.
     if (result.rowsAffected < 1 && row.touched()) uncertain_.push_back(&row);
+}
+
+std::vector<base::Refused::Sentence> ProvisionSaving::besides() {
+    std::vector<std::string> gone;
+    for (KeyedRow* row : goneRows_)
+        gone.push_back(ProvisionTable::nameOf(*row));
+    const std::vector<std::string> refused = notTaken();
+    std::vector<base::Refused::Sentence> sentences;
+    if (!gone.empty()) sentences.push_back({OwnText::reportsGone, {base::joined(gone, ", ")}});
+    if (!refused.empty()) sentences.push_back({OwnText::reportsNotTaken, {base::joined(refused, ", ")}});
+    return sentences;
+}
+
+std::vector<base::Refused::Sentence> ProvisionSaving::besidesFailure() {
+    try {
+        return besides();
+    } catch (const std::exception&) {
+        // Nothing can be asked any more; what stopped the saving is told.
+        return {};
+    }
 }
 
 std::vector<std::string> ProvisionSaving::notTaken() {

@@ -61,7 +61,8 @@ public:
     /// is overwritten. A report that has come meanwhile belongs to its helper's row.
     /// @param now the week's reports
     /// @param merge is told of what both the user and somebody else have changed
-    /// @return the rows with typed values whose report is gone; they have none from now on
+    /// @return the rows with typed values whose report is gone; once nothing is in conflict they have none
+    /// any more
     std::vector<parts::KeyedRow*> refresh(std::vector<parts::KeyedRow> now, parts::RowMerge& merge);
 
     /// All rows for a spreadsheet (see KeyedGrid::text).
