@@ -19,11 +19,11 @@ Link::Link(const Source& source, std::chrono::seconds patience) : source_(source
                                                nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
     connected_ = SQL_SUCCEEDED(result);
     if (connected_) return;
-    const Report report = reportOf(SQL_HANDLE_DBC, connection_);
+    const Report report = this->report(SQL_HANDLE_DBC, connection_);
     free();
     throw base::DatabaseError(base::DatabaseErrorCategory::connection,
                               "The database server cannot be reached (" + source.description() +
-                                  "): " + source.withoutSecrets(report.text),
+                                  "): " + report.text,
                               {}, base::DatabaseError::noPosition, report.number, report.state);
 }
 
@@ -35,6 +35,12 @@ void Link::free() {
     if (connected_) SQLDisconnect(connection_);
     if (connection_ != SQL_NULL_HDBC) SQLFreeHandle(SQL_HANDLE_DBC, connection_);
     SQLFreeHandle(SQL_HANDLE_ENV, environment_);
+}
+
+Report Link::report(SQLSMALLINT handleType, SQLHANDLE handle) const {
+    Report report = reportOf(handleType, handle);
+    report.text = source_.withoutSecrets(std::move(report.text));
+    return report;
 }
 
 bool Link::isLost() const {

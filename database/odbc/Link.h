@@ -23,7 +23,8 @@ public:
     Link& operator=(const Link&) = delete;
 
     SQLHDBC handle() const { return connection_; }
-    const Source& source() const { return source_; }
+    /// What was said about the last call on one of its handles, without the secrets of the source.
+    Report report(SQLSMALLINT handleType, SQLHANDLE handle) const;
 
     /// Whether the driver knows that nothing can be sent any more. It asks nobody, so a server that went
     /// away a moment ago is not missed yet.

@@ -23,10 +23,7 @@ base::ExecuteResult OdbcConnection::execute(std::string_view statement) {
                 if (const std::int64_t count = running->rowCount(); count >= 0) result.rowsAffected = count;
                 continue;
             }
-            std::vector<std::vector<base::Value>> rows;
-            while (running->fetch())
-                rows.push_back(running->row(columns));
-            result.rows = std::make_unique<OdbcRecordset>(text, columns, std::move(rows));
+            result.rows = std::make_unique<OdbcRecordset>(text, columns, running->rows(columns));
         } while (running->nextAnswer());
         return std::move(result);
     });

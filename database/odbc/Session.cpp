@@ -36,12 +36,10 @@ void Session::setOptions() {
     }
 }
 
-/// The first field of the first row.
 base::Value Session::answerOf(const std::string& question) {
     Statement statement{link_, question, question, options_.answerTime};
     statement.execute();
-    const std::vector<Column> columns = statement.columns();
-    return statement.fetch() ? statement.row(columns).at(0) : base::Value{};
+    return statement.firstField();
 }
 
 /// Some servers accept the options without effect. Every date that the module writes would be another one, or
@@ -70,8 +68,7 @@ std::string Session::schema() {
     return send(options_.rules.schemaQuestion, options_.rules.schemaQuestion, true,
                 [](const std::unique_ptr<Statement>& statement) {
                     statement->execute();
-                    const std::vector<Column> columns = statement->columns();
-                    return statement->fetch() ? textOf(statement->row(columns).at(0)) : std::string{};
+                    return textOf(statement->firstField());
                 });
 }
 

@@ -17,9 +17,8 @@ Statement::Statement(std::shared_ptr<Link> link, std::string_view text, std::str
                      std::chrono::seconds answerTime)
     : link_(std::move(link)), text_(text), told_(told) {
     if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_STMT, link_->handle(), &handle_)))
-        throw base::DatabaseError(
-            base::DatabaseErrorCategory::connection,
-            link_->source().withoutSecrets(reportOf(SQL_HANDLE_DBC, link_->handle()).text), told_);
+        throw base::DatabaseError(base::DatabaseErrorCategory::connection,
+                                  link_->report(SQL_HANDLE_DBC, link_->handle()).text, told_);
     if (answerTime.count() > 0)
         SQLSetStmtAttrW(handle_, SQL_ATTR_QUERY_TIMEOUT, attribute(static_cast<SQLULEN>(answerTime.count())),
                         0);
@@ -31,8 +30,7 @@ Statement::~Statement() {
 
 void Statement::check(SQLRETURN result) {
     if (SQL_SUCCEEDED(result)) return;
-    Report report = reportOf(SQL_HANDLE_STMT, handle_);
-    report.text = link_->source().withoutSecrets(std::move(report.text));
+    const Report report = link_->report(SQL_HANDLE_STMT, handle_);
     base::DatabaseError error = databaseError(report, told_);
     // Some drivers first say no more than that something has happened.
     if (error.category() != base::DatabaseErrorCategory::connection && link_->isLost())
@@ -107,6 +105,18 @@ std::vector<base::Value> Statement::row(const std::vector<Column>& columns) {
     for (const Column& column : columns)
         values.push_back(value(static_cast<SQLUSMALLINT>(values.size() + 1), column));
     return values;
+}
+
+std::vector<std::vector<base::Value>> Statement::rows(const std::vector<Column>& columns) {
+    std::vector<std::vector<base::Value>> rows;
+    while (fetch())
+        rows.push_back(row(columns));
+    return rows;
+}
+
+base::Value Statement::firstField() {
+    const std::vector<Column> answered = columns();
+    return fetch() ? row(answered).at(0) : base::Value{};
 }
 
 base::Value Statement::value(SQLUSMALLINT number, const Column& column) {

@@ -41,6 +41,10 @@ public:
     bool fetch();
     /// @param columns those of the answer
     std::vector<base::Value> row(const std::vector<Column>& columns);
+    /// All rows of the present answer that have not been fetched.
+    std::vector<std::vector<base::Value>> rows(const std::vector<Column>& columns);
+    /// The first field of the first row of the present answer; NULL when it has none.
+    base::Value firstField();
     /// On to the next answer.
     /// @return false when there is none
     bool nextAnswer();

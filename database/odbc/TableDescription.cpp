@@ -103,11 +103,7 @@ private:
                 return call(handle, Names{schema.empty() ? nullptr : pointer(schema), pointer(table),
                                           pointer(pattern)});
             });
-            const std::vector<Column> columns = statement->columns();
-            Rows rows;
-            while (statement->fetch())
-                rows.push_back(statement->row(columns));
-            return rows;
+            return statement->rows(statement->columns());
         });
     }
 

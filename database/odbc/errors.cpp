@@ -31,6 +31,14 @@ Category categoryOfState(std::string_view state) {
     return Category::other;
 }
 
+/// By the SQLSTATE; where that says no more than "something is wrong with the statement", by the number of a
+/// T-SQL server. Never by the text, which is in any language.
+Category categoryOf(const Report& report) {
+    const Category category = categoryOfState(report.state);
+    if (category != Category::other) return category;
+    return servers::categoryOfNumber(report.number);
+}
+
 } // namespace
 
 Report reportOf(SQLSMALLINT handleType, SQLHANDLE handle) {
@@ -52,12 +60,6 @@ Report reportOf(SQLSMALLINT handleType, SQLHANDLE handle) {
         const auto held = std::min(static_cast<std::size_t>(length), text.size() - 1);
         report.text += narrow(std::u16string_view{text}.substr(0, held));
     }
-}
-
-Category categoryOf(const Report& report) {
-    const Category category = categoryOfState(report.state);
-    if (category != Category::other) return category;
-    return servers::categoryOfNumber(report.number);
 }
 
 base::DatabaseError databaseError(const Report& report, std::string_view statement) {

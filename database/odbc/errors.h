@@ -18,10 +18,6 @@ struct Report {
 
 Report reportOf(SQLSMALLINT handleType, SQLHANDLE handle);
 
-/// By the SQLSTATE; where that says no more than "something is wrong with the statement", by the number of a
-/// T-SQL server. Never by the text, which is in any language.
-base::DatabaseErrorCategory categoryOf(const Report& report);
-
 base::DatabaseError databaseError(const Report& report, std::string_view statement);
 
 } // namespace tellurix::odbc

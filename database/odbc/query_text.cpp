@@ -95,10 +95,7 @@ bool isName(const Token& token) {
     return !token.word.empty() || token.text.front() == '[' || token.text.front() == '"';
 }
 
-} // namespace
-
-bool isPlainQuery(std::string_view text) {
-    const std::vector<Token> tokens = tokensOf(text);
+bool isPlain(const std::vector<Token>& tokens) {
     if (tokens.empty() || tokens.front().word != "SELECT") return false;
     for (std::size_t index = 1; index < tokens.size(); ++index) {
         const Token& token = tokens[index];
@@ -119,9 +116,15 @@ bool isPlainQuery(std::string_view text) {
     return true;
 }
 
+} // namespace
+
+bool isPlainQuery(std::string_view text) {
+    return isPlain(tokensOf(text));
+}
+
 std::optional<EditedQuery> EditedQuery::read(std::string_view text) {
     const std::vector<Token> tokens = tokensOf(text);
-    if (!isPlainQuery(text)) return {};
+    if (!isPlain(tokens)) return {};
     const auto isOuter = [](const Token& token, std::initializer_list<std::string_view> words) {
         return token.depth == 0 && isOneOf(token.word, words);
     };

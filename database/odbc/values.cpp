@@ -27,6 +27,19 @@ constexpr std::size_t mostDigits = 18;
                               std::string(statement));
 }
 
+SQL_TIMESTAMP_STRUCT timestampFrom(base::DateTime moment) {
+    using namespace std::chrono;
+    const base::Date day = base::dayOf(moment);
+    const hh_mm_ss time{moment - floor<days>(moment)};
+    return {.year = static_cast<SQLSMALLINT>(static_cast<int>(day.year())),
+            .month = static_cast<SQLUSMALLINT>(static_cast<unsigned>(day.month())),
+            .day = static_cast<SQLUSMALLINT>(static_cast<unsigned>(day.day())),
+            .hour = static_cast<SQLUSMALLINT>(time.hours().count()),
+            .minute = static_cast<SQLUSMALLINT>(time.minutes().count()),
+            .second = static_cast<SQLUSMALLINT>(time.seconds().count()),
+            .fraction = static_cast<SQLUINTEGER>(nanoseconds{time.subseconds()}.count())};
+}
+
 } // namespace
 
 FieldType Column::type() const {
@@ -96,19 +109,6 @@ base::DateTime momentFrom(const SQL_TIMESTAMP_STRUCT& moment) {
            milliseconds{(moment.fraction + halfMillisecond) / wholeMillisecond};
 }
 
-SQL_TIMESTAMP_STRUCT timestampFrom(base::DateTime moment) {
-    using namespace std::chrono;
-    const base::Date day = base::dayOf(moment);
-    const hh_mm_ss time{moment - floor<days>(moment)};
-    return {.year = static_cast<SQLSMALLINT>(static_cast<int>(day.year())),
-            .month = static_cast<SQLUSMALLINT>(static_cast<unsigned>(day.month())),
-            .day = static_cast<SQLUSMALLINT>(static_cast<unsigned>(day.day())),
-            .hour = static_cast<SQLUSMALLINT>(time.hours().count()),
-            .minute = static_cast<SQLUSMALLINT>(time.minutes().count()),
-            .second = static_cast<SQLUSMALLINT>(time.seconds().count()),
-            .fraction = static_cast<SQLUINTEGER>(nanoseconds{time.subseconds()}.count())};
-}
-
 Parameter::Parameter(const base::Value& value, const Column& column) : sqlType_(column.sqlType) {
     const FieldType type = column.type();
     if (std::holds_alternative<base::Null>(value)) {
@@ -135,7 +135,7 @@ void Parameter::setNumber(const base::Decimal& number, const Column& column) {
     base::Decimal rounded = number;
     if (column.type() == FieldType::decimal && column.scale >= 0 && column.scale < number.scale())
         rounded = number.rounded(column.scale);
-    value_ = Number{rounded.toString(), mostDigits, static_cast<SQLSMALLINT>(rounded.scale())};
+    value_ = Number{rounded.toString(), static_cast<SQLSMALLINT>(rounded.scale())};
 }
 
 /// What is no number stays a text: the server says what is wrong with it.
@@ -171,7 +171,7 @@ SQLRETURN Parameter::bindTo(SQLHSTMT statement, SQLUSMALLINT number) {
     }
     if (auto* exact = std::get_if<Number>(&value_)) {
         length_ = static_cast<SQLLEN>(exact->text.size());
-        return bind(SQL_C_CHAR, SQL_NUMERIC, exact->digits, exact->scale, exact->text.data());
+        return bind(SQL_C_CHAR, SQL_NUMERIC, mostDigits, exact->scale, exact->text.data());
     }
     if (auto* integer = std::get_if<SQLBIGINT>(&value_))
         return bind(SQL_C_SBIGINT, SQL_BIGINT, 0, 0, integer);

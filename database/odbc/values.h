@@ -26,18 +26,15 @@ std::string textOf(const base::Value& value);
 /// A number as a driver writes it. Decimals that 18 digits have no room for are rounded off, half away from
 /// zero.
 /// @param statement that answered with it
-/// @throws base::DatabaseError (conversion) when 18 digits before the point do not suffice, or it is no
-/// number
+/// @throws base::DatabaseError (conversion) when 18 digits before the point do not suffice, or it is none
 base::Decimal decimalFrom(const std::string& text, std::string_view statement);
 base::DateTime momentFrom(const SQL_TIMESTAMP_STRUCT& moment);
-SQL_TIMESTAMP_STRUCT timestampFrom(base::DateTime moment);
 
 /// A value in the form in which it goes to the server as a parameter, which it lives as long as.
 class Parameter {
 public:
     /// @param column that it goes into or is compared with: numbers are brought to its scale, half away from
-    /// zero,
-    ///        because drivers cut them, and texts that are numbers become numbers
+    ///        zero, because drivers cut them, and texts that are numbers become numbers
     Parameter(const base::Value& value, const Column& column);
 
     /// @return what the driver says
@@ -47,7 +44,6 @@ private:
     struct None {};
     struct Number {
         std::string text;
-        SQLULEN digits;
         SQLSMALLINT scale;
     };
 

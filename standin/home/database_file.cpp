@@ -60,16 +60,13 @@ private:
     fs::path file_;
 };
 
-void fill(base::Connection& connection) {
-    for (const char* script :
-         {"schema.sql", "sample_reference.sql", "sample_contracts.sql", "sample_logistics.sql"}) {
-        embedded::runScript(connection, database_contents::file(script));
-    }
-}
-
 void build(const fs::path& file, DatabaseContents contents, const base::Clock& clock) {
     const embedded::Database database{file, clock, {.create = true}};
-    if (contents == DatabaseContents::sample) fill(*database.connect());
+    if (contents == DatabaseContents::sample) {
+        const auto connection = database.connect();
+        embedded::runScript(*connection, database_contents::file("schema.sql"));
+        fillWithSample(*connection);
+    }
     // Only the file gets a name; where the disk is full it must not be said to be whole.
     database.moveLogIntoFile();
 }
@@ -129,6 +126,11 @@ bool isConnectionString(std::string_view database) {
     if (database.starts_with(serverMark)) return true;
     return base::toUpper(database.substr(0, driver.size())) == driver ||
            (database.find('=') != std::string_view::npos && database.find(';') != std::string_view::npos);
+}
+
+void fillWithSample(base::Connection& connection) {
+    for (const char* script : {"sample_reference.sql", "sample_contracts.sql", "sample_logistics.sql"})
+        embedded::runScript(connection, database_contents::file(script));
 }
 
 fs::path defaultDatabaseFile() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/base/Clock.h"
+#include "module/base/database.h"
 
 #include <filesystem>
 #include <string_view>
@@ -16,6 +17,10 @@ bool isConnectionString(std::string_view database);
 /// Where the database is when nobody says: in the user's data folder, which is made when missing.
 /// @throws std::runtime_error when the user has no home
 std::filesystem::path defaultDatabaseFile();
+
+/// Puts the sample trade into the empty tables of the schema.
+/// @throws base::DatabaseError
+void fillWithSample(base::Connection& connection);
 
 /// What a new database starts with.
 enum class DatabaseContents { nothing, sample };

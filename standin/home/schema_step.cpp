@@ -4,6 +4,7 @@
 #include "database_contents.h"
 #include "module/base/StatementText.h"
 #include "module/base/text.h"
+#include "standin/home/database_file.h"
 
 #include <algorithm>
 #include <charconv>
@@ -156,13 +157,6 @@ void complete(base::Connection& connection, std::string_view schema) {
     connection.execute(version.text());
 }
 
-std::string listed(const std::vector<std::string>& names) {
-    std::string text;
-    for (const std::string& name : names)
-        text += (text.empty() ? "" : ", ") + name;
-    return text;
-}
-
 } // namespace
 
 void addWhatIsMissing(base::Connection& connection) {
@@ -208,12 +202,12 @@ std::vector<std::string> prepare(base::Connection& connection, bool withSample) 
             }
         }
     }
-    if (!made.empty()) said.push_back("made: " + listed(made));
-    if (!present.empty()) said.push_back("there already, and left as they are: " + listed(present));
+    if (!made.empty()) said.push_back("made: " + base::joined(made, ", "));
+    if (!present.empty())
+        said.push_back("there already, and left as they are: " + base::joined(present, ", "));
     if (!withSample) return said;
     if (present.empty()) {
-        for (const char* script : {"sample_reference.sql", "sample_contracts.sql", "sample_logistics.sql"})
-            embedded::runScript(connection, database_contents::file(script));
+        fillWithSample(connection);
         said.emplace_back("filled with the sample trade");
     } else {
         said.emplace_back(

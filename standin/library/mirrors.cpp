@@ -1,5 +1,7 @@
 #include "standin/library/mirrors.h"
 
+#include "com/component/controls/grid_order.h"
+
 namespace tellurix::windows {
 
 BoxMirror::BoxMirror() : Form("mirror") {
@@ -31,26 +33,21 @@ void BoxMirror::write(Dispatch& original) const {
 
 GridMirror::GridMirror(Dispatch& original) : Form("mirror") {
     std::vector<ui::Grid::Column> columns(static_cast<std::size_t>(original.get(L"Cols").integer()));
-    for (std::int32_t i = 0; i < static_cast<std::int32_t>(columns.size()); ++i) {
-        columns[static_cast<std::size_t>(i)].width = original.get(L"ColWidth", {i}).integer();
-        columns[static_cast<std::size_t>(i)].visible = original.get(L"ColVisible", {i}).flag();
-        columns[static_cast<std::size_t>(i)].sized = original.get(L"ColSized", {i}).flag();
-        const std::int32_t order = original.get(L"ColOrder", {i}).integer();
-        columns[static_cast<std::size_t>(i)].order = order == 0  ? ui::Grid::Order::none
-                                                     : order > 0 ? ui::Grid::Order::ascending
-                                                                 : ui::Grid::Order::descending;
+    for (std::int32_t i = 0; ui::Grid::Column & column : columns) {
+        column.width = original.get(L"ColWidth", {i}).integer();
+        column.visible = original.get(L"ColVisible", {i}).flag();
+        column.sized = original.get(L"ColSized", {i}).flag();
+        column.order = orderOf(original.get(L"ColOrder", {i}).integer());
+        ++i;
     }
     grid.setColumns(std::move(columns));
 }
 
 void GridMirror::write(Dispatch& original) const {
     std::int32_t i = 0;
-    for (const ui::Grid::Column& column : grid.columns()) {
-        const std::int32_t order = column.order == ui::Grid::Order::none        ? 0
-                                   : column.order == ui::Grid::Order::ascending ? 1
-                                                                                : -1;
-        original.call(L"SetColumn", {i++, column.width, column.visible, column.sized, order});
-    }
+    for (const ui::Grid::Column& column : grid.columns())
+        original.call(L"SetColumn",
+                      {i++, column.width, column.visible, column.sized, numberOf(column.order)});
 }
 
 ListMirror::ListMirror(Dispatch& original) : Form("mirror") {

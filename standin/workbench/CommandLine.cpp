@@ -2,6 +2,8 @@
 
 #include "standin/home/database_file.h"
 
+#include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace tellurix::standin {
@@ -79,13 +81,16 @@ void CommandLine::takeText(const std::string& argument) {
 
 CommandLine CommandLine::parse(std::span<const std::string> arguments) {
     CommandLine line;
-    const Options forBoth = line.commonOptions();
-    const Options forServing = line.servingOptions();
-    const Options forSql = line.sqlOptions();
-    const Options forPrepare = line.prepareOptions();
-    std::string servingOption;
-    std::string sqlOption;
-    std::string prepareOption;
+    const Options common = line.commonOptions();
+    struct Own {
+        Command command;
+        const char* name;
+        Options options;
+        std::string given = {}; ///< the last one that was
+    };
+    Own own[] = {{Command::serve, "serving", line.servingOptions()},
+                 {Command::sql, "sql", line.sqlOptions()},
+                 {Command::prepare, "prepare", line.prepareOptions()}};
     bool optionsEnded = false;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
@@ -93,25 +98,23 @@ CommandLine CommandLine::parse(std::span<const std::string> arguments) {
             line.takeText(argument);
         } else if (argument == "--") {
             optionsEnded = true;
-        } else if (takeOption(forBoth, arguments, i)) {
+        } else if (takeOption(common, arguments, i)) {
             if (line.command == Command::help || line.command == Command::version) return line;
-        } else if (takeOption(forServing, arguments, i)) {
-            servingOption = argument.substr(0, argument.find('='));
-        } else if (takeOption(forSql, arguments, i)) {
-            sqlOption = argument.substr(0, argument.find('='));
-        } else if (takeOption(forPrepare, arguments, i)) {
-            prepareOption = argument.substr(0, argument.find('='));
+        } else if (const auto taker = std::ranges::find_if(
+                       own, [&](const Own& some) { return takeOption(some.options, arguments, i); });
+                   taker != std::end(own)) {
+            taker->given = argument.substr(0, argument.find('='));
         } else {
             throw UsageError{"unknown option " + argument.substr(0, argument.find('=')) +
                              " (a text that starts with \"-\" goes behind a \"--\")"};
         }
     }
-    if (line.command != Command::serve && !servingOption.empty())
-        throw UsageError{servingOption + " has no meaning for " +
+    for (const Own& some : own) {
+        if (line.command == some.command || some.given.empty()) continue;
+        if (some.command != Command::serve) throw UsageError{some.given + " is for " + some.name + " only"};
+        throw UsageError{some.given + " has no meaning for " +
                          (line.command == Command::sql ? "sql" : "prepare")};
-    if (line.command != Command::sql && !sqlOption.empty()) throw UsageError{sqlOption + " is for sql only"};
-    if (line.command != Command::prepare && !prepareOption.empty())
-        throw UsageError{prepareOption + " is for prepare only"};
+    }
     if (line.command == Command::sql && !line.texts.empty() && !line.textFile.empty())
         throw UsageError{"sql takes texts or --file, not both"};
     return line;

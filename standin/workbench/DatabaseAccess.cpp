@@ -80,9 +80,9 @@ fs::path databaseFile(const CommandLine& line, const base::Clock& clock) {
 
 } // namespace
 
-DatabaseAccess::DatabaseAccess(const CommandLine& line, const odbc::Database::Options& server) {
+DatabaseAccess::DatabaseAccess(const CommandLine& line) {
     if (const std::string source = line.server(); !source.empty()) {
-        server_ = std::make_unique<odbc::Database>(odbc::Source::parse(source), server);
+        server_ = std::make_unique<odbc::Database>(odbc::Source::parse(source));
     } else {
         file_ = std::make_unique<embedded::Database>(databaseFile(line, clock_), clock_);
         addWhatIsMissing(*file_->connect());

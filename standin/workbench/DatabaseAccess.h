@@ -16,9 +16,8 @@ namespace tellurix::standin {
 /// trace file.
 class DatabaseAccess {
 public:
-    /// @param server how sessions of a server are used
     /// @throws std::exception when the database file, what names the server, or the trace file cannot be used
-    explicit DatabaseAccess(const CommandLine& line, const odbc::Database::Options& server = {});
+    explicit DatabaseAccess(const CommandLine& line);
 
     /// A connection of its own, for one session. Any thread may ask for one.
     /// @throws std::exception also when dates are not read with the day first, because every date

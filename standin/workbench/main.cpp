@@ -1,12 +1,13 @@
+#include "standin/home/database_file.h"
 #include "standin/workbench/CommandLine.h"
 #include "standin/workbench/SqlCommand.h"
 #include "standin/workbench/serve.h"
 
 #include <algorithm>
-#include <cstring>
 #include <exception>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -31,15 +32,19 @@ int run(const CommandLine& line) {
     return tellurix::standin::serve(line, std::cout);
 }
 
-} // namespace
-
 /// The list of processes shows every user's command lines to every user; a connection string may have a
 /// password.
 void hideConnectionString(int count, char** arguments) {
-    for (int i = 1; i < count; ++i)
-        if (char* const start = std::strstr(arguments[i], "odbc:"))
-            std::fill(start + std::strlen("odbc:"), start + std::strlen(start), '*');
+    using tellurix::standin::serverMark;
+    for (int i = 1; i < count; ++i) {
+        const std::string_view word{arguments[i]};
+        const std::size_t mark = word.find(serverMark);
+        if (mark != std::string_view::npos)
+            std::fill(arguments[i] + mark + serverMark.size(), arguments[i] + word.size(), '*');
+    }
 }
+
+} // namespace
 
 int main(int count, char** arguments) {
     try {

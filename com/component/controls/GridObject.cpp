@@ -1,5 +1,7 @@
 #include "com/component/controls/GridObject.h"
 
+#include "com/component/controls/grid_order.h"
+
 namespace tellurix::windows {
 
 namespace {
@@ -13,17 +15,6 @@ std::size_t columnNumber(const GridObject& grid, const CallArguments& arguments)
 
 const ui::Grid::Column& columnOf(const GridObject& grid, const CallArguments& arguments) {
     return grid.target().columns()[columnNumber(grid, arguments)];
-}
-
-/// 0 for a column that the rows are not ordered by, 1 upwards, -1 downwards.
-ui::Grid::Order orderOf(std::int32_t number) {
-    return number == 0  ? ui::Grid::Order::none
-           : number > 0 ? ui::Grid::Order::ascending
-                        : ui::Grid::Order::descending;
-}
-
-std::int32_t numberOf(ui::Grid::Order order) {
-    return order == ui::Grid::Order::none ? 0 : order == ui::Grid::Order::ascending ? 1 : -1;
 }
 
 void setColumn(GridObject& grid, const CallArguments& arguments) {

@@ -43,10 +43,7 @@ std::string fileNameOf(const MailMessage& message) {
         if (name.size() == longest) break;
         name += character < 32 || refused.find(character) != refused.npos ? U'_' : character;
     }
-    std::string text;
-    for (const char32_t character : name)
-        text += base::encodeUtf8(character);
-    return std::string{base::trim(text)} + " " + message.id.substr(0, sign) + ".eml";
+    return std::string{base::trim(base::encodeUtf8(name))} + " " + message.id.substr(0, sign) + ".eml";
 }
 
 /// Whether somebody who has the one would take the other for the same once more.

@@ -1,6 +1,7 @@
 // Runs every .test file of this folder and of corpus/ as one test.
 
 #include "database/embedded/script.h"
+#include "module/base/text.h"
 #include "tests/database/embedded/EmbeddedTest.h"
 #include "tests/database/embedded/StatementFile.h"
 
@@ -100,12 +101,7 @@ protected:
     }
     /// A server that writes names in small letters still has the columns that were asked for; one without a
     /// name has one of its own there.
-    static std::string columnName(std::string name) {
-        if (speaksTsql()) return name;
-        std::transform(name.begin(), name.end(), name.begin(),
-                       [](unsigned char character) { return static_cast<char>(std::toupper(character)); });
-        return name;
-    }
+    static std::string columnName(std::string name) { return speaksTsql() ? name : base::toUpper(name); }
 
     /// What the block answers, one line each, in the way that its expectation is written.
     std::vector<std::string> run(const StatementBlock& block) {

@@ -1,6 +1,7 @@
 // Every type of column that the tables of the trade have, at its edges: written in place and by a statement,
 // read back, and compared between the embedded database and a server.
 
+#include "module/base/text.h"
 #include "tests/database/embedded/EmbeddedTest.h"
 
 #include <vector>
@@ -126,12 +127,8 @@ std::vector<Case> cases() {
 
 /// As a statement has it, for the types that differ in their literals from nobody.
 std::string literal(const Value& value) {
-    if (const auto* text = std::get_if<std::string>(&value)) {
-        std::string quoted = "'";
-        for (const char c : *text)
-            quoted += c == '\'' ? "''" : std::string(1, c);
-        return quoted + "'";
-    }
+    if (const auto* text = std::get_if<std::string>(&value))
+        return "'" + base::replaceAll(*text, "'", "''") + "'";
     if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "'1'" : "'0'";
     if (std::holds_alternative<base::DateTime>(value)) {
         std::string text = embedded::written(value);
