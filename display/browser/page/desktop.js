@@ -114,25 +114,25 @@ export class Desktop {
   /** Text that does not come from a key: pasted, dictated, composed, or from a screen keyboard. */
   insert(inserted) {
     const view = this.focused;
-    if (view?.state.kind === 'grid' && view.state.editable) {
-      this.say({ type: 'paste', control: view.state.id, text: inserted });
-    }
-    if (view?.state.kind !== 'text' || view.state.locked) return;
-    if (view.state.filtered) this.paste(inserted);
+    const { kind, locked, filtered, editable } = view?.state ?? {};
+    if (kind === 'grid' && editable) this.paste(inserted);
+    if (kind !== 'text' || locked) return;
+    if (filtered) this.paste(inserted);
     else view.type(inserted);
   }
 
-  /** Text that the session looks at before it comes into the box. */
-  paste(text) {
+  /** Text that the session looks at before it comes into the box, or into the cells. */
+  paste(inserted) {
     this.#saySelection();
-    this.say({ type: 'paste', control: this.focused.state.id, text });
+    this.say({ type: 'paste', control: this.focused.state.id, text: inserted });
   }
 
   sayKey(key) {
     if (!key.code) return;
     this.#saySelection();
     // A column that is made wider or narrower begins at what is seen of it.
-    const width = (key.ctrl && this.focused?.columnWidth?.()) || undefined;
+    const sizes = key.ctrl && ['ArrowLeft', 'ArrowRight'].includes(key.name);
+    const width = (sizes && this.focused?.columnWidth?.()) || undefined;
     this.say({ type: 'key', key: key.code, shift: Boolean(key.shift), ctrl: Boolean(key.ctrl), alt: Boolean(key.alt), width });
   }
 
@@ -172,7 +172,6 @@ export class Desktop {
       element.setAttribute('aria-modal', 'true');
     } else {
       element.setAttribute('role', 'region');
-      element.classList.add('root');
     }
     for (const state of controls) window.views.set(state.id, createView(window, state));
     // It stands beside the control that asked for it.

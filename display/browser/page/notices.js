@@ -12,7 +12,6 @@ export class Notices {
   interrupted(is) {
     if (is === this.blocking) return;
     this.blocking = is;
-    document.body.classList.toggle('interrupted', is);
     this.#banner.replaceChildren(...(is ? [text('interrupted')] : []));
   }
 

@@ -254,7 +254,7 @@ json drawChanges(ui::Form& form) {
 
 json drawStatus(ui::StatusLine& status) {
     status.drawn();
-    return {{"text", status.text()}, {"action", status.action()}, {"said", status.said()}};
+    return {{"text", status.text()}, {"action", status.action()}};
 }
 
 std::vector<ui::Answer> answersOf(int flags) {

@@ -163,8 +163,9 @@ void ColumnPart::setLabelWidth(int width) {
 
 Room GroupsPart::room() const {
     // Which fields are shown changes from one moment to the next, and the widest label with them.
+    const int widest = labelWidth();
     for (const auto& part : children())
-        part->setLabelWidth(labelWidth());
+        part->setLabelWidth(widest);
     return ColumnPart::room();
 }
 

@@ -210,7 +210,7 @@ export class Grid extends View {
 
   #row(index) {
     const row = document.createElement('div');
-    row.className = index % 2 ? 'grid-row even' : 'grid-row';
+    row.className = 'grid-row';
     row.style.setProperty('--at', index);
     row.setAttribute('role', 'row');
     row.setAttribute('aria-rowindex', index + 2);
