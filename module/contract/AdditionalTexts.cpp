@@ -4,8 +4,8 @@
 #include "module/base/own_text.h"
 #include "module/contract/contract_row.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/fields/typed_text.h"
 #include "module/parts/questions.h"
-#include "module/parts/typed_text.h"
 
 namespace tellurix::contract {
 

@@ -7,7 +7,7 @@
 #include "module/contract/header_captions.h"
 #include "module/parts/Assignments.h"
 #include "module/parts/contract_title.h"
-#include "module/parts/date_box.h"
+#include "module/parts/fields/date_box.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
 

@@ -12,7 +12,7 @@
 #include "module/host/text_numbers.h"
 #include "module/logistics/plan/F_Vertrag_WVO.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/grid_layout.h"
+#include "module/parts/grids/grid_layout.h"
 #include "module/parts/questions.h"
 
 namespace tellurix::contract {

@@ -7,7 +7,7 @@
 #include "module/host/services.h"
 #include "module/lines/F_VertragMengen.h"
 #include "module/lines/F_VertragPreise.h"
-#include "module/parts/SharedRow.h"
+#include "module/parts/meanwhile/SharedRow.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/CheckBox.h"

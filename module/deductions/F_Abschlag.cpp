@@ -6,8 +6,8 @@
 #include "module/host/text_numbers.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/contract_title.h"
+#include "module/parts/fields/typed_text.h"
 #include "module/parts/questions.h"
-#include "module/parts/typed_text.h"
 #include "module/ui/controls/caption.h"
 #include "module/ui/input/RefusedInput.h"
 

@@ -2,7 +2,7 @@
 
 #include "module/deductions/LineTable.h"
 #include "module/host/services.h"
-#include "module/parts/ConflictQuestion.h"
+#include "module/parts/meanwhile/ConflictQuestion.h"
 
 #include <cstddef>
 #include <functional>

@@ -2,7 +2,7 @@
 
 #include "module/base/date_format.h"
 #include "module/base/number_format.h"
-#include "module/parts/grid_layout.h"
+#include "module/parts/grids/grid_layout.h"
 
 namespace tellurix::lines {
 

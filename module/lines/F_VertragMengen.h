@@ -3,7 +3,7 @@
 #include "module/lines/DeliveredQuantity.h"
 #include "module/lines/F_OffeneMenge.h"
 #include "module/lines/LineEditor.h"
-#include "module/parts/NumberField.h"
+#include "module/parts/fields/NumberField.h"
 
 #include <string>
 

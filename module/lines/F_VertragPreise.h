@@ -2,7 +2,7 @@
 
 #include "module/lines/LineEditor.h"
 #include "module/lines/PriceChange.h"
-#include "module/parts/NumberField.h"
+#include "module/parts/fields/NumberField.h"
 #include "module/ui/input/GridEditor.h"
 
 #include <memory>

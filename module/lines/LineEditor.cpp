@@ -4,7 +4,7 @@
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/contract_title.h"
-#include "module/parts/grid_layout.h"
+#include "module/parts/grids/grid_layout.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
 

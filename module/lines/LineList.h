@@ -1,8 +1,8 @@
 #pragma once
 
 #include "module/lines/LineStatements.h"
-#include "module/parts/KeyedRow.h"
 #include "module/parts/OpenContract.h"
+#include "module/parts/grids/KeyedRow.h"
 
 #include <memory>
 #include <optional>

@@ -5,7 +5,7 @@
 #include "module/base/number_format.h"
 #include "module/base/own_text.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/typed_text.h"
+#include "module/parts/fields/typed_text.h"
 #include "module/ui/input/number_box.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "module/lines/QuickSelectionBoxes.h"
 
 #include "module/base/text.h"
-#include "module/parts/typed_text.h"
+#include "module/parts/fields/typed_text.h"
 #include "module/ui/controls/caption.h"
 
 namespace tellurix::lines {

@@ -7,8 +7,8 @@
 #include "module/logistics/quantity_cell.h"
 #include "module/logistics/row_saving.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/RowMerge.h"
 #include "module/parts/ShownProgress.h"
+#include "module/parts/meanwhile/RowMerge.h"
 #include "module/ui/input/RefusedInput.h"
 
 #include <algorithm>

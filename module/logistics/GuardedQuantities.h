@@ -2,8 +2,8 @@
 
 #include "module/base/date_time.h"
 #include "module/host/services.h"
-#include "module/parts/ConflictQuestion.h"
-#include "module/parts/KeyedGrid.h"
+#include "module/parts/grids/KeyedGrid.h"
+#include "module/parts/meanwhile/ConflictQuestion.h"
 #include "module/ui/controls/ProgressBar.h"
 #include "module/ui/input/GridEditor.h"
 

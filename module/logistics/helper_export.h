@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/parts/KeyedGrid.h"
+#include "module/parts/grids/KeyedGrid.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "module/parts/Assignments.h"
 
-#include "module/parts/typed_text.h"
+#include "module/parts/fields/typed_text.h"
 
 namespace tellurix::parts {
 

@@ -2,7 +2,7 @@
 
 #include "module/base/StatementText.h"
 #include "module/host/services.h"
-#include "module/parts/NumberField.h"
+#include "module/parts/fields/NumberField.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/TextBox.h"
 

@@ -3,7 +3,7 @@
 #include "module/base/date_format.h"
 #include "module/base/whole_number.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/date_box.h"
+#include "module/parts/fields/date_box.h"
 #include "standin/home/contract_types.h"
 #include "standin/services/pickers/search_keys.h"
 

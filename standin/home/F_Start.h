@@ -1,7 +1,7 @@
 #pragma once
 
-#include "module/parts/KeyedGrid.h"
-#include "module/parts/grid_layout.h"
+#include "module/parts/grids/KeyedGrid.h"
+#include "module/parts/grids/grid_layout.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"

@@ -3,7 +3,7 @@
 #include "module/base/StatementText.h"
 #include "module/base/date_format.h"
 #include "module/host/contract_type.h"
-#include "standin/services/pickers/person_conditions.h"
+#include "standin/services/pickers/persons/person_conditions.h"
 #include "standin/services/texts/words.h"
 
 namespace tellurix::standin {

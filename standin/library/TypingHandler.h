@@ -3,7 +3,7 @@
 #include "com/automation/DispatchObject.h"
 #include "com/session/Session.h"
 #include "standin/library/mirrors.h"
-#include "standin/services/pickers/TypeAheadService.h"
+#include "standin/services/selection/codes/TypeAheadService.h"
 
 namespace tellurix::windows {
 

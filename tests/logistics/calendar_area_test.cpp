@@ -1,5 +1,5 @@
 #include "module/logistics/plan/CalendarArea.h"
-#include "module/parts/KeyedRow.h"
+#include "module/parts/grids/KeyedRow.h"
 #include "tests/logistics/LogisticsTest.h"
 
 namespace tellurix::tests {

@@ -1,5 +1,5 @@
 #include "module/parts/Assignments.h"
-#include "module/parts/date_box.h"
+#include "module/parts/fields/date_box.h"
 #include "module/parts/questions.h"
 #include "module/ui/input/RefusedInput.h"
 #include "tests/support/ContractTest.h"

@@ -1,4 +1,4 @@
-#include "module/parts/KeyedGrid.h"
+#include "module/parts/grids/KeyedGrid.h"
 #include "module/ui/Form.h"
 #include "tests/support/ContractTest.h"
 

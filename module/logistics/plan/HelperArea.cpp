@@ -12,8 +12,8 @@
 #include "module/logistics/row_saving.h"
 #include "module/logistics/serial_mail.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/fields/typed_text.h"
 #include "module/parts/questions.h"
-#include "module/parts/typed_text.h"
 
 #include <exception>
 #include <utility>

@@ -5,9 +5,9 @@
 #include "module/logistics/plan/original_document.h"
 #include "module/parts/Assignments.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/date_box.h"
+#include "module/parts/fields/date_box.h"
+#include "module/parts/fields/typed_text.h"
 #include "module/parts/questions.h"
-#include "module/parts/typed_text.h"
 #include "module/ui/controls/caption.h"
 #include "module/ui/input/time_box.h"
 

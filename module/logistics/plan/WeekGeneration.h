@@ -2,7 +2,7 @@
 
 #include "module/base/database.h"
 #include "module/logistics/plan/CalendarStatements.h"
-#include "module/parts/KeyedRow.h"
+#include "module/parts/grids/KeyedRow.h"
 
 #include <cstddef>
 #include <cstdint>

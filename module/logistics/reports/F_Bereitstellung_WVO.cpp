@@ -7,7 +7,7 @@
 #include "module/logistics/row_saving.h"
 #include "module/logistics/spreadsheet_parameters.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/grid_layout.h"
+#include "module/parts/grids/grid_layout.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
 

@@ -5,7 +5,7 @@
 #include "module/logistics/reports/quantity_listings.h"
 #include "module/logistics/reports/quantity_report_statements.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/grid_layout.h"
+#include "module/parts/grids/grid_layout.h"
 #include "module/parts/questions.h"
 
 namespace tellurix::logistics {

@@ -3,7 +3,7 @@
 #include "module/host/ReportScreen.h"
 #include "module/logistics/GuardedQuantities.h"
 #include "module/parts/EditMode.h"
-#include "module/parts/PersonBox.h"
+#include "module/parts/fields/PersonBox.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Label.h"

@@ -6,7 +6,7 @@
 #include "module/logistics/day_table.h"
 #include "module/logistics/row_saving.h"
 #include "module/logistics/takeover_notes.h"
-#include "module/parts/typed_text.h"
+#include "module/parts/fields/typed_text.h"
 
 namespace tellurix::logistics {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "module/base/date_time.h"
-#include "module/parts/KeyedRow.h"
+#include "module/parts/grids/KeyedRow.h"
 #include "module/ui/controls/TextBox.h"
 
 #include <cstdint>

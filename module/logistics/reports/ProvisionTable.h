@@ -2,8 +2,8 @@
 
 #include "module/base/Refused.h"
 #include "module/logistics/reports/ProvisionStatements.h"
-#include "module/parts/KeyedGrid.h"
-#include "module/parts/RowMerge.h"
+#include "module/parts/grids/KeyedGrid.h"
+#include "module/parts/meanwhile/RowMerge.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/input/GridEditor.h"
 

@@ -3,8 +3,8 @@
 #include "module/base/Refused.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/fields/typed_text.h"
 #include "module/parts/questions.h"
-#include "module/parts/typed_text.h"
 
 #include <algorithm>
 

@@ -5,8 +5,8 @@
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/TextBox.h"
-#include "standin/services/pickers/ChoiceList.h"
 #include "standin/services/selection/SelectionDraft.h"
+#include "standin/services/selection/codes/ChoiceList.h"
 #include "standin/services/selection/selection_words.h"
 
 #include <map>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "module/base/Locale.h"
-#include "standin/services/pickers/ChoiceList.h"
 #include "standin/services/selection/SelectionExpression.h"
+#include "standin/services/selection/codes/ChoiceList.h"
 #include "standin/services/texts/Localizer.h"
 
 #include <string>

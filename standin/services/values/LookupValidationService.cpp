@@ -3,7 +3,7 @@
 #include "module/base/text.h"
 #include "module/parts/questions.h"
 #include "module/ui/Form.h"
-#include "standin/services/pickers/named_lists.h"
+#include "standin/services/pickers/lists/named_lists.h"
 
 namespace tellurix::standin {
 

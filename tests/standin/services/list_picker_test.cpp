@@ -1,4 +1,4 @@
-#include "standin/services/pickers/F_ListPicker.h"
+#include "standin/services/pickers/lists/F_ListPicker.h"
 #include "tests/support/ScriptedDisplay.h"
 
 #include <gtest/gtest.h>

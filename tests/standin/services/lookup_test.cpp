@@ -1,5 +1,5 @@
 #include "module/base/StatementText.h"
-#include "module/parts/LookupBox.h"
+#include "module/parts/fields/LookupBox.h"
 #include "module/ui/Form.h"
 #include "tests/standin/services/ServicesTest.h"
 

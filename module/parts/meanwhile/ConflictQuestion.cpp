@@ -1,0 +1,74 @@
+#include "module/parts/meanwhile/ConflictQuestion.h"
+
+#include "module/base/own_text.h"
+#include "module/base/text.h"
+
+#include <algorithm>
+
+namespace tellurix::parts {
+
+using base::OwnText;
+
+namespace {
+
+constexpr std::size_t fewestLines = 2;
+constexpr std::size_t mostLines = 12;
+
+constexpr std::size_t mostNames = 5;
+
+} // namespace
+
+void TakenOver::add(std::string field) {
+    if (std::ranges::find(fields_, field) == fields_.end()) fields_.push_back(std::move(field));
+}
+
+std::string TakenOver::sentence(std::string_view language) const {
+    if (fields_.empty()) return {};
+    const std::vector<std::string> first(
+        fields_.begin(), fields_.begin() + static_cast<std::ptrdiff_t>(std::min(fields_.size(), mostNames)));
+    return base::ownText(OwnText::takenFromOthers, language,
+                         {base::joined(first, ", ") + (fields_.size() > mostNames ? " …" : "")});
+}
+
+ConflictQuestion::ConflictQuestion(host::HostServices& services, const host::TlxVar& session)
+    : Form("F_Inzwischen"), services_(services), session_(session) {
+    const auto answers = [this](ui::Button& button, Answer answer) {
+        button.onClick = [this, answer] {
+            answer_ = answer;
+            unload();
+        };
+    };
+    answers(btnMeines, Answer::mine);
+    answers(btnDeren, Answer::theirs);
+    answers(btnZuruck, Answer::back);
+    setCancelButton(btnZuruck);
+    txtUnterschiede.setLocked(true);
+    setLayout(ui::column(
+        {lblFrage, ui::Layout{txtUnterschiede}.growing(), ui::row({btnMeines, btnDeren, btnZuruck})}));
+}
+
+ConflictQuestion::Answer ConflictQuestion::ask(const std::vector<Conflict>& conflicts) {
+    const auto words = [this](OwnText text, const std::vector<std::string>& values = {}) {
+        return base::ownText(text, session_.language, values);
+    };
+    const auto shown = [&](const std::string& value) {
+        return value.empty() ? words(OwnText::noValue) : value;
+    };
+    setTitle(words(OwnText::changedMeanwhile));
+    lblFrage.setCaption(words(OwnText::bothChanged));
+    btnMeines.setCaption(words(OwnText::saveMine));
+    btnDeren.setCaption(words(OwnText::takeTheirs));
+    btnZuruck.setCaption(words(OwnText::goBack));
+    std::vector<std::string> differences;
+    for (const Conflict& conflict : conflicts)
+        differences.push_back(
+            words(OwnText::bothValues, {conflict.field, shown(conflict.mine), shown(conflict.theirs)}));
+    txtUnterschiede.setLines(static_cast<int>(std::clamp(conflicts.size() + 1, fewestLines, mostLines)));
+    txtUnterschiede.show(base::joined(differences, "\n"));
+    txtUnterschiede.select(0, 0);
+    answer_ = Answer::back;
+    services_.display.showModal(*this);
+    return answer_;
+}
+
+} // namespace tellurix::parts
