@@ -36,8 +36,9 @@ F_Mail::F_Mail(Draft draft, Words words)
     btnCancel.onClick = [this] { unload(); };
     setCancelButton(btnCancel);
     // Nothing sends by mistake: Ctrl+S, which saves elsewhere, has no button here.
-    setLayout(ui::column({lblKind, grdRecipients, lblCount, ui::field(lblSubject, txtSubject),
-                          ui::field(lblText, txtText), ui::bar({btnSend, btnCancel})}));
+    setLayout(ui::column({lblKind, grdRecipients, lblCount,
+                          ui::fields(1, {ui::field(lblSubject, txtSubject), ui::field(lblText, txtText)}),
+                          ui::bar({btnSend, btnCancel})}));
     showRecipients();
     grdRecipients.setCurrent(0, 1);
 }
