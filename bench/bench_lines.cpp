@@ -255,7 +255,7 @@ void measureCommits() {
         const std::function<net::awaitable<void>()> work = [&] {
             return editPrices(client, workbench, staying, goingOn);
         };
-        net::co_spawn(context, work, [&failure](std::exception_ptr error) { failure = error; });
+        net::co_spawn(context, work, [&failure](const std::exception_ptr& error) { failure = error; });
         context.run();
         if (failure) std::rethrow_exception(failure);
     }

@@ -49,9 +49,10 @@ using Work = std::function<net::awaitable<void>(MeasuredPage&, int)>;
 void together(net::io_context& context, Clients& clients, std::size_t from, const Work& work) {
     std::exception_ptr failure;
     for (std::size_t i = from; i < clients.size(); ++i) {
-        net::co_spawn(context, work(*clients[i], static_cast<int>(i)), [&failure](std::exception_ptr error) {
-            if (error && !failure) failure = error;
-        });
+        net::co_spawn(context, work(*clients[i], static_cast<int>(i)),
+                      [&failure](const std::exception_ptr& error) {
+                          if (error && !failure) failure = error;
+                      });
     }
     context.restart();
     context.run();

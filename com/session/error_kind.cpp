@@ -19,6 +19,10 @@ constexpr std::array databaseKinds{std::pair{syntax, "syntax"},
                                    std::pair{constraint, "constraint"},
                                    std::pair{locked, "locked"},
                                    std::pair{connection, "connection"},
+                                   std::pair{storageFull, "storageFull"},
+                                   std::pair{readOnly, "readOnly"},
+                                   std::pair{damaged, "damaged"},
+                                   std::pair{missing, "missing"},
                                    std::pair{other, "other"}};
 
 } // namespace

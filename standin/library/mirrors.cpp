@@ -1,6 +1,6 @@
 #include "standin/library/mirrors.h"
 
-#include "com/component/controls/grid_order.h"
+#include "com/session/grid_order.h"
 
 namespace tellurix::windows {
 

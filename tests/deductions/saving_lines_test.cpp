@@ -52,20 +52,22 @@ TEST_F(SavingDeductions, WritesEveryLineAnewInTheGivenOrder) {
             "WHERE RECH_NAME  = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V' AND LINE_NUM = 1";
         const std::string read = "SELECT SUBSET_DEF FROM ABSCHLAG WHERE RECH_NAME = '" + name +
                                  "' AND VER_TYPE = 'V' AND LINE_NUM = ";
+        const auto inserted = [](int line) {
+            return "INSERT INTO ABSCHLAG (RECH_NAME,LINE_NUM,VER_TYPE) VALUES ( 'R-2025-002 Lärche Villach' , " +
+                   std::to_string(line) + " , 'V' )";
+        };
         const std::vector<std::string> expected{
             // What a colleague has saved meanwhile.
             "SELECT * FROM ABSCHLAG WHERE RECH_NAME = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V'",
             "DELETE FROM ABSCHLAG WHERE RECH_NAME = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V'",
-            "INSERT INTO ABSCHLAG (RECH_NAME,LINE_NUM,VER_TYPE) VALUES ( 'R-2025-002 Lärche Villach' , 0 , 'V' "
-            ")",
+            inserted(0),
             "UPDATE ABSCHLAG SET STATISTIK = '3' " + at0,
             "UPDATE ABSCHLAG SET BEZEICH = 'Güteabschlag für Käferholz' " + at0,
             "UPDATE ABSCHLAG SET WERT_TEXT = '-12,50' " + at0,
             "UPDATE ABSCHLAG SET WERT_LINE = NULL " + at0,
             "UPDATE ABSCHLAG SET ART_ID = NULL " + at0,
             "UPDATE ABSCHLAG SET SUBSET_DEF = '90 IN (''CX'') ;' " + at0,
-            "INSERT INTO ABSCHLAG (RECH_NAME,LINE_NUM,VER_TYPE) VALUES ( 'R-2025-002 Lärche Villach' , 1 , 'V' "
-            ")",
+            inserted(1),
             "UPDATE ABSCHLAG SET STATISTIK = '13' " + at1,
             "UPDATE ABSCHLAG SET BEZEICH = NULL  " + at1,
             "UPDATE ABSCHLAG SET WERT_TEXT = '2,00' " + at1,

@@ -1,6 +1,6 @@
 #include "com/component/controls/GridObject.h"
 
-#include "com/component/controls/grid_order.h"
+#include "com/session/grid_order.h"
 
 namespace tellurix::windows {
 

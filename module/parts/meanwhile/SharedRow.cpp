@@ -32,7 +32,7 @@ void SharedRow::add(Field field) {
     fields_.push_back({.field = std::move(field), .read = {}, .shown = {}});
 }
 
-void SharedRow::text(ui::TextBox& box, std::string column) {
+void SharedRow::text(ui::TextBox& box, const std::string& column) {
     add({.column = column,
          .name = nameFrom(box),
          .show = [&box, column](Fields& row) { box.show(row.text(column)); },
@@ -41,7 +41,7 @@ void SharedRow::text(ui::TextBox& box, std::string column) {
          .typed = &box});
 }
 
-void SharedRow::date(ui::TextBox& box, std::string column, std::function<std::string()> name) {
+void SharedRow::date(ui::TextBox& box, const std::string& column, std::function<std::string()> name) {
     add({.column = column,
          .name = name ? std::move(name) : nameFrom(box),
          .show = [&box, column](Fields& row) { box.show(base::dateText(row.field(column))); },
@@ -50,7 +50,7 @@ void SharedRow::date(ui::TextBox& box, std::string column, std::function<std::st
          .typed = &box});
 }
 
-void SharedRow::number(NumberField& field, std::string column) {
+void SharedRow::number(NumberField& field, const std::string& column) {
     const base::Locale locale = services_.locale;
     add({.column = column,
          .name = nameFrom(field.box()),
@@ -66,7 +66,7 @@ void SharedRow::number(NumberField& field, std::string column) {
          .typed = &field.box()});
 }
 
-void SharedRow::lookup(LookupBox& box, std::string keyColumn, std::string textColumn) {
+void SharedRow::lookup(LookupBox& box, const std::string& keyColumn, const std::string& textColumn) {
     add({.column = keyColumn,
          .name = nameFrom(box.box()),
          .show = [&box, keyColumn,
@@ -76,8 +76,8 @@ void SharedRow::lookup(LookupBox& box, std::string keyColumn, std::string textCo
          .typed = &box.box()});
 }
 
-void SharedRow::person(PersonBox& box, std::string keyColumn, std::string numberColumn,
-                       std::string nameColumn) {
+void SharedRow::person(PersonBox& box, const std::string& keyColumn, const std::string& numberColumn,
+                       const std::string& nameColumn) {
     const auto both = [](const std::string& number, const std::string& name) {
         return name.empty() ? number : number + " " + name;
     };
@@ -93,7 +93,7 @@ void SharedRow::person(PersonBox& box, std::string keyColumn, std::string number
          .typed = &box.number()});
 }
 
-void SharedRow::flag(ui::CheckBox& box, std::string column) {
+void SharedRow::flag(ui::CheckBox& box, const std::string& column) {
     const auto words = [this](bool ticked) {
         return base::ownText(ticked ? OwnText::ticked : OwnText::notTicked, session_.language);
     };

@@ -42,12 +42,13 @@ public:
         : services_(services), session_(session) {}
 
     /// What controls are called is what their labels say, unless they are given a name.
-    void text(ui::TextBox& box, std::string column);
-    void date(ui::TextBox& box, std::string column, std::function<std::string()> name = {});
-    void number(NumberField& field, std::string column);
-    void lookup(LookupBox& box, std::string keyColumn, std::string textColumn);
-    void person(PersonBox& box, std::string keyColumn, std::string numberColumn, std::string nameColumn);
-    void flag(ui::CheckBox& box, std::string column);
+    void text(ui::TextBox& box, const std::string& column);
+    void date(ui::TextBox& box, const std::string& column, std::function<std::string()> name = {});
+    void number(NumberField& field, const std::string& column);
+    void lookup(LookupBox& box, const std::string& keyColumn, const std::string& textColumn);
+    void person(PersonBox& box, const std::string& keyColumn, const std::string& numberColumn,
+                const std::string& nameColumn);
+    void flag(ui::CheckBox& box, const std::string& column);
     void add(Field field);
 
     /// Shows a row as it was read: nobody has changed anything yet.

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <memory>
 #include <mutex>
 
@@ -29,7 +28,7 @@ struct Outgoing {
 std::size_t readMail(char* buffer, std::size_t size, std::size_t count, void* user) {
     Outgoing& outgoing = *static_cast<Outgoing*>(user);
     const std::size_t length = std::min(size * count, outgoing.text.size() - outgoing.at);
-    std::memcpy(buffer, outgoing.text.data() + outgoing.at, length);
+    outgoing.text.copy(buffer, length, outgoing.at);
     outgoing.at += length;
     outgoing.done = outgoing.at == outgoing.text.size();
     return length;
@@ -91,7 +90,7 @@ void sendByServer(const MailServer& server, const MailMessage& message, const st
     for (const std::string& address : message.recipients) {
         curl_slist* longer = curl_slist_append(recipients.get(), ("<" + address + ">").c_str());
         if (longer == nullptr) throw NotSent{"curl", "", false};
-        recipients.release();
+        static_cast<void>(recipients.release()); // it is the end of the longer list now
         recipients.reset(longer);
     }
     Outgoing outgoing{text};

@@ -1,5 +1,8 @@
 #include "com/automation/AutomationError.h"
 #include "com/automation/wide.h"
+#include "com/session/error_kind.h"
+#include "module/base/Refused.h"
+#include "module/base/database.h"
 #include "standin/windows_host/libraries.h"
 #include "tests/com/component/ComponentClient.h"
 
@@ -66,6 +69,26 @@ TEST(HostLibrary, OffersEveryClassOfItsTypeLibraryAsItStandsThere) {
         ++classes;
     }
     EXPECT_EQ(classes, 23);
+}
+
+TEST(HostLibrary, IsToldEveryKindOfErrorByAWordThatItTurnsBack) {
+    using enum base::DatabaseErrorCategory;
+    for (const base::DatabaseErrorCategory category :
+         {syntax, unknownName, conversion, constraint, locked, connection, storageFull, readOnly, damaged,
+          missing, other}) {
+        const std::string kind = errorKind(base::DatabaseError{category, "text", {}});
+        SCOPED_TRACE(kind);
+        try {
+            std::rethrow_exception(errorOfKind(kind, "text"));
+        } catch (const base::DatabaseError& error) {
+            EXPECT_EQ(error.category(), category);
+        } catch (const std::exception&) {
+            ADD_FAILURE() << "no error of a database";
+        }
+    }
+    EXPECT_EQ(errorKind(base::Refused{"text"}), "refused");
+    EXPECT_THROW(std::rethrow_exception(errorOfKind("refused", "text")), base::Refused);
+    EXPECT_EQ(errorKind(std::runtime_error{"text"}), "");
 }
 
 } // namespace

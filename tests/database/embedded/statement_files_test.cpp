@@ -101,7 +101,9 @@ protected:
     }
     /// A server that writes names in small letters still has the columns that were asked for; one without a
     /// name has one of its own there.
-    static std::string columnName(std::string name) { return speaksTsql() ? name : base::toUpper(name); }
+    static std::string columnName(const std::string& name) {
+        return speaksTsql() ? name : base::toUpper(name);
+    }
 
     /// What the block answers, one line each, in the way that its expectation is written.
     std::vector<std::string> run(const StatementBlock& block) {

@@ -42,9 +42,9 @@ protected:
         changes = form.changes;
         std::string text = form.txtCode.text();
         if (form.focused() == &form.txtCode && form.txtCode.selectionLength() > 0) {
-            text.insert(
-                static_cast<std::size_t>(form.txtCode.selectionStart() + form.txtCode.selectionLength()),
-                "]");
+            text.insert(static_cast<std::size_t>(form.txtCode.selectionStart()) +
+                            static_cast<std::size_t>(form.txtCode.selectionLength()),
+                        "]");
             text.insert(static_cast<std::size_t>(form.txtCode.selectionStart()), "[");
         }
         return text;
@@ -81,7 +81,7 @@ TEST_F(TypeAhead, CompletesBehindTheLastComma) {
 }
 
 TEST_F(TypeAhead, NeverStandsInTheWay) {
-    const auto keys = [](std::vector<Key> pressed) {
+    const auto keys = [](const std::vector<Key>& pressed) {
         return [pressed](User& user) {
             for (const Key key : pressed)
                 user.key(key);
