@@ -13,6 +13,8 @@ namespace {
 
 using windows::Bstr;
 using windows::ComPtr;
+using windows::errorKind;
+using windows::errorOfKind;
 
 /// The names of an interface's members with their numbers.
 std::map<std::wstring, DISPID> membersOf(ITypeInfo& type) {
