@@ -55,7 +55,17 @@ std::string contentsOf(const std::string& path) {
         if (count < 0) throw std::system_error{errno, std::generic_category(), path};
         text.append(part.data(), static_cast<std::size_t>(count));
     }
+    // Some editors write it before a text.
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark)) text.erase(0, byteOrderMark.size());
     return text;
+}
+
+/// The entry is not shown: it may be the end of a password that has a semicolon.
+[[noreturn]] void failEntry() {
+    throw std::runtime_error{
+        "The connection string has an entry that is no NAME=VALUE, or a brace that is not closed; a value with a "
+        "semicolon stands in braces"};
 }
 
 /// A value ends at a semicolon, or at the brace that closes the one it begins with; two of these stand for
@@ -64,23 +74,32 @@ std::vector<Entry> entriesOf(std::string_view text) {
     std::vector<Entry> entries;
     std::size_t at = 0;
     while (at < text.size()) {
-        const std::size_t equals = std::min(text.find('=', at), text.size());
-        Entry entry{base::toUpper(base::trim(text.substr(at, equals - at))), {}, {}};
-        at = std::min(equals + 1, text.size());
+        const std::size_t keyEnd = std::min(text.find_first_of("=;", at), text.size());
+        Entry entry{base::toUpper(base::trim(text.substr(at, keyEnd - at))), {}, {}};
+        at = keyEnd;
+        if (at == text.size() || text[at] == ';') {
+            if (!entry.key.empty()) failEntry();
+            ++at;
+            continue;
+        }
+        at = std::min(text.find_first_not_of(" \t", at + 1), text.size());
         const std::size_t start = at;
         if (at < text.size() && text[at] == '{') {
-            for (++at; at < text.size(); ++at) {
-                if (text[at] == '}' && (at + 1 == text.size() || text[++at] != '}')) break;
-                entry.value += text[at];
+            bool closed = false;
+            for (++at; at < text.size() && !closed; ++at) {
+                closed = text[at] == '}' && (at + 1 == text.size() || text[++at] != '}');
+                if (!closed) entry.value += text[at];
             }
-            at = std::min(text.find(';', at), text.size());
+            if (!closed) failEntry();
+            at = std::min(text.find(';', at - 1), text.size());
         } else {
             at = std::min(text.find(';', at), text.size());
             entry.value = base::trim(text.substr(start, at - start));
         }
-        entry.written = text.substr(start, at - start);
+        entry.written = base::trim(text.substr(start, at - start));
         ++at;
-        if (!entry.key.empty()) entries.push_back(std::move(entry));
+        if (entry.key.empty()) failEntry();
+        entries.push_back(std::move(entry));
     }
     return entries;
 }
@@ -110,9 +129,14 @@ void completeForTds(std::vector<Entry>& entries) {
 
 Source Source::parse(std::string_view text) {
     std::string given{base::trim(text)};
-    if (given.starts_with('@')) given = base::trim(contentsOf(given.substr(1)));
+    if (given.starts_with('@')) {
+        if (given == "@") throw std::runtime_error{"There is no name of a file behind the @"};
+        given = base::trim(contentsOf(given.substr(1)));
+    }
     std::ranges::replace_if(
         given, [](char c) { return c == '\r' || c == '\n'; }, ';');
+    if (given.find_first_not_of("; \t") == std::string::npos)
+        throw std::runtime_error{"The connection string is empty"};
     if (given.find('=') == std::string::npos) given = "DSN=" + given;
     std::vector<Entry> entries = entriesOf(given);
     completeForTds(entries);

@@ -28,10 +28,11 @@ std::string messageOf(const std::function<void()>& work) {
 
 TEST(OdbcSource, IsAConnectionStringANameOrAFileOfItsOwner) {
     const tests::TestFolder folder;
-    const auto file = [&](const std::string& text, std::filesystem::perms rights) {
-        folder.write("secret", text);
-        std::filesystem::permissions(folder / "secret", rights);
-        return "@" + folder / "secret";
+    auto file = [&, number = 0](const std::string& text, std::filesystem::perms rights) mutable {
+        const std::string name = "secret" + std::to_string(++number);
+        folder.write(name, text);
+        std::filesystem::permissions(folder / name, rights);
+        return "@" + folder / name;
     };
     using enum std::filesystem::perms;
     struct Case {
@@ -52,12 +53,27 @@ TEST(OdbcSource, IsAConnectionStringANameOrAFileOfItsOwner) {
          "DRIVER=libtdsodbc.so;SERVER=s;PORT=5;TDS_VERSION=7.3;CLIENTCHARSET=X;"},
         {"a file, one entry a line", file("\nDRIVER=X\nPWD=y\n", owner_read | owner_write), "DRIVER=X;PWD=y;",
          "DRIVER=X;PWD=***;"},
+        {"as another system's editor writes it",
+         file("\xEF\xBB\xBF"
+              "DRIVER=X\r\n\r\nSERVER = s\r\nPWD = {y;}\r\n",
+              owner_read),
+         "DRIVER=X;SERVER=s;PWD={y;};", "DRIVER=X;SERVER=s;PWD=***;"},
+        {"empty entries are none", "DRIVER=X;; ;PWD=y;", "DRIVER=X;PWD=y;", "DRIVER=X;PWD=***;"},
     };
     for (const Case& one : cases) {
         const Source source = Source::parse(one.text);
         EXPECT_EQ(source.connectionString(), one.connectionString) << one.rule;
         EXPECT_EQ(source.description(), one.description) << one.rule;
     }
+    for (const char* wrong : {"DRIVER=X;PWD=a;geheim", "DRIVER=X;geheim;PWD=geheim", "DRIVER={X;PWD=geheim",
+                              "DRIVER=X;=geheim"}) {
+        const std::string refused = messageOf([&] { Source::parse(wrong); });
+        EXPECT_NE(refused.find("stands in braces"), std::string::npos) << wrong << ": " << refused;
+        EXPECT_EQ(refused.find("geheim"), std::string::npos) << refused;
+    }
+    for (const char* nothing : {"", " ", ";"})
+        EXPECT_EQ(messageOf([&] { Source::parse(nothing); }), "The connection string is empty");
+    EXPECT_EQ(messageOf([&] { Source::parse("@"); }), "There is no name of a file behind the @");
     EXPECT_EQ(Source::parse("DRIVER=X;PWD={a}}b}").withoutSecrets("no a}b, no {a}}b}"), "no ***, no ***");
     for (const auto rights : {owner_read | group_read, owner_read | others_write}) {
         const std::string open = file("DRIVER=X;PWD=y", rights);
