@@ -10,15 +10,18 @@ namespace tellurix::tracing {
 
 /// One statement as it went through a connection.
 struct Statement {
-    std::string text; ///< the statement, or "[update] …" / "[delete] …" for a row edited in place
+    /// The statement, or "[update] …" / "[delete] …" for a row edited in place, "[rows] …" for a row that
+    /// could not be read
+    std::string text;
     std::chrono::system_clock::time_point sent;
-    std::chrono::microseconds duration{};
-    std::int64_t rowsAffected = -1; ///< -1 where nothing was counted
-    std::string error{};            ///< empty when it succeeded
+    std::chrono::microseconds duration{}; ///< up to its first answer
+    std::int64_t rowsAffected = -1;       ///< -1 where nothing was counted
+    std::string error{};                  ///< empty when it succeeded
 };
 
 /// A connection that lets another one do the work and tells an observer of every statement. The
-/// trace file, the tests and the measurements look at the module's statements through it.
+/// trace file, the tests and the measurements look at the module's statements through it. A query is told
+/// when it answers first.
 class TracingConnection final : public base::Connection {
 public:
     using Observer = std::function<void(const Statement&)>;

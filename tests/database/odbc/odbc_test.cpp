@@ -1,5 +1,6 @@
 // What the statement files do not reach: sessions, open rows, editing in place, locks, lost connections.
 
+#include "database/tracing/TracingConnection.h"
 #include "module/base/text.h"
 #include "tests/database/embedded/EmbeddedTest.h"
 #include "tests/database/odbc/PostgresServer.h"
@@ -184,6 +185,23 @@ TEST_F(Odbc, AnErrorOfOpenRowsWaitsForTheirReaderNotForTheWrite) {
     const auto rows = first_->execute("SELECT 6 / N FROM T ORDER BY ID").rows;
     EXPECT_EQ(first_->execute("UPDATE T SET PREIS = 1").rowsAffected, 4);
     EXPECT_EQ(failureOf([&] { rows->atEnd(); }).substr(0, 11), "conversion:");
+}
+
+TEST_F(Odbc, AQueryIsTracedAsWhatCameOfItWhenItWasAskedFor) {
+    std::string seen;
+    tracing::TracingConnection traced{*first_, [&](const tracing::Statement& statement) {
+                                          seen += statement.text + ": " +
+                                                  (statement.error.empty() ? "" : "failed") +
+                                                  (statement.duration.count() > 20'000 ? "slow" : "") + "\n";
+                                      }};
+    failureOf([&] { traced.open("SELECT NIX FROM T"); });
+    EXPECT_EQ(std::exchange(seen, {}), "SELECT NIX FROM T: failed\n");
+    traced.open("SELECT pg_sleep(0.05)");
+    EXPECT_EQ(std::exchange(seen, {}), "SELECT pg_sleep(0.05): slow\n");
+    first_->execute("INSERT INTO T (N) SELECT 400 - G FROM generate_series(1,400) G");
+    failureOf([&] { traced.open("SELECT 6 / N FROM T ORDER BY ID"); });
+    EXPECT_EQ(std::exchange(seen, {}),
+              "SELECT 6 / N FROM T ORDER BY ID: \n[rows] of SELECT 6 / N FROM T ORDER BY ID: failed\n");
 }
 
 TEST_F(Odbc, RowsWhoseTableChangedBeforeTheFirstFetchAreRefused) {
