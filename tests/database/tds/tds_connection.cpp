@@ -22,4 +22,17 @@ std::unique_ptr<base::Connection> EmbeddedTest::connect() const {
         .connect();
 }
 
+namespace {
+
+/// The next run finds the lent database as empty as this one did.
+class LeftEmpty final : public testing::Environment {
+    void TearDown() override {
+        if (tests::serverIsInUse()) tests::connectToServer(tests::serverOfEnvironment(), true);
+    }
+};
+
+[[maybe_unused]] const auto* const leftEmpty = testing::AddGlobalTestEnvironment(new LeftEmpty);
+
+} // namespace
+
 } // namespace tellurix::embedded
