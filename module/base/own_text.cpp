@@ -309,10 +309,10 @@ constexpr Words wordsOf(OwnText text) {
             "typed is still there and marked: \"Save\" makes a new report."};
     case OwnText::reportsNotTaken:
         return {
-            "Nicht alles gespeichert wurde bei: {}. Eine gelöschte Zahl und eine 0 werden nur gespeichert, "
-            "wenn sich in der Zeile auch etwas anderes ändert.",
-            "Not everything was saved for: {}. A number that was removed and a 0 are only saved when "
-            "something else changes in the row as well."};
+            "Nicht alles gespeichert wurde bei: {}. Eine gelöschte Zahl, eine 0 und andere Groß- und "
+            "Kleinschreibung werden nur gespeichert, wenn sich in der Zeile auch etwas anderes ändert.",
+            "Not everything was saved for: {}. A number that was removed, a 0 and other capital letters are "
+            "only saved when something else changes in the row as well."};
     case OwnText::memberNumber:
         return {"Mitgl.Nr.", "Member no."};
     case OwnText::memberName:

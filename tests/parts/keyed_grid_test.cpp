@@ -98,7 +98,11 @@ TEST_F(Reports, AreOrderedByTheColumnWhoseHeadingIsClicked) {
     EXPECT_EQ(cells(0).substr(0, 9), "- | - | 9") << "a row's number is that of the grid";
     reports.copyField("ZUEGE", "ZUGESAGT");
     const parts::KeyedGrid::TextColumn one[] = {{"Name", "NAME"}};
-    EXPECT_EQ(reports.text(one), "Name\r\nAuer\r\n\r\nHuber") << "as the query gives them";
+    EXPECT_EQ(reports.text(one), "Name\r\n\r\nAuer\r\nHuber") << "as the grid shows them";
+    reports.setValue(2, "NAME", base::Null{});
+    clicked(2);
+    EXPECT_EQ(clicked(2), "753");
+    EXPECT_EQ(clicked(1), "573") << "what is equal stands as it was read";
 }
 
 TEST_F(Reports, KeepTheValuesThatTheCellsRound) {

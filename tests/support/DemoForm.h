@@ -129,13 +129,14 @@ private:
         for (const char* sort :
              {"Fichte B", "Fichte C", "Kiefer B", "Lärche A", "Eiche TF", "Buche B", "Tanne C"})
             lstSorts.add(sort);
-        grdLines.setColumns({{"Pos.", 4, true},
-                             {"Holzart", 14, false},
-                             {"Sorte", 12, false},
-                             {"Stärke", 10, false},
-                             {"Menge fm", 10, true},
-                             {"Preis €", 10, true},
-                             {"ID", 6, true, false}});
+        grdLines.setColumns(
+            {{"Pos.", 4, true},
+             {"Holzart", 14, false},
+             {"Sorte", 12, false},
+             {"Stärke", 10, false},
+             {"Menge fm", 10, true},
+             {.caption = "Preis €", .width = 10, .rightAligned = true, .toolTip = "je Einheit"},
+             {"ID", 6, true, false}});
         std::vector<ui::Grid::Row> rows;
         for (int i = 1; i <= 600; ++i) {
             const std::string number = std::to_string(i);

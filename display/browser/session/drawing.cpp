@@ -78,6 +78,7 @@ json drawColumns(const ui::Grid& grid) {
                            {"right", column.rightAligned},
                            {"sized", column.sized},
                            {"order", column.order},
+                           {"tip", column.toolTip},
                            {"visible", column.visible}});
     }
     return columns;

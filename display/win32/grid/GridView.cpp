@@ -152,6 +152,17 @@ void GridView::pullEdge(POINT point) {
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
+void GridView::pointAt(POINT point) {
+    pointed_ = geometry_.at(point).column;
+    host().setToolTip(handle(), tip());
+}
+
+std::string GridView::tip() const {
+    const bool overColumn = pointed_ >= 0 && pointed_ < static_cast<int>(grid_.columns().size());
+    const std::string own = overColumn ? grid_.columns()[static_cast<std::size_t>(pointed_)].toolTip : "";
+    return own.empty() ? ControlView::tip() : own;
+}
+
 void GridView::leaveEdge() {
     const RECT cell = geometry_.cell(-1, pulled_);
     const int column = std::exchange(pulled_, -1);
@@ -269,7 +280,7 @@ LRESULT GridView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         pressed(pointOf(lParam), message == WM_LBUTTONDBLCLK, (wParam & MK_SHIFT) != 0);
         return 0;
     case WM_MOUSEMOVE:
-        if (pulled_ >= 0) pullEdge(pointOf(lParam));
+        pulled_ >= 0 ? pullEdge(pointOf(lParam)) : pointAt(pointOf(lParam));
         return 0;
     case WM_LBUTTONUP:
         if (pulled_ >= 0) ReleaseCapture();

@@ -33,6 +33,7 @@ public:
     int columnWidth() const override;
 
 private:
+    std::string tip() const override;
     void draw() override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void paint();
@@ -47,6 +48,8 @@ private:
     /// The user has taken the edge of a column, and moves it.
     bool takeEdge(POINT point, bool twice);
     void pullEdge(POINT point);
+    /// The pointer is there: each column may have a tip of its own.
+    void pointAt(POINT point);
     void leaveEdge();
     void scrollBar(int bar, WORD request);
     /// @return false when there is nothing left to scroll to
@@ -58,7 +61,8 @@ private:
     ui::Grid& grid_;
     GridGeometry geometry_;
     Wheel wheel_;
-    int pulled_ = -1; ///< the column whose edge the user holds
+    int pulled_ = -1;  ///< the column whose edge the user holds
+    int pointed_ = -1; ///< the column that the pointer is over
 };
 
 } // namespace tellurix::windows

@@ -31,6 +31,8 @@ bool ProvisionSaving::settle() {
 bool ProvisionSaving::write(ui::ProgressBar& bar) {
     table_.requireCarriers();
     if (!settle()) return false;
+    // A carrier that came from a colleague now cannot be written either.
+    table_.requireCarriers();
     const int changed = table_.changed();
     parts::ShownProgress progress{services_.display, bar, static_cast<int>(table_.rows().size())};
     for (KeyedRow& row : table_.rows()) {

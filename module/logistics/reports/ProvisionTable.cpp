@@ -1,6 +1,5 @@
 #include "module/logistics/reports/ProvisionTable.h"
 
-#include "module/base/StatementText.h"
 #include "module/base/field_text.h"
 #include "module/base/own_text.h"
 #include "module/base/text.h"
@@ -41,14 +40,10 @@ std::string reportText(const base::Value& value) {
     return base::numberText(value, "0", base::Locale::german());
 }
 
-/// Whether a text can stand between the quotes of a statement as it is.
+/// Whether a text can stand between the quotes of a statement as it is, and be stored as it is: of two quotes
+/// in a row one would be stored.
 bool canBeQuoted(const std::string& text) {
-    try {
-        static_cast<void>(base::StatementText{}.insideLiteral(text).text());
-    } catch (const base::StatementError&) {
-        return false;
-    }
-    return true;
+    return text.find('\'') == std::string::npos;
 }
 
 bool hasReport(KeyedRow& row) {
@@ -71,18 +66,14 @@ ProvisionTable::ProvisionTable(ui::Grid& grid, ui::TextBox& box, ui::CheckBox& o
         return editing_ && grid_.editable(column) && grid_.keyOf(row) != 0;
     };
     editor_.prepare = [this](ui::TextBox& cell, int column) {
-        const bool carrier = grid_.columns()[static_cast<std::size_t>(column)].field == reportField::carrier;
+        const parts::KeyedGrid::Column& edited = grid_.columns()[static_cast<std::size_t>(column)];
+        const bool carrier = edited.field == reportField::carrier;
         cell.setRightAligned(!carrier);
-        cell.setToolTip(carrier ? base::ownText(OwnText::carrier, language_) : "");
+        cell.setToolTip(edited.toolTip);
         if (!carrier) return ui::takeNumbers(cell, loadMask, locale_);
         cell.onKeyPress = std::function<void(char32_t&)>{};
         cell.onPaste = nullptr;
         cell.setMaxLength(carrierWidth_);
-    };
-    // What stands under "Bemerkung" is whoever carries the timber; only the tool tips say so.
-    shown_.onCurrentChange = [this] {
-        const bool carrier = shown_.currentColumn() == columnOf(reportField::carrier);
-        shown_.setToolTip(carrier ? base::ownText(OwnText::carrier, language_) : "");
     };
     editor_.write = [this](int row, int column, const std::string& typed) {
         return writeCell(row, column, typed);
@@ -123,7 +114,13 @@ void ProvisionTable::open(const std::string& language, int carrierWidth) {
         loads("Züge", reportField::announced),
         {.caption = "Bemerkung WH", .width = 28, .field = "BEMERKUNG", .sorts = true},
         loads("Züge zugesagt", reportField::confirmed),
-        {.caption = "Bemerkung", .width = 24, .field = reportField::carrier, .editable = true, .sorts = true},
+        // Whoever carries the timber; only the tool tip says so.
+        {.caption = "Bemerkung",
+         .width = 24,
+         .field = reportField::carrier,
+         .editable = true,
+         .sorts = true,
+         .toolTip = base::ownText(OwnText::carrier, language_)},
         quantity("Menge angem.", "MENGE_ANG"),
         quantity("Menge best.", "MENGE_BES"),
         quantity("Menge geliefert", "Geliefert"),
@@ -209,20 +206,20 @@ bool ProvisionTable::canCarry(KeyedRow& row) {
 }
 
 bool ProvisionTable::isStored(KeyedRow& row, KeyedRow& report) {
-    return std::ranges::all_of(typedFields, [&](const char* field) {
-        // A carrier that holds a quote was typed with two, as the statement needs it.
-        return base::replaceAll(row.text(field), "''", "'") == report.text(field);
-    });
+    return std::ranges::all_of(typedFields,
+                               [&](const char* field) { return row.text(field) == report.text(field); });
 }
 
 void ProvisionTable::requireCarriers() {
     for (KeyedRow& row : rows()) {
         if (!row.touched() || canCarry(row)) continue;
         const int column = columnOf(reportField::carrier);
+        const std::int64_t helper = row.key();
+        const std::string carrier = row.text(reportField::carrier);
         onlyMissing_.setChecked(false);
         hideReported();
-        shown_.setCurrent(grid_.find(row.key()).value_or(ui::Grid::none), column);
-        refuse(shown_, column, row.text(reportField::carrier), {OwnText::textWithApostrophe});
+        shown_.setCurrent(grid_.find(helper).value_or(ui::Grid::none), column);
+        refuse(shown_, column, carrier, {OwnText::textWithApostrophe});
     }
 }
 

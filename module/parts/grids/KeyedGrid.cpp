@@ -6,6 +6,7 @@
 #include "module/ui/input/grid_text.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace tellurix::parts {
@@ -36,7 +37,8 @@ void KeyedGrid::setColumns(std::vector<Column> columns) {
         shown.push_back({.caption = column.caption,
                          .width = column.width,
                          .rightAligned = column.rightAligned,
-                         .visible = !column.hidden});
+                         .visible = !column.hidden,
+                         .toolTip = column.toolTip});
     grid_.setColumns(std::move(shown));
     if (std::ranges::find(columns_, true, &Column::sorts) == columns_.end()) return;
     grid_.onHeadingClick = [this](int column) {
@@ -97,6 +99,8 @@ void KeyedGrid::drawRow(int row) {
 void KeyedGrid::show(std::vector<KeyedRow> rows) {
     const auto current = currentKey();
     rows_ = std::move(rows);
+    readAt_.resize(rows_.size());
+    std::iota(readAt_.begin(), readAt_.end(), std::size_t{0});
     drawRows(current);
 }
 
@@ -106,15 +110,31 @@ void KeyedGrid::showOnly(std::function<bool(KeyedRow&)> condition) {
     drawRows(current);
 }
 
+void KeyedGrid::orderRows() {
+    const auto by = sorting();
+    if (!by) return;
+    std::vector<std::size_t> order(rows_.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    // What is equal stands as it was read.
+    std::ranges::sort(order, {}, [this](std::size_t row) { return readAt_[row]; });
+    std::ranges::stable_sort(
+        order, [this, &by](std::size_t row, std::size_t other) { return comesBefore(*by, row, other); });
+    std::vector<KeyedRow> rows;
+    std::vector<std::size_t> readAt;
+    for (const std::size_t row : order) {
+        rows.push_back(std::move(rows_[row]));
+        readAt.push_back(readAt_[row]);
+    }
+    rows_ = std::move(rows);
+    readAt_ = std::move(readAt);
+}
+
 void KeyedGrid::drawRows(std::optional<std::int64_t> current) {
+    orderRows();
     seen_.clear();
     std::vector<ui::Grid::Row> cells;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (!condition_ || condition_(rows_[i])) seen_.push_back(i);
-    }
-    if (const auto by = sorting()) {
-        std::ranges::stable_sort(
-            seen_, [this, &by](std::size_t row, std::size_t other) { return comesBefore(*by, row, other); });
     }
     for (const std::size_t row : seen_)
         cells.push_back(cellsOf(rows_[row]));
@@ -155,6 +175,7 @@ void KeyedGrid::replace(int row, KeyedRow read) {
 
 void KeyedGrid::add(std::int64_t key) {
     seen_.push_back(rows_.size());
+    readAt_.push_back(rows_.size());
     rows_.emplace_back(key);
     grid_.addRow(ui::Grid::Row(columns_.size()));
     grid_.setCurrent(rowCount() - 1);

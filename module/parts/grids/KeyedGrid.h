@@ -16,9 +16,9 @@ namespace tellurix::parts {
 /// What a grid shows: rows of a query, each known by its key. It keeps the values as they were read
 /// beside the texts of the cells, which may show fewer decimals.
 ///
-/// Some of the rows can be hidden from the eye, and those that are seen put into another order. A row's
-/// number is that of the grid; what works on the rows as a whole (sums, copying, the text) works on all of
-/// them, in the order of the query.
+/// Some of the rows can be hidden from the eye, and all put into another order than that of the query. A
+/// row's number is that of the grid; what works on the rows as a whole (sums, copying, the text) works on all
+/// of them, the hidden ones too, in the order of the grid.
 class KeyedGrid {
 public:
     struct Column {
@@ -30,6 +30,7 @@ public:
         bool hidden = false;
         bool editable = false;
         bool sorts = false; ///< a click on its heading orders the rows by it, another one the other way
+        std::string toolTip = {};
         /// What the cell shows where it is not one field in a mask.
         std::function<std::string(KeyedRow&)> shown = {};
     };
@@ -55,7 +56,7 @@ public:
     /// Hides the rows that do not fulfil a condition, from now on and as they are now; none hides none.
     void showOnly(std::function<bool(KeyedRow&)> condition);
 
-    /// Orders the rows that are seen, from now on, by the values of a column: what is empty first, numbers
+    /// Orders the rows, from now on, by the values of a column: what is empty first, numbers
     /// by their size, texts without regard to capital letters. The order is the one that the grid's columns
     /// are marked with.
     void sortBy(int column, bool descending);
@@ -64,7 +65,7 @@ public:
 
     int rowCount() const { return static_cast<int>(seen_.size()); }
     bool empty() const { return rows_.empty(); }
-    /// All rows, the hidden ones too.
+    /// All rows, the hidden ones too. Whatever shows or orders them anew moves them.
     std::span<KeyedRow> rows() { return rows_; }
     KeyedRow& row(int row) { return rows_[seen_.at(static_cast<std::size_t>(row))]; }
     std::int64_t keyOf(int row) const { return rows_[seen_.at(static_cast<std::size_t>(row))].key(); }
@@ -106,6 +107,7 @@ private:
     };
     std::optional<Sorting> sorting() const;
     bool comesBefore(const Sorting& sorting, std::size_t row, std::size_t other);
+    void orderRows();
     void drawRow(int row);
     void drawRows(std::optional<std::int64_t> current);
     ui::Grid::Row cellsOf(KeyedRow& row) const;
@@ -114,6 +116,7 @@ private:
     base::Locale locale_;
     std::vector<Column> columns_;
     std::vector<KeyedRow> rows_;
+    std::vector<std::size_t> readAt_; ///< beside the rows: their places in the query
     std::function<bool(KeyedRow&)> condition_;
     std::vector<std::size_t> seen_; ///< beside the rows of the grid: which of the rows they are
 };

@@ -35,6 +35,7 @@ public:
         bool visible = true;
         bool sized = false; ///< by the user: it is as wide as it says, however much room there is
         Order order = Order::none;
+        std::string toolTip = {}; ///< shown over the column
     };
     using Row = std::vector<std::string>;
 

@@ -363,6 +363,9 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await press('Alt+f');
     await page.getByRole('alertdialog', { name: 'Tellurix' }).waitFor();
     await press('Escape');
+    const headings = control(page, 'grdLines').getByRole('columnheader');
+    assert.equal(await headings.nth(5).getAttribute('title'), 'je Einheit');
+    assert.equal(await headings.nth(4).getAttribute('title'), 'Menge fm');
   });
 
   test('an interrupted line keeps the windows and everything typed', async () => {

@@ -180,6 +180,9 @@ private:
             if (control->name() != "lblZeile") // the line's own description
                 addEach(ui::captionText(*control).value_or(""), '|');
             add(control->toolTip());
+            if (const auto* grid = ui::as<ui::Grid>(control))
+                for (const ui::Grid::Column& column : grid->columns())
+                    add(column.toolTip);
             if (const auto* box = ui::as<ui::TextBox>(control)) add(box->warning());
             // What stands before the colon is ours.
             if (const auto* list = ui::as<ui::ListBox>(control))

@@ -141,7 +141,7 @@ export class Grid extends View {
       cell.classList.toggle('right', column.right);
       cell.textContent = column.caption;
       if (!column.caption) cell.append(unseen(text('mark')));
-      cell.title = column.caption;
+      cell.title = column.tip || column.caption;
       if (column.order) cell.setAttribute('aria-sort', orders[column.order]);
       new ColumnEdge(cell, {
         pulled: (track) => this.element.style.setProperty('--columns', widths.with(place, track).join(' ')),
