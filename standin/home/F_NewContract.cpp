@@ -15,10 +15,12 @@ constexpr int longestName = 60;
 } // namespace
 
 F_NewContract::F_NewContract(WorkbenchServices& services, const host::TlxVar& session)
-    : Form("F_NewContract", "Neuer Vertrag"), services_(services), session_(session) {
+    : AskingForm(services.host().display, "F_NewContract", "Neuer Vertrag"),
+      services_(services),
+      session_(session) {
     txtName.setMaxLength(longestName);
     btnOk.onClick = [this] { create(); };
-    btnCancel.onClick = [this] { unload(); };
+    btnCancel.onClick = [this] { leave(); };
     btnCancel.setCausesValidation(false);
     setCancelButton(btnCancel);
     setLayout(ui::column({ui::fields(1, {ui::field(lblName, txtName), ui::field(lblType, cboType)}),
@@ -27,7 +29,7 @@ F_NewContract::F_NewContract(WorkbenchServices& services, const host::TlxVar& se
 
 std::optional<F_NewContract::Contract> F_NewContract::Run(const std::string& type) {
     created_.reset();
-    txtName.setText("");
+    txtName.show("");
     cboType.clear();
     addContractTypes(cboType, services_.localizer(), session_);
     cboType.select(0);
@@ -57,7 +59,7 @@ void F_NewContract::create() {
         static_cast<std::size_t>(cboType.items()[static_cast<std::size_t>(cboType.selected())].itemData);
     const std::string type{contractTypes[index]};
     created_ = Contract{createContract(*session_.connection, name, type), name, type};
-    unload();
+    leave();
 }
 
 } // namespace tellurix::standin

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/TextBox.h"
+#include "standin/services/AskingForm.h"
 #include "standin/services/WorkbenchServices.h"
 
 #include <cstdint>
@@ -14,7 +14,7 @@ namespace tellurix::standin {
 
 /// Asks for the name and the type of a new contract and creates its row, as the host does before it
 /// opens the contract as a new one. The name has to be there, and to be no other contract's.
-class F_NewContract final : public ui::Form {
+class F_NewContract final : public AskingForm {
 public:
     /// What was created.
     struct Contract {
@@ -31,6 +31,7 @@ public:
     std::optional<Contract> Run(const std::string& type);
 
 private:
+    bool changed() const override { return txtName.touched(); }
     void create();
     void refuse(std::string_view reason);
 

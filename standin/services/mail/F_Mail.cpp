@@ -13,8 +13,8 @@ constexpr int textLines = 10;
 
 } // namespace
 
-F_Mail::F_Mail(Draft draft, Words words)
-    : Form("F_Mail", std::move(words.title)),
+F_Mail::F_Mail(ui::Display& display, Draft draft, Words words)
+    : AskingForm(display, "F_Mail", std::move(words.title)),
       recipients_(std::move(draft.recipients)),
       count_(std::move(words.count)) {
     lblKind.setCaption(std::move(words.kind));
@@ -33,7 +33,7 @@ F_Mail::F_Mail(Draft draft, Words words)
     txtText.onKeyDown = [](ui::KeyDown& key) { key.ctrl = key.ctrl || key.key == ui::Key::enter; };
     grdRecipients.onDoubleClick = [this] { toggle(); };
     btnSend.onClick = [this] { send(); };
-    btnCancel.onClick = [this] { unload(); };
+    btnCancel.onClick = [this] { leave(); };
     setCancelButton(btnCancel);
     // Nothing sends by mistake: Ctrl+S, which saves elsewhere, has no button here.
     setLayout(ui::column({lblKind, grdRecipients, lblCount,
@@ -48,6 +48,7 @@ void F_Mail::toggle() {
     Recipient& recipient = recipients_[static_cast<std::size_t>(grdRecipients.currentRow())];
     if (!recipient.reachable) return;
     recipient.gets = !recipient.gets;
+    toggled_ = true;
     showRecipients();
 }
 
@@ -64,7 +65,7 @@ void F_Mail::showRecipients() {
 void F_Mail::send() {
     sent_ = Draft{{}, txtSubject.text(), txtText.text()};
     std::ranges::copy_if(recipients_, std::back_inserter(sent_->recipients), &Recipient::gets);
-    unload();
+    leave();
 }
 
 } // namespace tellurix::standin

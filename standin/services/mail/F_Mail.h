@@ -1,9 +1,9 @@
 #pragma once
 
-#include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
+#include "standin/services/AskingForm.h"
 
 #include <optional>
 #include <string>
@@ -13,7 +13,7 @@ namespace tellurix::standin {
 
 /// Shows a mail before it goes: who gets it, subject and text, which the user may change. Space takes a
 /// recipient out, or back in; those that cannot be reached stay out.
-class F_Mail final : public ui::Form {
+class F_Mail final : public AskingForm {
 public:
     struct Recipient {
         std::string address;
@@ -32,12 +32,13 @@ public:
         std::string count; ///< of those who get it, and of all
     };
 
-    F_Mail(Draft draft, Words words);
+    F_Mail(ui::Display& display, Draft draft, Words words);
 
     /// What the user sends, with those who get it; nothing when it was cancelled.
     const std::optional<Draft>& sent() const { return sent_; }
 
 private:
+    bool changed() const override { return toggled_ || txtSubject.touched() || txtText.touched(); }
     void toggle();
     void showRecipients();
     void send();
@@ -45,6 +46,7 @@ private:
     std::vector<Recipient> recipients_;
     std::string count_;
     std::optional<Draft> sent_;
+    bool toggled_ = false; ///< somebody gets it or not as the user says
 
     ui::Label lblKind{*this, "lblKind"};
     ui::Grid grdRecipients{*this, "grdRecipients", 8};

@@ -43,7 +43,8 @@ std::string fileNameOf(const MailMessage& message) {
         if (name.size() == longest) break;
         name += character < 32 || refused.find(character) != refused.npos ? U'_' : character;
     }
-    return std::string{base::trim(base::encodeUtf8(name))} + " " + message.id.substr(0, sign) + ".eml";
+    const std::string subject{base::trim(base::encodeUtf8(name))};
+    return subject + (subject.empty() ? "" : " ") + message.id.substr(0, sign) + ".eml";
 }
 
 /// Whether somebody who has the one would take the other for the same once more.
@@ -121,8 +122,11 @@ bool MailService::send() {
     const char* kindWords = kind == RecipientKind::blindCopy ? "mail.bcc"
                             : kind == RecipientKind::copy    ? "mail.cc"
                                                              : "mail.to";
-    F_Mail form{draft(),
-                {.title = words("mail.title"),
+    // The subject says what it is about: it names the contract.
+    const std::string about = base::trim(subject_).empty() ? "" : " – " + subject_;
+    F_Mail form{display_,
+                draft(),
+                {.title = words("mail.title") + about,
                  .kind = words(kindWords) + (setting("MAILSERVER").empty() ? " " + words("mail.asFile") : ""),
                  .count = words("mail.count")}};
     localizer_.localize(session_, form);

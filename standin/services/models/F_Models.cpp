@@ -18,8 +18,7 @@ constexpr int longestName = 60;
 
 F_Models::F_Models(ui::Display& display, ModelStore store, std::vector<std::string> statistics,
                    host::CalculationLines present, Texts texts, const std::string& current)
-    : Form("F_Models", "Modelle"),
-      display_(display),
+    : AskingForm(display, "F_Models", "Modelle"),
       store_(std::move(store)),
       statistics_(std::move(statistics)),
       present_(std::move(present)),
@@ -46,7 +45,7 @@ void F_Models::connect() {
     btnSave.onClick = [this] { save(); };
     btnRename.onClick = [this] { rename(); };
     btnDelete.onClick = [this] { remove(); };
-    btnClose.onClick = [this] { unload(); };
+    btnClose.onClick = [this] { leave(); };
     setCancelButton(btnClose);
 }
 
@@ -68,7 +67,7 @@ const ModelStore::Model* F_Models::current() const {
 
 void F_Models::showModel() {
     const ModelStore::Model* model = current();
-    txtName.setText(model == nullptr ? "" : model->name);
+    txtName.show(model == nullptr ? "" : model->name);
     for (ui::Button* button : {&btnRename, &btnDelete})
         button->setEnabled(model != nullptr);
     std::vector<ui::Grid::Row> rows;
@@ -87,7 +86,7 @@ std::string F_Models::typedName() {
     // The name goes into a statement as it stands, on the lines of every calculation that takes the model.
     std::string name{base::trim(parts::typedCodes(txtName))};
     if (name.empty()) {
-        parts::ShowMessage(display_, texts_("models.nameMissing"), ui::box::exclamation);
+        parts::ShowMessage(display(), texts_("models.nameMissing"), ui::box::exclamation);
         setFocus(txtName);
     }
     return name;
@@ -119,7 +118,7 @@ void F_Models::remove() {
 }
 
 bool F_Models::confirmed(std::string_view key, const std::string& name) {
-    return parts::confirmed(display_, base::filled(texts_(key), {name}));
+    return parts::confirmed(display(), base::filled(texts_(key), {name}));
 }
 
 } // namespace tellurix::standin

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "module/ui/Display.h"
-#include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
+#include "standin/services/AskingForm.h"
 #include "standin/services/models/ModelStore.h"
 
 #include <functional>
@@ -16,7 +15,7 @@ namespace tellurix::standin {
 
 /// The models of one category: the user sees their lines, keeps the present lines under a name, gives a
 /// model another name and deletes it. Everything is written at once; replacing and deleting ask before.
-class F_Models final : public ui::Form {
+class F_Models final : public AskingForm {
 public:
     /// A text of the services' own.
     using Texts = std::function<std::string(std::string_view key)>;
@@ -31,6 +30,7 @@ public:
     std::int32_t saved() const { return saved_; }
 
 private:
+    bool changed() const override { return txtName.touched(); }
     void connect();
     /// Reads the models anew and goes to one of them, or to the first.
     void load(const std::string& name);
@@ -43,7 +43,6 @@ private:
     void remove();
     bool confirmed(std::string_view key, const std::string& name);
 
-    ui::Display& display_;
     ModelStore store_;
     std::vector<std::string> statistics_;
     host::CalculationLines present_;

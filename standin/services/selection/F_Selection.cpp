@@ -23,11 +23,11 @@ void showChoice(ui::ComboBox& box, const std::vector<Choice>& choices, const std
 
 F_Selection::F_Selection(ui::Display& display, const SelectionWords& words, Choices choices,
                          SelectionExpression expression)
-    : Form("F_Selection", words.named("title")),
-      display_(display),
+    : AskingForm(display, "F_Selection", words.named("title")),
       words_(words),
       choices_(std::move(choices)),
-      draft_(std::move(expression)),
+      draft_(expression),
+      before_(std::move(expression)),
       values_(grdValues, words.choiceCaptions()) {
     grdConditions.setColumns({{.caption = "", .width = 6},
                               {.caption = "Merkmal", .width = 16},
@@ -66,7 +66,7 @@ void F_Selection::connect() {
     for (ui::ComboBox* box : {&cboFrom, &cboTo})
         box->onChange = [this] { changeValues(); };
     btnOk.onClick = [this] { takeOver(); };
-    btnCancel.onClick = [this] { unload(); };
+    btnCancel.onClick = [this] { leave(); };
     setCancelButton(btnCancel);
 }
 
@@ -102,13 +102,13 @@ void F_Selection::takeOver() {
     const auto problem = draft_.problem();
     if (!problem) {
         chosen_ = draft_.expression();
-        unload();
+        leave();
         return;
     }
     grdConditions.setCurrent(problem->position);
     showAnother();
     parts::ShowMessage(
-        display_,
+        display(),
         filled(words_.named("problem"), {std::to_string(problem->position + 1),
                                          words_.attribute(draft_.current()->condition.attribute),
                                          filled(words_.named(problem->word), {problem->value})}),

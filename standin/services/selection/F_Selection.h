@@ -1,10 +1,9 @@
 #pragma once
 
-#include "module/ui/Display.h"
-#include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/TextBox.h"
+#include "standin/services/AskingForm.h"
 #include "standin/services/selection/SelectionDraft.h"
 #include "standin/services/selection/codes/ChoiceList.h"
 #include "standin/services/selection/selection_words.h"
@@ -18,7 +17,7 @@ namespace tellurix::standin {
 /// Lets the user put a selection together: a list of conditions joined by "and" and "or", below it
 /// the condition that is current in the list, and the whole selection as a sentence. What is changed
 /// below shows in the list and in the sentence at once; nothing is answered before "Übernehmen".
-class F_Selection final : public ui::Form {
+class F_Selection final : public AskingForm {
 public:
     using Choices = std::map<TimberAttribute, std::vector<Choice>>;
 
@@ -29,6 +28,7 @@ public:
     const std::optional<SelectionExpression>& chosen() const { return chosen_; }
 
 private:
+    bool changed() const override { return draft_.expression() != before_; }
     void connect();
     void arrange();
     void add();
@@ -46,10 +46,10 @@ private:
     void changeValues();
     void drawConditions();
 
-    ui::Display& display_;
     const SelectionWords& words_;
     Choices choices_;
     SelectionDraft draft_;
+    SelectionExpression before_;
     std::optional<SelectionExpression> chosen_;
 
     ui::Button btnAdd{*this, "btnAdd", "&Neue Bedingung"};

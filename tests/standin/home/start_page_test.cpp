@@ -230,7 +230,9 @@ TEST_F(StartPage, RefusesANameThatIsNoneAndCreatesNothing) {
                 EXPECT_EQ(form.text("txtName"), row.name) << row.rule;
                 EXPECT_EQ(form.focused(), "txtName") << row.rule;
             }
+            display.onMessage("Verwerfen?", ui::Answer::no);
             form.key(Key::escape);
+            form.click("btnCancel");
         });
         user.click("btnNew");
     });

@@ -99,6 +99,7 @@ TEST_F(CodeList, AnswersTheMarkedCodes) {
          },
          "FI, KI"},
     };
+    display.onMessage("Verwerfen?", ui::Answer::yes);
     for (const Case& c : cases)
         EXPECT_EQ(chosen(c.text, c.script), c.answer) << c.rule;
 }

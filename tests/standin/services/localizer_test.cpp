@@ -70,9 +70,9 @@ protected:
     lines::F_VertragMengen quantities{host};
     const standin::SelectionWords words{services.localizer(), session, base::Locale::german()};
     standin::F_Selection selection{display, words, {}, {}};
-    standin::F_LookupGrid codes{"", words.choiceCaptions(), {}, {}, true};
-    standin::F_Mail mail{{}, {}};
-    standin::F_MultiSelection several{"", {}, {}, {}};
+    standin::F_LookupGrid codes{display, "", words.choiceCaptions(), {}, {}, true};
+    standin::F_Mail mail{display, {}, {}};
+    standin::F_MultiSelection several{display, "", {}, {}, {}};
     deductions::F_Abschlag deductionLines{host};
     standin::F_Models models{display, standin::ModelStore{*session.connection, "ABSCHLAG"}, {}, {}, {}, ""};
     const std::vector<ui::Form*> forms{&editor, &header,         &list,      &calendar, &persons,

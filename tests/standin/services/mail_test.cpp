@@ -84,6 +84,8 @@ TEST_F(Mail, IsShownAndGoesAsABlindCopy) {
     sendBy(server);
     EXPECT_EQ(send({"a@example.com", "3001", "A@EXAMPLE.COM", "b@example.com"},
                    [](User& user) {
+                       EXPECT_EQ(user.window().title(),
+                                 "Nachricht senden – Information zum Vertrag Fichte für Müller");
                        EXPECT_EQ(recipientsIn(user), "3001(keine Adresse) ✓a@example.com ✓b@example.com ");
                        EXPECT_EQ(user.caption("lblCount"), "2 von 3 Empfängern");
                        EXPECT_EQ(user.text("txtText"),
@@ -265,6 +267,13 @@ TEST_F(Mail, WithoutAServerItIsAFileForAMailProgram) {
     set("MAILOUTBOX", outbox / "missing");
     EXPECT_PRED2(contains, send(two, pressSend), std::string{"No such file or directory"});
     set("MAILOUTBOX", "");
+    EXPECT_EQ(send(two,
+                   [](User& user) {
+                       user.type("txtSubject", "");
+                       user.click("btnSend");
+                   }),
+              "sent");
+    EXPECT_NE(display.files().back().name.front(), ' ') << "without a subject";
     EXPECT_EQ(send(two, pressSend), "sent");
     EXPECT_TRUE(display.files().back().name.ends_with(".eml"));
 }

@@ -147,6 +147,7 @@ TEST_F(MultiSelection, AnswersTheMarkedKeys) {
          },
          std::nullopt},
     };
+    display.onMessage("Verwerfen?", ui::Answer::yes);
     for (const Case& c : cases)
         EXPECT_EQ(chosen(c.marked, c.script), c.answer) << c.rule;
 }

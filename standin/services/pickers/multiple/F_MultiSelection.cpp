@@ -26,12 +26,13 @@ std::string wordsToFind(const ui::Grid::Row& cells) {
 
 } // namespace
 
-F_MultiSelection::F_MultiSelection(std::string title, List list, Words words,
+F_MultiSelection::F_MultiSelection(ui::Display& display, std::string title, List list, Words words,
                                    const std::vector<std::int64_t>& marked)
-    : Form("F_MultiSelection", std::move(title)),
+    : AskingForm(display, "F_MultiSelection", std::move(title)),
       entries_(std::move(list.entries)),
       words_(std::move(words)),
-      marked_(marked.begin(), marked.end()) {
+      marked_(marked.begin(), marked.end()),
+      before_(marked_) {
     std::ranges::stable_partition(entries_, [this](const Entry& entry) { return isMarked(entry.key); });
     std::set<std::int64_t> offered;
     for (const Entry& entry : entries_) {
@@ -52,7 +53,7 @@ F_MultiSelection::F_MultiSelection(std::string title, List list, Words words,
     btnMarkFound.onClick = [this] { markFound(true); };
     btnUnmarkFound.onClick = [this] { markFound(false); };
     btnOk.onClick = [this] { takeOver(); };
-    btnCancel.onClick = [this] { unload(); };
+    btnCancel.onClick = [this] { leave(); };
     setCancelButton(btnCancel);
     arrange();
     narrow();
@@ -155,7 +156,7 @@ void F_MultiSelection::takeOver() {
     std::set<std::int64_t> taken;
     for (const Entry& entry : entries_)
         if (isMarked(entry.key) && taken.insert(entry.key).second) chosen_->push_back(entry.key);
-    unload();
+    leave();
 }
 
 } // namespace tellurix::standin

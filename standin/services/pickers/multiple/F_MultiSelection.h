@@ -1,11 +1,11 @@
 #pragma once
 
-#include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
 #include "module/ui/input/TextSorting.h"
+#include "standin/services/AskingForm.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,7 +17,7 @@ namespace tellurix::standin {
 
 /// Lets the user mark rows of a long list. The search box narrows it by words in any column; Enter goes
 /// from there to the list, where Space marks a row, typing searches again, and Enter takes the marks over.
-class F_MultiSelection final : public ui::Form {
+class F_MultiSelection final : public AskingForm {
 public:
     struct Entry {
         std::int64_t key;
@@ -36,12 +36,14 @@ public:
 
     /// The marked entries come first, each part in the order of the list. A mark that is not in the list
     /// stays.
-    F_MultiSelection(std::string title, List list, Words words, const std::vector<std::int64_t>& marked);
+    F_MultiSelection(ui::Display& display, std::string title, List list, Words words,
+                     const std::vector<std::int64_t>& marked);
 
     /// The marked keys in the order in which the user read them, nothing when the user cancelled.
     const std::optional<std::vector<std::int64_t>>& chosen() const { return chosen_; }
 
 private:
+    bool changed() const override { return marked_ != before_; }
     void arrange();
     void fit(std::vector<ui::Grid::Column> columns);
     void narrow();
@@ -66,6 +68,7 @@ private:
     std::vector<std::size_t> shown_;       ///< the entries that were found, in the order of the list
     Words words_;
     std::set<std::int64_t> marked_;
+    std::set<std::int64_t> before_;        ///< that were marked at the start
     std::vector<std::int64_t> notOffered_; ///< marked from the start, without an entry
     std::optional<std::vector<std::int64_t>> chosen_;
 

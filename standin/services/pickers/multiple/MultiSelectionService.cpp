@@ -32,7 +32,8 @@ std::optional<std::vector<std::int64_t>>
 MultiSelectionService::choose(const host::TlxVar& session, const std::string& list, const std::string& query,
                               const std::vector<std::int64_t>& marked) {
     const std::string title = localizer_.named("multi.title", session);
-    F_MultiSelection form{localizer_.namedOr("multi.title." + list, session, title),
+    F_MultiSelection form{display_,
+                          localizer_.namedOr("multi.title." + list, session, title),
                           read(*session.connection, query),
                           {.count = localizer_.named("multi.count", session),
                            .none = localizer_.named("multi.none", session),

@@ -2,14 +2,15 @@
 
 namespace tellurix::standin {
 
-F_LookupGrid::F_LookupGrid(std::string title, ChoiceList::Captions captions, std::vector<Choice> choices,
-                           std::vector<std::string> chosen, bool several)
-    : Form("F_LookupGrid", std::move(title)), list_(grdList, std::move(captions)) {
+F_LookupGrid::F_LookupGrid(ui::Display& display, std::string title, ChoiceList::Captions captions,
+                           std::vector<Choice> choices, std::vector<std::string> chosen, bool several)
+    : AskingForm(display, "F_LookupGrid", std::move(title)), list_(grdList, std::move(captions)) {
     list_.allowSeveral(several);
     list_.show(std::move(choices), std::move(chosen));
+    before_ = list_.chosen();
     list_.onEnter = [this] { takeOver(); };
     btnOk.onClick = [this] { takeOver(); };
-    btnCancel.onClick = [this] { unload(); };
+    btnCancel.onClick = [this] { leave(); };
     setCard();
     setCancelButton(btnCancel);
     setLayout(ui::column({ui::Layout{grdList}.growing(), ui::bar({ui::Layout{btnOk}.primary(), btnCancel})}));
@@ -17,7 +18,7 @@ F_LookupGrid::F_LookupGrid(std::string title, ChoiceList::Captions captions, std
 
 void F_LookupGrid::takeOver() {
     chosen_ = list_.chosen();
-    unload();
+    leave();
 }
 
 } // namespace tellurix::standin

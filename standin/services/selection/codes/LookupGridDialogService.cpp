@@ -12,8 +12,12 @@ std::string LookupGridDialogService::choose(const host::TlxVar& session, const s
                                             const std::string& mode, const std::string& current) {
     const AttributeKind* kind = findAttribute(layout);
     if (kind == nullptr) throw std::invalid_argument{"Es gibt keine Auswahlliste „" + layout + "“."};
-    F_LookupGrid form{title, SelectionWords{localizer_, session, locale_}.choiceCaptions(),
-                      choicesOf(session, *kind), codesOf(current), mode == "01"};
+    F_LookupGrid form{display_,
+                      title,
+                      SelectionWords{localizer_, session, locale_}.choiceCaptions(),
+                      choicesOf(session, *kind),
+                      codesOf(current),
+                      mode == "01"};
     localizer_.localize(session, form);
     display_.showModal(form);
     if (!form.chosen()) return current;
