@@ -2,6 +2,7 @@
 
 #include "module/base/date_format.h"
 #include "module/base/number_format.h"
+#include "module/parts/contract_title.h"
 #include "module/parts/grids/grid_layout.h"
 
 namespace tellurix::lines {
@@ -25,9 +26,9 @@ std::string F_OffeneMenge::number(const Decimal& value) const {
     return base::formatNumber(value, "##,##0.00#", services_.locale);
 }
 
-void F_OffeneMenge::Run(const DeliveredQuantity::Explanation& explanation, const std::string& description,
-                        const std::string& unit, const Decimal& agreed) {
-    setTitle(text(OwnText::openQuantity));
+void F_OffeneMenge::Run(const std::string& contract, const DeliveredQuantity::Explanation& explanation,
+                        const std::string& description, const std::string& unit, const Decimal& agreed) {
+    setTitle(parts::titleWith(text(OwnText::openQuantity), contract));
     lblFrueher.setCaption(text(OwnText::claimedEarlier));
     btnSchliessen.setCaption(text(OwnText::close));
     lblZeile.setCaption(description);

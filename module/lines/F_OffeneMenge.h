@@ -21,10 +21,11 @@ public:
     /// @param session the calling screen's own copy of the session record
     F_OffeneMenge(host::HostServices& services, const host::TlxVar& session);
 
+    /// @param contract its name, for the title
     /// @param description, unit of the line
     /// @param agreed the line's quantity
-    void Run(const DeliveredQuantity::Explanation& explanation, const std::string& description,
-             const std::string& unit, const base::Decimal& agreed);
+    void Run(const std::string& contract, const DeliveredQuantity::Explanation& explanation,
+             const std::string& description, const std::string& unit, const base::Decimal& agreed);
 
 private:
     std::string number(const base::Decimal& value) const;

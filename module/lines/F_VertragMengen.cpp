@@ -133,7 +133,7 @@ void F_VertragMengen::showOpenQuantity() {
 
 void F_VertragMengen::explainOpenQuantity() {
     const int row = MSFlexGrid1.currentRow();
-    offeneMenge_.Run(delivered().explain(place()), MSFlexGrid1.cell(row, 1), MSFlexGrid1.cell(row, 3),
+    offeneMenge_.Run(name_, delivered().explain(place()), MSFlexGrid1.cell(row, 1), MSFlexGrid1.cell(row, 3),
                      agreed_);
 }
 

@@ -14,7 +14,7 @@ void enable(const std::vector<ui::Control*>& controls, bool enabled) {
 } // namespace
 
 EditMode::EditMode(Buttons buttons, Controls controls, std::function<bool()> hasRow)
-    : controls_(std::move(controls)), hasRow_(std::move(hasRow)) {
+    : controls_(std::move(controls)), cancel_(buttons.cancel), hasRow_(std::move(hasRow)) {
     const auto add = [](std::vector<ui::Control*>& to, std::initializer_list<ui::Button*> some) {
         for (ui::Button* button : some)
             if (button != nullptr) to.push_back(button);

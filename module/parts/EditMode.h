@@ -42,6 +42,8 @@ public:
     /// Into another state, or into the same one after rows have come or gone.
     void enter(State state);
     void refresh() { enter(state_); }
+    /// Null where the area has none.
+    ui::Button* cancelButton() const { return cancel_; }
     /// The next `enter` tells what can be used; until then nothing is done to a control.
     void reset() { state_ = State::view; }
 
@@ -50,6 +52,7 @@ public:
 
 private:
     Controls controls_;
+    ui::Button* cancel_;
     std::function<bool()> hasRow_;
     State state_ = State::view;
 };

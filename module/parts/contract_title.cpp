@@ -7,11 +7,15 @@ std::string contractName(host::HostServices& services, const host::TlxVar& sessi
                                          " ID_VERTRAG = " + std::to_string(contract));
 }
 
+std::string titleWith(const std::string& caption, const std::string& contract) {
+    return contract.empty() ? caption : caption + " – " + contract;
+}
+
 void localizeWithTitle(host::HostServices& services, const host::TlxVar& session, ui::Form& form,
                        const std::string& caption, const std::string& contract) {
     form.setTitle(caption);
     services.localizer.localize(session, form);
-    if (!contract.empty()) form.setTitle(form.title() + " – " + contract);
+    form.setTitle(titleWith(form.title(), contract));
 }
 
 } // namespace tellurix::parts

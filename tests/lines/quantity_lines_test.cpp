@@ -187,6 +187,7 @@ TEST_F(QuantityLines, TheNumberCanBeChecked) {
         user.click("cmdOk");
     });
     host.display.onWindow("F_OffeneMenge", [&](User& user) {
+        EXPECT_EQ(user.window().title(), "Offene Menge – R-2025-001 Fichte Wolfsberg");
         const ui::Grid& grid = user.grid("grdHolz");
         ASSERT_EQ(grid.rows().size(), 3u);
         EXPECT_EQ(cells(grid, 0), "250004|11.02.2025|TA|B|7,00 Fm|10,00");

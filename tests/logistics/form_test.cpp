@@ -50,6 +50,31 @@ TEST_F(LogisticsForm, EachAreaIsViewedOrEditedForItself) {
     });
 }
 
+TEST_F(LogisticsForm, EscEndsTheEditingThatIsSeenAndThenTheForm) {
+    open(fibreWood, [&](User& user) {
+        user.click("btnBearbeiten");
+        user.key(ui::Key::escape);
+        EXPECT_TRUE(user.usable("btnBearbeiten")) << "nothing was typed, so nothing is asked";
+        user.click("btnBearbeiten");
+        user.type("txtBemerkung", "vorher");
+        host.display.onMessage("Verwerfen?", ui::Answer::no);
+        user.key(ui::Key::escape);
+        EXPECT_EQ(user.text("txtBemerkung"), "vorher");
+
+        user.select("SSTab1", 1);
+        user.click("btnNeu1");
+        user.key(ui::Key::escape);
+        EXPECT_TRUE(user.usable("btnNeu1")) << "the one that is seen";
+        host.display.onMessage("Ohne Speichern schließen?", ui::Answer::no);
+        user.key(ui::Key::escape);
+        user.select("SSTab1", 0);
+        host.display.onMessage("Verwerfen?", ui::Answer::yes);
+        user.key(ui::Key::escape);
+        EXPECT_NE(user.text("txtBemerkung"), "vorher");
+        user.key(ui::Key::escape);
+    });
+}
+
 TEST_F(LogisticsForm, NothingOfAnEarlierVisitStays) {
     std::string first;
     open(fibreWood, [&](User& user) {

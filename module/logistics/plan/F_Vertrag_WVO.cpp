@@ -26,7 +26,9 @@ F_Vertrag_WVO::F_Vertrag_WVO(host::HostServices& services)
     btnClose.onClick = [this] { unload(); };
     // Nobody has to correct a field in order to leave.
     btnClose.setCausesValidation(false);
-    setCancelButton(btnClose);
+    SSTab1.onChange = [this] { placeEscape(); };
+    for (Area* area : areas())
+        area->mode().onEnter = [this] { placeEscape(); };
     std::vector<ui::Layout> pages;
     for (Area* area : areas())
         pages.push_back(area->layout());
@@ -82,6 +84,17 @@ void F_Vertrag_WVO::RefreshArea(std::size_t area, std::optional<std::int64_t> ke
 void F_Vertrag_WVO::SetButtons() {
     for (Area* area : areas())
         area->mode().refresh();
+}
+
+void F_Vertrag_WVO::placeEscape() {
+    const parts::EditMode& mode = shownArea().mode();
+    setCancelButton(mode.viewing() ? btnClose : *mode.cancelButton());
+}
+
+bool F_Vertrag_WVO::escape() {
+    // The button is pressed on purpose; this key may be meant for something else.
+    return shownArea().mode().viewing() || !shownArea().changed() ||
+           parts::confirmed(services_, session_, OwnText::discardChanges);
 }
 
 bool F_Vertrag_WVO::queryUnload() {

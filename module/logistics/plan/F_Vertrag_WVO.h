@@ -17,8 +17,9 @@ namespace tellurix::logistics {
 /// The logistics of one contract: its settings, its calendar weeks and its forest helpers, an area each.
 ///
 /// Each area is in view or in edit mode of its own, so that a week can be looked up while the settings
-/// are edited. Closing asks when something that was entered would be lost, and warns of settings without
-/// which the helpers' web pages cannot work; neither keeps the window open against the user's will.
+/// are edited; Esc ends the editing of the one that is seen. Closing asks when something that was entered
+/// would be lost, and warns of settings without which the helpers' web pages cannot work; neither keeps the
+/// window open against the user's will.
 class F_Vertrag_WVO final : public ui::Form, public host::Screen {
 public:
     explicit F_Vertrag_WVO(host::HostServices& services);
@@ -38,7 +39,11 @@ public:
 
 private:
     std::array<Area*, 3> areas() { return {&settings_, &calendar_, &helpers_}; }
+    Area& shownArea() { return *areas().at(static_cast<std::size_t>(SSTab1.selected())); }
+    /// Esc cancels what is edited in the area that is shown, and closes the form where nothing is.
+    void placeEscape();
     LogisticsContract openRecord(std::int32_t contract);
+    bool escape() override;
     bool queryUnload() override;
 
     host::HostServices& services_;

@@ -7,6 +7,7 @@
 #include "module/logistics/row_saving.h"
 #include "module/logistics/spreadsheet_parameters.h"
 #include "module/parts/M_Common.h"
+#include "module/parts/contract_title.h"
 #include "module/parts/grids/grid_layout.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
@@ -19,12 +20,13 @@ using parts::KeyedRow;
 namespace {
 
 constexpr const char* table = "WVO_BEREITMELDUNG_KW";
+constexpr const char* screenCaption = "Bereitstellungsmeldung";
 constexpr const char* layoutKey = "F_BEREITSTELLUNG_WVO";
 
 } // namespace
 
 F_Bereitstellung_WVO::F_Bereitstellung_WVO(host::HostServices& services)
-    : Form("F_Bereitstellung_WVO", "Bereitstellungsmeldung"),
+    : Form("F_Bereitstellung_WVO", screenCaption),
       services_(services),
       contractBox_(txtVertrag, services, session_, [this] { return ui::plainCaption(lblVertrag.caption()); },
                    {.list = [this] { return reportingContracts(modul_); },
@@ -78,6 +80,7 @@ void F_Bereitstellung_WVO::connectChoice() {
             if (loaded_ == choice()) return true;
             loaded_.reset();
             table_.clear();
+            showTitle();
             showSums();
             return true;
         });
@@ -130,7 +133,8 @@ void F_Bereitstellung_WVO::Run(const host::TlxVar& session, std::int16_t modul) 
     session_ = session;
     modul_ = modul;
     table_.open(session_.language, services_.columnWidth.of(session_, table, reportField::carrier));
-    services_.localizer.localize(session_, *this);
+    parts::localizeWithTitle(services_, session_, *this, screenCaption, "");
+    caption_ = title();
     services_.gridLayouts.restore(session_, MSFG, layoutKey);
     reload();
     services_.display.showModal(*this);
@@ -170,7 +174,13 @@ void F_Bereitstellung_WVO::reload() {
     takenOver_.clear();
     loaded_ = choice();
     mode_.enter(parts::EditMode::State::view);
+    showTitle();
     showSums();
+}
+
+void F_Bereitstellung_WVO::showTitle() {
+    const bool known = loaded_ && !contractBox_.key().empty();
+    setTitle(parts::titleWith(caption_, known ? txtVertrag.text() : ""));
 }
 
 void F_Bereitstellung_WVO::showSums() {

@@ -42,6 +42,8 @@ private:
     /// The week of the former contract stays chosen where the new one has it, too.
     void keepWeek();
     void reload();
+    /// The title names the contract.
+    void showTitle();
     void showSums();
 
     void startEdit();
@@ -57,6 +59,7 @@ private:
     std::int16_t modul_ = 0;
     ReportWeek week_; ///< of the rows
     ProvisionStatements statements_;
+    std::string caption_;               ///< of the form, in the user's language
     std::optional<std::string> loaded_; ///< the choice that the rows are of
     base::Decimal otherAnnounced_;      ///< of the contract's other reports
     base::Decimal otherConfirmed_;
