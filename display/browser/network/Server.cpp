@@ -6,6 +6,7 @@
 #include "display/browser/network/guarded.h"
 #include "display/browser/network/secrets.h"
 #include "display/browser/session/PageSessions.h"
+#include "display/browser/session/SessionFolder.h"
 
 #include <boost/asio/executor_work_guard.hpp>
 #include <boost/asio/io_context.hpp>
@@ -133,7 +134,9 @@ struct Server::Network {
 };
 
 Server::Server(Program program, ServerOptions options)
-    : network_(std::make_unique<Network>(std::move(program), options)) {}
+    : network_(std::make_unique<Network>(std::move(program), options)) {
+    SessionFolder::removeAbandoned();
+}
 
 Server::~Server() {
     stop();

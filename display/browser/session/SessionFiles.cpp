@@ -1,6 +1,5 @@
 #include "display/browser/session/SessionFiles.h"
 
-#include "display/browser/network/secrets.h"
 #include "module/base/text.h"
 
 #include <algorithm>
@@ -52,21 +51,9 @@ std::string cleanedName(const std::string& name) {
     return text.empty() ? "Datei" : text;
 }
 
-SessionFiles::~SessionFiles() {
-    if (folder_.empty()) return;
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-}
-
 const fs::path& SessionFiles::folder() {
-    if (folder_.empty()) {
-        const fs::path path = fs::temp_directory_path() / ("tellurix-" + randomKey());
-        if (!fs::create_directory(path)) throw std::runtime_error{"no folder for files: " + path.string()};
-        folder_ = path;
-        // Only the user that the application runs for looks into it.
-        fs::permissions(path, fs::perms::owner_all);
-    }
-    return folder_;
+    if (!folder_) folder_.emplace();
+    return folder_->path();
 }
 
 void SessionFiles::await(int id) {
@@ -105,7 +92,7 @@ SessionFiles::Upload::~Upload() {
 std::optional<std::string> SessionFiles::take(int id, const std::string& name) {
     const std::lock_guard lock{mutex_};
     if (id == 0 || id != awaited_ || !sent_) return std::nullopt;
-    const fs::path place = awaitedIn(folder_, id);
+    const fs::path place = awaitedIn(folder(), id);
     fs::path named = place / cleanedName(name);
     fs::rename(place / ".part", named);
     awaited_ = 0;
@@ -129,7 +116,7 @@ int SessionFiles::offer(const std::string& name, const std::string& content) {
     offered_.emplace(id, cleanedName(name));
     while (offered_.size() > mostOffered) {
         std::error_code ignored;
-        fs::remove(offeredIn(folder_, offered_.begin()->first), ignored);
+        fs::remove(offeredIn(folder(), offered_.begin()->first), ignored);
         fetched_.erase(offered_.begin()->first);
         offered_.erase(offered_.begin());
     }
@@ -140,7 +127,7 @@ std::optional<SessionFiles::Offered> SessionFiles::fetch(int id) {
     const std::lock_guard lock{mutex_};
     const auto found = offered_.find(id);
     if (found == offered_.end()) return std::nullopt;
-    std::ifstream file{offeredIn(folder_, id), std::ios::binary};
+    std::ifstream file{offeredIn(folder(), id), std::ios::binary};
     if (!file) return std::nullopt;
     fetched_.insert(id);
     return Offered{found->second, {std::istreambuf_iterator<char>{file}, {}}};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "display/browser/session/SessionFolder.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -19,7 +21,6 @@ public:
     static constexpr std::uint64_t mostBytes = 32UL * 1024 * 1024;
 
     SessionFiles() = default;
-    ~SessionFiles();
     SessionFiles(const SessionFiles&) = delete;
     SessionFiles& operator=(const SessionFiles&) = delete;
 
@@ -69,7 +70,7 @@ private:
     const std::filesystem::path& folder();
 
     mutable std::mutex mutex_;
-    std::filesystem::path folder_;
+    std::optional<SessionFolder> folder_; ///< made for the first file
     int awaited_ = 0;
     bool sending_ = false;
     bool sent_ = false;

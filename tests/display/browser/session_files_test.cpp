@@ -3,10 +3,13 @@
 #include "display/browser/network/Server.h"
 #include "tests/display/browser/RawPage.h"
 #include "tests/support/DemoForm.h"
+#include "tests/support/TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace tellurix::browser {
 namespace {
@@ -64,6 +67,28 @@ TEST(SessionFiles, GoWithTheirSession) {
         EXPECT_EQ(files.waiting().begin()->first, 6);
     }
     EXPECT_FALSE(std::filesystem::exists(folder));
+}
+
+TEST(SessionFiles, OfAKilledProcessGoWithTheNextStart) {
+    const tests::TestFolder temporary;
+    ASSERT_EQ(::setenv("TMPDIR", (temporary / "").c_str(), 1), 0);
+    SessionFiles present;
+    present.offer("a.xlsx", "present");
+    std::filesystem::create_directory(temporary / "tellurix-session-of-somebody-else");
+    const pid_t other = ::fork();
+    if (other == 0) {
+        SessionFiles().offer("b.xlsx", "gone with its process");
+        auto* killed = new SessionFiles;
+        killed->offer("c.xlsx", "left behind");
+        ::_exit(0);
+    }
+    ::waitpid(other, nullptr, 0);
+    EXPECT_EQ(temporary.files().size(), 3U);
+    const Server server{[](BrowserDisplay&) {}};
+    EXPECT_EQ(temporary.files().size(), 2U);
+    EXPECT_EQ(present.fetch(1).value().content, "present");
+    EXPECT_TRUE(temporary.files().contains("tellurix-session-of-somebody-else"));
+    ::unsetenv("TMPDIR");
 }
 
 /// The demo form, whose button asks for a document and gives it back.
