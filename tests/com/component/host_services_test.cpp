@@ -189,6 +189,22 @@ TEST_F(HostServices, AreNamedInTheUsersLanguageWhenTheyFail) {
     }
 }
 
+TEST_F(HostServices, GiveTheSessionWhatTheyPutIntoItsRecord) {
+    ComponentClient host;
+    const FakeClass dataAccess(L"Tellurix_Loc.HostDataAccess", [](const CallArguments& given) {
+        give(recordOf<::TlxVar>(given).Language, "en");
+        return Variant();
+    });
+    const FakeClass localizer(L"Tellurix_Loc.HostLocalizer", [](const CallArguments&) -> Variant {
+        throw windows::AutomationError(E_ACCESSDENIED, "No access", "Host");
+    });
+    RunCall call{.record = &host.record()};
+    const Outcome outcome = callDirectly(*host.createModule(), call);
+    EXPECT_EQ(outcome.description.find("The service Tellurix_Loc.HostLocalizer ("), 0U)
+        << "the module's own texts are in the language now: " << outcome.description;
+    EXPECT_EQ(textOf(host.record().Language), "de") << "the host's own record is as it was";
+}
+
 TEST_F(HostServices, AreNotifiedWhenTheEditorIsClosedAndItsAnswersAreWritten) {
     struct Case {
         const char* rule;
