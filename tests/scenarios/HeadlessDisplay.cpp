@@ -66,7 +66,7 @@ std::optional<std::string> HeadlessDisplay::openFile(const std::string& title, c
 }
 
 void HeadlessDisplay::presentFile(const std::string& name, const std::string&) {
-    fail("unexpected file: " + name);
+    file_ = name;
 }
 
 void HeadlessDisplay::report(const std::exception& error) {
@@ -123,6 +123,7 @@ void HeadlessDisplay::perform(const Step& step) {
          [](HeadlessDisplay&, const Step& s) {
              throw ScenarioError{s, "there is no message"};
          }},
+        {"colleague", [](HeadlessDisplay& display, const Step& s) { display.colleague_.execute(s.word(0)); }},
         {"close", [](HeadlessDisplay& display, const Step&) { display.user_.close(); }},
     };
     const auto verb = verbs.find(step.verb);
@@ -188,6 +189,11 @@ void HeadlessDisplay::expect(const Step& step) {
     if (step.word(0) == "clipboard") {
         const std::string text = base::replaceAll(clipboard_, "\r\n", "\n");
         if (text != step.word(1)) throw ScenarioError{step, "it holds \"" + text + "\""};
+        return;
+    }
+    if (step.word(0) == "file") {
+        if (file_.find(step.word(1)) == std::string::npos)
+            throw ScenarioError{step, "it is \"" + file_ + "\""};
         return;
     }
     auto& control = user_.control<ui::Control>(step.word(0));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/database.h"
 #include "tests/scenarios/Scenario.h"
 #include "tests/support/ScriptedDisplay.h"
 
@@ -16,7 +17,9 @@ public:
     /// of the screen.
     struct Over {};
 
-    explicit HeadlessDisplay(std::vector<Step> steps) : steps_(std::move(steps)) {}
+    /// @param colleague a connection of somebody else's to the same database
+    HeadlessDisplay(std::vector<Step> steps, base::Connection& colleague)
+        : steps_(std::move(steps)), colleague_(colleague) {}
 
     /// Where the errors of events go; without one they end the scenario.
     void setErrorHandling(ui::ErrorHandling* errors) { errors_ = errors; }
@@ -43,9 +46,11 @@ private:
     [[noreturn]] void fail(const std::string& why);
 
     std::vector<Step> steps_;
+    base::Connection& colleague_;
     std::size_t next_ = 0;
     std::string failure_;
     std::string clipboard_;
+    std::string file_; ///< the last one that was made for the user
     ui::ErrorHandling* errors_ = nullptr;
     ui::Desktop desktop_{*this, *this};
     User user_{desktop_};

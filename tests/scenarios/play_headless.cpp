@@ -27,7 +27,8 @@ std::string play(const std::filesystem::path& scenario, const std::string& datab
     // What holds on the strictest of servers holds everywhere.
     OneStatementConnection connection{*connected};
     const auto catalogue = standin::TextCatalogue::builtIn();
-    HeadlessDisplay display{readScenario(scenario)};
+    const auto colleague = connectTo(database, clock);
+    HeadlessDisplay display{readScenario(scenario), *colleague};
     host::TlxVar session{.connection = &connection, .homeCurrency = "CHF", .site = {}, .user = "test"};
     standin::WorkbenchServices services{display, session, catalogue};
     display.setErrorHandling(&services.host().errors);

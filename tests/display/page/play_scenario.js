@@ -1,5 +1,6 @@
 // Plays a scenario in a real browser: play_scenario.js SCENARIO DATABASE
 // The steps are described in tests/scenarios/README.md.
+import { execFileSync } from 'node:child_process';
 import { readFileSync } from 'node:fs';
 import { checkScreen } from './check_screen.js';
 import { control, hasFocus, open, serve, settled, startBrowser, top, until } from './support.js';
@@ -36,8 +37,11 @@ function chord(word) {
 }
 
 class Player {
+  #file = ''; // the last one that was made for the user
+
   constructor(page) {
     this.page = page;
+    page.on('download', (download) => { this.#file = download.suggestedFilename(); });
   }
 
   window([form]) {
@@ -113,6 +117,10 @@ class Player {
       if (text !== wanted) throw new Error(`it holds "${text}"`);
       return;
     }
+    if (name.text === 'file') {
+      await until(() => this.#file.includes(wanted) || this.#file, 'file');
+      return;
+    }
     const found = this.#control(name);
     const [row, ...cells] = rest;
     if (!row.quoted) {
@@ -140,6 +148,10 @@ class Player {
     }
     await this.page.emulateMedia({ colorScheme: null, forcedColors: null });
     await this.page.setViewportSize(size);
+  }
+
+  colleague([{ text }]) {
+    execFileSync(process.env.TELLURIX_WORKBENCH, ['sql', '--database', database, text]);
   }
 
   close() {

@@ -2,10 +2,13 @@
 //     play_on_windows SCENARIO DATABASE
 #include "com/automation/AutomationError.h"
 #include "com/automation/wide.h"
+#include "database/embedded/Database.h"
 #include "module/base/text.h"
+#include "standin/services/values/SystemClock.h"
 #include "standin/windows_host/HostSession.h"
 #include "standin/windows_host/libraries.h"
 #include "tests/scenarios/Scenario.h"
+#include "tests/scenarios/windows/opened_files.h"
 #include "tests/support/windows/WindowsUser.h"
 
 #include <algorithm>
@@ -17,6 +20,8 @@
 
 namespace tellurix::tests {
 namespace {
+
+std::string databaseFile;
 
 using Verb = std::function<void(WindowsUser&, const Step&)>;
 
@@ -99,11 +104,22 @@ void expectError(WindowsUser& user, const Step& step) {
     if (shown != step.words.back().text) throw ScenarioError{step, "it is \"" + shown + "\""};
 }
 
+void expectFile(const Step& step) {
+    std::string opened;
+    for (int tries = 0; tries < 500; ++tries) {
+        opened = lastOpenedFile();
+        if (opened.find(step.word(1)) != std::string::npos) return;
+        Sleep(10);
+    }
+    throw ScenarioError{step, "it is \"" + opened + "\""};
+}
+
 void expect(WindowsUser& user, const Step& step) {
     if (step.word(0) == "clipboard") {
         if (onClipboard() != step.word(1)) throw ScenarioError{step, "it holds \"" + onClipboard() + "\""};
         return;
     }
+    if (step.word(0) == "file") return expectFile(step);
     const bool focus = step.word(0) == "focus";
     if (step.word(0) == "error") return expectError(user, step);
     if (!focus && !step.quoted(1)) return expectCells(user.control(step.word(0)), step);
@@ -117,6 +133,12 @@ void answer(WindowsUser& user, const Step& step) {
     const std::string text = WindowsUser::messageText(message);
     if (text.find(step.word(1)) == std::string::npos) throw ScenarioError{step, "the message is: " + text};
     user.answer(message, answerOf(step));
+}
+
+/// On a connection of somebody else's.
+void colleague(const Step& step) {
+    const standin::SystemClock clock;
+    embedded::Database{databaseFile, clock}.connect()->execute(step.word(0));
 }
 
 /// Says where the topmost window stands, "NAME LEFT TOP WIDTH HEIGHT", and waits for a line from whoever
@@ -156,6 +178,7 @@ const std::map<std::string, Verb>& verbs() {
         {"expect", expect},
         {"answer", answer},
         {"picture", picture},
+        {"colleague", [](WindowsUser&, const Step& step) { colleague(step); }},
         {"close", [](WindowsUser& user, const Step&) { user.close(); }},
     };
     return known;
@@ -206,6 +229,7 @@ void play(DWORD thread, const std::string& file) {
 
 int main(int count, char** arguments) {
     using namespace tellurix;
+    if (tests::noteOpenedFile()) return 0;
     if (count != 3) {
         std::cerr << "usage: play_on_windows SCENARIO DATABASE\n";
         return 2;
@@ -217,6 +241,8 @@ int main(int count, char** arguments) {
             windows::HostOptions options;
             options.database = arguments[2];
             options.user = "test";
+            tests::databaseFile = arguments[2];
+            tests::openFilesWithThisProgram();
             windows::HostSession session{options};
             std::thread user{tests::play, GetCurrentThreadId(), std::string{arguments[1]}};
             session.run();
