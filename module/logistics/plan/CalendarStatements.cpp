@@ -27,9 +27,9 @@ StatementText& expectingPlan(StatementText& statement, std::int64_t key, const b
 std::string CalendarStatements::list(int sortColumn) const {
     StatementText batch{dayTable};
     batch.fixed(
-        "SELECT WVO_VERTAG_KALENDER.ID,"
-        "CAST(WVO_VERTAG_KALENDER.JAHR AS nvarchar(4))+'/'+RIGHT('0'+CAST(WVO_VERTAG_KALENDER.WOCHE AS nvarchar(2)),2) AS JAHRWOCHE,"
-        "(select convert(nvarchar(10),min(dtTable.DayDate),104) from @temp dtTable where dtTable.ISO_KW = WVO_VERTAG_KALENDER.WOCHE AND  dtTable.YEAR_KW = WVO_VERTAG_KALENDER.JAHR) "
+        "SELECT WVO_VERTAG_KALENDER.ID,\r\n"
+        "CAST(WVO_VERTAG_KALENDER.JAHR AS nvarchar(4))+'/'+RIGHT('0'+CAST(WVO_VERTAG_KALENDER.WOCHE AS nvarchar(2)),2) AS JAHRWOCHE,\r\n"
+        "(select convert(nvarchar(10),min(dtTable.DayDate),104) from @temp dtTable where dtTable.ISO_KW = WVO_VERTAG_KALENDER.WOCHE AND  dtTable.YEAR_KW = WVO_VERTAG_KALENDER.JAHR) \r\n"
         "+ '-' + (select convert(nvarchar(10),max(dtTable.DayDate),104) from @temp dtTable where dtTable.ISO_KW = WVO_VERTAG_KALENDER.WOCHE AND  dtTable.YEAR_KW = WVO_VERTAG_KALENDER.JAHR)  AS DATUM,\r\n"
         "WVO_VERTAG_KALENDER.JAHR,\r\n"
         "WVO_VERTAG_KALENDER.WOCHE,\r\n"
