@@ -2,9 +2,9 @@
 #include "standin/home/F_NewContract.h"
 #include "standin/services/mail/F_Mail.h"
 #include "standin/services/models/F_Models.h"
-#include "standin/services/pickers/F_LookupGrid.h"
-#include "standin/services/pickers/F_MultiSelection.h"
+#include "standin/services/pickers/multiple/F_MultiSelection.h"
 #include "standin/services/selection/F_Selection.h"
+#include "standin/services/selection/codes/F_LookupGrid.h"
 #include "tests/standin/services/ServicesTest.h"
 
 namespace tellurix::tests {

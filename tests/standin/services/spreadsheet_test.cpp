@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 
 namespace tellurix::tests {
 namespace {
@@ -18,9 +19,11 @@ protected:
     std::string read(const std::string& parameters, const std::string& title = workbookTitle) {
         host.spreadsheets.exportTable(session, parameters, title);
         folder.write("exported.xlsx", display.files().back().content);
-        const std::string command = "/usr/bin/python3 " TELLURIX_TEST_FOLDER "/read_workbook.py " +
-                                    (folder / "exported.xlsx") + " 2>&1";
-        FILE* output = popen(command.c_str(), "r");
+        return outputOf("/usr/bin/python3 " TELLURIX_TEST_FOLDER "/read_workbook.py " +
+                        (folder / "exported.xlsx"));
+    }
+    static std::string outputOf(const std::string& command) {
+        FILE* output = popen((command + " 2>&1").c_str(), "r");
         std::string text;
         std::array<char, 4096> buffer{};
         while (const std::size_t length = std::fread(buffer.data(), 1, buffer.size(), output))
@@ -28,6 +31,15 @@ protected:
         EXPECT_EQ(pclose(output), 0) << text;
         return text;
     }
+    /// Has an office program make something else of the file, beside it.
+    void convert(const std::string& to) {
+        outputOf("LC_ALL=C.UTF-8 " + std::string{office} + " -env:UserInstallation=file://" +
+                 (folder / "profile") + " --headless --convert-to '" + to + "' --outdir " + (folder / "") +
+                 " " + (folder / "exported.xlsx"));
+    }
+
+    static constexpr const char* office = "/usr/bin/soffice";
+    static constexpr const char* textOfPrint = "/usr/bin/pdftotext";
 
     TestFolder folder;
 };
@@ -54,6 +66,29 @@ TEST_F(Spreadsheets, AnotherProgramReadsWhatWasShown) {
             "B4 s 'SUMME:' bold\nC4 n 1234567 #,##0 bold\nF4 s 'http://a.example' bold\n"
             "widths 12 17 15\n");
     EXPECT_EQ(display.files().back().name, "Vertrag R-2025 001 A&B Kalender.xlsx");
+}
+
+TEST_F(Spreadsheets, AnOfficeProgramShowsAndPrintsThem) {
+    if (!std::filesystem::exists(office) || !std::filesystem::exists(textOfPrint))
+        GTEST_SKIP()
+            << "needs the packages libreoffice-calc-nogui and poppler-utils, too large for every test";
+    const std::string title = "Vertrag: R-2025-003 Judenburg";
+    read("FORMAT=0;;0;0;\r\nROW=1\r\nTABLE=Mitgl.Nr.\tMitglied Name\tMenge\tPLZ\tgeändert\tBemerkung\r\n"
+         "3001\tMüller & Söhne\t1.234.567,50\t01067\t09.03.2026 08:05\t=SUM(A1:A9)\r\n"
+         "\tSUMME:\t1.234.567,50\t\t\t",
+         title);
+    // "|" between the cells, which are written as they are shown.
+    convert("csv:Text - txt - csv (StarCalc):124,34,76,1,,0,false,true");
+    EXPECT_EQ(folder.read("exported.csv"),
+              "Mitgl.Nr.|Mitglied Name|Menge|PLZ|geändert|Bemerkung\n"
+              "3001|Müller & Söhne|1,234,567.50|01067|09.03.2026 08:05|=SUM(A1:A9)\n"
+              "|SUMME:|1,234,567.50|||\n");
+    convert("pdf");
+    const std::string printed =
+        outputOf(std::string{textOfPrint} + " -layout " + (folder / "exported.pdf") + " -");
+    for (const char* seen : {title.c_str(), "Müller & Söhne", "1,234,567.50", "09.03.2026 08:05", "SUMME:"})
+        EXPECT_NE(printed.find(seen), std::string::npos) << seen << " in\n" << printed;
+    EXPECT_EQ(printed.find("##"), std::string::npos) << "every column is wide enough\n" << printed;
 }
 
 TEST_F(Spreadsheets, TheTableBeginsInItsRowAndMayBeEmpty) {
