@@ -2,7 +2,7 @@
 // says which of its controls has the focus.
 import { placeCard } from './card.js';
 import { isOverheard } from './keys.js';
-import { buildLayout, nameTables } from './layout.js';
+import { buildLayout } from './layout.js';
 import { createView } from './controls/index.js';
 import { newElementId } from './controls/view.js';
 import { showPath } from './path.js';
@@ -179,14 +179,13 @@ export class Desktop {
     element.classList.toggle('one-grid', controls.filter(({ kind }) => kind === 'grid').length === 1);
     // One may show another: a table that is being edited has a box in it.
     this.#draw(window, controls);
-    const { content, bar } = buildLayout(layout, window.views);
+    const { content, bar } = buildLayout(layout, window.views, element);
     const middle = document.createElement('div');
     middle.className = 'content scrolls';
     middle.append(content);
     window.path = this.#titleBar(window);
     window.status = new StatusLine(() => this.perform(window, { type: 'statusAction' }));
     element.append(window.path, middle, ...(bar ? [bar] : []), window.status.element);
-    nameTables(element, window.views);
     this.#title(window, title);
     if (card) window.asks?.element.classList.add('asked');
     this.#windows.push(window);

@@ -54,24 +54,18 @@ const builders = {
   },
 };
 
-/** @returns what scrolls, and the bar of buttons below it: those of a page, too, while that is shown */
-export function buildLayout(node, views) {
+/**
+ * @param window the element of the window
+ * @returns what scrolls, and the bar of buttons below it: those of a page, too, while that is shown
+ */
+export function buildLayout(node, views, window) {
   const content = build(node, views);
-  nameTheRest(views);
+  nameTheRest(views, window);
   const bars = [...content.querySelectorAll('.bar')];
   const bar = bars.pop() ?? null;
   bar?.prepend(...bars);
   bar?.remove();
   return { content, bar };
-}
-
-/** Names the tables and lists that no label stands with: by the frame around them, or by the window. */
-export function nameTables(heading, views) {
-  for (const { element, focusElement, state } of views.values()) {
-    if (!['grid', 'list'].includes(state.kind) || focusElement.hasAttribute('aria-labelledby')) continue;
-    const caption = element.closest('.frame')?.querySelector('.caption:not(:empty)');
-    focusElement.setAttribute('aria-labelledby', (caption ?? heading).id);
-  }
 }
 
 function build(node, views) {
@@ -93,15 +87,19 @@ function viewOf(node, views) {
   return views.get(node.control);
 }
 
-/** What has no label is named by the button that stands in its row, or else by the frame around it. */
-function nameTheRest(views) {
-  for (const view of views.values()) {
-    if (!['text', 'list', 'check'].includes(view.state.kind) || view.focusElement.hasAttribute('aria-label')) continue;
-    if (view.focusElement.getAttribute('aria-labelledby') && !(view.state.kind === 'check' && !view.state.caption)) continue;
-    const beside = view.element.closest('.row')?.querySelectorAll(':scope > .button') ?? [];
-    const button = [...beside].find((element) => /\w{2}/.test(element.textContent));
-    const frame = view.element.closest('.frame')?.querySelector('.caption:not(:empty)');
-    if (button ?? frame) view.focusElement.setAttribute('aria-labelledby', (button ?? frame).id);
+/**
+ * What has no label is named by the button that stands in its row, or else by the frame around it; a table or a
+ * list without either by the window.
+ */
+function nameTheRest(views, window) {
+  for (const { element, focusElement, state: { kind, caption } } of views.values()) {
+    if (!['text', 'check', 'list', 'grid'].includes(kind) || focusElement.hasAttribute('aria-label')) continue;
+    if (focusElement.getAttribute('aria-labelledby') && (kind !== 'check' || caption)) continue;
+    const beside = kind === 'grid' ? [] : element.closest('.row')?.querySelectorAll(':scope > .button') ?? [];
+    const button = [...beside].find((found) => /\w{2}/.test(found.textContent));
+    const frame = element.closest('.frame')?.querySelector('.caption:not(:empty)');
+    const name = button ?? frame ?? (kind === 'grid' || kind === 'list' ? window : null);
+    if (name) focusElement.setAttribute('aria-labelledby', name.id);
   }
 }
 
