@@ -8,10 +8,13 @@
 #include "bench/support/report.h"
 #include "database/embedded/Database.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -24,6 +27,7 @@ using Kind = browser::PageMessage::Kind;
 constexpr int sessions = 15;
 constexpr const char* editor = "F_Vertrag";
 constexpr const char* logistics = "F_Vertrag_WVO";
+constexpr const char* list = "F_MultiSelection";
 constexpr const char* provision = "F_Bereitstellung_WVO";
 constexpr const char* quantities = "F_VertragMengenmeldung_WVO";
 
@@ -62,16 +66,14 @@ private:
     bench::Report report_{{"", "times", "median", "95 %", "longest"}};
 };
 
-/// The contract of the sample that has sixty helpers and the weeks of a year.
-void measureForm() {
-    constexpr std::int32_t contract = 21;
+/// A contract that has sixty helpers and the weeks of a year.
+void measureForm(const std::filesystem::path& file, std::int32_t contract, const std::string& where) {
     constexpr int helpers = 60;
     constexpr int announced = 4; // the column
-    const bench::SampleFile sample;
-    const embedded::Database database{sample.path(), bench::standingClock};
+    const embedded::Database database{file, bench::standingClock};
     Durations first, again, saving;
     std::vector<std::string> opened, saved;
-    const auto open = [](bench::ContractSession& session) { session.open(contract, "R"); };
+    const auto open = [contract](bench::ContractSession& session) { session.open(contract, "R"); };
     for (int i = 0; i < sessions; ++i) {
         const auto connection = database.connect();
         bench::WatchedSession session{*connection};
@@ -102,9 +104,51 @@ void measureForm() {
     times.add("opening, first of a session", first);
     times.add("opening again", again);
     times.add("saving sixty helpers", saving);
-    times.print("The logistics form with 60 helpers and 52 weeks, in milliseconds");
+    times.print("The logistics form with 60 helpers and 52 weeks, " + where + ", in milliseconds");
     bench::listStatements("Opening", opened);
     bench::listStatements("Saving", saved);
+}
+
+/// As many helpers as an office could ever add at once.
+void measureManyAdded() {
+    constexpr std::int64_t persons = 5'000;
+    const bench::GeneratedFile file{
+        {.contracts = 1, .logistics = {.contracts = 1, .helpers = 1, .persons = persons, .weeks = 1}}};
+    const embedded::Database database{file.path(), bench::standingClock};
+    const auto connection = database.connect();
+    bench::WatchedSession session{*connection};
+    const std::vector<Step> script{bench::click(editor, "btnLieferprofil_WVO"),
+                                   bench::chooseRow(logistics, "SSTab1", 2),
+                                   bench::click(logistics, "btnWaldhelfer"),
+                                   bench::click(list, "btnMarkFound"),
+                                   bench::click(list, "btnOk"),
+                                   bench::click(logistics, "btnClose"),
+                                   bench::closeWindow(editor)};
+    session.play(script, [](bench::ContractSession& opened) { opened.open(1, "R"); });
+    Times times;
+    for (const auto& [name, step] :
+         {std::pair{"the list of all", 2}, {"marking them", 3}, {"adding them", 4}}) {
+        Durations once;
+        once.add(session.step(static_cast<std::size_t>(step)));
+        times.add(name, once);
+    }
+    times.print(std::to_string(persons) + " persons added to a contract, in milliseconds");
+}
+
+/// A database of the size that an office has after years.
+void measureFullSize() {
+    const auto begin = std::chrono::steady_clock::now();
+    const bench::GeneratedFile file{
+        {.contracts = 500,
+         .lines = 2,
+         .logistics = {.contracts = 500, .helpers = 60, .persons = 600, .weeks = 52}}};
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
+    bench::heading(std::cout, "500 contracts with 60 helpers and 52 weeks, 1,560,000 reports: generated in " +
+                                  bench::fixed(took.count(), 1) + " s, " +
+                                  std::to_string(std::filesystem::file_size(file.path()) / 1'000'000) +
+                                  " MB");
+    // One of the first type.
+    measureForm(file.path(), 244, "one of 500");
 }
 
 void measureWeek() {
@@ -185,9 +229,12 @@ void measureHelper() {
 
 int main() {
     try {
-        measureForm();
+        const bench::SampleFile sample;
+        measureForm(sample.path(), 21, "in the sample");
+        measureManyAdded();
         measureWeek();
         measureHelper();
+        measureFullSize();
         return EXIT_SUCCESS;
     } catch (const browser::SessionEnded&) {
         return EXIT_FAILURE; // the page has told why

@@ -5,6 +5,7 @@
 
 #include "bench/support/SampleFile.h"
 #include "bench/support/WatchedSession.h"
+#include "bench/support/process_memory.h"
 #include "bench/support/report.h"
 #include "database/embedded/Database.h"
 #include "module/base/text.h"
@@ -17,7 +18,6 @@
 
 #include <cstdlib>
 #include <exception>
-#include <fstream>
 #include <functional>
 #include <iostream>
 #include <map>
@@ -279,26 +279,14 @@ void measureStatements(const tests::PostgresServer& server) {
     report.print(std::cout);
 }
 
-/// What this process has in memory, in kilobytes.
-std::int64_t memory() {
-    std::ifstream status{"/proc/self/status"};
-    for (std::string word; status >> word;)
-        if (word == "VmRSS:") {
-            std::int64_t kilobytes = 0;
-            status >> kilobytes;
-            return kilobytes;
-        }
-    return 0;
-}
-
 void measureSessions(const tests::PostgresServer& server, Answers& answers) {
-    const std::int64_t before = memory();
+    const std::int64_t before = bench::residentKilobytes("self");
     std::vector<std::unique_ptr<AskedConnection>> connections;
     Durations connecting;
     for (int each = 0; each < sessions; ++each)
         connecting.add(bench::timeOf(
             [&] { connections.push_back(std::make_unique<AskedConnection>(connectTo(server), answers)); }));
-    const std::int64_t connected = memory();
+    const std::int64_t connected = bench::residentKilobytes("self");
     std::vector<std::thread> users;
     std::mutex mutex;
     Durations opening;

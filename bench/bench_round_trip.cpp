@@ -155,7 +155,7 @@ void measureRoundTrips() {
 
 std::int64_t settledKilobytes(const bench::WorkbenchProcess& workbench) {
     std::this_thread::sleep_for(std::chrono::milliseconds{500});
-    return workbench.residentKilobytes();
+    return workbench.memory();
 }
 
 void measureMemory() {

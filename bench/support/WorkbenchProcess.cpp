@@ -1,5 +1,7 @@
 #include "bench/support/WorkbenchProcess.h"
 
+#include "bench/support/process_memory.h"
+
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -73,12 +75,8 @@ void WorkbenchProcess::readAddress(int output) {
     key_ = address.substr(key + beforeKey.size());
 }
 
-std::int64_t WorkbenchProcess::residentKilobytes() const {
-    std::ifstream status{"/proc/" + std::to_string(process_) + "/status"};
-    for (std::string line; std::getline(status, line);) {
-        if (line.starts_with("VmRSS:")) return std::stoll(line.substr(6));
-    }
-    throw std::runtime_error{"the workbench is not running any more"};
+std::int64_t WorkbenchProcess::memory() const {
+    return residentKilobytes(std::to_string(process_));
 }
 
 double WorkbenchProcess::processorSeconds() const {

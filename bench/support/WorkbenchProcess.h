@@ -23,7 +23,7 @@ public:
     const std::string& key() const { return key_; }
 
     /// The memory that it has in use, in kilobytes.
-    std::int64_t residentKilobytes() const;
+    std::int64_t memory() const;
     /// The processor time that it has used, in seconds.
     double processorSeconds() const;
 
