@@ -170,6 +170,16 @@ void addWhatIsMissing(base::Connection& connection) {
     }
 }
 
+namespace {
+
+/// Whether a table holds anything but what comes with it.
+bool holdsRows(base::Connection& connection, const std::string& table) {
+    const char* ours = table == "WORKBENCH_SETTING" ? " WHERE NAME <> 'SCHEMA'" : "";
+    return connection.open("SELECT COUNT(*) FROM " + table + ours)->integer(0) > 0;
+}
+
+} // namespace
+
 bool hasWorkbenchTables(base::Connection& connection) {
     return columnsOf(connection, "WORKBENCH_SETTING").has_value();
 }
@@ -178,6 +188,7 @@ std::vector<std::string> prepare(base::Connection& connection, bool withSample) 
     std::vector<std::string> made;
     std::vector<std::string> present;
     std::vector<std::string> said;
+    bool lacks = false;
     for (const std::string_view batch : embedded::splitBatches(database_contents::file("schema.sql"))) {
         const std::string table = tableOf(batch);
         const auto isMade = [&](const std::string& name) {
@@ -194,8 +205,10 @@ std::vector<std::string> prepare(base::Connection& connection, bool withSample) 
             const auto columns = columnsOf(connection, table);
             if (columns) {
                 present.push_back(table);
-                for (const std::string& statement : lackingColumns(batch, *columns))
+                for (const std::string& statement : lackingColumns(batch, *columns)) {
                     said.push_back("lacking, and left to you: " + statement);
+                    lacks = true;
+                }
             } else {
                 connection.execute(batch);
                 made.push_back(table);
@@ -206,12 +219,13 @@ std::vector<std::string> prepare(base::Connection& connection, bool withSample) 
     if (!present.empty())
         said.push_back("there already, and left as they are: " + base::joined(present, ", "));
     if (!withSample) return said;
-    if (present.empty()) {
+    const bool fits = !lacks && std::ranges::none_of(
+                                    present, [&](const auto& table) { return holdsRows(connection, table); });
+    if (fits) {
         fillWithSample(connection);
         said.emplace_back("filled with the sample trade");
     } else {
-        said.emplace_back(
-            "the sample trade was not put in: it goes into a database without any of these tables");
+        said.emplace_back("the sample trade was not put in: it goes into whole and empty tables alone");
     }
     return said;
 }

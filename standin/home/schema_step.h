@@ -17,7 +17,7 @@ void addWhatIsMissing(base::Connection& connection);
 bool hasWorkbenchTables(base::Connection& connection);
 
 /// Makes those tables where they are missing; with `withSample` every table of the schema, and the sample
-/// trade when none of them was there. What is there is not touched.
+/// trade when none of them has rows or lacks columns. What is there is not touched.
 /// @return what was done and what was not, a sentence each
 /// @throws base::DatabaseError
 std::vector<std::string> prepare(base::Connection& connection, bool withSample);

@@ -19,6 +19,8 @@ struct Adapter {
     const char* database;
     /// Whether errors tell where in the statement they are.
     bool tellsPositions;
+    /// Whether its clock runs on, as nobody can stop that of a server which is lent to the tests.
+    bool clockRuns = false;
 };
 
 /// A test with a database file of its own, in which it is always 5 June 2025, half past two.

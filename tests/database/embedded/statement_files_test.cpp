@@ -191,8 +191,11 @@ TEST_P(StatementFiles, AnswerAsWritten) {
     const StatementFile file = StatementFile::read(GetParam());
     if (!file.isShared && !speaksTsql()) GTEST_SKIP() << "T-SQL alone";
     load(file.setup);
-    for (const StatementBlock& block : file.blocks) {
+    for (StatementBlock block : file.blocks) {
         if (!concernsUs(block)) continue;
+        if (adapter.clockRuns)
+            block.statement =
+                base::replaceAll(block.statement, "GETDATE()", "CAST('2025-06-05T14:30:00' AS datetime)");
         SCOPED_TRACE(GetParam().filename().string() + ":" + std::to_string(block.line) + " " + block.name +
                      "\n" + block.statement);
         // The server stops counting rows with NOCOUNT, which a block before may have set.

@@ -4,7 +4,8 @@
 
 namespace tellurix::embedded {
 
-const Adapter EmbeddedTest::adapter{.database = "server", .tellsPositions = false};
+const Adapter EmbeddedTest::adapter{
+    .database = "server", .tellsPositions = false, .clockRuns = tests::serverOfEnvironment() != nullptr};
 
 std::unique_ptr<base::Connection> EmbeddedTest::connect() const {
     static std::filesystem::path present;

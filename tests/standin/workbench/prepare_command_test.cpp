@@ -46,9 +46,12 @@ TEST_F(PrepareCommand, MakesTheWorkbenchsOwnTablesAndLeavesWhatIsThere) {
               "{\"columns\": [\"N\"], \"rows\": [[0]]}\n");
 }
 
-TEST_F(PrepareCommand, PutsTheSampleIntoADatabaseWithoutAnyOfTheTables) {
+TEST_F(PrepareCommand, PutsTheSampleIntoEmptyTables) {
+    run({"sql", "--empty", "SELECT 1 AS N"});
+    run({"prepare"});
     const std::string said = run({"prepare", "--sample"});
     EXPECT_TRUE(has(said, "made: VERTRAEGE, ") && has(said, "filled with the sample trade")) << said;
+    EXPECT_TRUE(has(run({"prepare", "--sample"}), "the sample trade was not put in"));
     EXPECT_EQ(run({"sql", "SELECT COUNT(*) AS N FROM VERTRAEGE"}),
               "{\"columns\": [\"N\"], \"rows\": [[23]]}\n");
 }
