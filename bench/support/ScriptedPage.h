@@ -47,6 +47,8 @@ public:
 
     browser::SessionFiles& files() override { return files_; }
     browser::PageMessage next() override;
+    /// What is to be done when there is time is done before each step.
+    bool waiting() override { return false; }
     void send(std::string drawing) override;
     void sendComplete(std::string drawing, const browser::PageMessage& redraw) override;
 

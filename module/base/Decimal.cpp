@@ -192,6 +192,10 @@ Decimal operator*(const Decimal& left, const Decimal& right) {
     return Decimal(a.units_ * b.units_, a.scale_ + b.scale_);
 }
 
+double Decimal::toDouble() const {
+    return static_cast<double>(units_) / std::pow(10.0, scale_);
+}
+
 std::string Decimal::toString() const {
     auto digits = std::to_string(units_ < 0 ? -units_ : units_);
     const auto decimals = static_cast<std::size_t>(scale_);

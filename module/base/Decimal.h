@@ -38,6 +38,9 @@ public:
     /// @throws std::out_of_range when it is not finite or has more than 18 digits before the point.
     static Decimal fromDouble(double value);
 
+    /// The nearest floating-point number, for what is only drawn.
+    double toDouble() const;
+
     std::int64_t units() const { return units_; }
     int scale() const { return scale_; }
 

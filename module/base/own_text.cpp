@@ -89,6 +89,8 @@ constexpr Words wordsOf(OwnText text) {
         return {"Nicht in der Liste", "Not in the list"};
     case OwnText::nothingFound:
         return {"Keine Treffer", "Nothing found"};
+    case OwnText::today:
+        return {"heute", "today"};
     case OwnText::discardChanges:
         return {"Die Änderungen sind noch nicht gespeichert. Verwerfen?",
                 "The changes have not been saved yet. Discard them?"};
@@ -226,6 +228,10 @@ constexpr Words wordsOf(OwnText text) {
     case OwnText::weekOutsidePeriod:
         return {"Jahr und Woche müssen im Lieferzeitraum liegen: {}!",
                 "Year and week have to lie in the delivery period: {}!"};
+    case OwnText::weekWithoutPlan:
+        return {"1 Woche ohne Menge: {}", "1 week without a quantity: {}"};
+    case OwnText::weeksWithoutPlan:
+        return {"{} Wochen ohne Menge: {}", "{} weeks without a quantity: {}"};
     case OwnText::weekIsGone:
         return {
             "Diese Woche hat inzwischen jemand anderer gelöscht. Alle Eingaben sind noch da: „Speichern“ "

@@ -51,6 +51,8 @@ enum class OwnText {
     notInList,
     // Lists
     nothingFound,
+    // Charts
+    today,
     // Questions of more than one screen
     discardChanges,
     // The contract editor
@@ -109,6 +111,8 @@ enum class OwnText {
     settingMissing,    ///< its name
     noFileName,
     weekOutsidePeriod, ///< first and last week
+    weekWithoutPlan,   ///< the week
+    weeksWithoutPlan,  ///< how many, the weeks
     weekIsGone,
     weeksMade,
     weeksUndone,

@@ -3,6 +3,7 @@
 #include "module/base/text.h"
 #include "module/ui/F_Tasten.h"
 #include "module/ui/controls/Button.h"
+#include "module/ui/controls/Chart.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/ListBox.h"
@@ -76,6 +77,17 @@ void Desktop::dispatch(const Event& event) {
         goTo(refused.control());
     } catch (const std::exception& error) {
         errors_.report(error);
+    }
+}
+
+bool Desktop::doLater() {
+    Form* form = top();
+    if (form == nullptr || !form->loaded()) return false;
+    try {
+        return form->doLater();
+    } catch (const std::exception& error) {
+        errors_.report(error);
+        return true;
     }
 }
 
@@ -301,6 +313,11 @@ void Desktop::handle(Form& form, const StepEvent& event) {
 }
 
 void Desktop::handle(Form& form, const SelectEvent& event) {
+    if (const Chart* chart = as<Chart>(event.control)) {
+        // It never has the focus: what stands in the box that has it is checked first, as for a button.
+        if (chart->usable() && leave(form)) chart->onSelect(event.index);
+        return;
+    }
     if (event.control == nullptr || !event.control->usable() || !moveFocus(form, *event.control)) return;
     if (Grid* grid = as<Grid>(event.control); grid != nullptr && event.extends)
         return grid->extendTo({event.index, event.column});

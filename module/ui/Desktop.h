@@ -49,6 +49,12 @@ public:
     /// Handles one event for the topmost window. Never throws an std::exception.
     void dispatch(const Event& event);
 
+    /// Does a piece of what the topmost window wants to be done when there is time (`Form::later`). A display
+    /// calls it while no event waits, and draws what came of it. An error in it is handled as one in an
+    /// event.
+    /// @return false when there is nothing to do
+    bool doLater();
+
 private:
     void handle(Form& form, const KeyDownEvent& event);
     void handle(Form& form, const PickKeyEvent& event);

@@ -5,6 +5,7 @@
 #include "module/ui/controls/TextBox.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tellurix::ui {
 
@@ -160,6 +161,15 @@ bool Form::unload() {
     } closing{unloading_};
     if (!queryUnload()) return false;
     loaded_ = false;
+    later_ = nullptr;
+    return true;
+}
+
+bool Form::doLater() {
+    if (!later_) return false;
+    // The step itself, too, may want something else to be done.
+    std::function<bool()> step = std::exchange(later_, nullptr);
+    if (step() && !later_) later_ = std::move(step);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "module/ui/Layout.h"
 #include "module/ui/StatusLine.h"
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -80,6 +81,14 @@ public:
     /// @return false when it stays open
     bool unload();
 
+    /// Has something done as soon as the user leaves time for it, in place of what was to be done before.
+    /// @param step a piece of it, short enough for a key that comes meanwhile to wait; called again, as long
+    ///        as nothing else happens, while it answers that there is more to do
+    void later(std::function<bool()> step) { later_ = std::move(step); }
+    /// For displays, through Desktop: does a piece of it.
+    /// @return false when there is nothing to do
+    bool doLater();
+
     bool titleDirty() const { return titleDirty_; }
     /// For displays: the title has been drawn.
     void titleDrawn() { titleDirty_ = false; }
@@ -101,6 +110,7 @@ private:
     std::vector<Control*> controls_;
     Layout layout_{Layout::Kind::column, nullptr, {}};
     StatusLine status_;
+    std::function<bool()> later_;
     Control* focused_ = nullptr;
     Button* cancelButton_ = nullptr;
     std::string language_;

@@ -1,5 +1,6 @@
 #include "module/logistics/plan/CalendarArea.h"
 #include "module/parts/grids/KeyedRow.h"
+#include "module/ui/controls/Chart.h"
 #include "tests/logistics/LogisticsTest.h"
 
 namespace tellurix::tests {
@@ -86,6 +87,33 @@ TEST_F(LogisticsCalendar, ComparesThePlanWithAContractInOneUnit) {
         EXPECT_FALSE(user.usable("btnBearbeiten1"));
         EXPECT_FALSE(user.usable("btnLoschen1"));
     });
+}
+
+TEST_F(LogisticsCalendar, AChartOfTheWeeksFollowsTheListAndLeadsThroughIt) {
+    openWeeks(fibreWood, [&](User& user) {
+        EXPECT_EQ(user.bars("chtPlan"), "[19:250] 20:250 21:250 22:300 23:450 24:0!");
+        EXPECT_EQ(user.caption("lblOhneMenge"), "1 Woche ohne Menge: 24");
+        user.clickHeading("DataGridKalendar", 2);
+        user.clickHeading("DataGridKalendar", 2);
+        EXPECT_EQ(user.bars("chtPlan"), "[19:250] 20:250 21:250 22:300 23:450 24:0!")
+            << "in the order of time";
+        user.select("chtPlan", 4);
+        EXPECT_EQ(user.grid("DataGridKalendar").cell(user.grid("DataGridKalendar").currentRow(), 0),
+                  "2025/23");
+        EXPECT_EQ(user.focused(), "DataGridKalendar");
+        EXPECT_TRUE(user.bars("chtPlan").ends_with("[23:450] 24:0!"));
+        user.key(ui::Key::end);
+        EXPECT_TRUE(user.bars("chtPlan").starts_with("19:")) << "marked is the row of the list";
+
+        user.click("btnBearbeiten1");
+        user.select("chtPlan", 0);
+        EXPECT_EQ(user.focused(), "txtJahr") << "as in the list: no other week while one is edited";
+        user.type("txtPlanmenge", "12,5");
+        user.click("btnSpeichern1");
+        EXPECT_NE(user.bars("chtPlan").find(":12,50"), std::string::npos) << user.bars("chtPlan");
+        EXPECT_FALSE(user.control<ui::Chart>("chtPlan").today()) << "it is after the last week";
+    });
+    openWeeks(7, [&](User& user) { EXPECT_FALSE(user.usable("chtPlan")) << "there are no weeks"; });
 }
 
 TEST_F(LogisticsCalendar, FurtherColumnsOfTheRecordSetAreCaptioned) {

@@ -2,6 +2,7 @@
 
 #include "module/base/text.h"
 #include "module/ui/controls/Button.h"
+#include "module/ui/controls/Chart.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/ItemList.h"
 #include "module/ui/controls/TextBox.h"
@@ -107,6 +108,11 @@ void User::scroll(std::string_view control) {
     desktop_.dispatch(ui::ScrollEvent{&find(control)});
 }
 
+void User::pause() {
+    while (desktop_.doLater()) {
+    }
+}
+
 void User::close() {
     desktop_.dispatch(ui::CloseEvent{});
 }
@@ -160,6 +166,17 @@ bool User::usable(std::string_view control) {
 
 ui::Grid& User::grid(std::string_view control) {
     return this->control<ui::Grid>(control);
+}
+
+std::string User::bars(std::string_view control) {
+    const auto& chart = this->control<ui::Chart>(control);
+    std::string text;
+    for (int i = 0; i < static_cast<int>(chart.bars().size()); ++i) {
+        const ui::Chart::Bar& bar = chart.bars()[static_cast<std::size_t>(i)];
+        const std::string words = bar.name + ":" + bar.text + (bar.empty() ? "!" : "");
+        text += (i == 0 ? "" : " ") + (i == chart.marked() ? "[" + words + "]" : words);
+    }
+    return text;
 }
 
 std::string User::items(std::string_view control) {

@@ -38,6 +38,8 @@ public:
     void doubleClick(std::string_view control);
     void clickHeading(std::string_view control, int column);
     void scroll(std::string_view control);
+    /// Does nothing for a while: what waits for that is done.
+    void pause();
     /// The window's close box.
     void close();
 
@@ -60,6 +62,8 @@ public:
     void pressStatus();
     bool usable(std::string_view control);
     ui::Grid& grid(std::string_view control);
+    /// The bars of a chart as "name:values in words", the marked one in brackets, an empty one with "!".
+    std::string bars(std::string_view control);
     /// The items of a list, one a line.
     std::string items(std::string_view control);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/ui/controls/Button.h"
+#include "module/ui/controls/Chart.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/TextBox.h"
 #include "module/ui/input/RefusedInput.h"
@@ -42,6 +43,7 @@ public:
             ui::field(lblKunde, txtKunde),
             txtGesperrt,
             ui::frame(frmExtra, {chkExtra}),
+            chart,
             btnKunden,
             btnFail,
             btnRefuse,
@@ -67,6 +69,7 @@ public:
     ui::TextBox txtGesperrt{*this, "txtGesperrt"};
     ui::Frame frmExtra{*this, "frmExtra", "Extra"};
     ui::CheckBox chkExtra{*this, "chkExtra", "E&xtra"};
+    ui::Chart chart{*this, "chart"};
     ui::Button btnKunden{*this, "btnKunden", "K&unden"};
     ui::Button btnFail{*this, "btnFail", "Fehler"};
     ui::Button btnRefuse{*this, "btnRefuse", "A&&u"};

@@ -93,6 +93,53 @@ TEST_F(InputRules, AccessKeysPressTickAndGo) {
     });
 }
 
+TEST_F(InputRules, ABarOfAChartIsChosenOnceTheBoxMayBeLeft) {
+    std::vector<int> chosen;
+    order.chart.setBars({{"01", {3}, "3"}, {"02", {0}, "0"}});
+    order.chart.onSelect = [&](int bar) { chosen.push_back(bar); };
+    work([&](User& user) {
+        user.type("txtDatum", "99.99.2025");
+        user.select("chart", 1);
+        EXPECT_TRUE(chosen.empty());
+        user.type("txtDatum", "");
+        user.select("chart", 1);
+        EXPECT_EQ(chosen, std::vector{1});
+        EXPECT_EQ(user.focused(), "txtDatum") << "a chart never has the focus";
+        user.close();
+    });
+    const std::pair<double, double> scales[] = {{0.3, 1}, {4, 4}, {6, 6}, {40, 40}, {41, 50}, {1001, 1500}};
+    for (const auto& [largest, top] : scales) {
+        order.chart.setBars({{"", {largest}, ""}});
+        EXPECT_EQ(order.chart.scale().top, top) << largest;
+    }
+}
+
+TEST_F(InputRules, WhatCanWaitIsDoneInPiecesWhileTheUserPauses) {
+    int pieces = 0;
+    const auto work = [&](int all) { order.later([&pieces, all] { return ++pieces < all; }); };
+    this->work([&](User& user) {
+        work(3);
+        user.type("txtName", "a");
+        EXPECT_EQ(pieces, 0) << "input comes first";
+        user.pause();
+        EXPECT_EQ(pieces, 3);
+        work(3);
+        work(10);
+        user.pause();
+        EXPECT_EQ(pieces, 10) << "the newest takes the place of the one before";
+        order.later([]() -> bool { throw std::runtime_error{"der Server ist weg"}; });
+        user.pause();
+        EXPECT_EQ(display.errors().size(), 1u);
+        order.later([&] { return ++pieces < 20; });
+        user.close();
+    });
+    this->work([&](User& user) {
+        user.pause();
+        EXPECT_EQ(pieces, 10) << "it went with the window";
+        user.close();
+    });
+}
+
 TEST_F(InputRules, AnErrorInAnEventIsReportedAndTheWindowStaysWithWhatWasTyped) {
     work([&](User& user) {
         user.type("txtName", "Grün");

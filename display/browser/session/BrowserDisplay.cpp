@@ -64,6 +64,9 @@ void BrowserDisplay::showModal(ui::Form& form) {
 
 ui::Event BrowserDisplay::nextEvent() {
     for (;;) {
+        draw(true);
+        while (!page_.waiting() && desktop_.doLater())
+            draw(true);
         const PageMessage message = wait();
         const Window& top = windows_.back();
         if (message.window != top.id) continue;

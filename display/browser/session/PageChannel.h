@@ -23,6 +23,9 @@ public:
     /// @throws SessionEnded
     virtual PageMessage next() = 0;
 
+    /// Whether the user has already done something.
+    virtual bool waiting() = 0;
+
     /// The files that go between the session and its page.
     virtual SessionFiles& files() = 0;
 

@@ -121,6 +121,11 @@ PageMessage PageSession::next() {
     }
 }
 
+bool PageSession::waiting() {
+    const std::lock_guard lock{mutex_};
+    return ending_ || !queue_.empty();
+}
+
 void PageSession::send(std::string drawing) {
     const std::lock_guard lock{mutex_};
     if (link_ && drawnConnection_ == connection_) link_->send(std::move(drawing));

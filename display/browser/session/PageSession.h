@@ -69,6 +69,7 @@ public:
 
     SessionFiles& files() override { return files_; }
     PageMessage next() override;
+    bool waiting() override;
     void send(std::string drawing) override;
     void sendComplete(std::string drawing, const PageMessage& redraw) override;
 

@@ -126,6 +126,36 @@ void draw(json& out, const ui::UpDown& /*upDown*/, bool /*whole*/) {
     out["kind"] = "upDown";
 }
 
+void draw(json& out, const ui::Chart& chart, bool /*whole*/) {
+    const ui::Chart::Scale scale = chart.scale();
+    json bars = json::array();
+    for (const auto& bar : chart.bars())
+        bars.push_back(
+            {{"name", bar.name}, {"values", bar.values}, {"text", bar.text}, {"empty", bar.empty()}});
+    out["kind"] = "chart";
+    out["series"] = chart.series();
+    out["bars"] = std::move(bars);
+    out["marked"] = chart.marked();
+    out["today"] = chart.today() ? json(*chart.today()) : json();
+    out["todayText"] = chart.todayText();
+    out["top"] = scale.top;
+    out["step"] = scale.step;
+    out["every"] = chart.namedEvery();
+}
+
+void draw(json& out, const ui::Gauges& table, bool /*whole*/) {
+    json lines = json::array();
+    for (const auto& line : table.gauges())
+        lines.push_back({{"cells", line.cells},
+                         {"reached", line.reached},
+                         {"permitted", line.permitted},
+                         {"warns", line.warns}});
+    out["kind"] = "gauges";
+    out["headings"] = table.headings();
+    out["lines"] = std::move(lines);
+    out["scale"] = ui::Gauges::scale;
+}
+
 void draw(json& out, const ui::ProgressBar& bar, bool /*whole*/) {
     out["kind"] = "progress";
     out["value"] = bar.value();

@@ -21,6 +21,8 @@ int countOf(const ui::Control& control) {
             return static_cast<int>(visited.rows().size());
         else if constexpr (requires { visited.items(); })
             return static_cast<int>(visited.items().size());
+        else if constexpr (requires { visited.bars(); })
+            return static_cast<int>(visited.bars().size());
         else if constexpr (requires { visited.captions(); })
             return static_cast<int>(visited.captions().size());
         else

@@ -8,6 +8,7 @@
 #include "module/parts/M_Common.h"
 #include "module/parts/questions.h"
 #include "module/ui/controls/caption.h"
+#include "module/ui/input/control_keys.h"
 #include "module/ui/input/number_box.h"
 
 #include <cstdlib>
@@ -53,13 +54,7 @@ CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
       txtWoche(form, "txtWoche", 6),
       lblPlanmenge(form, "lblPlanmenge", "Planmenge"),
       txtPlanmenge(form, "txtPlanmenge", 10),
-      frmVergleich(form, "frmVergleich", "Plan und Vertrag"),
-      lblPlan(form, "lblPlan", "Plan"),
-      lblPlanWert(form, "lblPlanWert"),
-      lblVertrag(form, "lblVertrag", "Vertrag"),
-      lblVertragWert(form, "lblVertragWert"),
-      lblDifferenz(form, "lblDifferenz", "Differenz"),
-      lblDifferenzWert(form, "lblDifferenzWert"),
+      weekPlan_(form, services),
       btnNeu1(form, "btnNeu1", "Neu"),
       btnBearbeiten1(form, "btnBearbeiten1", "Bearbeiten"),
       btnSpeichern1(form, "btnSpeichern1", "Speichern"),
@@ -74,7 +69,7 @@ CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
              .save = &btnSpeichern1,
              .cancel = &btnAbbrechen1,
              .remove = &btnLoschen1},
-            {.inView = {&DataGridKalendar, &btnGenWeek},
+            {.inView = {&DataGridKalendar, &weekPlan_.bars(), &btnGenWeek},
              .whileEdited = {&frmKalendar},
              .rows = &DataGridKalendar},
             [this] { return weeks_.currentKey().has_value(); }) {
@@ -125,6 +120,8 @@ void CalendarArea::connect() {
     DataGridKalendar.onDoubleClick = [this] {
         if (btnBearbeiten1.usable()) startEdit();
     };
+    DataGridKalendar.onCurrentChange = [this] { weekPlan_.mark(weeks_.currentKey()); };
+    weekPlan_.onSelect = [this](std::int64_t week) { goTo(week); };
     btnNeu1.onClick = [this] { startNew(); };
     btnBearbeiten1.onClick = [this] { startEdit(); };
     btnSpeichern1.onClick = [this] { save(); };
@@ -137,18 +134,16 @@ void CalendarArea::connect() {
 
 ui::Layout CalendarArea::layout() {
     return column({
-        ui::sides(
-            ui::section(frmKalenderwochen, {btnGenWeek},
-                        {ui::Layout{DataGridKalendar}.growing(), lblMeldung}),
-            ui::groups(
-                {
-                    ui::frame(frmKalendar, {ui::fields(1, {field(lblKW_Year, txtJahr), field(lblKW, txtWoche),
+        ui::sides(ui::section(frmKalenderwochen, {btnGenWeek},
+                              {ui::Layout{DataGridKalendar}.growing(), lblMeldung}),
+                  ui::groups({
+                                 ui::frame(frmKalendar,
+                                           {ui::fields(1, {field(lblKW_Year, txtJahr), field(lblKW, txtWoche),
                                                            field(lblPlanmenge, txtPlanmenge)})}),
-                    ui::frame(frmVergleich,
-                              {ui::fields(1, {field(lblPlan, lblPlanWert), field(lblVertrag, lblVertragWert),
-                                              field(lblDifferenz, lblDifferenzWert)})}),
-                })
-                .growing())
+                                 weekPlan_.chart(),
+                                 weekPlan_.sums(),
+                             })
+                      .growing())
             .growing(),
         ui::bar({btnNeu1, btnBearbeiten1, ui::Layout{btnSpeichern1}.primary(), btnAbbrechen1, btnLoschen1}),
     });
@@ -217,31 +212,14 @@ void CalendarArea::reload(std::optional<std::int64_t> key) {
     std::erase_if(rows, [](const parts::KeyedRow& week) { return week.key() == 0; });
     weeks_.show(std::move(rows));
     if (key) weeks_.select(*key);
-    showComparison();
+    weekPlan_.show(weeks_, contract_, statements_);
 }
 
-void CalendarArea::showComparison() {
-    struct Quantity {
-        std::string unit;
-        base::Value sum;
-    };
-    std::vector<Quantity> quantities;
-    for (auto line = contract_.connection().open(statements_.contractQuantities()); !line->atEnd();
-         line->moveNext())
-        quantities.push_back({line->text("EINHEIT"), line->field("MENGE")});
-    // Quantities in several units, or in none, cannot be compared with one plan.
-    const bool comparable = quantities.size() == 1 && !quantities.front().unit.empty();
-    frmVergleich.setVisible(comparable);
-    if (!comparable) return;
-    const base::Decimal plan = weeks_.sum("PLANMENGE");
-    const base::Decimal agreed = base::numberIn(quantities.front().sum).value_or(base::Decimal{});
-    const auto show = [&](ui::Label& label, const base::Decimal& quantity) {
-        label.setCaption(base::formatNumber(quantity, twoDecimals, services_.locale) + " " +
-                         quantities.front().unit);
-    };
-    show(lblPlanWert, plan);
-    show(lblVertragWert, agreed);
-    show(lblDifferenzWert, agreed - plan);
+void CalendarArea::goTo(std::int64_t week) {
+    const auto row = weeks_.find(week);
+    if (!row) return;
+    parts::SafeSetFocus(DataGridKalendar);
+    ui::choose(DataGridKalendar, *row, DataGridKalendar.currentColumn());
 }
 
 void CalendarArea::sortBy(int heading) {

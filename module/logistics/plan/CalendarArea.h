@@ -5,6 +5,7 @@
 #include "module/logistics/plan/Area.h"
 #include "module/logistics/plan/CalendarStatements.h"
 #include "module/logistics/plan/WeekGeneration.h"
+#include "module/logistics/plan/WeekPlan.h"
 #include "module/logistics/plan/calendar_weeks.h"
 #include "module/parts/UndoOffers.h"
 #include "module/parts/fields/EnteredChanges.h"
@@ -45,7 +46,8 @@ public:
 private:
     void connect();
     void connectRow();
-    void showComparison();
+    /// Goes to a week of the list, as keys in the list do.
+    void goTo(std::int64_t week);
     void sortBy(int heading);
     /// The number that a column has in the list's query.
     int numberOf(std::size_t column);
@@ -97,13 +99,7 @@ private:
     ui::TextBox txtWoche;
     ui::Label lblPlanmenge;
     ui::TextBox txtPlanmenge;
-    ui::Frame frmVergleich;
-    ui::Label lblPlan;
-    ui::Label lblPlanWert;
-    ui::Label lblVertrag;
-    ui::Label lblVertragWert;
-    ui::Label lblDifferenz;
-    ui::Label lblDifferenzWert;
+    WeekPlan weekPlan_;
     ui::Button btnNeu1;
     ui::Button btnBearbeiten1;
     ui::Button btnSpeichern1;

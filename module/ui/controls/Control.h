@@ -24,6 +24,8 @@ enum class ControlKind {
     frame,
     tabs,
     upDown,
+    chart,
+    gauges,
     progressBar
 };
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "module/ui/controls/Button.h"
+#include "module/ui/controls/Chart.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Gauges.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/Label.h"
 #include "module/ui/controls/ListBox.h"
@@ -45,6 +47,10 @@ decltype(auto) visit(AnyControl& control, const Action& action) {
         return call(std::type_identity<Tabs>{});
     case ControlKind::upDown:
         return call(std::type_identity<UpDown>{});
+    case ControlKind::chart:
+        return call(std::type_identity<Chart>{});
+    case ControlKind::gauges:
+        return call(std::type_identity<Gauges>{});
     case ControlKind::progressBar:
         break;
     }

@@ -62,10 +62,10 @@ struct StepEvent {
     Control* control = nullptr;
     bool up = false;
 };
-/// An item of a list, a page of tabs, or a cell of a grid was chosen.
+/// An item of a list, a page of tabs, a bar of a chart, or a cell of a grid was chosen.
 struct SelectEvent {
     Control* control = nullptr;
-    int index = 0; ///< item, page, or row
+    int index = 0; ///< item, page, bar, or row
     int column = 0;
     bool extends = false; ///< with Shift held: marks the cells of a grid up to that one
 };

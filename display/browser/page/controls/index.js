@@ -1,7 +1,9 @@
 // One drawer a control kind.
 import { Button } from './button.js';
+import { Chart } from './chart.js';
 import { CheckBox } from './check_box.js';
 import { ComboBox, ListBox } from './lists.js';
+import { Gauges } from './gauges.js';
 import { Grid } from './grid.js';
 import { Frame, Label, ProgressBar } from './passive.js';
 import { Tabs } from './tabs.js';
@@ -19,6 +21,8 @@ const views = {
   frame: Frame,
   tabs: Tabs,
   upDown: UpDown,
+  chart: Chart,
+  gauges: Gauges,
   progress: ProgressBar,
 };
 
