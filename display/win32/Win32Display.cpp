@@ -61,6 +61,11 @@ ui::Event Win32Display::nextEvent() {
         EventQueue& events;
     };
     while (top.events().empty()) {
+        MSG waiting{};
+        if (!PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE) && desktop_.doLater()) {
+            draw();
+            continue;
+        }
         // A native control may have taken the focus without anything having come of it.
         if (GetCapture() == nullptr) top.placeFocus();
         MSG message{};

@@ -4,7 +4,7 @@
 
 namespace tellurix::windows {
 
-FrameView::FrameView(ViewHost& host, ui::Frame& frame) : ControlView(host, frame), frame_(frame) {
+FrameView::FrameView(ViewHost& host, ui::Frame& frame) : PaintedView(host, frame), frame_(frame) {
     // A group box, so that screen readers say its caption; what it looks like is painted here,
     // because native ones leave the ground between the controls as it was.
     create(L"BUTTON", BS_GROUPBOX);
@@ -27,9 +27,7 @@ void FrameView::draw() {
     InvalidateRect(handle(), nullptr, FALSE);
 }
 
-void FrameView::paint(HDC dc) const {
-    RECT all{};
-    GetClientRect(handle(), &all);
+void FrameView::paint(HDC dc, const RECT& all) const {
     FillRect(dc, &all, background());
     RECT border = all;
     const bool captioned = !frame_.caption().empty();
@@ -51,24 +49,6 @@ void FrameView::paint(HDC dc) const {
     SetBkMode(dc, OPAQUE);
     DrawTextW(dc, caption.c_str(), static_cast<int>(caption.size()), &place,
               DT_SINGLELINE | DT_TOP | DT_LEFT | DT_END_ELLIPSIS);
-}
-
-LRESULT FrameView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_PAINT: {
-        PAINTSTRUCT drawing{};
-        paint(BeginPaint(handle(), &drawing));
-        EndPaint(handle(), &drawing);
-        return 0;
-    }
-    case WM_ENABLE:
-        InvalidateRect(handle(), nullptr, FALSE);
-        return 0;
-    default:
-        return native(message, wParam, lParam);
-    }
 }
 
 } // namespace tellurix::windows

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "display/win32/controls/ControlView.h"
+#include "display/win32/controls/PaintedView.h"
 #include "module/ui/controls/Frame.h"
 
 namespace tellurix::windows {
 
 /// A border with a caption. The controls inside are windows beside it, so it lies below them and
 /// paints the ground they stand on.
-class FrameView final : public ControlView {
+class FrameView final : public PaintedView {
 public:
     FrameView(ViewHost& host, ui::Frame& frame);
 
@@ -18,8 +18,7 @@ public:
 
 private:
     void draw() override;
-    LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void paint(HDC dc) const;
+    void paint(HDC dc, const RECT& all) const override;
 
     ui::Frame& frame_;
 };

@@ -1,8 +1,10 @@
 #include "display/win32/controls/make_view.h"
 
 #include "display/win32/controls/ButtonView.h"
+#include "display/win32/controls/ChartView.h"
 #include "display/win32/controls/CheckBoxView.h"
 #include "display/win32/controls/FrameView.h"
+#include "display/win32/controls/GaugesView.h"
 #include "display/win32/controls/LabelView.h"
 #include "display/win32/controls/ListViews.h"
 #include "display/win32/controls/ProgressBarView.h"
@@ -47,6 +49,12 @@ View viewFor(ViewHost& host, ui::Tabs& tabs) {
 }
 View viewFor(ViewHost& host, ui::UpDown& upDown) {
     return std::make_unique<UpDownView>(host, upDown);
+}
+View viewFor(ViewHost& host, ui::Chart& chart) {
+    return std::make_unique<ChartView>(host, chart);
+}
+View viewFor(ViewHost& host, ui::Gauges& gauges) {
+    return std::make_unique<GaugesView>(host, gauges);
 }
 View viewFor(ViewHost& host, ui::ProgressBar& bar) {
     return std::make_unique<ProgressBarView>(host, bar);
