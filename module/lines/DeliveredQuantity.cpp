@@ -3,7 +3,6 @@
 #include "module/base/Refused.h"
 #include "module/base/field_text.h"
 #include "module/base/text.h"
-#include "module/host/module_state.h"
 
 namespace tellurix::lines {
 
@@ -68,6 +67,9 @@ Decimal quantityIn(const base::Value& field) {
     return exact.scale() > quantityDecimals ? exact.rounded(quantityDecimals) : exact;
 }
 
+DeliveredQuantity::DeliveredQuantity(parts::OpenContract contract, std::string_view type)
+    : contract_(std::move(contract)), type_(base::toUpper(type)) {}
+
 std::vector<DeliveredQuantity::Line> DeliveredQuantity::linesUpTo(int place) const {
     // clang-format off
     StatementText query{"SELECT VERTRAG_MENGEN.SELEKTION_VALUE,VERTRAG_MENGEN.ORDNUNG,"
@@ -107,8 +109,7 @@ std::string DeliveredQuantity::conditionOf(int place, const std::string& selecti
     if (selection.empty()) return {};
     try {
         return contract_.services->selectionTranslator.translate(
-            contract_.session, logsOfContract, logsOfContract, selection,
-            base::toUpper(host::moduleState().context.StrVer_Type), contract_.name);
+            contract_.session, logsOfContract, logsOfContract, selection, type_, contract_.name);
     } catch (const base::DatabaseError&) {
         throw;
     } catch (const std::exception& error) {
@@ -131,10 +132,7 @@ std::string DeliveredQuantity::conditionOf(int place, const std::string& selecti
 
 StatementText DeliveredQuantity::bookedLogs() const {
     StatementText logs{" LOGS.ID_LOG IN (SELECT ID_LOG FROM LOGS_RECH WHERE "};
-    logs.identifier(base::toUpper(host::moduleState().context.StrVer_Type) + "_VERTRAG")
-        .fixed(" = ")
-        .quoted(contract_.name)
-        .fixed(")");
+    logs.identifier(type_ + "_VERTRAG").fixed(" = ").quoted(contract_.name).fixed(")");
     return logs;
 }
 

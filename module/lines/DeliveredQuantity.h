@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tellurix::lines {
@@ -28,7 +29,8 @@ base::Decimal quantityIn(const base::Value& field);
 class DeliveredQuantity {
 public:
     /// @param contract `LOGS_RECH` knows it by its name
-    explicit DeliveredQuantity(parts::OpenContract contract) : contract_(std::move(contract)) {}
+    /// @param type contract-type code, in any case of the letters
+    DeliveredQuantity(parts::OpenContract contract, std::string_view type);
 
     /// The delivered quantity of the line at a place; 0 for a unit in which logs have no measure.
     /// @throws base::Refused naming the line whose selection cannot be translated
@@ -76,6 +78,7 @@ private:
     std::string logsOf(const std::vector<Line>& lines, std::size_t index) const;
 
     parts::OpenContract contract_;
+    std::string type_; ///< in capital letters
 };
 
 } // namespace tellurix::lines

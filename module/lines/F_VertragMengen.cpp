@@ -1,13 +1,13 @@
 #include "module/lines/F_VertragMengen.h"
 
-#include "module/base/StatementText.h"
 #include "module/base/number_format.h"
 #include "module/base/own_text.h"
+#include "module/host/module_state.h"
+#include "module/lines/over_delivery.h"
 
 namespace tellurix::lines {
 
 using base::Decimal;
-using base::StatementText;
 
 namespace {
 
@@ -46,11 +46,7 @@ F_VertragMengen::F_VertragMengen(host::HostServices& services)
 }
 
 void F_VertragMengen::prepare(bool shown) {
-    if (!shown) return;
-    StatementText query{"SELECT UBERLIEFERUNG FROM WVO_VERTRAG WHERE ID_VERTRAEGE = "};
-    const auto logistics = session_.connection->open(query.number(contract_).text());
-    overDelivery_ = {};
-    if (!logistics->atEnd()) overDelivery_ = quantityIn(logistics->field("UBERLIEFERUNG"));
+    if (shown) overDelivery_ = overDeliveryOf(*session_.connection, contract_);
 }
 
 std::vector<parts::KeyedGrid::Column> F_VertragMengen::gridColumns() const {
@@ -109,7 +105,8 @@ void F_VertragMengen::markCurrentRow() {
 }
 
 DeliveredQuantity F_VertragMengen::delivered() const {
-    return DeliveredQuantity{{.services = &services_, .session = session_, .id = contract_, .name = name_}};
+    return DeliveredQuantity{{.services = &services_, .session = session_, .id = contract_, .name = name_},
+                             host::moduleState().context.StrVer_Type};
 }
 
 void F_VertragMengen::showNoOpenQuantity() {
@@ -120,8 +117,7 @@ void F_VertragMengen::showNoOpenQuantity() {
 void F_VertragMengen::showOpenQuantity() {
     const Decimal quantity = delivered().of(place());
     txtOffen.setText(base::formatNumber(agreed_ - quantity, "0.00", services_.locale));
-    const Decimal permitted =
-        (agreed_ + (agreed_ * overDelivery_).dividedByTenTo(2)).rounded(quantityDecimals);
+    const Decimal permitted = permittedQuantity(agreed_, overDelivery_);
     if (quantity > permitted) {
         const auto number = [this](const Decimal& value) {
             return base::formatNumber(value, "##,##0.00", services_.locale);

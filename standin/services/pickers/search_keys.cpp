@@ -1,5 +1,7 @@
 #include "standin/services/pickers/search_keys.h"
 
+#include "module/ui/input/control_keys.h"
+
 #include <algorithm>
 
 namespace tellurix::standin {
@@ -32,7 +34,8 @@ void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> ch
         } else if (const int step = stepOf(key.key, list); step != 0) {
             key.key = ui::Key::none;
             const int last = static_cast<int>(list.rows().size()) - 1;
-            if (last >= 0) list.setCurrent(std::clamp(list.currentRow() + step, 0, last));
+            if (last >= 0)
+                ui::choose(list, std::clamp(list.currentRow() + step, 0, last), list.currentColumn());
         }
     };
     list.onDoubleClick = std::move(choose);
