@@ -25,8 +25,11 @@ constexpr const char* articleChosen = "1LV";
 /// Item data of a model that the calculation has and the model service does not.
 constexpr std::int64_t notKept = 0;
 /// The statistics, by their position, whose lines may apply to a subset of the goods.
-constexpr int firstWithSubset = 1;
-constexpr int lastWithSubset = 12;
+bool mayHaveSubset(int statistic) {
+    constexpr int first = 1;
+    constexpr int last = 12;
+    return statistic >= first && statistic <= last;
+}
 
 /// A character beyond it has no key code to be checked with; the mask refuses it anyway.
 constexpr char32_t lastKeyCode = 0x7FFF;
@@ -74,8 +77,8 @@ void F_Abschlag::connect() {
 
 std::string F_Abschlag::Run(const host::TlxVar& session, std::int16_t mode, const std::string& calculation) {
     session_ = session;
-    statements_ = CalculationStatements{calculation, base::toUpper(host::moduleState().context.VerType)};
-    model_ = storedModel_ = ReadModelColumn("ABS_MODEL");
+    stored_.open(calculation, base::toUpper(host::moduleState().context.VerType));
+    model_ = storedModel_ = stored_.ReadModelColumn("ABS_MODEL");
     RunActions(session, mode);
     const int width = services_.columnWidth.of(session_, table, "BEZEICH");
     for (ui::TextBox& designation : table_.TextBez)
@@ -121,32 +124,8 @@ void F_Abschlag::SetNullValues() {
     }
 }
 
-std::string F_Abschlag::ReadModelColumn(const std::string& column) {
-    const auto model = session_.connection->open(statements_.readModelColumn(column));
-    return model->atEnd() ? std::string{} : model->text(column);
-}
-
-StoredLines F_Abschlag::readStored() {
-    StoredLines stored;
-    auto row = session_.connection->open(statements_.readLines());
-    if (!row->atEnd()) stored.model = row->text("ABS_MODEL");
-    for (; !row->atEnd(); row->moveNext()) {
-        const std::int64_t number = row->integer("LINE_NUM", -1);
-        // What no line of the screen can show is not touched before the lines are saved.
-        if (number < 0 || number >= static_cast<std::int64_t>(LineTable::size)) continue;
-        stored.lines[static_cast<std::size_t>(number)] = {
-            .statistic = static_cast<int>(row->integer("STATISTIK", host::CalculationLine::noStatistic)),
-            .designation = row->text("BEZEICH"),
-            .value = row->text("WERT_TEXT"),
-            .references = row->text("WERT_LINE"),
-            .subset = row->text("SUBSET_DEF"),
-            .article = static_cast<std::int32_t>(row->integer("ART_ID"))};
-    }
-    return stored;
-}
-
 void F_Abschlag::LoadLines() {
-    shared_.show(readStored());
+    shared_.show(stored_.read());
     showLines();
 }
 
@@ -179,7 +158,7 @@ bool F_Abschlag::linesAreRight() {
 bool F_Abschlag::settle() {
     // What a failed save has left is nobody's work: all lines are written again.
     if (partlySaved_) return true;
-    const bool settled = shared_.settle([this] { return readStored(); });
+    const bool settled = shared_.settle([this] { return stored_.read(); });
     showLines();
     return settled;
 }
@@ -203,7 +182,7 @@ void F_Abschlag::save() {
     PartlySaved saved;
     for (std::size_t line = 0; line < LineTable::size; ++line)
         saved.of += IsCorectLine(line) ? 1U : 0U;
-    DeleteLines();
+    stored_.DeleteLines();
     try {
         writeLines(saved);
     } catch (const std::exception& error) {
@@ -228,7 +207,7 @@ void F_Abschlag::requireTexts() {
             static_cast<void>(parts::typedText(*box));
     }
     try {
-        static_cast<void>(statements_.updateModelColumn("ABS_MODEL", model_));
+        stored_.requireModel(model_);
     } catch (const base::StatementError& error) {
         auto message = base::refusedValue(error.value(), ui::plainCaption(lblModell_.caption()));
         message.push_back({error.reason()});
@@ -239,45 +218,14 @@ void F_Abschlag::requireTexts() {
 void F_Abschlag::writeLines(PartlySaved& saved) {
     for (std::size_t line = 0; line < LineTable::size; ++line) {
         if (!IsCorectLine(line)) continue;
-        SaveLine(line);
+        if (!mayHaveSubset(table_.read(line).statistic)) SetSubset(line, "");
+        stored_.SaveLine(line, table_.read(line));
         ++saved.lines;
     }
-    UpdateModelColumn("ABS_MODEL", model_);
+    stored_.UpdateModelColumn("ABS_MODEL", model_);
     for (std::size_t line = 0; line < LineTable::size; ++line) {
         if (IsCorectLine(line)) table_.Check1[line].setChecked(!FindSubset(line).empty());
     }
-}
-
-void F_Abschlag::SaveLine(std::size_t line) {
-    session_.connection->execute(statements_.insertLine(line));
-    const auto set = [&](const char* column, const std::string& value) {
-        services_.columnUpdate.set(session_, table, column, value, statements_.conditionOf(line));
-    };
-    const host::CalculationLine values = table_.read(line);
-    set("STATISTIK", std::to_string(values.statistic));
-    UpdateLineColumn("BEZEICH", values.designation, line);
-    set("WERT_TEXT", values.value);
-    set("WERT_LINE", values.references);
-    set("ART_ID", values.article < 1 ? "" : std::to_string(values.article));
-    if (values.statistic < firstWithSubset || values.statistic > lastWithSubset) SetSubset(line, "");
-    set("SUBSET_DEF", table_.subset(line));
-}
-
-void F_Abschlag::DeleteLines() {
-    session_.connection->execute(statements_.deleteLines());
-}
-
-void F_Abschlag::UpdateLineColumn(const std::string& column, const std::string& value, std::size_t line) {
-    session_.connection->execute(statements_.updateLineColumn(column, value, line));
-}
-
-void F_Abschlag::UpdateModelColumn(const std::string& column, const std::string& value) {
-    session_.connection->execute(statements_.updateModelColumn(column, value));
-}
-
-std::string F_Abschlag::FindSubset(std::size_t line) {
-    const auto row = session_.connection->open(statements_.readSubset(line));
-    return row->atEnd() ? std::string{} : row->text("SUBSET_DEF");
 }
 
 void F_Abschlag::SetSubset(std::size_t line, const std::string& subset) {

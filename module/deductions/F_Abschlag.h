@@ -1,7 +1,6 @@
 #pragma once
 
 #include "module/base/own_text.h"
-#include "module/deductions/CalculationStatements.h"
 #include "module/deductions/LineTable.h"
 #include "module/deductions/SharedLines.h"
 #include "module/host/module_state.h"
@@ -41,7 +40,7 @@ public:
     /// All lines can be saved.
     bool CheckFields() const { return !fault().has_value(); }
     /// Reads, keeps and shows the subset of a line.
-    std::string FindSubset(std::size_t line);
+    std::string FindSubset(std::size_t line) { return stored_.FindSubset(line); }
     void SetSubset(std::size_t line, const std::string& subset);
     void FillSubset(std::size_t line);
     /// Lets the user choose the article of a line, and shows it.
@@ -64,8 +63,6 @@ private:
     void connect();
     void loadLists();
     void LoadLines();
-    std::string ReadModelColumn(const std::string& column);
-    StoredLines readStored();
     /// Shows of the lines what is not theirs alone: subsets, the model, doubts.
     void showLines();
     std::optional<LineFault> fault() const;
@@ -78,10 +75,6 @@ private:
 
     void save();
     void writeLines(PartlySaved& saved);
-    void SaveLine(std::size_t line);
-    void DeleteLines();
-    void UpdateLineColumn(const std::string& column, const std::string& value, std::size_t line);
-    void UpdateModelColumn(const std::string& column, const std::string& value);
     /// Tries the texts that go into statements as they stand, before anything is deleted.
     /// @throws ui::RefusedInput naming the control whose text no statement can carry
     void requireTexts();
@@ -103,7 +96,7 @@ private:
     host::HostServices& services_;
     host::TlxVar session_;
     std::int16_t mode_ = 0;
-    CalculationStatements statements_;
+    StoredCalculation stored_{services_, session_};
     std::string model_;       ///< shown, and written by the next save
     std::string storedModel_; ///< of the calculation as it is stored
     bool changed_ = false;    ///< by the user, since the lines were read

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/deductions/LineTable.h"
+#include "module/deductions/StoredCalculation.h"
 #include "module/host/services.h"
 #include "module/parts/meanwhile/ConflictQuestion.h"
 
@@ -11,12 +12,6 @@
 #include <vector>
 
 namespace tellurix::deductions {
-
-/// The lines of a calculation and the name of its model, as they are stored.
-struct StoredLines {
-    host::CalculationLines lines;
-    std::string model;
-};
 
 /// The lines on the screen together with those in the database, which others save as well: all lines are
 /// written anew, so what a colleague has changed since they were read has to be on the screen before.

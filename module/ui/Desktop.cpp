@@ -22,8 +22,7 @@ namespace {
 
 /// The access key of a control, 0 for none. The captions of pages and columns mark none.
 char32_t accessKeyOf(const Control& control) {
-    if (as<Tabs>(&control) != nullptr || as<Grid>(&control) != nullptr) return 0;
-    return ui::accessKeyOf(captionText(control).value_or(""));
+    return ui::accessKeyOf(ownCaption(control));
 }
 
 constexpr Key undoKey{'Z'}; // with Ctrl

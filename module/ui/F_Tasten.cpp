@@ -53,8 +53,7 @@ void F_Tasten::add(OwnText text, const std::vector<std::string>& values) {
 }
 
 void F_Tasten::addControl(const Control& control) {
-    const bool marksNone = control.kind() == ControlKind::grid || control.kind() == ControlKind::tabs;
-    const std::string caption = marksNone ? "" : captionText(control).value_or("");
+    const std::string caption = ownCaption(control);
     if (const char32_t key = accessKeyOf(caption); key != 0)
         add(OwnText::keyAccess, {base::encodeUtf8(key), plainCaption(caption)});
     const TextBox* box = as<TextBox>(&control);

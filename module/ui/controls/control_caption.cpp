@@ -28,6 +28,10 @@ std::vector<std::string> parts(const std::string& text) {
     return captions;
 }
 
+bool hasSeveral(const Control& control) {
+    return control.kind() == ControlKind::tabs || control.kind() == ControlKind::grid;
+}
+
 std::vector<std::string> columnCaptions(const Grid& grid) {
     std::vector<std::string> captions;
     for (const Grid::Column& column : grid.columns())
@@ -51,8 +55,7 @@ void setPageCaptions(Tabs& tabs, std::vector<std::string> captions) {
 
 const char* captionKind(const Control& control) {
     if (!captionText(control)) return "";
-    const bool several = control.kind() == ControlKind::tabs || control.kind() == ControlKind::grid;
-    return several ? "captions" : "caption";
+    return hasSeveral(control) ? "captions" : "caption";
 }
 
 std::optional<std::string> captionText(const Control& control) {
@@ -69,11 +72,13 @@ std::optional<std::string> captionText(const Control& control) {
     });
 }
 
+std::string ownCaption(const Control& control) {
+    return hasSeveral(control) ? std::string{} : captionText(control).value_or("");
+}
+
 std::string spokenName(const Control& control) {
     if (const Label* label = control.form().labelOf(control)) return plainCaption(label->caption());
-    const bool several = control.kind() == ControlKind::tabs || control.kind() == ControlKind::grid;
-    if (std::string own = several ? "" : plainCaption(captionText(control).value_or("")); !own.empty())
-        return own;
+    if (std::string own = plainCaption(ownCaption(control)); !own.empty()) return own;
     for (const Control* around = control.container(); around != nullptr; around = around->container()) {
         const Frame* frame = as<Frame>(around);
         if (frame != nullptr && !frame->caption().empty()) return plainCaption(frame->caption());

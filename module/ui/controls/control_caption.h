@@ -15,6 +15,9 @@ const char* captionKind(const Control& control);
 /// that has none of its own.
 std::optional<std::string> captionText(const Control& control);
 
+/// The words on a control that has one caption; empty for one that has several or none.
+std::string ownCaption(const Control& control);
+
 /// What a control is called when it is spoken of: by the label that it stands with or by its own words; a
 /// table or a list without either by the frame around it or by the window.
 std::string spokenName(const Control& control);
