@@ -34,12 +34,21 @@ bool isOwnFolder(const fs::path& path) {
     return ::lstat(path.c_str(), &found) == 0 && S_ISDIR(found.st_mode) && found.st_uid == ::geteuid();
 }
 
-/// Takes the folder away again. @throws std::system_error with the reason of the last call
-[[noreturn]] void giveUp(const fs::path& folder) {
-    const std::error_code reason{errno, std::generic_category()};
+/// With the reason of the last call.
+[[noreturn]] void fail(const fs::path& path) {
+    throw std::system_error{errno, std::generic_category(), path.string()};
+}
+
+/// The open lock file of a new folder, locked. Of a folder that cannot have one nothing stays.
+int lockNew(const fs::path& folder) {
+    const int file = ::open(lockIn(folder).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (file >= 0 && ::flock(file, LOCK_EX) == 0) return file;
+    const int reason = errno;
+    if (file >= 0) ::close(file);
     std::error_code ignored;
     fs::remove_all(folder, ignored);
-    throw std::system_error{reason, folder.string()};
+    errno = reason;
+    fail(folder);
 }
 
 } // namespace
@@ -49,9 +58,8 @@ SessionFolder::SessionFolder() {
     do {
         if (lock_ >= 0) ::close(lock_);
         path_ = fs::temp_directory_path() / (beginning + randomKey());
-        if (::mkdir(path_.c_str(), S_IRWXU) != 0) giveUp(path_);
-        lock_ = ::open(lockIn(path_).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-        if (lock_ < 0 || ::flock(lock_, LOCK_EX) != 0) giveUp(path_);
+        if (::mkdir(path_.c_str(), S_IRWXU) != 0) fail(path_);
+        lock_ = lockNew(path_);
     } while (!leadsTo(lockIn(path_), lock_));
 }
 
