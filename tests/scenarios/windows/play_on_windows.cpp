@@ -21,7 +21,7 @@
 namespace tellurix::tests {
 namespace {
 
-std::string databaseFile;
+std::string databaseFile; ///< that the scenario is played on
 
 using Verb = std::function<void(WindowsUser&, const Step&)>;
 
