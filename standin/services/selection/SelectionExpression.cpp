@@ -58,7 +58,7 @@ bool fitsBox(const SelectionCondition& condition) {
 
 std::string sqlCondition(const SelectionCondition& condition) {
     const std::string column = "LOGS." + std::string{kindOf(condition.attribute).column};
-    const std::string comparison = column + " " + comparisonText(condition);
+    std::string comparison = column + " " + comparisonText(condition);
     if (condition.comparison != SelectionOperator::notOneOf) return comparison;
     return "(" + column + " IS NULL OR " + comparison + ")";
 }

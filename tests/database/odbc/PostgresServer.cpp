@@ -66,9 +66,10 @@ std::uint16_t freePort() {
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof(address);
-    ::bind(file, reinterpret_cast<sockaddr*>(&address), size);
-    ::getsockname(file, reinterpret_cast<sockaddr*>(&address), &size);
+    const bool bound = ::bind(file, reinterpret_cast<sockaddr*>(&address), size) == 0 &&
+                       ::getsockname(file, reinterpret_cast<sockaddr*>(&address), &size) == 0;
     ::close(file);
+    if (!bound) throw std::runtime_error{"no port is free"};
     return ntohs(address.sin_port);
 }
 

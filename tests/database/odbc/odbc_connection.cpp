@@ -4,8 +4,8 @@
 #include <set>
 
 /// What PostgreSQL's driver keeps of each connection until the process ends is none of ours. Asked by the
-/// sanitizer at the end.
-extern "C" const char* __lsan_default_suppressions() {
+/// sanitizer at the end, under this name.
+extern "C" const char* __lsan_default_suppressions() { // NOLINT(bugprone-reserved-identifier)
     return "leak:psqlodbc";
 }
 

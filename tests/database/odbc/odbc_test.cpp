@@ -86,7 +86,7 @@ TEST(OdbcSource, IsAConnectionStringANameOrAFileOfItsOwner) {
 
 /// What connecting fails with; the password must not be in it.
 std::string refusal(const Source& source, const SessionRules& rules) {
-    const std::string message =
+    std::string message =
         failureOf([&] { Database(source, {.rules = rules, .loginTime = 2s, .answerTime = 0s}).connect(); });
     EXPECT_EQ(message.find("geheim"), std::string::npos) << message;
     return message;

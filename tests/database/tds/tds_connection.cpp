@@ -32,6 +32,7 @@ class LeftEmpty final : public testing::Environment {
     }
 };
 
+// NOLINTNEXTLINE(cppcoreguidelines-owning-memory): it goes to the test framework
 [[maybe_unused]] const auto* const leftEmpty = testing::AddGlobalTestEnvironment(new LeftEmpty);
 
 } // namespace
