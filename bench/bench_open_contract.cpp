@@ -1,7 +1,7 @@
 // How long a contract takes to open, and what it costs in statements. The time is the server's: from
 // the call of Vertrag_Run until the drawing with the whole editor is handed to the page's connection,
 // as text. The workbench's own services, display and embedded database do the work; only the browser
-// is missing.
+// is missing. Beside it, what the start page shows of a contract at a glance.
 
 #include "bench/support/ContractSession.h"
 #include "bench/support/SampleFile.h"
@@ -9,6 +9,7 @@
 #include "bench/support/statement_name.h"
 #include "database/embedded/Database.h"
 #include "database/tracing/TracingConnection.h"
+#include "standin/home/contract_glance.h"
 #include "standin/home/contract_list.h"
 
 #include <algorithm>
@@ -93,6 +94,38 @@ void measureOpening(const embedded::Database& database) {
     report.print(std::cout);
 }
 
+/// What the start page reads of a contract while no key is pressed: all of it, and the longest piece, for
+/// which a key may have to wait.
+void measureGlance(const embedded::Database& database) {
+    const auto connection = database.connect();
+    bench::ScriptedPage page;
+    bench::ContractSession session{*connection, page};
+    Durations whole, pieces;
+    std::map<std::int32_t, Durations> byContract;
+    const std::vector<Contract> contracts = contractsOf(*connection);
+    for (int i = 0; i < sessions * roundsEach; ++i) {
+        for (const Contract& contract : contracts) {
+            standin::GlanceReading reading{session.services(), session.record(), contract.id};
+            const Clock::time_point start = Clock::now();
+            for (bool more = true; more;) {
+                const Clock::time_point piece = Clock::now();
+                more = reading.next();
+                pieces.add(Clock::now() - piece);
+            }
+            whole.add(Clock::now() - start);
+            byContract[contract.id].add(Clock::now() - start);
+        }
+    }
+    bench::heading(std::cout, "A contract at a glance, in milliseconds");
+    bench::Report report{{"", "readings", "median", "95 %", "longest"}};
+    report.add(row("each contract", whole));
+    report.add(row("each piece of one", pieces));
+    const auto slowest =
+        std::ranges::max_element(byContract, {}, [](const auto& of) { return of.second.median(); });
+    report.add(row("the slowest contract, " + std::to_string(slowest->first), slowest->second));
+    report.print(std::cout);
+}
+
 /// Counts the statements that a session sends between two of its waits for the user.
 class StatementCount {
 public:
@@ -169,6 +202,7 @@ int main() {
         const bench::SampleFile sample;
         const embedded::Database database{sample.path(), bench::standingClock};
         measureOpening(database);
+        measureGlance(database);
         countStatements(database);
         return EXIT_SUCCESS;
     } catch (const browser::SessionEnded&) {

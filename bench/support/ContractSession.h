@@ -26,6 +26,9 @@ public:
     void openProvisionReports(std::int16_t kind);
     void openQuantityReports();
 
+    standin::WorkbenchServices& services() { return services_; }
+    const host::TlxVar& record() const { return session_; }
+
 private:
     const standin::TextCatalogue catalogue_ = standin::TextCatalogue::builtIn();
     browser::BrowserDisplay display_;

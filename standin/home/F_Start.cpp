@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace tellurix::standin {
 
@@ -36,34 +37,36 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
       opener_(opener),
       languageChanged_(std::move(languageChanged)),
       closing_(closing),
-      newContract_(services, session) {
+      newContract_(services, session),
+      notifications_(services, session),
+      glance_(*this, services, session) {
     const auto type = [this](base::Fields& contract) {
         return contractTypeText(contract.text("VER_TYPE"), services_.localizer(), session_);
     };
     const auto status = [this](base::Fields& contract) {
         return named(contract.flag("ABGESCHLOSSEN") ? "start.isClosed" : "start.isOpen");
     };
+    const auto due = [this](base::Fields& contract) {
+        const base::Value end = contract.field("LIEFERBIS");
+        const auto* moment = std::get_if<base::DateTime>(&end);
+        return moment == nullptr ? std::string{}
+                                 : glance_.dueText(base::dayOf(*moment), contract.flag("ABGESCHLOSSEN"));
+    };
     contracts_.setColumns(
-        {{.caption = "Vertrag", .width = 34, .field = "VERTRAG_NAME", .sorts = true},
-         {.caption = "Vertragsart", .width = 18, .sorts = true, .shown = type},
-         {.caption = "Kunde", .width = 26, .field = "KURZBEZEICHNUNG", .sorts = true},
-         {.caption = "Lieferung von", .width = 14, .field = "LIEFERVON", .sorts = true},
-         {.caption = "bis", .width = 11, .field = "LIEFERBIS", .sorts = true},
-         {.caption = "Status", .width = 13, .sorts = true, .shown = status},
-         {.caption = "Preise", .width = 7, .field = "PREISE", .rightAligned = true, .sorts = true},
-         {.caption = "Mengen", .width = 8, .field = "MENGEN", .rightAligned = true, .sorts = true}});
-    grdNotifications.setColumns({{.caption = "Zeit", .width = 9},
-                                 {.caption = "Code", .width = 9},
-                                 {.caption = "Vertragsart", .width = 18}});
+        {{.caption = "Vertrag", .width = 30, .field = "VERTRAG_NAME", .sorts = true},
+         {.caption = "Vertragsart", .width = 15, .sorts = true, .shown = type},
+         {.caption = "Kunde", .width = 19, .field = "KURZBEZEICHNUNG", .sorts = true},
+         {.caption = "Lieferung von", .width = 11, .field = "LIEFERVON", .sorts = true},
+         {.caption = "bis", .width = 17, .field = "LIEFERBIS", .sorts = true},
+         {.caption = "Frist", .width = 8, .shown = due},
+         {.caption = "Status", .width = 9, .sorts = true, .shown = status},
+         {.caption = "Preise", .width = 6, .field = "PREISE", .rightAligned = true, .sorts = true},
+         {.caption = "Mengen", .width = 6, .field = "MENGEN", .rightAligned = true, .sorts = true}});
     cboLanguage.add("Deutsch");
     cboLanguage.add("English");
     limitSearch(txtSearch);
     connect();
     arrange();
-}
-
-F_Start::~F_Start() {
-    services_.moduleService().onNotification = {};
 }
 
 void F_Start::connect() {
@@ -78,7 +81,9 @@ void F_Start::connect() {
     btnNew.onClick = [this] { create(); };
     btnProvisionReports.onClick = [this] { opener_.openProvisionReports(chosenKind()); };
     btnQuantityReports.onClick = [this] { opener_.openQuantityReports(chosenKind()); };
-    services_.moduleService().onNotification = [this](const Notification&) { showNotifications(); };
+    btnNotifications.setQuiet(true);
+    btnNotifications.onClick = [this] { notifications_.Run(); };
+    grdContracts.onCurrentChange = [this] { lookAtCurrent(); };
     // At once, because the window of a browser goes without being closed.
     grdContracts.onColumnSized = [this] { layouts_->keep(); };
     grdContracts.onHeadingClick.after([this](int) { layouts_->keep(); });
@@ -97,11 +102,10 @@ void F_Start::arrange() {
     setLayout(column({
         ui::filters({field(lblSearch, txtSearch), field(lblType, cboType), field(lblClosed, cboClosed),
                      field(lblFrom, txtFrom), field(lblTo, txtTo), field(lblLanguage, cboLanguage)}),
-        ui::Layout{grdContracts}.growing(),
-        lblCount,
-        ui::frame(frmNotifications, {grdNotifications}),
+        ui::sides(ui::column({ui::Layout{grdContracts}.growing(), lblCount}).growing(), glance_.layout())
+            .growing(),
         ui::bar({ui::Layout{btnOpen}.primary(), btnNew},
-                {field(lblKind, cboKind), btnProvisionReports, btnQuantityReports}),
+                {field(lblKind, cboKind), btnProvisionReports, btnQuantityReports}, {btnNotifications}),
     }));
 }
 
@@ -109,7 +113,6 @@ void F_Start::Run() {
     fillLists();
     services_.localizer().localize(session_, *this);
     reload();
-    showNotifications();
     layouts_.emplace(services_.host(), session_, *this);
     contracts_.takeOrder();
     services_.host().display.showModal(*this);
@@ -146,7 +149,7 @@ void F_Start::changeLanguage() {
     services_.localizer().localize(session_, *this);
     contracts_.redraw();
     showCount();
-    showNotifications();
+    lookAtCurrent();
     if (languageChanged_) languageChanged_(session_.language);
 }
 
@@ -182,6 +185,30 @@ void F_Start::reload(std::int64_t current) {
     showCount();
     if (!contracts_.select(current)) grdContracts.setCurrent(std::min(row, contracts_.rowCount() - 1));
     btnOpen.setEnabled(!contracts_.empty());
+    lookAtCurrent();
+}
+
+void F_Start::lookAtCurrent() {
+    const auto key = contracts_.currentKey();
+    if (!key) {
+        later(nullptr);
+        lookedAt_.reset();
+        return glance_.showNothing();
+    }
+    if (key != lookedAt_) glance_.setOld(true);
+    const auto contract = static_cast<std::int32_t>(*key);
+    later([this, contract, reading = std::make_shared<GlanceReading>(services_, session_, contract)] {
+        try {
+            if (reading->next()) return true;
+        } catch (const base::DatabaseError&) {
+            // Who opens the contract is told; who passes by in the list is not held up by a message.
+            glance_.showNothing(named("glance.failed"));
+            return false;
+        }
+        lookedAt_ = contract;
+        reading->glance() ? glance_.show(*reading->glance()) : glance_.showNothing(named("start.gone"));
+        return false;
+    });
 }
 
 void F_Start::showCount() {
@@ -189,18 +216,6 @@ void F_Start::showCount() {
     lblCount.setCaption(more_                        ? filled(named("start.more"), {count, count})
                         : contracts_.rowCount() == 1 ? named("start.countOne")
                                                      : filled(named("start.count"), {count}));
-}
-
-void F_Start::showNotifications() {
-    std::vector<ui::Grid::Row> rows;
-    for (const Notification& notification : services_.moduleService().notifications()) {
-        rows.push_back({base::formatDate(notification.time, "hh:mm:ss", services_.host().locale),
-                        notification.code,
-                        contractTypeText(notification.type, services_.localizer(), session_)});
-    }
-    // The newest on top, where it is seen.
-    std::ranges::reverse(rows);
-    grdNotifications.setRows(std::move(rows));
 }
 
 void F_Start::openCurrent() {

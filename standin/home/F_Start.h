@@ -5,11 +5,12 @@
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/ComboBox.h"
-#include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
 #include "standin/home/ContractOpener.h"
 #include "standin/home/F_NewContract.h"
+#include "standin/home/F_Notifications.h"
+#include "standin/home/GlancePane.h"
 #include "standin/home/contract_list.h"
 #include "standin/services/WorkbenchServices.h"
 
@@ -20,8 +21,8 @@
 namespace tellurix::standin {
 
 /// The workbench's main window: the contracts, found by name, customer, type, delivery period and
-/// state, and the way into the contract module: a contract, the provision and the quantity reports. What
-/// the module told the host in return is listed below them.
+/// state, the current one at a glance, and the way into the contract module: a contract, the provision and
+/// the quantity reports.
 class F_Start final : public ui::Form {
 public:
     /// How many contracts are listed at once; more can be reached by narrowing.
@@ -35,7 +36,6 @@ public:
     /// @param languageChanged told of the user's choice, "de" or "en"; may be empty
     F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpener& opener,
             std::function<void(const std::string&)> languageChanged = {}, Closing closing = Closing::never);
-    ~F_Start() override;
 
     /// Shows the contracts; returns when the window was closed.
     void Run();
@@ -54,7 +54,8 @@ private:
     void reload();
     void reload(std::int64_t current);
     void showCount();
-    void showNotifications();
+    /// Shows the current contract at a glance as soon as the user leaves time for reading it.
+    void lookAtCurrent();
     std::string named(std::string_view key) const { return services_.localizer().named(key, session_); }
     std::string chosenType() const;
 
@@ -70,6 +71,7 @@ private:
     std::function<void(const std::string&)> languageChanged_;
     Closing closing_;
     F_NewContract newContract_;
+    F_Notifications notifications_;
 
     ui::Label lblSearch{*this, "lblSearch", "&Suche"};
     ui::TextBox txtSearch{*this, "txtSearch", 20};
@@ -94,10 +96,11 @@ private:
     ui::Button btnProvisionReports{*this, "btnProvisionReports", "Bereitstellungs&meldung"};
     ui::Button btnQuantityReports{*this, "btnQuantityReports", "Men&genmeldung"};
 
-    ui::Frame frmNotifications{*this, "frmNotifications", "Meldungen an den Host"};
-    ui::Grid grdNotifications{*this, "grdNotifications", 4};
+    ui::Button btnNotifications{*this, "btnNotifications", "Meldungen an den &Host"};
 
     parts::KeyedGrid contracts_{grdContracts};
+    GlancePane glance_;
+    std::optional<std::int64_t> lookedAt_;      ///< the contract at a glance
     std::optional<parts::GridLayouts> layouts_; ///< while it is shown
     bool more_ = false;                         ///< there are more contracts than are listed
 };

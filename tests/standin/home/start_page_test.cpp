@@ -102,7 +102,7 @@ TEST_F(StartPage, ShowsWhatAContractIs) {
             user.grid("grdContracts").rows().front(),
             (ui::Grid::Row{
                 "R-2025-002 Lärche Villach", "R – Verkauf", "D'Angelo Legnami", "01.03.2025", "30.09.2025",
-                "offen",
+                "vorbei", "offen",
                 std::to_string(number("SELECT COUNT(*) AS N FROM VERTRAG_PREISE WHERE ID_VERTRAG = 2")),
                 std::to_string(number("SELECT COUNT(*) AS N FROM VERTRAG_MENGEN WHERE ID_VERTRAG = 2"))}));
         // Customer 0 is none.
@@ -179,9 +179,13 @@ TEST_F(StartPage, OpensAContractAsTheHostDoes) {
         user.key(Key::enter);
         // Closed now, so it is no longer among the open ones; the module has told the host.
         EXPECT_EQ(listed(user), "");
-        ASSERT_EQ(user.grid("grdNotifications").rows().size(), 1u);
-        EXPECT_EQ(user.grid("grdNotifications").cell(0, 1), "1VVM");
-        EXPECT_EQ(user.grid("grdNotifications").cell(0, 2), "R – Verkauf");
+        display.onWindow("F_Notifications", [](User& told) {
+            ASSERT_EQ(told.grid("grdNotifications").rows().size(), 1u);
+            EXPECT_EQ(told.grid("grdNotifications").cell(0, 1), "1VVM");
+            EXPECT_EQ(told.grid("grdNotifications").cell(0, 2), "R – Verkauf");
+            told.key(Key::escape);
+        });
+        user.alt(U'h');
 
         user.type("txtSearch", "");
         user.select("cboClosed", all);
@@ -193,7 +197,11 @@ TEST_F(StartPage, OpensAContractAsTheHostDoes) {
         });
         user.doubleClick("grdContracts");
         EXPECT_EQ(current(user), chosen) << "the current row is kept";
-        EXPECT_EQ(user.grid("grdNotifications").cell(0, 1), "2VABR4") << "the newest on top";
+        display.onWindow("F_Notifications", [](User& told) {
+            EXPECT_EQ(told.grid("grdNotifications").cell(0, 1), "2VABR4") << "the newest on top";
+            told.click("btnClose");
+        });
+        user.click("btnNotifications");
     });
 }
 
