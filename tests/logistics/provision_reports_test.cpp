@@ -176,6 +176,33 @@ TEST_F(ProvisionReports, TakeWholeLoadsAndCarriersThatCanBeQuoted) {
     EXPECT_EQ(stored(), "[20 | 4 | 3 | Fuhrwerk Reisinger][21 | 2 | NULL | NULL]");
 }
 
+TEST_F(ProvisionReports, TheLoadsOfAllWeeksAreAListAndBarsThatLeadToAWeek) {
+    work([&](User& user) {
+        host.display.onWindow("F_ZuegeJeWoche", [&](User& weeks) {
+            EXPECT_EQ(weeks.caption("lblVertrag"), fibreWood);
+            EXPECT_EQ(weeks.grid("grdWochen").rows().size(), 6U);
+            EXPECT_EQ(weeks.grid("grdWochen").rows()[4], (ui::Grid::Row{"2025/23", "6", "3"}));
+            EXPECT_EQ(weeks.bars("chtZuege"), "19:– / –! 20:– / –! 21:– / –! 22:5 / 5 [23:6 / 3] 24:3 / 3");
+            weeks.select("chtZuege", 3);
+            EXPECT_EQ(weeks.focused(), "grdWochen");
+            weeks.click("btnWaehlen");
+        });
+        user.click("btnZuegeJeWoche");
+        EXPECT_EQ(user.text("txtKalender"), "22/2025");
+        EXPECT_EQ(user.text("txtKalenderTage"), "26.05.2025 - 01.06.2025");
+        EXPECT_EQ(user.focused(), "MSFG");
+        host.display.onWindow("F_ZuegeJeWoche", [](User& weeks) { weeks.key(Key::escape); });
+        user.click("btnZuegeJeWoche");
+        EXPECT_EQ(user.text("txtKalender"), "22/2025") << "nothing was chosen";
+        user.click("btnBearbeiten");
+        EXPECT_FALSE(user.usable("btnZuegeJeWoche"));
+        user.click("btnAbbrechen");
+        user.type("txtVertrag", "");
+        user.key(Key::tab);
+        EXPECT_FALSE(user.usable("btnZuegeJeWoche")) << "no contract is chosen";
+    });
+}
+
 TEST_F(ProvisionReports, TheSwitchHidesFromTheEyeAlone) {
     work([&](User& user) {
         user.click("chkOhneMeldung");

@@ -6,6 +6,7 @@
 #include "module/logistics/reports/ProvisionSaving.h"
 #include "module/logistics/row_saving.h"
 #include "module/logistics/spreadsheet_parameters.h"
+#include "module/logistics/week_chart.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/contract_title.h"
 #include "module/parts/grids/grid_layout.h"
@@ -45,7 +46,8 @@ F_Bereitstellung_WVO::F_Bereitstellung_WVO(host::HostServices& services)
              .onRow = {&btnExcel, &btnExcelAlles},
              .whileEdited = {&btnAllezusagen},
              .rows = &MSFG},
-            [this] { return week_.chosen() && !table_.empty(); }) {
+            [this] { return week_.chosen() && !table_.empty(); }),
+      loadsByWeek_(services) {
     txtKalenderTage.setLocked(true);
     pgbSpeichern.setVisible(false);
     connect();
@@ -59,6 +61,7 @@ void F_Bereitstellung_WVO::connect() {
     table_.onChange = [this] { showSums(); };
     mode_.onEnter = [this] {
         table_.setEditing(!mode_.viewing());
+        btnZuegeJeWoche.setEnabled(mode_.viewing() && !contractBox_.key().empty());
         setCancelButton(mode_.viewing() ? btnSchliesen : btnAbbrechen);
     };
     btnBearbeiten.onClick = [this] { startEdit(); };
@@ -68,6 +71,7 @@ void F_Bereitstellung_WVO::connect() {
     btnExcel.onClick = [this] { exportTable(false); };
     btnExcelAlles.onClick = [this] { exportTable(true); };
     btnFHPExport.onClick = [this] { parts::ShowMessage(services_.display, "FHP Exporttabelle fehlerhaft."); };
+    btnZuegeJeWoche.onClick = [this] { showLoadsByWeek(); };
     btnSchliesen.onClick = [this] { unload(); };
     // A contract that is not found keeps nobody here.
     btnSchliesen.setCausesValidation(false);
@@ -125,7 +129,7 @@ void F_Bereitstellung_WVO::arrange() {
             .growing(),
         ui::row({lblGemeldet, pgbSpeichern}),
         ui::bar({btnBearbeiten, ui::Layout{btnSpeichern}.primary(), btnAbbrechen, btnAllezusagen},
-                {btnExcel, btnExcelAlles, btnFHPExport}, {btnSchliesen}),
+                {btnExcel, btnExcelAlles, btnFHPExport, btnZuegeJeWoche}, {btnSchliesen}),
     }));
 }
 
@@ -236,6 +240,15 @@ void F_Bereitstellung_WVO::exportTable(bool internal) {
                               std::to_string(week_.week) + " (" + txtKalenderTage.text() + ")";
     services_.spreadsheets.exportTable(session_,
                                        spreadsheetParameters("0;;;0;;;;0;;0;", table_.text(internal)), title);
+}
+
+void F_Bereitstellung_WVO::showLoadsByWeek() {
+    const auto week = loadsByWeek_.Run(session_, chosenWeek(), txtVertrag.text());
+    if (!week) return;
+    txtKalender.setText(weekName(*week) + "/" + std::to_string(week->year));
+    keepWeek();
+    reload();
+    parts::SafeSetFocus(MSFG);
 }
 
 bool F_Bereitstellung_WVO::escape() {

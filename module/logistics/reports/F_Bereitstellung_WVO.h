@@ -2,6 +2,7 @@
 
 #include "module/base/own_text.h"
 #include "module/host/ReportScreen.h"
+#include "module/logistics/reports/F_ZuegeJeWoche.h"
 #include "module/logistics/reports/ProvisionStatements.h"
 #include "module/logistics/reports/ProvisionTable.h"
 #include "module/parts/EditMode.h"
@@ -50,6 +51,8 @@ private:
     void cancel();
     void save();
     void exportTable(bool internal);
+    /// Shows the loads of all weeks, and goes to the one that the user chooses there.
+    void showLoadsByWeek();
     std::string own(base::OwnText text, const std::vector<std::string>& values = {}) const {
         return base::ownText(text, session_.language, values);
     }
@@ -98,6 +101,7 @@ private:
     ui::Button btnExcel{*this, "btnExcel", "&Excel Firmenexport"};
     ui::Button btnExcelAlles{*this, "btnExcelAlles", "&Excel Intern"};
     ui::Button btnFHPExport{*this, "btnFHPExport", "&FHP"};
+    ui::Button btnZuegeJeWoche{*this, "btnZuegeJeWoche", "Züge je &Woche"};
     ui::Button btnSchliesen{*this, "btnSchliesen", "S&chließen"};
 
     parts::LookupBox contractBox_;
@@ -105,6 +109,7 @@ private:
     ProvisionTable table_;
     parts::TakenOver takenOver_; ///< since the table was shown
     parts::EditMode mode_;
+    F_ZuegeJeWoche loadsByWeek_;
 };
 
 } // namespace tellurix::logistics

@@ -136,6 +136,21 @@ std::string ProvisionStatements::otherReports() const {
         .text();
 }
 
+std::string ProvisionStatements::loadsByWeek() const {
+    return StatementText{"SELECT WVO_VERTAG_KALENDER.JAHR,WVO_VERTAG_KALENDER.WOCHE,"
+                         "SUM(WVO_BEREITMELDUNG_KW.ZUEGE) AS ZUEGE,SUM(WVO_BEREITMELDUNG_KW.ZUEG_ZUGESAGT) AS ZUGESAGT"
+                         " FROM WVO_VERTAG_KALENDER"
+                         " INNER JOIN WVO_VERTRAG ON WVO_VERTRAG.ID = WVO_VERTAG_KALENDER.ID_WVO_VERTRAG"
+                         " LEFT JOIN WVO_BEREITMELDUNG_KW ON WVO_BEREITMELDUNG_KW.ID_VERTRAEGE = WVO_VERTRAG.ID_VERTRAEGE"
+                         " AND WVO_BEREITMELDUNG_KW.JAHR = WVO_VERTAG_KALENDER.JAHR"
+                         " AND WVO_BEREITMELDUNG_KW.WOCHE = WVO_VERTAG_KALENDER.WOCHE"
+                         " WHERE WVO_VERTRAG.ID_VERTRAEGE = "}
+        .number(contract())
+        .fixed(" GROUP BY WVO_VERTAG_KALENDER.JAHR,WVO_VERTAG_KALENDER.WOCHE"
+               " ORDER BY WVO_VERTAG_KALENDER.JAHR,WVO_VERTAG_KALENDER.WOCHE")
+        .text();
+}
+
 std::string ProvisionStatements::deletion(std::int64_t report) {
     return StatementText{"DELETE FROM WVO_BEREITMELDUNG_KW WHERE ID = "}.number(report).text();
 }

@@ -57,6 +57,8 @@ public:
     /// Sums of the announced and confirmed loads of other reports: those that have neither this year nor
     /// this week's number. The rest of the year is left out, and the same week of other years.
     std::string otherReports() const;
+    /// The loads of all helpers in each calendar week of the contract: JAHR, WOCHE, ZUEGE, ZUGESAGT.
+    std::string loadsByWeek() const;
 
     static std::string deletion(std::int64_t report);
     /// Makes a report and answers with its key.
