@@ -149,6 +149,7 @@ void F_Start::changeLanguage() {
     services_.localizer().localize(session_, *this);
     contracts_.redraw();
     showCount();
+    lookedAt_.reset();
     lookAtCurrent();
     if (languageChanged_) languageChanged_(session_.language);
 }
@@ -195,13 +196,16 @@ void F_Start::lookAtCurrent() {
         lookedAt_.reset();
         return glance_.showNothing();
     }
-    if (key != lookedAt_) glance_.setOld(true);
+    glance_.setOld(key != lookedAt_);
+    // Every letter of a search lists anew; what is read need not be read again.
+    if (key == lookedAt_) return later(nullptr);
     const auto contract = static_cast<std::int32_t>(*key);
     later([this, contract, reading = std::make_shared<GlanceReading>(services_, session_, contract)] {
         try {
             if (reading->next()) return true;
         } catch (const base::DatabaseError&) {
             // Who opens the contract is told; who passes by in the list is not held up by a message.
+            lookedAt_.reset();
             glance_.showNothing(named("glance.failed"));
             return false;
         }
@@ -246,6 +250,7 @@ void F_Start::open(std::int32_t id, const std::string& name, const std::string& 
                   .isNew = newContract,
                   .caption = named("start.caption"),
                   .standardClient = standardClient(services_.host().settings, session_)});
+    lookedAt_.reset();
     reload(id);
 }
 

@@ -172,6 +172,15 @@ TEST_F(Glance, ComesWhenTheUserPausesAndIsGivenUpWhenTheRowChanges) {
             << "arrow keys in the search move in the list, too";
 
         user.key(Key::up);
+        user.key(Key::down);
+        EXPECT_FALSE(user.control<ui::Gauges>("gagLines").quiet()) << "it is the one that is shown";
+        db("UPDATE VERTRAEGE SET KOPF1 = 'Abholung' WHERE ID_VERTRAG = 4");
+        display.onWindow("F_Vertrag", [](User& editor) { editor.key(Key::escape); });
+        user.key(Key::enter);
+        user.pause();
+        EXPECT_NE(head(user).find("Abholung"), std::string::npos) << "read anew on coming back";
+
+        user.key(Key::up);
         db("DELETE FROM VERTRAEGE WHERE ID_VERTRAG = 3");
         user.pause();
         EXPECT_EQ(title(user), "");
