@@ -58,7 +58,7 @@ export class Chart extends View {
     const mark = i === marked ? 'marked' : '';
     const part = 0.8 / values.length;
     return [
-      ...values.map((value, series) => shape('rect', `bar series-${series} ${mark}`, {
+      ...values.map((value, series) => shape('rect', `beam series-${series} ${mark}`, {
         x: place(i + 0.1 + part * series), width: place(part), y: height(value), height: percent(Math.max(0, value) / this.state.top),
       })),
       ...(empty ? [shape('rect', `none ${mark}`, { x: place(i + 0.1), width: place(0.8), y: '100%' })] : []),
