@@ -1,13 +1,8 @@
 #include "tests/scenarios/windows/opened_files.h"
 
-#include "com/automation/wide.h"
-
 #include <windows.h>
 
-#include <shellapi.h>
-
 #include <array>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -16,45 +11,38 @@ namespace tellurix::tests {
 
 namespace {
 
-constexpr const wchar_t* option = L"--opened";
-constexpr const wchar_t* kind = L"Tellurix.OpenedFile";
-
-std::filesystem::path noteBook() {
-    return std::filesystem::temp_directory_path() / "tellurix-opened-files.txt";
-}
+constexpr const wchar_t* kind = L"Tellurix.TestSpreadsheet";
 
 void setDefault(const std::wstring& key, const std::wstring& value) {
     const auto bytes = static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t));
-    if (RegSetKeyValueW(HKEY_CURRENT_USER, (L"Software\\Classes\\" + key).c_str(), nullptr, REG_SZ,
-                        value.c_str(), bytes) != ERROR_SUCCESS)
+    if (RegSetKeyValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, REG_SZ, value.c_str(), bytes) !=
+        ERROR_SUCCESS)
         throw std::runtime_error{"cannot register a program for files"};
+}
+
+/// Beside this one.
+std::filesystem::path spreadsheetProgram() {
+    std::array<wchar_t, MAX_PATH> own{};
+    GetModuleFileNameW(nullptr, own.data(), static_cast<DWORD>(own.size()));
+    return std::filesystem::path{own.data()}.replace_filename("spreadsheet_program.exe");
 }
 
 } // namespace
 
-void openFilesWithThisProgram() {
-    std::array<wchar_t, MAX_PATH> program{};
-    GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
+void registerSpreadsheetProgram() {
     setDefault(L".xlsx", kind);
     setDefault(std::wstring{kind} + L"\\shell\\open\\command",
-               std::wstring{L"\""} + program.data() + L"\" " + option + L" \"%1\"");
-    std::filesystem::remove(noteBook());
-}
-
-bool noteOpenedFile() {
-    int count = 0;
-    wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
-    const bool opened = count == 3 && std::wstring{words[1]} == option;
-    const std::filesystem::path file = opened ? words[2] : L"";
-    LocalFree(words);
-    if (opened && std::filesystem::file_size(file) > 0)
-        std::ofstream{noteBook(), std::ios::binary} << windows::narrow(file.filename().wstring());
-    return opened;
+               L"\"" + spreadsheetProgram().wstring() + L"\" \"%1\"");
+    std::filesystem::remove(notesOfOpenedFiles());
 }
 
 std::string lastOpenedFile() {
-    std::ifstream file{noteBook(), std::ios::binary};
+    std::ifstream file{notesOfOpenedFiles(), std::ios::binary};
     return {std::istreambuf_iterator<char>{file}, {}};
+}
+
+std::filesystem::path notesOfOpenedFiles() {
+    return std::filesystem::temp_directory_path() / "tellurix-opened-files.txt";
 }
 
 } // namespace tellurix::tests

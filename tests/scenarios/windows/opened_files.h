@@ -1,20 +1,19 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace tellurix::tests {
 
-/// The files that the screens hand to the programs of their kinds: this program is the one for spreadsheets,
-/// and notes what it was given.
+/// The files that the screens hand to the programs of their kinds. For spreadsheets that is
+/// `spreadsheet_program`, which notes what it was given: it has no window, so the screen keeps the keys.
 
-/// Registers it for the user who is signed on, and forgets what was opened before.
-void openFilesWithThisProgram();
-
-/// To be asked first by the program: when it was started with a file, that is noted.
-/// @return whether that was all it was started for
-bool noteOpenedFile();
-
+/// Registers that program, for the drive of the tests, and forgets what was opened before.
+void registerSpreadsheetProgram();
 /// Name of the last file that was opened and is not empty; empty for none.
 std::string lastOpenedFile();
+
+/// Where the program makes its notes.
+std::filesystem::path notesOfOpenedFiles();
 
 } // namespace tellurix::tests

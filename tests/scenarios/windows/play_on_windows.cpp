@@ -229,7 +229,6 @@ void play(DWORD thread, const std::string& file) {
 
 int main(int count, char** arguments) {
     using namespace tellurix;
-    if (tests::noteOpenedFile()) return 0;
     if (count != 3) {
         std::cerr << "usage: play_on_windows SCENARIO DATABASE\n";
         return 2;
@@ -242,7 +241,7 @@ int main(int count, char** arguments) {
             options.database = arguments[2];
             options.user = "test";
             tests::databaseFile = arguments[2];
-            tests::openFilesWithThisProgram();
+            tests::registerSpreadsheetProgram();
             windows::HostSession session{options};
             std::thread user{tests::play, GetCurrentThreadId(), std::string{arguments[1]}};
             session.run();
