@@ -57,7 +57,7 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
          {.caption = "Vertragsart", .width = 15, .sorts = true, .shown = type},
          {.caption = "Kunde", .width = 19, .field = "KURZBEZEICHNUNG", .sorts = true},
          {.caption = "Lieferung von", .width = 11, .field = "LIEFERVON", .sorts = true},
-         {.caption = "bis", .width = 17, .field = "LIEFERBIS", .sorts = true},
+         {.caption = "bis", .width = 20, .field = "LIEFERBIS", .sorts = true},
          {.caption = "Frist", .width = 8, .shown = due},
          {.caption = "Status", .width = 9, .sorts = true, .shown = status},
          {.caption = "Preise", .width = 6, .field = "PREISE", .rightAligned = true, .sorts = true},

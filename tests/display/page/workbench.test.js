@@ -368,4 +368,25 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
       }), `${width} by ${height}`);
     }
   });
+
+  test('the current contract is seen at a glance, and a bar of its loads leads to a week', async () => {
+    const pane = page.locator('.gauges');
+    await page.keyboard.type('faserholz judenburg');
+    await until(async () => (await pane.locator('tbody').count()) === 2, 'a line and a bar for each quantity');
+    assert.ok((await pane.locator('.track').first().boundingBox()).width > 300);
+    assert.equal(await pane.locator('tr[aria-hidden="true"]').count(), 2, 'the words say what the bars show');
+
+    await control(page, 'btnProvisionReports').click();
+    await top('F_Bereitstellung_WVO');
+    await support.hasFocus(page, 'txtVertrag');
+    await page.keyboard.type('R-2025-003 Faserholz Judenburg');
+    await press('Tab', 'Alt+w');
+    await top('F_ZuegeJeWoche');
+    await until(async () => (await page.locator('[data-form=F_ZuegeJeWoche] .chart .beam').count()) === 12, 'two bars a week');
+    await page.locator('.chart .target').nth(4).click();
+    await support.hasFocus(page, 'grdWochen');
+    await press('Alt+w');
+    await top('F_Bereitstellung_WVO');
+    await until(async () => (await value('txtKalender')) === '23/2025', 'the week of the bar');
+  });
 });
