@@ -46,10 +46,9 @@ TEST_F(SavingDeductions, WritesEveryLineAnewInTheGivenOrder) {
         EXPECT_TRUE(user.checked("Check1(1)"));
         const auto before = host.statements.size();
         user.click("btnOk");
-        const std::string at0 =
-            "WHERE RECH_NAME  = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V' AND LINE_NUM = 0";
-        const std::string at1 =
-            "WHERE RECH_NAME  = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V' AND LINE_NUM = 1";
+        const std::string ofContract = "WHERE RECH_NAME  = 'R-2025-002 Lärche Villach' AND VER_TYPE = 'V'";
+        const std::string at0 = ofContract + " AND LINE_NUM = 0";
+        const std::string at1 = ofContract + " AND LINE_NUM = 1";
         const std::string read = "SELECT SUBSET_DEF FROM ABSCHLAG WHERE RECH_NAME = '" + name +
                                  "' AND VER_TYPE = 'V' AND LINE_NUM = ";
         const auto inserted = [](int line) {
@@ -74,8 +73,7 @@ TEST_F(SavingDeductions, WritesEveryLineAnewInTheGivenOrder) {
             "UPDATE ABSCHLAG SET WERT_LINE = '1' " + at1,
             "UPDATE ABSCHLAG SET ART_ID = NULL " + at1,
             "UPDATE ABSCHLAG SET SUBSET_DEF = NULL " + at1, // position 13 carries none
-            "UPDATE ABSCHLAG SET ABS_MODEL = NULL  WHERE RECH_NAME  = 'R-2025-002 Lärche Villach' AND "
-            "VER_TYPE = 'V'",
+            "UPDATE ABSCHLAG SET ABS_MODEL = NULL  " + ofContract,
             read + "0",
             read + "1",
         };

@@ -106,7 +106,7 @@ json RawPage::say(json event) {
     sendText(event.dump());
     json all = {{"changed", json::array()}, {"opened", json::array()}, {"closed", json::array()}};
     for (;;) {
-        const json message = receive();
+        json message = receive();
         if (!message.is_object()) return message;
         for (const char* kind : {"changed", "opened", "closed"}) {
             if (message.contains(kind))

@@ -25,7 +25,7 @@ TEST(Allocation, OneThatFailsEndsAConnectionAndNothingElse) {
     for (int succeed = 0; reached && succeed < 1000; ++succeed) {
         left = succeed;
         request(server.port(), asking);
-        RawPage{server.address()};
+        { const RawPage comesAndGoes{server.address()}; }
         reached = left.exchange(-1) < 0;
         ASSERT_EQ(request(server.port(), asking).status, 200)
             << "after the failure of allocation " << succeed;

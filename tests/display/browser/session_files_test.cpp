@@ -78,8 +78,9 @@ TEST(SessionFiles, OfAKilledProcessGoWithTheNextStart) {
     const pid_t other = ::fork();
     if (other == 0) {
         SessionFiles().offer("b.xlsx", "gone with its process");
-        auto* killed = new SessionFiles;
-        killed->offer("c.xlsx", "left behind");
+        // Its destructor is never run, as that of a killed program.
+        SessionFiles killed;
+        killed.offer("c.xlsx", "left behind");
         ::_exit(0);
     }
     ::waitpid(other, nullptr, 0);
