@@ -30,6 +30,10 @@ constexpr Words wordsOf(OwnText text) {
         return {"Kopf gespeichert", "Head saved"};
     case OwnText::deductionsSaved:
         return {"Zu- und Abschläge gespeichert", "Surcharges and deductions saved"};
+    case OwnText::oneLineEdited:
+        return {"1 Zeile geändert, noch nicht gespeichert", "1 line changed, not saved yet"};
+    case OwnText::linesEdited:
+        return {"{} Zeilen geändert, noch nicht gespeichert", "{} lines changed, not saved yet"};
     case OwnText::customerSaved:
         return {"Kunde eingetragen", "Customer entered"};
     case OwnText::customerRemoved:
@@ -89,6 +93,35 @@ constexpr Words wordsOf(OwnText text) {
         return {"Nicht in der Liste", "Not in the list"};
     case OwnText::nothingFound:
         return {"Keine Treffer", "Nothing found"};
+    case OwnText::nothingFoundFor:
+        return {"Keine Treffer für „{}“ – bitte anders suchen",
+                "Nothing found for \"{}\" – try another search"};
+    case OwnText::noPrices:
+        return {"Noch keine Preise – {} (Einfg)", "No prices yet – {} (Ins)"};
+    case OwnText::noQuantities:
+        return {"Noch keine Mengen – {} (Einfg)", "No quantities yet – {} (Ins)"};
+    case OwnText::noPricesYet:
+        return {"Noch keine Preise – {} oder aus anderem Vertrag übernehmen",
+                "No prices yet – {}, or take them over from another contract"};
+    case OwnText::noQuantitiesYet:
+        return {"Noch keine Mengen – {} oder aus anderem Vertrag übernehmen",
+                "No quantities yet – {}, or take them over from another contract"};
+    case OwnText::noWeeks:
+        return {"Noch keine Kalenderwochen – {} (Einfg) oder {}", "No calendar weeks yet – {} (Ins) or {}"};
+    case OwnText::noHelpers:
+        return {"Noch keine Waldhelfer – {} (Einfg) oder {}", "No forest helpers yet – {} (Ins) or {}"};
+    case OwnText::noReportYet:
+        return {"Bitte Vertrag und Kalenderwoche wählen", "Please choose a contract and a calendar week"};
+    case OwnText::noReports:
+        return {"Dieser Vertrag hat keine Waldhelfer – sie werden im Lieferprofil hinzugefügt",
+                "This contract has no forest helpers – they are added in its delivery profile"};
+    case OwnText::allReported:
+        return {"Alle Waldhelfer haben gemeldet", "All forest helpers have reported"};
+    case OwnText::noHelperYet:
+        return {"Bitte einen Waldhelfer wählen", "Please choose a forest helper"};
+    case OwnText::noContractsOfHelper:
+        return {"Dieser Waldhelfer hat keine Verträge – sie werden im Lieferprofil hinzugefügt",
+                "This forest helper has no contracts – they are added in a delivery profile"};
     case OwnText::today:
         return {"heute", "today"};
     case OwnText::discardChanges:
@@ -132,6 +165,8 @@ constexpr Words wordsOf(OwnText text) {
     case OwnText::takenFromOthers:
         return {"Von jemand anderem geändert und übernommen: {}.",
                 "Changed by someone else and taken over: {}."};
+    case OwnText::changedFromTo:
+        return {"{} {} → {}", "{} {} → {}"};
 
     case OwnText::undo:
         return {"&Rückgängig", "&Undo"};
@@ -409,6 +444,20 @@ constexpr Words wordsOf(OwnText text) {
                 "Ctrl+←, Ctrl+→\tmake the column narrower, wider; Ctrl+Shift+→ fits it"};
     case OwnText::keyThese:
         return {"F1\tdiese Übersicht", "F1\tthis list"};
+    case OwnText::hintTake:
+        return {"Enter\tübernehmen", "Enter\ttake over"};
+    case OwnText::hintDiscard:
+        return {"Esc\tverwerfen", "Esc\tdiscard"};
+    case OwnText::hintRow:
+        return {"↑ ↓\tZeile", "↑ ↓\tline"};
+    case OwnText::hintCell:
+        return {"F2\tZelle ändern", "F2\tchange the cell"};
+    case OwnText::hintPick:
+        return {"F4\tAuswählen", "F4\tchoose"};
+    case OwnText::hintCopy:
+        return {"Strg+C\tKopieren", "Ctrl+C\tcopy"};
+    case OwnText::hintKeys:
+        return {"F1\tTasten", "F1\tkeys"};
 
     case OwnText::refusedValue:
         return {"„{}“:", "\"{}\":"};

@@ -20,6 +20,8 @@ enum class OwnText {
     writtenAtOnce, ///< what was written
     headSaved,
     deductionsSaved,
+    oneLineEdited, ///< not saved yet
+    linesEdited,   ///< how many are not saved yet
     customerSaved,
     customerRemoved,
     textSaved,
@@ -49,8 +51,20 @@ enum class OwnText {
     dateFormat, ///< the field's label
     timeFormat, ///< the field's label
     notInList,
-    // Lists
+    // Lists that are empty: that it is so, and the next step; the captions of its buttons
     nothingFound,
+    nothingFoundFor, ///< what was looked for
+    noPrices,        ///< what begins one
+    noQuantities,    ///< what begins one
+    noPricesYet,     ///< what opens them
+    noQuantitiesYet, ///< what opens them
+    noWeeks,         ///< what begins one, what makes all
+    noHelpers,       ///< what adds one, what adds several
+    noReportYet,
+    noReports,
+    allReported,
+    noHelperYet,
+    noContractsOfHelper,
     // Charts
     today,
     // Questions of more than one screen
@@ -70,6 +84,7 @@ enum class OwnText {
     takeTheirs,
     goBack,
     takenFromOthers, ///< the fields
+    changedFromTo,   ///< the field, what was there, what is there now
     // Undoing
     undo, ///< a button
     endEditingFirst,
@@ -186,6 +201,14 @@ enum class OwnText {
     keyGridSort,
     keyGridWidth,
     keyThese,
+    // The same in the status line: shorter, and only what is next
+    hintTake,
+    hintDiscard,
+    hintRow,
+    hintCell,
+    hintPick,
+    hintCopy,
+    hintKeys,
     // Values that no statement can carry
     refusedValue,   ///< begins the message: the value
     refusedInField, ///< begins the message: the field's label, the value

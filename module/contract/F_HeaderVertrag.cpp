@@ -111,7 +111,7 @@ void F_HeaderVertrag::connectRow() {
                   },
               .mine = [this] { return txtWahrung.text(); },
               .theirs = currency,
-              .typed = &txtWahrung});
+              .in = {&txtWahrung}});
     row_.person(mandant_, "ID_MANDANTEN", "MANDANTENNUMMER", "MANDANTENKURZBEZEICHNUNG");
     row_.person(lieferadresse_, "ID_PERSONAL_LIEFERADRESSE", "PLANUMMER", "PLAKURZBEZEICHNUNG");
 }

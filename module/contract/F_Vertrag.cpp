@@ -14,6 +14,7 @@
 #include "module/parts/M_Common.h"
 #include "module/parts/grids/grid_layout.h"
 #include "module/parts/questions.h"
+#include "module/ui/controls/caption.h"
 
 namespace tellurix::contract {
 
@@ -50,6 +51,8 @@ F_Vertrag::F_Vertrag(host::HostServices& services)
 void F_Vertrag::connect() {
     flags_.flag(chkAbgeschlossen, "ABGESCHLOSSEN");
     flags_.flag(chkAClEmpty, "ACL_EMPTY");
+    for (ui::CheckBox* flag : {&chkAbgeschlossen, &chkAClEmpty})
+        enteredFlags_.watch(*flag);
     KundeButton.onClick = [this] { chooseCustomer(); };
     btnDeleteMan.onClick = [this] { removeCustomer(); };
     btnHeader.onClick = [this] { openHeader(); };
@@ -113,6 +116,11 @@ void F_Vertrag::Run(const host::TlxVar& session, std::int32_t id, const std::str
     showPriceLines(false);
     showQuantityLines(false);
     services_.localizer.localize(session_, *this);
+    const auto opens = [this](OwnText none, const ui::Button& button) {
+        return base::ownText(none, session_.language, {ui::plainCaption(button.caption())});
+    };
+    Grid1.setEmptyText(opens(OwnText::noPricesYet, PreisButton));
+    Grid2.setEmptyText(opens(OwnText::noQuantitiesYet, PosButton));
     setTitle(strCaption + " (" + name_ + ")");
     showDeductionModel();
     loadFlags();
@@ -245,6 +253,7 @@ void F_Vertrag::loadFlags() {
         "SELECT ISNULL(ABGESCHLOSSEN,0) AS ABGESCHLOSSEN,ISNULL(ACL_EMPTY,0) AS ACL_EMPTY   FROM VERTRAEGE"
         " WHERE ID_VERTRAG = "};
     flags_.show(*session_.connection->open(query.number(id_).text()));
+    enteredFlags_.forget();
 }
 
 bool F_Vertrag::settleFlags() {

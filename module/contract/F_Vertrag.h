@@ -7,6 +7,7 @@
 #include "module/host/services.h"
 #include "module/lines/F_VertragMengen.h"
 #include "module/lines/F_VertragPreise.h"
+#include "module/parts/fields/EnteredChanges.h"
 #include "module/parts/meanwhile/SharedRow.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
@@ -117,6 +118,7 @@ private:
 
     TakeOverFrame takeOver_;
     parts::SharedRow flags_{services_, session_};
+    parts::EnteredChanges enteredFlags_;
     ui::Label txtMessage{*this, "txtMessage", "Umschalten zu MS-Word"};
 
     ui::Button btnWord{*this, "btnWord", "Vertragsdokument", "document"};

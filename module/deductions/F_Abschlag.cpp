@@ -51,6 +51,7 @@ F_Abschlag::F_Abschlag(host::HostServices& services)
 
 void F_Abschlag::connect() {
     table_.onChange = [this] { changed_ = typed_ = true; };
+    table_.onRefresh = [this] { shared_.mark(); };
     table_.beforeRemoval = [this](std::size_t line) {
         undo_.offer(base::ownText(OwnText::statisticRemoved, session_.language, {std::to_string(line + 1)}),
                     [this, line, values = table_.read(line)] { return putBack(line, values); });

@@ -203,6 +203,7 @@ void LineTable::refresh() {
             control->setWarning("");
     }
     showQuietLines();
+    if (onRefresh) onRefresh();
 }
 
 void LineTable::mark(const LineFault& fault) {

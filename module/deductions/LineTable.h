@@ -53,6 +53,8 @@ public:
     /// Marks what a line lacks and goes there.
     void mark(const LineFault& fault);
 
+    /// What is shown may be other than before.
+    std::function<void()> onRefresh;
     /// The user changed something.
     std::function<void()> onChange;
     /// The user is about to take the statistic out of a line by Del.

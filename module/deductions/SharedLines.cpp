@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace tellurix::deductions {
 
@@ -48,6 +49,7 @@ void SharedLines::show(const StoredLines& stored) {
     }
     shownModel_ = model_ = stored.model;
     takenOver_.clear();
+    taken_ = {};
 }
 
 std::string SharedLines::text(std::size_t member, const CalculationLine& line) const {
@@ -101,7 +103,23 @@ bool SharedLines::changed(std::size_t line) const {
     return false;
 }
 
+void SharedLines::mark() {
+    for (std::size_t line = 0; line < LineTable::size; ++line) {
+        const std::array<ui::Control*, memberCount> controls{&table_.CmbStat[line],  &table_.TextBez[line],
+                                                             &table_.TextWert[line], &table_.txtWert[line],
+                                                             &table_.Check1[line],   nullptr};
+        for (std::size_t member = 0; member < memberCount; ++member) {
+            if (controls[member] == nullptr) continue;
+            controls[member]->setChangedBy(changed(line, member)           ? ui::ChangedBy::user
+                                           : taken_[line].contains(member) ? ui::ChangedBy::colleague
+                                                                           : ui::ChangedBy::nobody);
+        }
+    }
+}
+
 void SharedLines::takeLine(std::size_t line, const CalculationLine& from) {
+    for (std::size_t member = 0; member < memberCount; ++member)
+        if (text(member, table_.read(line)) != text(member, from)) taken_[line].insert(member);
     table_.show(line, from);
     shown_[line] = table_.read(line);
     read_.lines[line] = from;
@@ -113,6 +131,7 @@ void SharedLines::takeMember(std::size_t line, std::size_t member, const Calcula
     table_.show(line, merged);
     copyMember(member, shown_[line], table_.read(line));
     copyMember(member, read_.lines[line], from);
+    taken_[line].insert(member);
 }
 
 void SharedLines::compareLine(std::size_t line, const CalculationLine& now,
@@ -120,7 +139,7 @@ void SharedLines::compareLine(std::size_t line, const CalculationLine& now,
     if (read_.lines[line] == now) return;
     if (!changed(line)) {
         takeLine(line, now);
-        takenOver_.add(name(line));
+        takenOver_.add({.name = name(line), .whole = true});
     } else if (text(table_.read(line)) == text(now)) {
         read_.lines[line] = now;
     } else if (read_.lines[line].statistic != now.statistic) {
@@ -141,7 +160,7 @@ void SharedLines::compareMembers(std::size_t line, const CalculationLine& now,
         const std::string had = text(member, table_.read(line));
         if (!mine[member]) {
             takeMember(line, member, now);
-            takenOver_.add(name(line, member));
+            takenOver_.add({.name = name(line, member), .before = had, .now = text(member, now)});
         } else if (had == text(member, now)) {
             copyMember(member, read_.lines[line], now);
         } else {
@@ -153,8 +172,9 @@ void SharedLines::compareMembers(std::size_t line, const CalculationLine& now,
 void SharedLines::compareModel(const std::string& now, std::vector<InConflict>& conflicts) {
     if (read_.model == now) return;
     if (model_ == shownModel_) {
-        model_ = shownModel_ = read_.model = now;
-        takenOver_.add(modelName_());
+        const std::string before = std::exchange(model_, now);
+        shownModel_ = read_.model = now;
+        takenOver_.add({.name = modelName_(), .before = before, .now = now});
     } else if (model_ == now) {
         read_.model = now;
     } else {

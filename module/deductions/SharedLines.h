@@ -5,9 +5,11 @@
 #include "module/host/services.h"
 #include "module/parts/meanwhile/ConflictQuestion.h"
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -36,6 +38,8 @@ public:
     /// @param read reads it
     /// @return false when the user wants to go back: nothing is to be written
     bool settle(const std::function<StoredLines()>& read);
+    /// Marks the boxes of what the user has changed, and of what came from somebody else.
+    void mark();
     /// What came from somebody else, in a sentence; empty for nothing.
     std::string takenOver() const { return takenOver_.sentence(session_.language); }
 
@@ -72,6 +76,8 @@ private:
     host::CalculationLines shown_; ///< what the screen made of them
     std::string shownModel_;
     parts::TakenOver takenOver_;
+    /// Of each line, the fields that came from somebody else.
+    std::array<std::set<std::size_t>, LineTable::size> taken_;
 };
 
 } // namespace tellurix::deductions

@@ -27,6 +27,7 @@ const LineKind quantityLines{
     .contractColumn = "VERTRAG_MENGEN.ID_VERTRAG",
     .keyColumn = "VERTRAG_MENGEN.ID",
     .placeColumn = "VERTRAG_MENGEN.ORDNUNG",
+    .none = base::OwnText::noQuantities,
 };
 // clang-format on
 

@@ -45,6 +45,7 @@ const LineKind priceLines{
     .contractColumn = "ID_VERTRAG",
     .keyColumn = "ID",
     .placeColumn = "ORDNUNG",
+    .none = base::OwnText::noPrices,
 };
 // clang-format on
 
@@ -63,9 +64,7 @@ F_VertragPreise::F_VertragPreise(host::HostServices& services)
               {std::to_string(count)});
       }) {
     connectFields();
-    cellEditor_.canEdit = [this](int, int column) {
-        return viewing() && chkEdit.checked() && lines_.editable(column);
-    };
+    chkEdit.onClick = [this] { openCells(); };
     txtEdit.setRightAligned(true);
     cellEditor_.prepare = [this](ui::TextBox& box, int) {
         ui::takeNumbers(box, priceMask, services_.locale);
@@ -133,7 +132,8 @@ void F_VertragPreise::connectFields() {
              },
          .mine = [this] { return cboGeld.selectedText(); },
          .theirs =
-             [this](base::Fields& line) { return line.flag("EURO") ? host::euro : session_.homeCurrency; }});
+             [this](base::Fields& line) { return line.flag("EURO") ? host::euro : session_.homeCurrency; },
+         .in = {&cboGeld}});
 }
 
 void F_VertragPreise::showNoLine() {
@@ -180,7 +180,12 @@ bool F_VertragPreise::escape() {
 
 void F_VertragPreise::stateShown() {
     chkEdit.setEnabled(viewing() && hasLines());
+    openCells();
     priceChange_.setEnabled(viewing() && hasLines());
+}
+
+void F_VertragPreise::openCells() {
+    lines_.openCells(viewing() && chkEdit.checked());
 }
 
 void F_VertragPreise::linesChanged() {

@@ -33,6 +33,8 @@ private:
     /// Hides the change of all prices first.
     bool escape() override;
     void stateShown() override;
+    /// Prices can be edited in the table while the tick says so and no line is.
+    void openCells();
     void linesChanged() override;
 
     bool hasSecondPriceColumn() const { return !showsPercent_ && site_ != Site::standard; }

@@ -39,6 +39,7 @@ LineEditor::LineEditor(host::HostServices& services, const LineKind& kind, std::
             {.inView = {&MSFlexGrid1, &cmdOk},
              .onRow = {&UpDown1},
              .whileEdited = {&frmPosition, &selection_.quickSelection()},
+             .changes = &changes_,
              .rows = &MSFlexGrid1},
             [this] { return hasLines(); }) {
     connect();
@@ -82,13 +83,14 @@ void LineEditor::connectRow() {
                       return cboUnit.selected() == ui::ItemList::none ? unitText(unlistedUnit_)
                                                                       : cboUnit.selectedText();
                   },
-              .theirs = [this](base::Fields& line) { return unitText(line.field("ID_WARENEINHEIT")); }});
-    row_.add(
-        {.column = selectionColumn,
-         .name = [this] { return ui::plainCaption(selection_.quickSelection().caption()); },
-         .show = [this](base::Fields& line) { selection_.show(line.text(selectionColumn)); },
-         .mine = [this] { return selection_.text(); },
-         .theirs = [this](base::Fields& line) { return selection_.textOf(line.text(selectionColumn)); }});
+              .theirs = [this](base::Fields& line) { return unitText(line.field("ID_WARENEINHEIT")); },
+              .in = {&cboUnit}});
+    row_.add({.column = selectionColumn,
+              .name = [this] { return ui::plainCaption(selection_.quickSelection().caption()); },
+              .show = [this](base::Fields& line) { selection_.show(line.text(selectionColumn)); },
+              .mine = [this] { return selection_.text(); },
+              .theirs = [this](base::Fields& line) { return selection_.textOf(line.text(selectionColumn)); },
+              .in = {&selection_.quickSelection()}});
 }
 
 std::string LineEditor::unitText(const base::Value& unit) const {
@@ -131,6 +133,8 @@ void LineEditor::Run(const host::TlxVar& session, std::int32_t contract, bool sh
     if (shown) name_ = parts::contractName(services_, session_, contract_);
     parts::localizeWithTitle(services_, session_, *this, caption_, shown ? name_ : std::string{});
     prepare(shown);
+    MSFlexGrid1.setEmptyText(
+        base::ownText(kind_.none, session_.language, {ui::plainCaption(cmdNeu.caption())}));
     loadUnits();
     lines_.setColumns(gridColumns());
     lines_.clear();
@@ -207,6 +211,7 @@ void LineEditor::showCurrentLine() {
         cboUnit.select(ui::ItemList::none);
         showNoLine();
         selection_.show("");
+        row_.leave();
     }
     changes_.forget();
     currentLineShown();
@@ -223,6 +228,7 @@ void LineEditor::startNew() {
     cboUnit.select(ui::ItemList::none);
     selection_.showNone();
     emptyForNewLine();
+    row_.leave();
     rowBefore_ = MSFlexGrid1.currentRow();
     MSFlexGrid1.setCurrent(ui::Grid::none, MSFlexGrid1.currentColumn());
     changes_.forget();
@@ -279,7 +285,7 @@ void LineEditor::save() {
     const bool settled = mode_.state() == State::fresh ||
                          row_.settle([this] { return openWholeInPlace(MSFlexGrid1.currentRow()); });
     if (!settled) return;
-    const std::string taken = row_.takenOver();
+    const parts::TakenOver taken = row_.takenFromOthers();
     StoreSelection(selection_.literal());
     if (!lineHasSelection()) {
         parts::tellInvalid(services_.display, services_.localizer, session_);
@@ -290,7 +296,8 @@ void LineEditor::save() {
     mode_.enter(State::view);
     reloadLine(MSFlexGrid1.currentRow());
     parts::SafeSetFocus(MSFlexGrid1);
-    undo_.say(parts::savedText(OwnText::saved, taken, session_.language));
+    taken.mark();
+    undo_.say(parts::savedText(OwnText::saved, taken.sentence(session_.language), session_.language));
 }
 
 void LineEditor::saveLine() {

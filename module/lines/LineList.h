@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/lines/LineStatements.h"
 #include "module/parts/OpenContract.h"
 #include "module/parts/grids/KeyedRow.h"
@@ -21,6 +22,7 @@ struct LineKind {
     const char* contractColumn; ///< the condition's and the order's columns, as the statement names them
     const char* keyColumn;
     const char* placeColumn;
+    base::OwnText none; ///< there are no lines; what begins one is added to it
 };
 
 /// The lines of one contract in the database, and the order in which they stand.

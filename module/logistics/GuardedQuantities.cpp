@@ -62,7 +62,6 @@ GuardedQuantities::GuardedQuantities(ui::Grid& grid, parts::KeyedGrid& rows, ui:
     : grid_(grid), rows_(rows), box_(box), bar_(bar), screen_(std::move(screen)), cell_(grid, box) {
     takeQuantities(box_);
     bar_.setVisible(false);
-    cell_.canEdit = [this](int, int column) { return screen_.editing() && rows_.editable(column); };
     cell_.write = [this](int row, int column, const std::string& text) { return write(row, column, text); };
 }
 
@@ -99,7 +98,7 @@ void GuardedQuantities::startEditing() {
 
 bool GuardedQuantities::changed() const {
     if (cell_.open() && box_.touched()) return true;
-    return std::ranges::any_of(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); });
+    return rows_.touchedRows() > 0;
 }
 
 std::string GuardedQuantities::write(int row, int column, const std::string& text) {
@@ -138,7 +137,7 @@ bool GuardedQuantities::save(host::HostServices& services, const host::TlxVar& s
     const auto now = settle(services, session, present);
     if (!now) return false;
     writeRows(services, session, *now);
-    takenOver_ = pending_.sentence(session.language);
+    takenOver_ = pending_;
     tellGone(services, session, *now);
     return true;
 }
@@ -150,7 +149,7 @@ std::optional<GuardedQuantities::QuantitiesByKey> GuardedQuantities::settle(host
         return std::ranges::find(rows_.columns(), field, &parts::KeyedGrid::Column::field)->caption;
     };
     QuantitiesByKey now;
-    parts::RowMerge merge{services, session, pending_};
+    parts::RowMerge merge{services, session, rows_, pending_};
     const bool settled = merge.settle([&] {
         now = read(*session.connection, present);
         for (parts::KeyedRow& row : rows_.rows()) {
@@ -170,8 +169,7 @@ void GuardedQuantities::writeRows(host::HostServices& services, const host::TlxV
                                   const QuantitiesByKey& present) {
     parts::ShownProgress progress{services.display, bar_, rows_.rowCount()};
     const base::DateTime moment = services.clock.now();
-    const auto all = static_cast<std::size_t>(
-        std::ranges::count_if(rows_.rows(), [](const parts::KeyedRow& row) { return row.touched(); }));
+    const auto all = static_cast<std::size_t>(rows_.touchedRows());
     std::size_t written = 0;
     for (parts::KeyedRow& row : rows_.rows()) {
         if (present.contains(row.key())) {

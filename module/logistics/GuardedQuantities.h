@@ -43,8 +43,6 @@ public:
     /// What a screen has of its own.
     struct Screen {
         const char* condition;
-        /// Whether cells can be edited at the moment.
-        std::function<bool()> editing;
         /// What a message calls a row by.
         std::function<std::string(parts::KeyedRow&)> nameOf;
         /// Quantities are others than before.
@@ -81,9 +79,8 @@ public:
     ///         many rows are written. The others stay typed and marked, and the next call writes them.
     bool save(host::HostServices& services, const host::TlxVar& session, const std::string& present);
 
-    /// What the last save has written although the user did not type it, because it came from somebody else:
-    /// a sentence, empty for nothing.
-    const std::string& takenOver() const { return takenOver_; }
+    /// What the last save has written although the user did not type it, because it came from somebody else.
+    const parts::TakenOver& takenOver() const { return takenOver_; }
 
 private:
     struct Quantities {
@@ -105,8 +102,8 @@ private:
     ui::ProgressBar& bar_;
     Screen screen_;
     ui::GridEditor cell_;
-    parts::TakenOver pending_; ///< since the rows were shown
-    std::string takenOver_;    ///< in the last save
+    parts::TakenOver pending_;   ///< since the rows were shown
+    parts::TakenOver takenOver_; ///< in the last save
 };
 
 } // namespace tellurix::logistics

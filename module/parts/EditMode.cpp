@@ -33,6 +33,7 @@ EditMode::EditMode(Buttons buttons, Controls controls, std::function<bool()> has
 
 void EditMode::enter(State state) {
     state_ = state;
+    if (viewing() && controls_.changes != nullptr) controls_.changes->forget();
     enable(controls_.inView, viewing());
     enable(controls_.onRow, viewing() && hasRow_());
     enable(controls_.whileEdited, !viewing());

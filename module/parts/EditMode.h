@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/parts/fields/EnteredChanges.h"
 #include "module/ui/Handlers.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Grid.h"
@@ -31,6 +32,7 @@ public:
         std::vector<ui::Control*> inView = {};      ///< lists, filters, closing
         std::vector<ui::Control*> onRow = {};       ///< in view, where there is a row
         std::vector<ui::Control*> whileEdited = {}; ///< the fields
+        EnteredChanges* changes = nullptr;          ///< into the fields: forgotten when editing ends
         ui::Grid* rows = nullptr; ///< in it Insert, F2 and Delete press create, edit and remove
     };
 

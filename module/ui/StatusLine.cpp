@@ -16,6 +16,11 @@ void StatusLine::say(std::string text, std::string action, std::function<void()>
     dirty_ = true;
 }
 
+void StatusLine::keep(std::string standing) {
+    standing_ = std::move(standing);
+    dirty_ = true;
+}
+
 void StatusLine::act() {
     if (!act_) return;
     const int offer = said_;

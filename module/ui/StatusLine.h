@@ -19,12 +19,15 @@ public:
     /// Says nothing any more.
     void clear() { say({}); }
 
+    /// What is so at the moment, for as long as nothing else is said; empty for nothing.
+    void keep(std::string standing);
+
     /// The user goes on typing: what was said is about what was before. An offer stays.
     void goOn() {
         if (action_.empty() && !text_.empty()) clear();
     }
 
-    const std::string& text() const { return text_; }
+    const std::string& text() const { return text_.empty() ? standing_ : text_; }
     /// Empty without an offer.
     const std::string& action() const { return action_; }
     /// Does what is offered. The offer is gone then, and the text too, unless something new was said.
@@ -36,6 +39,7 @@ public:
 
 private:
     std::string text_;
+    std::string standing_;
     std::string action_;
     std::function<void()> act_;
     int said_ = 0; ///< how many texts there were

@@ -55,14 +55,14 @@ TEST_F(DeductionsMeanwhile, WhatOnlyTheColleagueChangedIsSavedWithTheRest) {
          "[0 | 2 | Rinde | -12,00 | NULL][1 | 3 | Käfer | -25,75 | 1]", "Zeile 3"},
         {"another field of the line", [this] { colleague("BEZEICH = 'deren'", 0); },
          "[0 | 2 | deren | -12,00 | NULL][1 | 3 | Käfer | -25,75 | 1][2 | 13 | Skonto | -2,00 | 1,2]",
-         "Zeile 1, Bezeichnung"},
+         "Zeile 1, Bezeichnung Rinde → deren"},
         {"the same value", [this] { colleague("WERT_TEXT = '-12.00'", 0); },
          "[0 | 2 | Rinde | -12,00 | NULL][1 | 3 | Käfer | -25,75 | 1][2 | 13 | Skonto | -2,00 | 1,2]",
          nullptr},
         {"the model",
          [this] { host.database.execute(std::string{"UPDATE ABSCHLAG SET ABS_MODEL = 'Neu'"} + key); },
          "[0 | 2 | Rinde | -12,00 | NULL][1 | 3 | Käfer | -25,75 | 1][2 | 13 | Skonto | -2,00 | 1,2]",
-         "Modell"},
+         "Modell Alt → Neu"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.rule);

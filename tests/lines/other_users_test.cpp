@@ -158,6 +158,41 @@ TEST_F(OtherUsers, FieldsOfALineThatOnlyTheColleagueChangedStay) {
     EXPECT_TRUE(host.display.errors().empty());
 }
 
+TEST_F(OtherUsers, WhatIsNotSavedYetAndWhatCameFromThemIsSeenAtItsBox) {
+    using ui::ChangedBy;
+    const auto expectMarks = [](User& user, ChangedBy price, ChangedBy description, const char* when) {
+        EXPECT_EQ(user.control<ui::Control>("txtPreis").changedBy(), price) << when;
+        EXPECT_EQ(user.control<ui::Control>("txtBEZEICHNUNG").changedBy(), description) << when;
+    };
+    editPrices(1, [&](User& user) {
+        user.click("cmdBearbeiten");
+        user.type("txtPreis", "77");
+        expectMarks(user, ChangedBy::user, ChangedBy::nobody, "typed");
+        user.click("cmdAbbrechen");
+        expectMarks(user, ChangedBy::nobody, ChangedBy::nobody, "cancelled");
+        user.click("cmdBearbeiten");
+        user.type("txtPreis", "77");
+        colleague("BEZEICHNUNG = 'Kollege'");
+        user.click("cmdSpeichern");
+        EXPECT_EQ(user.status(), "Gespeichert. Von jemand anderem geändert und übernommen: Bezeichnung "
+                                 "Fichte Blochholz A/B → Kollege.");
+        expectMarks(user, ChangedBy::nobody, ChangedBy::colleague, "saved: the user reads of it now");
+        user.click("cmdNeu");
+        expectMarks(user, ChangedBy::nobody, ChangedBy::nobody, "a new line is nobody's");
+        user.click("cmdAbbrechen");
+        user.click("cmdBearbeiten");
+        user.type("txtPreis", "78");
+        colleague("PREIS = 55,BEZEICHNUNG = NULL");
+        host.display.onWindow("F_Inzwischen", [](User& answer) { answer.click("btnZuruck"); });
+        user.click("cmdSpeichern");
+        expectMarks(user, ChangedBy::user, ChangedBy::colleague, "nothing is written: both stay as they are");
+        user.click("cmdAbbrechen");
+        user.select("MSFlexGrid1", 1);
+        expectMarks(user, ChangedBy::nobody, ChangedBy::nobody, "another line");
+        user.click("cmdOk");
+    });
+}
+
 TEST_F(OtherUsers, AFieldOfALineThatBothChangedIsAskedAboutBeforeAnythingIsWritten) {
     struct Case {
         const char* rule;

@@ -489,7 +489,7 @@ TEST_F(LogisticsCalendar, WhatAColleagueHasSavedOfTheSameWeekIsKeptOrAskedAbout)
                                   " WHERE ID = 1");
             if (c.difference != nullptr) onConflict(c.difference, c.button);
             user.click("btnSpeichern1");
-            EXPECT_EQ(user.status().find("übernommen: Planmenge.") != std::string::npos,
+            EXPECT_EQ(user.status().find("übernommen: Planmenge 250,25 → 5,55.") != std::string::npos,
                       std::string{c.rule} == "another field");
             if (user.usable("btnAbbrechen1")) user.click("btnAbbrechen1");
         });

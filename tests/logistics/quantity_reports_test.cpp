@@ -288,7 +288,7 @@ TEST_F(QuantityReports, WhatAColleagueHasEnteredMeanwhile) {
     const Case cases[] = {
         {"stays where nothing was typed", "MENGE_ANG = 444", nullptr, "",
          "444.00 | 77.00 | 2026-03-09 08:00:00",
-         "übernommen: R-2025-003 Faserholz Judenburg / lutro-t, Menge angem.."},
+         "übernommen: R-2025-003 Faserholz Judenburg / lutro-t, Menge angem. 400 → 444."},
         {"is asked about where something was", "MENGE_BES = 444.5", "444,5", "btnZuruck",
          "400.00 | 444.50 | 2025-05-02 10:30:00"},
         {"is overwritten on demand", "MENGE_BES = 444", "444", "btnMeines",

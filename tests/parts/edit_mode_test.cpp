@@ -27,12 +27,13 @@ struct Areas final : ui::Form {
     ui::Button btnSpeichern1{*this, "btnSpeichern1"};
 
     bool hasRow = true;
+    parts::EnteredChanges changes;
     parts::EditMode rows{{.create = &btnNeu,
                           .edit = &btnBearbeiten,
                           .save = &btnSpeichern,
                           .cancel = &btnAbbrechen,
                           .remove = &btnLoschen},
-                         {.inView = {&lstZeilen}, .whileEdited = {&txtFeld}},
+                         {.inView = {&lstZeilen}, .whileEdited = {&txtFeld}, .changes = &changes},
                          [this] { return hasRow; }};
     parts::EditMode settings{{.edit = &btnBearbeiten1, .save = &btnSpeichern1}, {}, [] { return true; }};
 };
@@ -74,6 +75,13 @@ TEST(EditMode, SaysWhatCanBeUsedWhen) {
     areas.settings.enter(State::edit);
     EXPECT_EQ(usable(), "lstZeilen btnNeu btnBearbeiten btnLoschen btnSpeichern1 ")
         << "each area has its own";
+    areas.rows.enter(State::edit);
+    areas.changes.note(areas.txtFeld);
+    EXPECT_TRUE(areas.changes.any());
+    EXPECT_EQ(areas.txtFeld.changedBy(), ui::ChangedBy::user);
+    areas.rows.enter(State::view);
+    EXPECT_FALSE(areas.changes.any()) << "what was entered is saved or thrown away";
+    EXPECT_EQ(areas.txtFeld.changedBy(), ui::ChangedBy::nobody);
     EXPECT_FALSE(areas.btnAbbrechen.causesValidation()) << "nobody has to correct a field to throw it away";
 }
 

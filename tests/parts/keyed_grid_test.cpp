@@ -133,6 +133,45 @@ TEST_F(Reports, KnowWhichValuesWereSet) {
     EXPECT_TRUE(reports.row(1).touched("ZUGESAGT"));
 }
 
+TEST_F(Reports, CellsSayWhoHasChangedThemAndTheStatusLineHowManyRowsAreNotSaved) {
+    enum Column { loads = 2, confirmed };
+    const auto who = [&](int row, int column) { return list.grid.changedBy({row, column}); };
+    using ui::ChangedBy;
+    load(" ORDER BY ID DESC");
+    reports.setValue(0, "ZUGESAGT", base::Decimal{4});
+    EXPECT_EQ(who(0, confirmed), ChangedBy::user);
+    EXPECT_EQ(who(0, loads), ChangedBy::nobody);
+    EXPECT_EQ(list.status().text(), "1 Zeile geändert, noch nicht gespeichert");
+    reports.setValue(1, "ZUGESAGT", base::Decimal{4});
+    list.status().say("Kopiert");
+    EXPECT_EQ(list.status().text(), "Kopiert") << "the newest wins";
+    list.status().goOn();
+    EXPECT_EQ(list.status().text(), "2 Zeilen geändert, noch nicht gespeichert");
+    reports.row(1).refresh("ZUEGE", base::Decimal{9});
+    reports.row(0).settle();
+    reports.redraw();
+    EXPECT_EQ(who(1, loads), ChangedBy::colleague);
+    EXPECT_EQ(who(1, confirmed), ChangedBy::user);
+    EXPECT_EQ(who(0, confirmed), ChangedBy::nobody) << "it is written";
+    EXPECT_EQ(list.status().text(), "1 Zeile geändert, noch nicht gespeichert");
+    reports.showOnly([](parts::KeyedRow& row) { return row.key() == 5; });
+    EXPECT_EQ(who(0, confirmed), ChangedBy::user) << "a mark stays with its row";
+    load(" ORDER BY ID");
+    EXPECT_TRUE(list.grid.changedCells().empty());
+    EXPECT_EQ(list.status().text(), "");
+    reports.markFromOthers(5, "ZUEGE");
+    EXPECT_EQ(who(0, loads), ChangedBy::colleague);
+    reports.markFromOthers(99, "ZUEGE");
+
+    reports.openCells(true);
+    EXPECT_TRUE(list.grid.columns()[loads].open && list.grid.columns()[confirmed].open);
+    EXPECT_FALSE(list.grid.columns()[1].open);
+    reports.setColumns(reports.columns());
+    EXPECT_TRUE(list.grid.anyOpen()) << "the cells stay open when the columns change";
+    reports.openCells(false);
+    EXPECT_FALSE(list.grid.anyOpen());
+}
+
 TEST_F(Reports, SomeAreHiddenFromTheEyeAlone) {
     load(" ORDER BY ID");
     reports.select(7);

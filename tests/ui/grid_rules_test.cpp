@@ -6,6 +6,7 @@
 #include "module/ui/input/grid_keys.h"
 #include "module/ui/input/grid_text.h"
 #include "module/ui/input/number_box.h"
+#include "module/ui/key_hints.h"
 #include "tests/support/ScriptedDisplay.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +32,6 @@ public:
                       {"", "Föhre", "3,00", "9", ""},
                       {"", "Tanne\tkurz", "4,00", "10", "1,50"}});
         grid.setCurrent(0, 1);
-        editor.canEdit = [this](int, int column) { return editing && (column == 2 || column == 4); };
         editor.prepare = [](ui::TextBox& cell, int) {
             ui::takeNumbers(cell, "####0.00", base::Locale::german());
         };
@@ -46,14 +46,14 @@ public:
         grid.pressOn(Key::insert, btnNeu);
         grid.pressOn(Key::f2, btnEdit);
         grid.pressOn(Key::del, btnWeg);
-        setLayout(ui::column({ui::frame(frame, {grid}), ui::row({btnNeu, btnEdit, btnWeg, ui::Layout{btnOk}.primary()})}));
+        setLayout(ui::column(
+            {ui::frame(frame, {grid}), ui::row({btnNeu, btnEdit, btnWeg, ui::Layout{btnOk}.primary()})}));
     }
 
     std::string at() const {
         return std::to_string(grid.currentRow()) + "/" + std::to_string(grid.currentColumn());
     }
 
-    bool editing = false;
     std::vector<std::string> writes;
     std::string pressed;
     ui::Frame frame{*this, "frame", "Holz"};
@@ -190,7 +190,7 @@ TEST_F(GridRules, APastedBlockIsTypedCellByCellAndStopsAtTheFirstRefusal) {
         {"nothing", {1, 2}, "", {}, "1/2", ""},
     };
     work([&](User& user) {
-        stock.editing = true;
+        stock.grid.openColumns({2, 4});
         for (const Case& c : cases) {
             SCOPED_TRACE(c.rule);
             stock.writes.clear();
@@ -205,7 +205,7 @@ TEST_F(GridRules, APastedBlockIsTypedCellByCellAndStopsAtTheFirstRefusal) {
             EXPECT_NE(message.find(c.message), std::string::npos) << message;
         }
         EXPECT_EQ(stock.grid.cell(1, 2), "5") << "what is written is shown";
-        stock.editing = false;
+        stock.grid.openColumns({});
         stock.writes.clear();
         user.paste("grid", "5");
         EXPECT_TRUE(stock.writes.empty());
@@ -221,7 +221,7 @@ TEST_F(GridRules, KeysOfTheRowGiveWayToCellsThatCanBeEdited) {
         user.key({.key = Key::insert, .shift = true});
         EXPECT_EQ(stock.pressed, "ned") << "with Shift it is another key";
 
-        stock.editing = true;
+        stock.grid.openColumns({2, 4});
         user.key(Key::del);
         EXPECT_EQ(stock.pressed, "ned") << "no row goes where a cell may have been meant";
         user.key(Key::f2);
@@ -239,6 +239,29 @@ TEST_F(GridRules, KeysOfTheRowGiveWayToCellsThatCanBeEdited) {
     });
 }
 
+TEST_F(GridRules, TheStatusLineNamesTheKeysThatAreNext) {
+    work([&](User& user) {
+        const auto hints = [&] {
+            std::string all;
+            for (const ui::KeyHint& hint : ui::keyHints(stock))
+                all += (all.empty() ? "" : ", ") + hint.key + " " + hint.effect;
+            return all;
+        };
+        EXPECT_EQ(hints(), "Einfg Neu, F2 Bearbeiten, Strg+C Kopieren, F1 Tasten");
+        stock.btnNeu.setEnabled(false);
+        EXPECT_EQ(hints(), "F2 Bearbeiten, Strg+C Kopieren, Strg+S Speichern, F1 Tasten");
+        stock.grid.openColumns({2, 4});
+        EXPECT_EQ(hints(), "F2 Zelle ändern, Strg+S Speichern, F1 Tasten");
+        stock.grid.setCurrent(0, 2);
+        user.key(Key::f2);
+        EXPECT_EQ(hints(), "Enter übernehmen, Esc verwerfen, ↑ ↓ Zeile, F1 Tasten");
+        user.key(Key::escape);
+        stock.setLanguage("en");
+        user.focus("btnOk");
+        EXPECT_EQ(hints(), "Ctrl+S Speichern, F1 keys");
+    });
+}
+
 TEST_F(GridRules, LettersGoToTheRowThatBeginsWithThem) {
     work([&](User& user) {
         user.type("ta");
@@ -247,7 +270,7 @@ TEST_F(GridRules, LettersGoToTheRowThatBeginsWithThem) {
         user.type("f");
         EXPECT_EQ(stock.at(), "2/1") << "behind another key it is a first letter";
         stock.grid.setCurrent(0, 2);
-        stock.editing = true;
+        stock.grid.openColumns({2, 4});
         user.type("7");
         EXPECT_EQ(user.focused(), "box") << "a cell that can be edited takes it";
         user.key(Key::escape);

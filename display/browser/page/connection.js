@@ -8,7 +8,7 @@ const sessionKey = 'tellurix-session';
 const leftKey = 'tellurix-left';
 
 const retryDelays = [100, 250, 500, 1000, 2000];
-const slowAfter = 250;
+const slowAfter = 300;
 const noticeAfter = 400;
 const giveUpAfter = 150_000;
 const answerWithin = 5000;

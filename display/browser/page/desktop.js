@@ -2,7 +2,7 @@
 // says which of its controls has the focus.
 import { placeCard } from './card.js';
 import { isOverheard } from './keys.js';
-import { buildLayout } from './layout.js';
+import { buildLayout, countFilters } from './layout.js';
 import { createView } from './controls/index.js';
 import { newElementId } from './controls/view.js';
 import { showPath } from './path.js';
@@ -30,6 +30,8 @@ export class Desktop {
       if (target.closest('button') || !target.closest('input, textarea, select, .scrolls')) event.preventDefault();
     });
     addEventListener('resize', () => this.#placeCards());
+    addEventListener('beforeprint', () => this.#print(true));
+    addEventListener('afterprint', () => this.#print(false));
     for (const type of ['dragover', 'drop', 'submit']) {
       root.addEventListener(type, (event) => event.preventDefault());
     }
@@ -58,7 +60,8 @@ export class Desktop {
       window.element.inert = window !== top;
       window.element.classList.toggle('behind', window !== top);
       window.element.classList.toggle('covered', index < sheet);
-      if (!window.card) showPath(window.path, this.#titlesTo(index === sheet ? this.#windows.length - 1 : index));
+      // Nobody sees the path of a covered one.
+      if (!window.card && index >= sheet) showPath(window.path, this.#titlesTo(this.#windows.length - 1));
     });
     this.#placeCards();
   }
@@ -74,12 +77,21 @@ export class Desktop {
     }
   }
 
+  /** Gets ready for paper (style/print.css), and for the screen again. */
+  #print(whole) {
+    const { lang, style } = document.documentElement;
+    style.setProperty('--printed', `"${new Date().toLocaleDateString(lang)}"`);
+    for (const view of this.#windows.at(-1)?.views.values() ?? []) view.showWhole?.(whole);
+  }
+
   /** Puts the browser's focus where the session says it is. */
   placeFocus() {
     const top = this.#windows.at(-1);
     if (!top) return;
     this.#placing = true;
     const element = this.focused?.focusElement ?? top.element;
+    const strip = element.closest('.filters');
+    if (strip && element.getClientRects().length === 0) strip.classList.add('open');
     if (document.activeElement !== element) element.focus({ preventScroll: false });
     this.focused?.focusPlaced?.();
     this.#placing = false;
@@ -160,7 +172,7 @@ export class Desktop {
     this.perform(view.window, { type: 'focus', control: view.state.id });
   }
 
-  #open({ id, form, title, card, asks, layout, controls, status }) {
+  #open({ id, form, title, card, asks, layout, controls, status, hints }) {
     const element = document.createElement('section');
     element.className = card ? 'window card' : 'window';
     element.id = newElementId();
@@ -195,6 +207,8 @@ export class Desktop {
       view.drawError(); // beside it was no place yet
     }
     window.status.draw(status);
+    window.status.drawHints(hints);
+    countFilters(element);
   }
 
   #titleBar(window) {
@@ -228,12 +242,14 @@ export class Desktop {
     if (window.card) showPath(window.path, [title]);
   }
 
-  #change({ id, title, controls, status }) {
+  #change({ id, title, controls, status, hints }) {
     const window = this.#windows.find((candidate) => candidate.id === id);
     if (!window) return;
     if (title !== undefined) this.#title(window, title);
     this.#draw(window, controls ?? []);
+    countFilters(window.element);
     if (status) window.status.draw(status);
+    if (hints) window.status.drawHints(hints);
   }
 
   /** A control that cannot be drawn must not take the others along, and with them the whole session. */

@@ -54,7 +54,7 @@ export class Keyboard {
       return;
     }
     if (this.#input.busy) {
-      if (isShortcut(key) && !['a', 's'].includes(key.name.toLowerCase())) return;
+      if (isShortcut(key) && !['a', 's', 'z'].includes(key.name.toLowerCase())) return;
       if (isFunctionKey(key) && !['F1', 'F2', 'F4'].includes(key.name)) return;
       event.preventDefault();
       this.#input.perform(() => this.#replay(key));

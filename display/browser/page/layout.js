@@ -1,4 +1,5 @@
 // Arranges the controls of a window as its layout tree says.
+import { text } from './texts.js';
 
 const builders = {
   control: (node, views) => viewOf(node, views).element,
@@ -18,7 +19,18 @@ const builders = {
     return table;
   },
   groups: (node, views) => box('groups', node.children.map((child) => build(child, views))),
-  filters: (node, views) => box('filters', node.children.map((child) => build(child, views))),
+  /** A narrow screen shows the first one; the others are behind a button, which says how many are in use. */
+  filters(node, views) {
+    const strip = box('filters', node.children.map((child) => build(child, views)));
+    const more = document.createElement('button');
+    more.type = 'button';
+    more.tabIndex = -1;
+    more.className = 'button more';
+    more.addEventListener('click', () => more.setAttribute('aria-expanded', strip.classList.toggle('open')));
+    more.setAttribute('aria-expanded', 'false');
+    strip.append(more);
+    return strip;
+  },
   sides: (node, views) => box('sides', node.children.map((child) => box('side', [build(child, views)]))),
   frame(node, views) {
     const frame = viewOf(node, views);
@@ -66,6 +78,15 @@ export function buildLayout(node, views, window) {
   bar?.prepend(...bars);
   bar?.remove();
   return { content, bar };
+}
+
+/** Says how many of the filters behind a button are in use. */
+export function countFilters(window) {
+  for (const strip of window.querySelectorAll('.filters')) {
+    const used = [...strip.querySelectorAll(':scope > :not(:first-child) :is(input, select)')].filter((control) => (
+      !control.readOnly && (control.type === 'checkbox' ? control.checked : control.selectedIndex > 0 || (control.type === 'text' && control.value))));
+    strip.lastChild.textContent = used.length > 0 ? `${text('filters')} (${used.length})` : text('filters');
+  }
 }
 
 function build(node, views) {

@@ -156,6 +156,8 @@ void BrowserDisplay::drawWindows(json& message, bool complete) {
         if (complete || !window.drawn) {
             opened.push_back(drawWindow(window.id, *window.form));
             if (below != nullptr) opened.back()["asks"] = below->id();
+            window.hints = ui::keyHints(*window.form);
+            opened.back()["hints"] = drawHints(window.hints);
             window.drawn = true;
             continue;
         }
@@ -165,6 +167,10 @@ void BrowserDisplay::drawWindows(json& message, bool complete) {
             window.form->titleDrawn();
         }
         if (window.form->status().dirty()) change["status"] = drawStatus(window.form->status());
+        if (auto hints = ui::keyHints(*window.form); hints != window.hints) {
+            change["hints"] = drawHints(hints);
+            window.hints = std::move(hints);
+        }
         if (json controls = drawChanges(*window.form); !controls.empty()) {
             change["controls"] = std::move(controls);
         }

@@ -3,6 +3,7 @@
 #include "display/browser/session/PageChannel.h"
 #include "module/ui/Desktop.h"
 #include "module/ui/DisplayErrors.h"
+#include "module/ui/key_hints.h"
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -43,6 +44,7 @@ private:
         int id;
         ui::Form* form;
         bool drawn = false;
+        std::vector<ui::KeyHint> hints = {}; ///< as the page shows them
     };
     struct Question {
         int id;

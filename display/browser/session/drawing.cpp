@@ -13,6 +13,18 @@ using nlohmann::json;
 using ui::Control;
 using ui::Layout;
 
+const char* nameOf(ui::ChangedBy who) {
+    switch (who) {
+    case ui::ChangedBy::user:
+        return "user";
+    case ui::ChangedBy::colleague:
+        return "colleague";
+    case ui::ChangedBy::nobody:
+        return "";
+    }
+    return "";
+}
+
 /// Each of these adds what is particular to a kind of control. @param whole also what has not changed
 void draw(json& out, const ui::Label& label, bool /*whole*/) {
     out["kind"] = "label";
@@ -79,6 +91,8 @@ json drawColumns(const ui::Grid& grid) {
                            {"sized", column.sized},
                            {"order", column.order},
                            {"tip", column.toolTip},
+                           {"open", column.open},
+                           {"narrow", column.narrow},
                            {"visible", column.visible}});
     }
     return columns;
@@ -98,6 +112,13 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
     out["editor"] = nullptr;
     if (const ui::TextBox* box = grid.cellEditor()) {
         out["editor"] = {{"control", box->id()}, {"row", grid.editedRow()}, {"column", grid.editedColumn()}};
+    }
+    out["empty"] = grid.emptyText();
+    if (whole || grid.changedCellsDirty()) {
+        json cells = json::array();
+        for (const auto& [cell, who] : grid.changedCells())
+            cells.push_back({cell.row, cell.column, nameOf(who)});
+        out["changedCells"] = std::move(cells);
     }
     if (whole || grid.columnsDirty()) out["columns"] = drawColumns(grid);
     if (whole || grid.rowsDirty()) {
@@ -172,6 +193,7 @@ json drawControl(const Control& control, bool whole) {
              {"characters", nameOfUse(ui::characterUse(control))},
              {"warning", control.warning()},
              {"error", control.error()},
+             {"changedBy", nameOf(control.changedBy())},
              {"quiet", control.quiet()}};
     ui::visit(control, [&](const auto& visited) { draw(out, visited, whole); });
     return out;
@@ -286,6 +308,13 @@ json drawChanges(ui::Form& form) {
 json drawStatus(ui::StatusLine& status) {
     status.drawn();
     return {{"text", status.text()}, {"action", status.action()}};
+}
+
+json drawHints(const std::vector<ui::KeyHint>& hints) {
+    json drawn = json::array();
+    for (const ui::KeyHint& hint : hints)
+        drawn.push_back({hint.key, hint.effect});
+    return drawn;
 }
 
 std::vector<ui::Answer> answersOf(int flags) {

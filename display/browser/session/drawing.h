@@ -1,11 +1,13 @@
 #pragma once
 
 #include "module/ui/Form.h"
+#include "module/ui/key_hints.h"
 #include "module/ui/message_box.h"
 
 #include <nlohmann/json_fwd.hpp>
 
 #include <string>
+#include <vector>
 
 namespace tellurix::browser {
 
@@ -21,6 +23,9 @@ nlohmann::json drawChanges(ui::Form& form);
 
 /// The last line of a window. Counts as drawn.
 nlohmann::json drawStatus(ui::StatusLine& status);
+
+/// The keys that the last line of a window names, each with its effect.
+nlohmann::json drawHints(const std::vector<ui::KeyHint>& hints);
 
 /// A message box with its buttons in the user's language.
 /// @param language "de" or "en"

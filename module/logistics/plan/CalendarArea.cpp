@@ -71,6 +71,7 @@ CalendarArea::CalendarArea(ui::Form& form, host::HostServices& services,
              .remove = &btnLoschen1},
             {.inView = {&DataGridKalendar, &weekPlan_.bars(), &btnGenWeek},
              .whileEdited = {&frmKalendar},
+             .changes = &changes_,
              .rows = &DataGridKalendar},
             [this] { return weeks_.currentKey().has_value(); }) {
     connect();
@@ -93,7 +94,7 @@ void CalendarArea::connectRow() {
                  },
              .mine = [this, &box, mask] { return base::reformatNumber(box.text(), mask, services_.locale); },
              .theirs = text,
-             .typed = &box});
+             .in = {&box}});
     };
     digits(txtJahr, lblKW_Year, shownYear_, "JAHR", yearMask);
     digits(txtWoche, lblKW, shownWeek_, "WOCHE", weekMask);
@@ -210,6 +211,8 @@ void CalendarArea::reload(std::optional<std::int64_t> key) {
     frmKalenderwochen.setCaption(std::move(caption));
     // A contract without weeks answers one row, which is none.
     std::erase_if(rows, [](const parts::KeyedRow& week) { return week.key() == 0; });
+    DataGridKalendar.setEmptyText(words(
+        OwnText::noWeeks, {ui::plainCaption(btnNeu1.caption()), ui::plainCaption(btnGenWeek.caption())}));
     weeks_.show(std::move(rows));
     if (key) weeks_.select(*key);
     weekPlan_.show(weeks_, contract_, statements_);
@@ -250,6 +253,7 @@ int CalendarArea::sortColumn() {
 void CalendarArea::clearBoxes() {
     for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
         box->show("");
+    row_.leave();
 }
 
 void CalendarArea::startNew() {

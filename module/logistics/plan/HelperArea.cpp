@@ -14,6 +14,7 @@
 #include "module/parts/M_Common.h"
 #include "module/parts/fields/typed_text.h"
 #include "module/parts/questions.h"
+#include "module/ui/controls/caption.h"
 
 #include <exception>
 #include <utility>
@@ -65,7 +66,6 @@ HelperArea::HelperArea(ui::Form& form, host::HostServices& services, parts::Undo
       helpers_(MSFG),
       quantities_(MSFG, helpers_, txtEdit, ProgressBar1,
                   {.condition = GuardedQuantities::ofContract,
-                   .editing = [this] { return !mode_.viewing(); },
                    .nameOf = [](parts::KeyedRow& helper) { return helper.text(helpers::nameField); },
                    .changed = [this] { showSums(); }}),
       selection_(ProgressBar1),
@@ -83,6 +83,7 @@ HelperArea::HelperArea(ui::Form& form, host::HostServices& services, parts::Undo
 
 void HelperArea::connect() {
     txtFilter.setMaxLength(longestFilter);
+    mode_.onEnter.before([this] { helpers_.openCells(!mode_.viewing()); });
     txtFilter.onLeave = [this] {
         applyFilter();
         return true;
@@ -174,6 +175,12 @@ void HelperArea::reload(std::optional<std::int64_t> key) {
         parts::KeyedRows::read(contract_.connection(), helpers::list(contract_.record, filter_), "ID");
     // A contract without helpers answers with a row that is none.
     std::erase_if(read.rows, [](parts::KeyedRow& row) { return row.key() == 0; });
+    const std::string& language = contract_.session.language;
+    MSFG.setEmptyText(
+        filter_.empty()
+            ? base::ownText(OwnText::noHelpers, language,
+                            {ui::plainCaption(btnNeu2.caption()), ui::plainCaption(btnWaldhelfer.caption())})
+            : base::ownText(OwnText::nothingFoundFor, language, {txtFilter.text()}));
     quantities_.show(std::move(read.rows));
     if (key) helpers_.select(*key);
     mode_.enter(State::view);
@@ -211,7 +218,9 @@ void HelperArea::save() {
     if (!quantities_.save(services_, contract_.session, helpers::presentQuantities(contract_.record))) return;
     reload(std::nullopt);
     parts::SafeSetFocus(MSFG);
-    undo_.say(parts::savedText(OwnText::saved, quantities_.takenOver(), contract_.session.language));
+    quantities_.takenOver().mark();
+    undo_.say(parts::savedText(OwnText::saved, quantities_.takenOver().sentence(contract_.session.language),
+                               contract_.session.language));
 }
 
 void HelperArea::cancel() {

@@ -102,7 +102,8 @@ SettingsArea::SettingsArea(ui::Form& form, host::HostServices& services, parts::
                           captionOf(lblTransportauftraege), parts::named("WVO_T_BEREITSELLUNGS")),
       row_(services, contract_.session),
       mode_({.edit = &btnBearbeiten, .save = &btnSpeichern, .cancel = &btnAbbrechen},
-            {.whileEdited = {&frmSchalter, &frmEinstellungen, &frmBemerkung, &frmOriginal, &frmFhpLogistik}},
+            {.whileEdited = {&frmSchalter, &frmEinstellungen, &frmBemerkung, &frmOriginal, &frmFhpLogistik},
+             .changes = &changes_},
             [] { return true; }) {
     txtBemerkung.setLines(2);
     connect();
@@ -183,7 +184,7 @@ void SettingsArea::connectWeekday(parts::LookupBox& box, const char* column) {
                   },
               .mine = [&box] { return box.box().text(); },
               .theirs = [this, column](base::Fields& row) { return weekdayIn(row, column); },
-              .typed = &box.box()});
+              .in = {&box.box()}});
 }
 
 std::string SettingsArea::weekdayIn(base::Fields& row, std::string_view column) const {
@@ -291,7 +292,7 @@ void SettingsArea::save() {
     static_cast<void>(updateStatement(path)); // refuses what no statement can carry before anything is asked
     warnOfMissingUnit();
     if (!row_.settle([this] { return readRow(); })) return;
-    const std::string taken = row_.takenOver();
+    const parts::TakenOver taken = row_.takenFromOthers();
     // What came from a colleague can need a date that is not here.
     if (!datesAreThere()) return;
     if (txtOriginal.text() != document) path = original();
@@ -300,7 +301,9 @@ void SettingsArea::save() {
     LoadSettings();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(btnBearbeiten);
-    undo_.say(parts::savedText(OwnText::saved, taken, contract_.session.language));
+    taken.mark();
+    undo_.say(parts::savedText(OwnText::saved, taken.sentence(contract_.session.language),
+                               contract_.session.language));
 }
 
 bool SettingsArea::datesAreThere() {
@@ -327,7 +330,7 @@ void SettingsArea::chooseDocument() {
     const auto path = chooseOriginal(services_, contract_.session);
     if (!path) return;
     txtOriginal.setText(*path);
-    changes_.note();
+    changes_.note(txtOriginal);
 }
 
 std::string SettingsArea::original() {

@@ -187,7 +187,17 @@ void F_Bereitstellung_WVO::showTitle() {
     setTitle(parts::titleWith(caption_, known ? txtVertrag.text() : ""));
 }
 
+std::string F_Bereitstellung_WVO::whyEmpty() const {
+    if (!loaded_ || !week_.chosen()) return own(OwnText::noReportYet);
+    // Only the tick hides helpers.
+    if (!table_.empty()) return own(OwnText::allReported);
+    for (const ui::TextBox* filter : {&txtWaldhelfer, &txtWHNummer})
+        if (!filter->text().empty()) return own(OwnText::nothingFoundFor, {filter->text()});
+    return own(OwnText::noReports);
+}
+
 void F_Bereitstellung_WVO::showSums() {
+    MSFG.setEmptyText(whyEmpty());
     const auto shown = [this](ui::Label& label, const base::Decimal& sum) {
         label.setCaption(loaded_ && week_.chosen() ? base::formatNumber(sum, "##,##0", services_.locale)
                                                    : "");
@@ -226,10 +236,11 @@ void F_Bereitstellung_WVO::save() {
         showSums();
         throw base::Refused{besides};
     }
-    const std::string takenOver = takenOver_.sentence(session_.language);
+    const parts::TakenOver taken = takenOver_;
     reload();
     parts::SafeSetFocus(MSFG);
-    status().say(parts::savedText(OwnText::saved, takenOver, session_.language));
+    taken.mark();
+    status().say(parts::savedText(OwnText::saved, taken.sentence(session_.language), session_.language));
     if (!besides.empty())
         parts::ShowMessage(services_.display, base::Refused{besides}.message(session_.language),
                            ui::box::exclamation);

@@ -45,6 +45,8 @@ private:
     void reload();
     /// The title names the contract.
     void showTitle();
+    /// What the list says where it shows nothing.
+    std::string whyEmpty() const;
     void showSums();
 
     void startEdit();

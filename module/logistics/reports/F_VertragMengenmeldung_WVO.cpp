@@ -29,7 +29,6 @@ F_VertragMengenmeldung_WVO::F_VertragMengenmeldung_WVO(host::HostServices& servi
       quantities_(
           MSFG, contracts_, txtEdit, ProgressBar1,
           {.condition = GuardedQuantities::ofHelper,
-           .editing = [this] { return !mode_.viewing(); },
            .nameOf = [](parts::KeyedRow& contract) { return contract.text(quantity_report::contractField); },
            .changed = [this] { showSums(); }}),
       mode_({.edit = &btnBearbeiten, .save = &btnSpeichern, .cancel = &btnAbbrechen},
@@ -51,7 +50,10 @@ void F_VertragMengenmeldung_WVO::connect() {
     btnSchliesen.setCausesValidation(false);
     for (ui::Label* sum : {&lblCol2, &lblCol3})
         sum->setHighlighted(true);
-    mode_.onEnter = [this] { setCancelButton(mode_.viewing() ? btnSchliesen : btnAbbrechen); };
+    mode_.onEnter = [this] {
+        contracts_.openCells(!mode_.viewing());
+        setCancelButton(mode_.viewing() ? btnSchliesen : btnAbbrechen);
+    };
 }
 
 void F_VertragMengenmeldung_WVO::arrange() {
@@ -123,6 +125,8 @@ void F_VertragMengenmeldung_WVO::load() {
         mode_.enter(State::view);
         throw;
     }
+    MSFG.setEmptyText(base::ownText(
+        helper() == 0 ? base::OwnText::noHelperYet : base::OwnText::noContractsOfHelper, session_.language));
     quantities_.show(std::move(contracts));
     mode_.enter(State::view);
 }
@@ -141,7 +145,9 @@ void F_VertragMengenmeldung_WVO::save() {
     if (!quantities_.save(services_, session_, quantity_report::presentQuantities(helper()))) return;
     load();
     parts::SafeSetFocus(MSFG);
-    status().say(parts::savedText(base::OwnText::saved, quantities_.takenOver(), session_.language));
+    quantities_.takenOver().mark();
+    status().say(parts::savedText(base::OwnText::saved, quantities_.takenOver().sentence(session_.language),
+                                  session_.language));
 }
 
 bool F_VertragMengenmeldung_WVO::escape() {

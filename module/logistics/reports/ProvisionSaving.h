@@ -21,7 +21,7 @@ public:
           session_(session),
           statements_(statements),
           table_(table),
-          merge_(services, session, takenOver) {}
+          merge_(services, session, table.grid(), takenOver) {}
 
     /// Writes the rows, after they have been read again: what nobody typed is taken over, what both the user
     /// and somebody else have changed is asked about.

@@ -61,9 +61,9 @@ ProvisionTable::ProvisionTable(ui::Grid& grid, ui::TextBox& box, ui::CheckBox& o
       grid_(grid, locale),
       editor_(grid, box) {
     onlyMissing_.onClick = [this] { hideReported(); };
-    editor_.canEdit = [this](int row, int column) {
+    editor_.canEdit = [this](int row, int /*column*/) {
         // A helper who is no person any more can have no report.
-        return editing_ && grid_.editable(column) && grid_.keyOf(row) != 0;
+        return grid_.keyOf(row) != 0;
     };
     editor_.prepare = [this](ui::TextBox& cell, int column) {
         const parts::KeyedGrid::Column& edited = grid_.columns()[static_cast<std::size_t>(column)];
@@ -130,7 +130,7 @@ void ProvisionTable::open(const std::string& language, int carrierWidth) {
 }
 
 void ProvisionTable::setEditing(bool editing) {
-    editing_ = editing;
+    grid_.openCells(editing);
     if (editor_.open()) editor_.close();
 }
 
@@ -149,12 +149,8 @@ int ProvisionTable::reported() {
     return static_cast<int>(std::ranges::count_if(rows(), hasReport));
 }
 
-int ProvisionTable::changed() {
-    return static_cast<int>(std::ranges::count_if(rows(), [](KeyedRow& row) { return row.touched(); }));
-}
-
 bool ProvisionTable::hasTyped() {
-    return changed() > 0 || (editor_.open() && box_.touched());
+    return grid_.touchedRows() > 0 || (editor_.open() && box_.touched());
 }
 
 std::string ProvisionTable::mark(KeyedRow& row) const {

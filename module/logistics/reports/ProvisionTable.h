@@ -34,9 +34,10 @@ public:
 
     bool empty() const { return grid_.empty(); }
     std::span<parts::KeyedRow> rows() { return grid_.rows(); }
+    parts::KeyedGrid& grid() { return grid_; }
     int reported();
     /// How many rows have values that are not written yet.
-    int changed();
+    int changed() const { return grid_.touchedRows(); }
     /// Whether anything would be lost: such a row, or what was typed into a cell that is still open.
     bool hasTyped();
     base::Decimal announced() { return grid_.sum(reportField::announced); }
@@ -91,7 +92,6 @@ private:
     ui::GridEditor editor_;
     std::string language_;
     int carrierWidth_ = 0;
-    bool editing_ = false;
     bool ofWeek_ = false;
 };
 

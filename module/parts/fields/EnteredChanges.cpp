@@ -2,21 +2,38 @@
 
 #include "module/ui/Form.h"
 
+#include <utility>
+
 namespace tellurix::parts {
 
 void EnteredChanges::watch(ui::TextBox& box) {
-    box.onChange.after([this] { note(); });
+    box.onChange.after([this, &box] { note(box); });
     if (!box.onPick) return;
     box.onPick.before([this, &box] { beforePick_ = box.text(); });
-    box.onPick.after([this, &box] { any_ = any_ || box.text() != beforePick_; });
+    box.onPick.after([this, &box] {
+        if (box.text() != beforePick_) note(box);
+    });
 }
 
 void EnteredChanges::watch(ui::CheckBox& box) {
-    box.onClick.after([this] { note(); });
+    box.onClick.after([this, &box] { note(box); });
 }
 
 void EnteredChanges::watch(ui::ComboBox& list) {
-    list.onChange.after([this] { note(); });
+    list.onChange.after([this, &list] { note(list); });
+}
+
+void EnteredChanges::note(ui::Control& box) {
+    any_ = true;
+    if (box.changedBy() == ui::ChangedBy::user) return;
+    box.setChangedBy(ui::ChangedBy::user);
+    entered_.push_back(&box);
+}
+
+void EnteredChanges::forget() {
+    any_ = false;
+    for (ui::Control* box : std::exchange(entered_, {}))
+        if (box->changedBy() == ui::ChangedBy::user) box->setChangedBy(ui::ChangedBy::nobody);
 }
 
 void EnteredChanges::watchAll(ui::Form& form, const ui::Control* frame) {

@@ -5,11 +5,13 @@
 #include "module/ui/controls/TextBox.h"
 
 #include <string>
+#include <vector>
 
 namespace tellurix::parts {
 
 /// Whether the user has entered something into some boxes since they were filled: by what he did, because
-/// a box may show the same after it. It outlives none of the boxes that it watches.
+/// a box may show the same after it. Such a box is marked as changed by him until that is forgotten. It
+/// outlives none of the boxes that it watches.
 class EnteredChanges {
 public:
     void watch(ui::TextBox& box);
@@ -19,11 +21,13 @@ public:
     void watchAll(ui::Form& form, const ui::Control* frame = nullptr);
 
     bool any() const { return any_; }
-    void note() { any_ = true; }
-    /// The boxes have been filled anew.
-    void forget() { any_ = false; }
+    /// The user has entered something into a box by other ways than the box's own.
+    void note(ui::Control& box);
+    /// The boxes have been filled anew, or what was entered has been saved or thrown away.
+    void forget();
 
 private:
+    std::vector<ui::Control*> entered_;
     bool any_ = false;
     std::string beforePick_;
 };

@@ -2,11 +2,14 @@
 
 #include "module/base/date_format.h"
 #include "module/base/field_text.h"
+#include "module/base/own_text.h"
 #include "module/base/text.h"
+#include "module/ui/Form.h"
 #include "module/ui/input/grid_text.h"
 
 #include <algorithm>
 #include <numeric>
+#include <set>
 #include <utility>
 
 namespace tellurix::parts {
@@ -38,14 +41,29 @@ void KeyedGrid::setColumns(std::vector<Column> columns) {
                          .width = column.width,
                          .rightAligned = column.rightAligned,
                          .visible = !column.hidden,
-                         .toolTip = column.toolTip});
+                         .toolTip = column.toolTip,
+
+                         .narrow = column.narrow});
     grid_.setColumns(std::move(shown));
+    drawOpenColumns();
     if (std::ranges::find(columns_, true, &Column::sorts) == columns_.end()) return;
     grid_.onHeadingClick = [this](int column) {
         if (!columns_.at(static_cast<std::size_t>(column)).sorts) return;
         const auto now = sorting();
         sortBy(column, now && now->column == column && !now->descending);
     };
+}
+
+void KeyedGrid::openCells(bool open) {
+    open_ = open;
+    drawOpenColumns();
+}
+
+void KeyedGrid::drawOpenColumns() {
+    std::set<int> open;
+    for (int column = 0; open_ && column < static_cast<int>(columns_.size()); ++column)
+        if (editable(column)) open.insert(column);
+    grid_.openColumns(open);
 }
 
 void KeyedGrid::sortBy(int column, bool descending) {
@@ -94,6 +112,16 @@ void KeyedGrid::drawRow(int row) {
         if (columns_[column].shown || !columns_[column].field.empty())
             grid_.setCell(row, static_cast<int>(column), cellText(read, columns_[column]));
     }
+    drawChanges(row);
+}
+
+void KeyedGrid::drawChanges(int row) {
+    const KeyedRow& read = this->row(row);
+    if (read.fieldCount() == 0) return;
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        if (columns_[column].shown || columns_[column].field.empty()) continue;
+        grid_.setChangedBy({row, static_cast<int>(column)}, read.changedBy(columns_[column].field));
+    }
 }
 
 void KeyedGrid::show(std::vector<KeyedRow> rows) {
@@ -139,6 +167,9 @@ void KeyedGrid::drawRows(std::optional<std::int64_t> current) {
     for (const std::size_t row : seen_)
         cells.push_back(cellsOf(rows_[row]));
     grid_.setRows(std::move(cells));
+    for (int row = 0; row < rowCount(); ++row)
+        drawChanges(row);
+    tellTouched();
     if (const auto found = current ? find(*current) : std::nullopt) {
         grid_.setCurrent(*found, grid_.currentColumn());
     } else if (grid_.currentRow() == ui::Grid::none && rowCount() > 0) {
@@ -149,6 +180,7 @@ void KeyedGrid::drawRows(std::optional<std::int64_t> current) {
 void KeyedGrid::redraw() {
     for (int row = 0; row < rowCount(); ++row)
         drawRow(row);
+    tellTouched();
 }
 
 std::optional<std::int64_t> KeyedGrid::currentKey() const {
@@ -188,11 +220,36 @@ void KeyedGrid::swap(int row, int other) {
         grid_.setCell(row, column, grid_.cell(other, column));
         grid_.setCell(other, column, std::move(cell));
     }
+    drawChanges(row);
+    drawChanges(other);
 }
 
 void KeyedGrid::setValue(int row, std::string_view field, base::Value value) {
     this->row(row).set(field, std::move(value));
     drawRow(row);
+    tellTouched();
+}
+
+void KeyedGrid::markFromOthers(std::int64_t key, std::string_view field) {
+    const auto row = std::ranges::find(rows_, key, &KeyedRow::key);
+    if (row == rows_.end()) return;
+    row->setChangedBy(field, ui::ChangedBy::colleague);
+    if (const auto seen = find(key)) drawChanges(*seen);
+}
+
+int KeyedGrid::touchedRows() const {
+    return static_cast<int>(std::ranges::count_if(rows_, [](const KeyedRow& row) { return row.touched(); }));
+}
+
+void KeyedGrid::tellTouched() {
+    const int touched = touchedRows();
+    if (touched == std::exchange(toldTouched_, touched)) return;
+    const auto words = [this](base::OwnText text, const std::vector<std::string>& values = {}) {
+        return base::ownText(text, grid_.form().language(), values);
+    };
+    grid_.form().status().keep(touched == 0   ? std::string{}
+                               : touched == 1 ? words(base::OwnText::oneLineEdited)
+                                              : words(base::OwnText::linesEdited, {std::to_string(touched)}));
 }
 
 void KeyedGrid::copyField(std::string_view from, std::string_view to) {

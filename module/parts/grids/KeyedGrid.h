@@ -14,7 +14,8 @@
 namespace tellurix::parts {
 
 /// What a grid shows: rows of a query, each known by its key. It keeps the values as they were read
-/// beside the texts of the cells, which may show fewer decimals.
+/// beside the texts of the cells, which may show fewer decimals. A cell shows who has changed its field, and
+/// the status line how many rows the user has changed.
 ///
 /// Some of the rows can be hidden from the eye, and all put into another order than that of the query. A
 /// row's number is that of the grid; what works on the rows as a whole (sums, copying, the text) works on all
@@ -29,6 +30,7 @@ public:
         bool rightAligned = false;
         bool hidden = false;
         bool editable = false;
+        ui::Grid::Narrow narrow = ui::Grid::Narrow::beside;
         bool sorts = false; ///< a click on its heading orders the rows by it, another one the other way
         std::string toolTip = {};
         /// What the cell shows where it is not one field in a mask.
@@ -45,6 +47,8 @@ public:
     /// The columns, for rows that are shown from now on.
     void setColumns(std::vector<Column> columns);
     const std::vector<Column>& columns() const { return columns_; }
+    /// Whether the cells of editable columns can be edited, from now on.
+    void openCells(bool open);
     bool editable(int column) const { return columns_.at(static_cast<std::size_t>(column)).editable; }
 
     /// Shows other rows. The row with the current key stays current; where it is gone, the row that
@@ -84,6 +88,10 @@ public:
 
     /// Sets one value, as when it was typed, and shows it.
     void setValue(int row, std::string_view field, base::Value value);
+    /// Shows that a field came from somebody else, in the row with that key, if there is one.
+    void markFromOthers(std::int64_t key, std::string_view field);
+    /// How many rows the user has changed, the hidden ones too.
+    int touchedRows() const;
     /// Gives a field the values of another one in every row where it has another value, as they were read.
     void copyField(std::string_view from, std::string_view to);
     /// The sum of the numbers of a field; what is empty counts nothing.
@@ -109,12 +117,18 @@ private:
     bool comesBefore(const Sorting& sorting, std::size_t row, std::size_t other);
     void orderRows();
     void drawRow(int row);
+    void drawChanges(int row);
+    void drawOpenColumns();
+    /// Tells the user how many rows he has changed.
+    void tellTouched();
     void drawRows(std::optional<std::int64_t> current);
     ui::Grid::Row cellsOf(KeyedRow& row) const;
 
     ui::Grid& grid_;
     base::Locale locale_;
     std::vector<Column> columns_;
+    bool open_ = false;
+    int toldTouched_ = 0;
     std::vector<KeyedRow> rows_;
     std::vector<std::size_t> readAt_; ///< beside the rows: their places in the query
     std::function<bool(KeyedRow&)> condition_;

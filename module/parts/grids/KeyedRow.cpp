@@ -25,14 +25,14 @@ KeyedRow::KeyedRow(base::Recordset& row, std::int64_t key, Names names)
     : key_(key), names_(std::move(names)) {
     for (std::size_t i = 0; i < names_->size(); ++i)
         values_.push_back(row.field(i));
-    touched_.resize(values_.size());
+    changedBy_.resize(values_.size());
 }
 
 void KeyedRow::set(std::string_view name, base::Value value) {
     const std::size_t field = fieldIndex(name);
     if (read_.empty()) read_ = values_;
     values_[field] = std::move(value);
-    touched_[field] = true;
+    changedBy_[field] = ui::ChangedBy::user;
 }
 
 const base::Value& KeyedRow::asRead(std::string_view name) const {
@@ -43,7 +43,7 @@ void KeyedRow::refresh(std::string_view name, base::Value value) {
     const std::size_t field = fieldIndex(name);
     if (!read_.empty()) read_[field] = value;
     values_[field] = std::move(value);
-    touched_[field] = false;
+    changedBy_[field] = ui::ChangedBy::colleague;
 }
 
 void KeyedRow::rebase(std::string_view name, base::Value value) {
@@ -54,15 +54,23 @@ void KeyedRow::rebase(std::string_view name, base::Value value) {
 
 void KeyedRow::settle() {
     read_.clear();
-    touched_.assign(touched_.size(), false);
+    changedBy_.assign(changedBy_.size(), ui::ChangedBy::nobody);
 }
 
 bool KeyedRow::touched(std::string_view name) const {
-    return touched_[fieldIndex(name)];
+    return changedBy_[fieldIndex(name)] == ui::ChangedBy::user;
 }
 
 bool KeyedRow::touched() const {
-    return std::ranges::find(touched_, true) != touched_.end();
+    return std::ranges::find(changedBy_, ui::ChangedBy::user) != changedBy_.end();
+}
+
+ui::ChangedBy KeyedRow::changedBy(std::string_view name) const {
+    return changedBy_[fieldIndex(name)];
+}
+
+void KeyedRow::setChangedBy(std::string_view name, ui::ChangedBy who) {
+    changedBy_[fieldIndex(name)] = who;
 }
 
 KeyedRows KeyedRows::read(base::Connection& connection, std::string_view query, std::string_view keyField,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/base/database.h"
+#include "module/ui/controls/Control.h"
 
 #include <limits>
 #include <memory>
@@ -26,13 +27,17 @@ public:
     void set(std::string_view name, base::Value value);
     /// The value of a field as it was read, whatever was typed over it.
     const base::Value& asRead(std::string_view name) const;
-    /// Takes over what the database has by now: the field does not count as touched any more.
+    /// Takes over what the database has by now: the field does not count as touched any more, but as somebody
+    /// else's.
     void refresh(std::string_view name, base::Value value);
     /// As if the field had been read so; what was typed over it stays.
     void rebase(std::string_view name, base::Value value);
     /// Whether a field has been set since the row was read, to whatever value.
     bool touched(std::string_view name) const;
     bool touched() const;
+    /// Who has changed a field since the row was read.
+    ui::ChangedBy changedBy(std::string_view name) const;
+    void setChangedBy(std::string_view name, ui::ChangedBy who);
     /// The values are those of the database now: nothing counts as touched any more.
     void settle();
 
@@ -44,8 +49,8 @@ private:
     std::int64_t key_;
     Names names_; ///< shared by the rows of one query
     std::vector<base::Value> values_;
-    std::vector<base::Value> read_; ///< the same as they were read; empty while nothing was set
-    std::vector<bool> touched_;     ///< beside the values
+    std::vector<base::Value> read_;        ///< the same as they were read; empty while nothing was set
+    std::vector<ui::ChangedBy> changedBy_; ///< beside the values
 };
 
 /// The rows of one query.

@@ -6,6 +6,7 @@
 #include "module/ui/controls/Label.h"
 #include "module/ui/controls/TextBox.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,16 +20,29 @@ struct Conflict {
     std::string theirs; ///< what the database has by now
 };
 
-/// The fields that came from somebody else, by what the user knows them by.
+/// The fields that came from somebody else.
 class TakenOver {
 public:
-    void add(std::string field);
+    struct Field {
+        std::string name;        ///< what the user knows it by
+        std::string before = {}; ///< what the user has seen in it, as a text; empty for nothing
+        std::string now = {};
+        bool whole = false; ///< a line of several fields, which is named without its texts
+        /// Shows in the field that it came from somebody else.
+        std::function<void()> mark = {};
+    };
+
+    /// Takes a field up, each once, and marks it.
+    void add(Field field);
     void clear() { fields_.clear(); }
     /// Empty for none. Of many only the first are named.
     std::string sentence(std::string_view language) const;
+    /// Marks them once more, where they have been loaded again after they were saved: now the user reads of
+    /// them.
+    void mark() const;
 
 private:
-    std::vector<std::string> fields_; ///< each once
+    std::vector<Field> fields_;
 };
 
 /// Shows what two have changed, and asks whose is to stay. Closing the window goes back.

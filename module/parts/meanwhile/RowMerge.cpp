@@ -10,8 +10,14 @@ void RowMerge::field(KeyedRow& row, std::string_view field, const base::Value& n
                      const std::function<std::string(const base::Value&)>& text) {
     if (base::sameValue(row.asRead(field), now)) return;
     if (!row.touched(field)) {
+        std::string before = text(row.field(field));
         row.refresh(field, now);
-        takenOver_.add(name);
+        takenOver_.add({.name = name,
+                        .before = std::move(before),
+                        .now = text(now),
+                        .mark = [&rows = rows_, key = row.key(), name = std::string{field}] {
+                            rows.markFromOthers(key, name);
+                        }});
         return;
     }
     const std::string mine = text(row.field(field));

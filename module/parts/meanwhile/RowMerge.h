@@ -1,7 +1,7 @@
 #pragma once
 
 #include "module/host/services.h"
-#include "module/parts/grids/KeyedRow.h"
+#include "module/parts/grids/KeyedGrid.h"
 #include "module/parts/meanwhile/ConflictQuestion.h"
 
 #include <functional>
@@ -17,8 +17,9 @@ class RowMerge {
 public:
     /// @param session the screen's own copy of the session record
     /// @param takenOver the fields that come from somebody else are added to it
-    RowMerge(host::HostServices& services, const host::TlxVar& session, TakenOver& takenOver)
-        : services_(services), session_(session), takenOver_(takenOver) {}
+    /// @param rows where the rows are shown
+    RowMerge(host::HostServices& services, const host::TlxVar& session, KeyedGrid& rows, TakenOver& takenOver)
+        : services_(services), session_(session), rows_(rows), takenOver_(takenOver) {}
 
     /// Compares until nothing is in conflict: after each answer the rows are read again, because it takes its
     /// time.
@@ -48,6 +49,7 @@ private:
 
     host::HostServices& services_;
     const host::TlxVar& session_;
+    KeyedGrid& rows_;
     std::vector<InConflict> conflicts_;
     TakenOver& takenOver_;
 };

@@ -38,7 +38,7 @@ void SharedRow::text(ui::TextBox& box, const std::string& column) {
          .show = [&box, column](Fields& row) { box.show(row.text(column)); },
          .mine = textOf(box),
          .theirs = [column](Fields& row) { return row.text(column); },
-         .typed = &box});
+         .in = {&box}});
 }
 
 void SharedRow::date(ui::TextBox& box, const std::string& column, std::function<std::string()> name) {
@@ -47,7 +47,7 @@ void SharedRow::date(ui::TextBox& box, const std::string& column, std::function<
          .show = [&box, column](Fields& row) { box.show(base::dateText(row.field(column))); },
          .mine = textOf(box),
          .theirs = [column](Fields& row) { return base::dateText(row.field(column)); },
-         .typed = &box});
+         .in = {&box}});
 }
 
 void SharedRow::number(NumberField& field, const std::string& column) {
@@ -63,7 +63,7 @@ void SharedRow::number(NumberField& field, const std::string& column) {
              },
          .theirs = [column,
                     locale](Fields& row) { return base::numberText(row.field(column), exactMask, locale); },
-         .typed = &field.box()});
+         .in = {&field.box()}});
 }
 
 void SharedRow::lookup(LookupBox& box, const std::string& keyColumn, const std::string& textColumn) {
@@ -73,7 +73,7 @@ void SharedRow::lookup(LookupBox& box, const std::string& keyColumn, const std::
                   textColumn](Fields& row) { box.show(row.text(textColumn), row.text(keyColumn)); },
          .mine = textOf(box.box()),
          .theirs = [textColumn](Fields& row) { return row.text(textColumn); },
-         .typed = &box.box()});
+         .in = {&box.box()}});
 }
 
 void SharedRow::person(PersonBox& box, const std::string& keyColumn, const std::string& numberColumn,
@@ -90,7 +90,7 @@ void SharedRow::person(PersonBox& box, const std::string& keyColumn, const std::
          .mine = [&box, both] { return both(box.number().text(), box.shortName().text()); },
          .theirs = [numberColumn, nameColumn,
                     both](Fields& row) { return both(row.text(numberColumn), row.text(nameColumn)); },
-         .typed = &box.number()});
+         .in = {&box.number(), &box.shortName()}});
 }
 
 void SharedRow::flag(ui::CheckBox& box, const std::string& column) {
@@ -101,12 +101,19 @@ void SharedRow::flag(ui::CheckBox& box, const std::string& column) {
          .name = [&box] { return ui::plainCaption(box.caption()); },
          .show = [&box, column](Fields& row) { box.setChecked(row.flag(column)); },
          .mine = [&box, words] { return words(box.checked()); },
-         .theirs = [column, words](Fields& row) { return words(row.flag(column)); }});
+         .theirs = [column, words](Fields& row) { return words(row.flag(column)); },
+         .in = {&box}});
 }
 
 void SharedRow::show(Fields& row) {
     for (Kept& kept : fields_)
         take(kept, row);
+    leave();
+}
+
+void SharedRow::leave() {
+    for (const Kept& kept : fields_)
+        mark(kept.field, ui::ChangedBy::nobody);
     takenOver_.clear();
 }
 
@@ -117,9 +124,26 @@ void SharedRow::keep(std::string_view column, base::Value value) {
 }
 
 bool SharedRow::changed(const Kept& kept) {
-    const ui::TextBox* box = kept.field.typed;
+    const auto typedInto = [](const ui::Control* control) {
+        const auto* box = ui::as<ui::TextBox>(control);
+        return box != nullptr && box->touched();
+    };
     // A picked text was not typed.
-    return (box != nullptr && box->touched()) || kept.field.mine() != kept.shown;
+    return std::ranges::any_of(kept.field.in, typedInto) || kept.field.mine() != kept.shown;
+}
+
+void SharedRow::mark(const Field& field, ui::ChangedBy who) {
+    for (ui::Control* control : field.in)
+        control->setChangedBy(who);
+}
+
+void SharedRow::takeFromOthers(Kept& kept, Fields& row) {
+    const std::string before = kept.field.mine();
+    take(kept, row);
+    takenOver_.add(
+        {.name = kept.field.name(), .before = before, .now = kept.shown, .mark = [field = kept.field] {
+             mark(field, ui::ChangedBy::colleague);
+         }});
 }
 
 void SharedRow::take(Kept& kept, Fields& row) {
@@ -134,8 +158,7 @@ std::vector<SharedRow::Kept*> SharedRow::inConflict(Fields& now) {
         base::Value value = now.field(kept.field.column);
         if (base::sameValue(value, kept.read)) continue;
         if (!changed(kept)) {
-            take(kept, now);
-            takenOver_.add(kept.field.name());
+            takeFromOthers(kept, now);
         } else if (kept.field.mine() == kept.field.theirs(now)) {
             kept.read = std::move(value);
         } else {
@@ -159,6 +182,7 @@ bool SharedRow::settle(const std::function<std::unique_ptr<base::Recordset>()>& 
         for (Kept* kept : fields) {
             if (answer == ConflictQuestion::Answer::theirs) {
                 take(*kept, *now);
+                mark(kept->field, ui::ChangedBy::colleague);
             } else {
                 kept->read = now->field(kept->field.column);
             }

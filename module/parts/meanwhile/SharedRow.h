@@ -34,7 +34,8 @@ public:
         /// What the controls have, and what a row has, in the same words: equal texts are no conflict.
         std::function<std::string()> mine;
         std::function<std::string(base::Fields& row)> theirs;
-        ui::TextBox* typed = nullptr; ///< the box that the user types it into, if any
+        /// The controls that it stands in: a box that was typed into counts as changed, whatever it says.
+        std::vector<ui::Control*> in = {};
     };
 
     /// @param session the screen's own copy of the session record
@@ -53,6 +54,8 @@ public:
 
     /// Shows a row as it was read: nobody has changed anything yet.
     void show(base::Fields& row);
+    /// No row is shown any more: what stands in the controls came from nobody.
+    void leave();
     /// As if a field had just been read so: the screen has shown, or written, it by itself.
     void keep(std::string_view column, base::Value value);
 
@@ -63,7 +66,9 @@ public:
     /// @return false when the user wants to go back: nothing is to be written
     bool settle(const std::function<std::unique_ptr<base::Recordset>()>& read);
 
-    /// The fields that came from somebody else since the row was shown, in a sentence; empty for none.
+    /// The fields that came from somebody else since the row was shown.
+    const TakenOver& takenFromOthers() const { return takenOver_; }
+    /// The same in a sentence; empty for none.
     std::string takenOver() const { return takenOver_.sentence(session_.language); }
 
 private:
@@ -74,6 +79,9 @@ private:
     };
     static bool changed(const Kept& kept);
     static void take(Kept& kept, base::Fields& row);
+    static void mark(const Field& field, ui::ChangedBy who);
+    /// Only somebody else has changed it.
+    void takeFromOthers(Kept& kept, base::Fields& row);
     std::vector<Kept*> inConflict(base::Fields& now);
 
     host::HostServices& services_;

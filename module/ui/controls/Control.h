@@ -29,6 +29,9 @@ enum class ControlKind {
     progressBar
 };
 
+/// Who has changed what a control or a cell holds, since it was read and until it is written or read again.
+enum class ChangedBy { nobody, user, colleague };
+
 /// What every control of a screen has: a name, a place in its form, whether it can be seen and
 /// used, and the handlers that any control may have.
 ///
@@ -73,6 +76,9 @@ public:
     virtual void left() {
         if (errorIsOld_) setError({});
     }
+    /// Drawn beside what it holds, so that it is seen what is not saved yet and what came from somebody else.
+    ChangedBy changedBy() const { return changedBy_; }
+    void setChangedBy(ChangedBy who) { change(changedBy_, who); }
     /// Drawn faintly, as something that is not in use yet; it can be used all the same.
     bool quiet() const { return quiet_; }
     void setQuiet(bool quiet) { change(quiet_, quiet); }
@@ -119,6 +125,7 @@ private:
     /// The frame or tab page around this control, as the layout says it; null at the top.
     Control* container_ = nullptr;
     int page_ = -1; ///< within tabs: the page it stands on
+    ChangedBy changedBy_ = ChangedBy::nobody;
     bool enabled_ = true;
     bool visible_ = true;
     bool quiet_ = false;

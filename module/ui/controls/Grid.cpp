@@ -50,8 +50,19 @@ void Grid::sizeColumn(int column, int width) {
     markDirty();
 }
 
+void Grid::openColumns(const std::set<int>& columns) {
+    for (int column = 0; column < static_cast<int>(columns_.size()); ++column)
+        columnsDirty_ |= change(columns_[static_cast<std::size_t>(column)].open, columns.contains(column));
+}
+
+bool Grid::anyOpen() const {
+    return std::ranges::find(columns_, true, &Column::open) != columns_.end();
+}
+
 void Grid::setRows(std::vector<Row> rows) {
     rows_ = std::move(rows);
+    changedCellsDirty_ |= !changedCells_.empty();
+    changedCells_.clear();
     moveCurrentRow(std::clamp(currentRow_, rows_.empty() ? none : 0, static_cast<int>(rows_.size()) - 1));
     markRowsDirty();
 }
@@ -63,6 +74,12 @@ void Grid::addRow(Row row) {
 
 void Grid::removeRow(int row) {
     rows_.erase(rows_.begin() + row);
+    std::map<Cell, ChangedBy> changed;
+    for (const auto& [cell, who] : changedCells_) {
+        if (cell.row != row) changed.emplace(Cell{cell.row - (cell.row > row ? 1 : 0), cell.column}, who);
+    }
+    changedCellsDirty_ |= !changedCells_.empty();
+    changedCells_ = std::move(changed);
     moveCurrentRow(std::min(currentRow_, static_cast<int>(rows_.size()) - 1));
     markRowsDirty();
 }
@@ -76,6 +93,22 @@ void Grid::setCell(int row, int column, std::string text) {
     if (cell == text) return;
     cell = std::move(text);
     changedRows_.insert(row);
+    markDirty();
+}
+
+ChangedBy Grid::changedBy(Cell cell) const {
+    const auto found = changedCells_.find(cell);
+    return found == changedCells_.end() ? ChangedBy::nobody : found->second;
+}
+
+void Grid::setChangedBy(Cell cell, ChangedBy who) {
+    if (changedBy(cell) == who) return;
+    if (who == ChangedBy::nobody) {
+        changedCells_.erase(cell);
+    } else {
+        changedCells_[cell] = who;
+    }
+    changedCellsDirty_ = true;
     markDirty();
 }
 
@@ -132,6 +165,7 @@ void Grid::drawn() {
     columnsDirty_ = false;
     rowsDirty_ = false;
     changedRows_.clear();
+    changedCellsDirty_ = false;
     reveals_ = false;
 }
 

@@ -3,6 +3,8 @@
 #include "module/ui/controls/Control.h"
 #include "module/ui/controls/TextBox.h"
 
+#include <compare>
+#include <map>
 #include <optional>
 #include <set>
 #include <utility>
@@ -25,6 +27,9 @@ public:
     static constexpr const char* ticked = "☑";
     static constexpr const char* unticked = "☐";
 
+    /// Where a column stands on a screen that is too narrow for all of them: a row has two lines there as
+    /// soon as one of its columns stands below.
+    enum class Narrow { beside, below, away };
     /// How a column orders the rows.
     enum class Order { none, ascending, descending };
 
@@ -34,6 +39,8 @@ public:
         bool rightAligned = false;
         bool visible = true;
         bool sized = false; ///< by the user: it is as wide as it says, however much room there is
+        bool open = false;  ///< its cells can be edited at the moment
+        Narrow narrow = Narrow::beside;
         Order order = Order::none;
         std::string toolTip = {}; ///< shown over the column
     };
@@ -56,6 +63,10 @@ public:
     void markOrder(int column, Order order);
     /// Gives a column the width that the user wants, in average characters.
     void sizeColumn(int column, int width);
+    /// Says of which columns the cells can be edited from now on, and of no others.
+    void openColumns(const std::set<int>& columns);
+    /// Whether cells of any column can be edited.
+    bool anyOpen() const;
     const std::vector<Row>& rows() const { return rows_; }
     /// Replaces all rows; the current row stays where it was as far as there is one.
     void setRows(std::vector<Row> rows);
@@ -63,6 +74,10 @@ public:
     void removeRow(int row);
     const std::string& cell(int row, int column) const;
     void setCell(int row, int column, std::string text);
+
+    /// What stands in the middle while there are no rows: that it is so, and what can be done about it.
+    const std::string& emptyText() const { return emptyText_; }
+    void setEmptyText(std::string text) { change(emptyText_, std::move(text)); }
 
     int currentRow() const { return currentRow_; }
     int currentColumn() const { return currentColumn_; }
@@ -73,7 +88,7 @@ public:
     struct Cell {
         int row;
         int column;
-        bool operator==(const Cell&) const = default;
+        auto operator<=>(const Cell&) const = default;
     };
     /// The cells between two corners, both included.
     struct Block {
@@ -81,6 +96,14 @@ public:
         Cell last;
         bool operator==(const Block&) const = default;
     };
+    /// Who has changed what stands in a cell. Rows that are set anew are nobody's.
+    ChangedBy changedBy(Cell cell) const;
+    void setChangedBy(Cell cell, ChangedBy who);
+    /// The cells that somebody has changed, row by row.
+    const std::map<Cell, ChangedBy>& changedCells() const { return changedCells_; }
+    using Control::changedBy;
+    using Control::setChangedBy;
+
     std::optional<Block> block() const;
     /// The end of the block that moves; without one the current cell.
     Cell farEnd() const { return mark_ ? mark_->second : Cell{currentRow_, currentColumn_}; }
@@ -108,6 +131,7 @@ public:
     bool columnsDirty() const { return columnsDirty_; }
     bool rowsDirty() const { return rowsDirty_; }
     const std::set<int>& changedRows() const { return changedRows_; }
+    bool changedCellsDirty() const { return changedCellsDirty_; }
     /// A display scrolls to `farEnd` when it draws this, and at no other change of the grid.
     bool reveals() const { return reveals_; }
     void drawn() override;
@@ -148,6 +172,9 @@ private:
     bool rowsDirty_ = true;
     bool reveals_ = false;
     std::set<int> changedRows_;
+    std::map<Cell, ChangedBy> changedCells_;
+    bool changedCellsDirty_ = false;
+    std::string emptyText_;
 };
 
 } // namespace tellurix::ui

@@ -46,17 +46,22 @@ void GridEditor::handleGridKey(KeyDown& key) {
     key.key = Key::none;
 }
 
+bool GridEditor::editable(int row, int column) const {
+    const auto at = static_cast<std::size_t>(column);
+    return at < grid_.columns().size() && grid_.columns()[at].open && (!canEdit || canEdit(row, column));
+}
+
 bool GridEditor::editsAnything() const {
     const int row = grid_.currentRow();
     for (int column = 0; row != Grid::none && column < static_cast<int>(grid_.columns().size()); ++column)
-        if (canEdit(row, column)) return true;
+        if (editable(row, column)) return true;
     return false;
 }
 
 bool GridEditor::prepareCurrentCell() {
     const int row = grid_.currentRow();
     const int column = grid_.currentColumn();
-    if (row == Grid::none || !canEdit(row, column)) return false;
+    if (row == Grid::none || !editable(row, column)) return false;
     if (prepare) prepare(box_, column);
     return true;
 }
@@ -122,7 +127,7 @@ void GridEditor::paste(const std::string& text) {
 }
 
 void GridEditor::pasteInto(Grid::Cell cell, const std::string& value) {
-    if (!canEdit(cell.row, cell.column)) {
+    if (!editable(cell.row, cell.column)) {
         // A block that was copied here comes back with the cells between.
         if (grid_.cell(cell.row, cell.column) == value) return;
         refusePasted(cell, value, {base::OwnText::cellIsFixed});

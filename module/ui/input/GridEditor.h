@@ -10,6 +10,8 @@ namespace tellurix::ui {
 
 /// Lets the user edit cells of a grid in place, in one text box that floats over the cell.
 ///
+/// Cells of the grid's open columns can be edited.
+///
 /// A double click or F2 on a cell that can be edited opens the box with the cell's text; a character typed
 /// on it opens the box with that character in place of the text, Delete opens it empty. Delete on another
 /// cell does nothing as long as any cell of the row can be edited. In the box, Enter writes and goes
@@ -26,7 +28,7 @@ public:
     ///        (`onKeyPress`) says what can be typed, the same for every cell unless `prepare` gives it others
     GridEditor(Grid& grid, TextBox& box);
 
-    /// Whether a cell can be edited at the moment.
+    /// Whether a cell of an open column can be edited; may be empty where all of them can.
     std::function<bool(int row, int column)> canEdit;
     /// Gives the box the filter of a column before it opens on one of its cells; may be empty.
     std::function<void(TextBox& box, int column)> prepare;
@@ -48,6 +50,7 @@ private:
     void commit();
     void handleKey(KeyDown& key);
     void handleGridKey(KeyDown& key);
+    bool editable(int row, int column) const;
     bool editsAnything() const;
     void paste(const std::string& text);
     void pasteInto(Grid::Cell cell, const std::string& value);

@@ -1,6 +1,6 @@
 // Starts a program that serves screens, and a browser that looks at it as a user does.
 import { spawn } from 'node:child_process';
-import { chromium } from 'playwright-core';
+import { chromium, firefox } from 'playwright-core';
 
 const quiet = [
   '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
@@ -31,7 +31,15 @@ export async function serve(program, ...options) {
   };
 }
 
+/** Debian's Chromium, or with TELLURIX_BROWSER=firefox its Firefox, which is spoken to by WebDriver BiDi. */
 export function startBrowser(options = []) {
+  if (process.env.TELLURIX_BROWSER === 'firefox') {
+    return firefox.launch({
+      channel: 'moz-firefox',
+      executablePath: process.env.FIREFOX ?? '/usr/bin/firefox-esr',
+      firefoxUserPrefs: { 'dom.events.testing.asyncClipboard': true },
+    });
+  }
   return chromium.launch({ executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium', args: [...quiet, ...options] });
 }
 

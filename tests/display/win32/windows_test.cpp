@@ -56,7 +56,7 @@ public:
         txtCell.onKeyPress = [](char32_t& character) {
             if (character < U'0' || character > U'9') character = 0;
         };
-        editor_.canEdit = [](int, int column) { return column == 1; };
+        grdTable.openColumns({1});
         editor_.write = [](int, int, const std::string& typed) {
             if (typed == "7") throw std::runtime_error{"Sieben geht nicht."};
             return typed + "!";
@@ -266,11 +266,14 @@ TEST(Tables, AColumnIsAsWideAsItsEdgeWasPulled) {
     const auto edge = [&] {
         user.settle();
         RECT cell{};
-        SendMessageW(grid, windows::gridMessages().cellPlace, MAKEWPARAM(0, 0), reinterpret_cast<LPARAM>(&cell));
+        SendMessageW(grid, windows::gridMessages().cellPlace, MAKEWPARAM(0, 0),
+                     reinterpret_cast<LPARAM>(&cell));
         return static_cast<int>(cell.right);
     };
     const int before = edge();
-    const auto mouse = [&](UINT message, int x) { SendMessageW(grid, message, MK_LBUTTON, MAKELPARAM(x, 4)); };
+    const auto mouse = [&](UINT message, int x) {
+        SendMessageW(grid, message, MK_LBUTTON, MAKELPARAM(x, 4));
+    };
     mouse(WM_LBUTTONDOWN, before - 1);
     mouse(WM_LBUTTONUP, before - 1);
     EXPECT_EQ(edge(), before) << "pressed, but not pulled";

@@ -2,11 +2,13 @@
 // them, and the current one, which screen readers are told about wherever it is: so that a changed cell
 // in a long table costs no more than in a short one. Rows have a fixed height, which gives each its
 // place and the whole its height to scroll.
+import { isZero, readable } from '../figures.js';
 import { copiedCells } from '../grid_text.js';
 import { text } from '../texts.js';
 import { charactersIn, ColumnEdge } from './column_edge.js';
-import { newElementId, unseen, View } from './view.js';
+import { newElementId, showChange, unseen, View } from './view.js';
 
+const narrowly = ['', 'below', 'away']; // on a narrow screen
 const orders = ['none', 'ascending', 'descending'];
 const rowsBeyond = 8; // drawn above and below those that are seen: scrolling shows no gaps
 
@@ -18,6 +20,9 @@ export class Grid extends View {
   #scrolledTo = 0;
   #laidOut = false; // it has room on the screen, and is not on the page of a tab behind another
   #sums = document.createElement('div');
+  #whole = false; // all rows are drawn, for paper
+  #changed = new Map(); // who has changed a cell, by its row and column
+  #empty = null; // what stands there instead of rows
   #editor = null; // the box that floats over a cell while it is edited
 
   constructor(window, state) {
@@ -54,6 +59,7 @@ export class Grid extends View {
     if (changes.columns) this.#drawColumns();
     if (changes.headings !== before.headings) this.#head.classList.toggle('pressable', this.state.headings);
     if (changes.content) this.#takeRows();
+    this.#drawEmpty();
     if (changes.visibleRows !== before.visibleRows) this.element.style.setProperty('--rows', changes.visibleRows);
     // The browser is asked for places before anything changes, or it would have to lay out twice. To take
     // a box with the focus away is to ask as well.
@@ -61,6 +67,7 @@ export class Grid extends View {
     const wanted = this.#wanted();
     if (!this.state.editor) this.#removeEditor();
     this.#drawRows(wanted);
+    if (changes.changedCells) this.#takeChanged();
     if (changes.block || before.block) for (const [index, row] of this.#rows) this.#markCells(row, index);
     if (changes.editable !== before.editable) this.element.setAttribute('aria-readonly', !this.state.editable);
     for (const [index, texts] of changes.changedRows ?? []) this.#takeRow(index, texts);
@@ -70,6 +77,12 @@ export class Grid extends View {
 
   shown() {
     this.#resized();
+  }
+
+  /** Paper does not scroll: all rows stand on it. */
+  showWhole(whole) {
+    this.#whole = whole;
+    this.#drawRows();
   }
 
   /** What copying takes. */
@@ -139,6 +152,7 @@ export class Grid extends View {
       cell.setAttribute('role', 'columnheader');
       cell.dataset.column = this.state.columns.indexOf(column);
       cell.classList.toggle('right', column.right);
+      cell.classList.toggle('stays', column === this.#nameColumn);
       cell.textContent = column.caption;
       if (!column.caption) cell.append(unseen(text('mark')));
       cell.title = column.tip || column.caption;
@@ -153,6 +167,7 @@ export class Grid extends View {
       return cell;
     }));
     this.element.setAttribute('aria-colcount', visible.length);
+    this.element.classList.toggle('stacks', visible.some(({ narrow }) => narrowly[narrow] === 'below'));
     this.#placeSums();
     this.#remove(() => true);
   }
@@ -163,6 +178,31 @@ export class Grid extends View {
     this.element.style.setProperty('--count', content.length);
     this.#remove((index) => index >= content.length);
     for (const [index, row] of this.#rows) this.#fill(row, content[index]);
+  }
+
+  #takeChanged() {
+    this.#changed = new Map(this.state.changedCells.map(([row, column, who]) => [`${row}/${column}`, who]));
+    for (const [index, row] of this.#rows) this.#markChanged(row, index);
+  }
+
+  #markChanged(row, index) {
+    for (const cell of row.children) showChange(cell, this.#changed.get(`${index}/${cell.dataset.column}`));
+  }
+
+  #drawEmpty() {
+    const { content, empty } = this.state;
+    const words = content.length === 0 ? empty : '';
+    if (!words && !this.#empty) return;
+    if (!this.#empty) {
+      this.#empty = document.createElement('div');
+      this.#empty.className = 'empty';
+      this.#empty.id = newElementId();
+      this.element.append(this.#empty);
+    }
+    this.#empty.textContent = words;
+    this.#empty.hidden = !words;
+    if (words) this.element.setAttribute('aria-describedby', this.#empty.id);
+    else this.element.removeAttribute('aria-describedby');
   }
 
   #takeRow(index, texts) {
@@ -190,6 +230,7 @@ export class Grid extends View {
   /** Indices in their order: of the rows that are seen and those around them, of the current and the edited one. */
   #wanted() {
     const { content, current, editor } = this.state;
+    if (this.#whole) return content.map((row, index) => index);
     const wanted = new Set([current[0], editor?.row ?? current[0]]);
     const height = this.#rowHeight;
     if (height > 0) {
@@ -215,16 +256,22 @@ export class Grid extends View {
     row.setAttribute('role', 'row');
     row.setAttribute('aria-rowindex', index + 2);
     row.dataset.row = index;
+    // While some cells can be edited, the others are seen to be locked.
+    const locks = this.state.columns.some((column) => column.open);
     this.state.columns.forEach((column, at) => {
       if (!column.visible) return;
       const cell = document.createElement('div');
       cell.setAttribute('role', 'gridcell');
       cell.dataset.column = at;
-      if (column.right) cell.className = 'right';
+      cell.classList.toggle('right', column.right);
+      cell.classList.toggle('locked', locks && !column.open);
+      cell.classList.toggle('stays', column === this.#nameColumn);
+      if (column.narrow) cell.classList.add(narrowly[column.narrow]);
       row.append(cell);
     });
     this.#fill(row, this.state.content[index]);
     if (this.state.block) this.#markCells(row, index);
+    if (this.#changed.size > 0) this.#markChanged(row, index);
     return row;
   }
 
@@ -238,6 +285,11 @@ export class Grid extends View {
     }
   }
 
+  /** The column that a line is known by; it stays where the others scroll. */
+  get #nameColumn() {
+    return this.state.columns.find(({ visible, right, width }) => visible && !right && width >= 12);
+  }
+
   #heading(column) {
     return this.#head.querySelector(`[data-column="${column}"]`);
   }
@@ -246,8 +298,9 @@ export class Grid extends View {
     for (const cell of row.children) {
       const shown = texts[cell.dataset.column] ?? '';
       if (cell.title === shown) continue;
-      cell.textContent = shown;
+      cell.textContent = cell.classList.contains('right') ? readable(shown) : shown;
       cell.title = shown;
+      cell.classList.toggle('zero', isZero(shown));
     }
   }
 
@@ -285,6 +338,7 @@ export class Grid extends View {
     box.element.classList.add('cell-editor');
     box.focusElement.setAttribute('aria-label', this.state.columns[column].caption);
     cell.append(box.element);
+    box.drawError();
   }
 
   #removeEditor() {
@@ -292,18 +346,19 @@ export class Grid extends View {
     this.#editor = null;
   }
 
-  /** The header is as high as every row; 0 while nothing can be seen. */
+  /** Of every row; 0 while nothing can be seen. */
   get #rowHeight() {
-    return this.#head.offsetHeight;
+    const rows = this.state.content.length;
+    return rows > 0 ? this.#body.offsetHeight / rows : this.#head.offsetHeight;
   }
 
-  /** Scrolls as far as needed to the cell; the header covers the first row's place. */
+  /** Scrolls as far as needed to the cell; the header covers what is behind it. */
   #reveal() {
     const [row, column] = this.state.far;
     const height = this.#rowHeight;
     if (row < 0 || height === 0) return;
     const top = row * height;
-    const bottom = top + 2 * height - (this.element.clientHeight - this.#sums.offsetHeight);
+    const bottom = top + height + this.#head.offsetHeight - (this.element.clientHeight - this.#sums.offsetHeight);
     if (this.element.scrollTop > top) this.element.scrollTop = top;
     else if (this.element.scrollTop < bottom) this.element.scrollTop = bottom;
     this.#scrolledTo = this.element.scrollTop;
@@ -313,13 +368,17 @@ export class Grid extends View {
     if (offsetLeft + offsetWidth > this.element.scrollLeft + this.element.clientWidth) {
       this.element.scrollLeft = offsetLeft + offsetWidth - this.element.clientWidth;
     }
-    if (offsetLeft < this.element.scrollLeft) this.element.scrollLeft = offsetLeft;
+    const name = this.element.classList.contains('keeps-name') ? this.#head.querySelector('.stays') : null;
+    const covered = name && name !== heading && name.offsetLeft <= this.element.scrollLeft ? name.offsetWidth : 0;
+    if (offsetLeft < this.element.scrollLeft + covered) this.element.scrollLeft = offsetLeft - covered;
   }
 
   #resized() {
     const hadRoom = this.#laidOut;
     this.#laidOut = this.#rowHeight > 0;
     if (!this.#laidOut) return;
+    const name = this.#head.querySelector('.stays');
+    this.element.classList.toggle('keeps-name', name !== null && 2 * name.offsetWidth < this.element.clientWidth);
     if (!hadRoom) this.#reveal();
     this.#drawRows();
   }

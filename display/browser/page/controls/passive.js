@@ -1,5 +1,6 @@
 // The controls that only show something.
 import { plainCaption, showCaption } from '../caption.js';
+import { readable } from '../figures.js';
 import { newElementId, View } from './view.js';
 
 export class Label extends View {
@@ -17,7 +18,7 @@ export class Label extends View {
   }
 
   draw() {
-    showCaption(this.element, this.state.caption);
+    showCaption(this.element, readable(this.state.caption));
     this.element.classList.toggle('disabled', !this.state.enabled);
     this.element.classList.toggle('highlighted', Boolean(this.state.highlighted));
   }

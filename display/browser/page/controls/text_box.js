@@ -58,6 +58,18 @@ export class TextBox extends View {
     }
   }
 
+  /** Over a cell of a table it stands below the box, or above it where the table ends. */
+  placeError(error) {
+    const table = this.element.closest('.grid');
+    if (!table) return super.placeError(error);
+    this.element.append(error);
+    const box = this.element.getBoundingClientRect();
+    const room = table.getBoundingClientRect();
+    this.element.classList.toggle('above', box.bottom + error.offsetHeight > room.top + table.clientHeight);
+    this.element.classList.toggle('leftwards', box.left + error.offsetWidth > room.left + table.clientWidth);
+    return undefined;
+  }
+
   /** The box has got the focus: shows the selection that the session set, or the one it had. */
   focusPlaced() {
     const left = this.#left;

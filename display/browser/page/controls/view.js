@@ -1,4 +1,5 @@
 // What all drawn controls have in common.
+import { text } from '../texts.js';
 
 let lastElementId = 0;
 
@@ -19,6 +20,15 @@ export function unseen(words) {
   element.className = 'unseen';
   element.textContent = words;
   return element;
+}
+
+/** Shows who has changed what stands in an element, and says it to readers together with what else they are told. */
+export function showChange(shown, who, described = shown, words = '') {
+  shown.classList.toggle('edited', who === 'user');
+  shown.classList.toggle('colleague', who === 'colleague');
+  const description = [words, who && text(who)].filter(Boolean).join(' – ');
+  if (description) described.setAttribute('aria-description', description);
+  else described.removeAttribute('aria-description');
 }
 
 export class View {
@@ -55,12 +65,8 @@ export class View {
     // A warning is seen as a colour, and read as the description.
     this.element.classList.toggle('warns', Boolean(this.state.warning));
     this.element.classList.toggle('quiet', this.state.quiet);
-    if (this.state.warning) {
-      target.title = this.state.warning;
-      target.setAttribute('aria-description', this.state.warning);
-    } else {
-      target.removeAttribute('aria-description');
-    }
+    if (this.state.warning) target.title = this.state.warning;
+    showChange(this.element, this.state.changedBy, target, this.state.warning);
     this.drawError();
     if ('disabled' in target) target.disabled = !this.state.enabled;
     else if (this.focusElement) target.setAttribute('aria-disabled', !this.state.enabled);
@@ -80,15 +86,16 @@ export class View {
     this.#error.hidden = !error || !this.state.visible;
     if (error) {
       target.setAttribute('aria-invalid', 'true');
-      // A box over a cell of a table has no place beside it: it is framed, and described all the same.
-      const beside = this.element.parentNode !== null && !this.element.closest('.grid');
-      if (beside) this.element.after(this.#error);
-      if (beside) target.setAttribute('aria-describedby', this.#error.id);
-      else target.setAttribute('aria-description', error);
+      if (this.element.parentNode) this.placeError(this.#error);
+      target.setAttribute('aria-describedby', this.#error.id);
     } else {
       target.removeAttribute('aria-invalid');
       target.removeAttribute('aria-describedby');
     }
+  }
+
+  placeError(error) {
+    this.element.after(error);
   }
 
   labelledBy(label) {
