@@ -4,6 +4,9 @@
 # "<name>.h" with
 #     namespace tellurix::<namespace>::<name> { std::string_view file(std::string_view name); }
 # which returns the bytes of a file by its name relative to <folder>, or throws std::out_of_range.
+#
+# The comments of scripts and style sheets, where they stand on lines of their own, are for those who read the
+# source: they are left out.
 function(tellurix_embed_files target namespace name folder)
   set(generated ${CMAKE_CURRENT_BINARY_DIR}/embedded_${name})
   set(arrays "")
@@ -11,7 +14,14 @@ function(tellurix_embed_files target namespace name folder)
   set(index 0)
   foreach(file IN LISTS ARGN)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${folder}/${file})
-    file(READ ${folder}/${file} bytes HEX)
+    if(file MATCHES "\\.(js|css)$")
+      file(READ ${folder}/${file} text)
+      string(REGEX REPLACE "\n *//[^\n]*" "" text "\n${text}")
+      string(REGEX REPLACE "\n */\\*([^*]|\\*+[^*/])*\\*+/" "" text "${text}")
+      string(HEX "${text}" bytes)
+    else()
+      file(READ ${folder}/${file} bytes HEX)
+    endif()
     string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${bytes}")
     string(APPEND arrays "const unsigned char file${index}[] = {${bytes}0};\n")
     string(APPEND cases "    if (name == \"${file}\") return view(file${index}, sizeof file${index} - 1);\n")

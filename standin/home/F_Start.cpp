@@ -52,16 +52,35 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
         return moment == nullptr ? std::string{}
                                  : glance_.dueText(base::dayOf(*moment), contract.flag("ABGESCHLOSSEN"));
     };
+    using Narrow = ui::Grid::Narrow;
     contracts_.setColumns(
         {{.caption = "Vertrag", .width = 30, .field = "VERTRAG_NAME", .sorts = true},
-         {.caption = "Vertragsart", .width = 15, .sorts = true, .shown = type},
-         {.caption = "Kunde", .width = 19, .field = "KURZBEZEICHNUNG", .sorts = true},
-         {.caption = "Lieferung von", .width = 11, .field = "LIEFERVON", .sorts = true},
+         {.caption = "Vertragsart", .width = 15, .narrow = Narrow::away, .sorts = true, .shown = type},
+         {.caption = "Kunde",
+          .width = 19,
+          .field = "KURZBEZEICHNUNG",
+          .narrow = Narrow::below,
+          .sorts = true},
+         {.caption = "Lieferung von",
+          .width = 11,
+          .field = "LIEFERVON",
+          .narrow = Narrow::away,
+          .sorts = true},
          {.caption = "bis", .width = 20, .field = "LIEFERBIS", .sorts = true},
-         {.caption = "Frist", .width = 8, .shown = due},
-         {.caption = "Status", .width = 9, .sorts = true, .shown = status},
-         {.caption = "Preise", .width = 6, .field = "PREISE", .rightAligned = true, .sorts = true},
-         {.caption = "Mengen", .width = 6, .field = "MENGEN", .rightAligned = true, .sorts = true}});
+         {.caption = "Frist", .width = 8, .narrow = Narrow::below, .shown = due},
+         {.caption = "Status", .width = 9, .narrow = Narrow::away, .sorts = true, .shown = status},
+         {.caption = "Preise",
+          .width = 6,
+          .field = "PREISE",
+          .rightAligned = true,
+          .narrow = Narrow::away,
+          .sorts = true},
+         {.caption = "Mengen",
+          .width = 6,
+          .field = "MENGEN",
+          .rightAligned = true,
+          .narrow = Narrow::away,
+          .sorts = true}});
     cboLanguage.add("Deutsch");
     cboLanguage.add("English");
     limitSearch(txtSearch);

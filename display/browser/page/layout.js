@@ -22,6 +22,7 @@ const builders = {
   /** A narrow screen shows the first one; the others are behind a button, which says how many are in use. */
   filters(node, views) {
     const strip = box('filters', node.children.map((child) => build(child, views)));
+    if (node.children.length === 1) return strip;
     const more = document.createElement('button');
     more.type = 'button';
     more.tabIndex = -1;
@@ -82,7 +83,7 @@ export function buildLayout(node, views, window) {
 
 /** Says how many of the filters behind a button are in use. */
 export function countFilters(window) {
-  for (const strip of window.querySelectorAll('.filters')) {
+  for (const strip of window.querySelectorAll('.filters:has(> .more)')) {
     const used = [...strip.querySelectorAll(':scope > :not(:first-child) :is(input, select)')].filter((control) => (
       !control.readOnly && (control.type === 'checkbox' ? control.checked : control.selectedIndex > 0 || (control.type === 'text' && control.value))));
     strip.lastChild.textContent = used.length > 0 ? `${text('filters')} (${used.length})` : text('filters');

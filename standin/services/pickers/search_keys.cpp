@@ -1,5 +1,7 @@
 #include "standin/services/pickers/search_keys.h"
 
+#include "module/base/own_text.h"
+#include "module/ui/Form.h"
 #include "module/ui/input/control_keys.h"
 
 #include <algorithm>
@@ -38,6 +40,12 @@ void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> ch
                 ui::choose(list, std::clamp(list.currentRow() + step, 0, last), list.currentColumn());
         }
     };
+    search.onChange.before([&search, &list] {
+        const std::string& language = list.form().language();
+        list.setEmptyText(search.text().empty()
+                              ? base::ownText(base::OwnText::nothingFound, language)
+                              : base::ownText(base::OwnText::nothingFoundFor, language, {search.text()}));
+    });
     list.onDoubleClick = std::move(choose);
 }
 

@@ -8,7 +8,8 @@
 namespace tellurix::standin {
 
 /// Connects a search box with the list that it narrows: the keys that go up and down in a list move
-/// the list's current row while the user goes on typing, and Enter chooses.
+/// the list's current row while the user goes on typing, and Enter chooses. A list that nothing is found in
+/// says so.
 void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> choose);
 
 /// Limits a box whose text becomes part of a statement: one that is longer than any name only makes

@@ -67,9 +67,3 @@ test('no colour stands outside the file of colours', () => {
     .map((line) => `${name}: ${line.trim()}`));
   assert.deepEqual(outside, []);
 });
-
-test('the files of the page stay small', () => {
-  const files = readdirSync(folder, { recursive: true, withFileTypes: true }).filter((entry) => entry.isFile());
-  const bytes = files.reduce((sum, { parentPath, path, name }) => sum + readFileSync(`${parentPath ?? path}/${name}`).length, 0);
-  assert.ok(bytes < 150_000, `${bytes} bytes`);
-});

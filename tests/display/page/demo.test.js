@@ -72,6 +72,26 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     assert.equal(await value('txtDate'), '03.04.2024');
   });
 
+  test('what a browser loads of the page stays small', async () => {
+    const loads = [];
+    // The table of keys is none of them: it is made from the rules of input.
+    page.on('response', (response) => {
+      if (!response.url().endsWith('key_uses.js')) loads.push(response.body());
+    });
+    await page.reload();
+    await page.waitForSelector('.window');
+    const bytes = (await Promise.all(loads)).reduce((sum, body) => sum + body.length, 0);
+    assert.ok(loads.length > 30 && bytes < 150_000, `${loads.length} files, ${bytes} bytes`);
+  });
+
+  test('Ctrl+Z typed during a slow handler undoes in its turn', async () => {
+    await press('Alt+g');
+    await type('x\t\t77');
+    await press('Control+z');
+    await type('5');
+    await state('x||5|');
+  });
+
   test('keys between a letter and its answer keep their places', async () => {
     await type('abc');
     await press('ArrowLeft', 'ArrowLeft');

@@ -125,7 +125,7 @@ class Player {
     const [row, ...cells] = rest;
     if (!row.quoted) {
       await until(async () => {
-        const texts = await this.#row(name, row).allTextContents();
+        const texts = (await this.#row(name, row).allTextContents()).map((text) => text.replace(/^– (?=\d)/, '-'));
         return cells.every(({ text }) => texts.includes(text)) || texts;
       }, 'cells');
       return;

@@ -351,6 +351,54 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await until(async () => (await control(page, 'MSFG').getByText('Straßer Günther').count()) === 1, 'the helper is there');
   });
 
+  test('what can be edited, is edited or wrong is seen in the cells, with the next keys beside it', async () => {
+    const status = page.locator('.window:not(.behind) > .status');
+    const table = control(page, 'MSFG');
+    const cell = (column) => table.locator(`[data-row="0"] > [data-column="${column}"]`);
+    const [contractName, announced, confirmed] = [1, 2, 3].map(cell);
+    const looks = (found) => found.evaluate((element) => [
+      element.className.split(' ').filter((name) => ['locked', 'edited'].includes(name)).join(' '),
+      getComputedStyle(element).fontWeight, element.getAttribute('aria-description') ?? '',
+    ]);
+    await control(page, 'btnQuantityReports').click();
+    await top('F_VertragMengenmeldung_WVO');
+    await table.getByText('Bitte einen Waldhelfer wählen').waitFor();
+    await page.keyboard.type('3001');
+    await press('Tab');
+    await table.getByText('Judenburg').waitFor();
+    await control(page, 'btnBearbeiten').click();
+    await support.hasFocus(page, 'MSFG');
+    await page.keyboard.type('7');
+    await press('Enter');
+    await until(async () => (await status.locator('[role=status]').textContent()) === '1 Zeile geändert, noch nicht gespeichert', 'counted');
+    assert.deepEqual(await looks(contractName), ['locked', '400', '']);
+    assert.deepEqual(await looks(announced), ['edited', '600', 'geändert, noch nicht gespeichert']);
+    assert.deepEqual(await looks(confirmed), ['', '400', '']);
+    assert.deepEqual(await status.locator('.hints > span').allTextContents(),
+      ['F2 Zelle ändern', 'Strg+S Speichern', 'Esc Bearb.Abbr.', 'F1 Tasten']);
+
+    await press('ArrowRight');
+    await page.keyboard.type('99999999');
+    await press('Enter');
+    await message().waitFor();
+    await press('Enter');
+    const error = table.locator('.error');
+    await until(() => error.isVisible(), 'what is wrong');
+    assert.match(await error.textContent(), /Das ist keine Menge/);
+    const [box, said] = [await confirmed.boundingBox(), await error.boundingBox()];
+    assert.ok(said.y >= box.y + box.height && said.y < box.y + 2 * box.height, 'it stands below the cell');
+    const seen = await error.evaluate((element) => {
+      const { left, top, width, height } = element.getBoundingClientRect();
+      return document.elementFromPoint(left + width / 2, top + height / 2) === element;
+    });
+    assert.ok(seen, 'nothing covers it');
+    await press('Escape', 'Escape');
+    await message().waitFor();
+    await message().getByRole('button', { name: 'Ja' }).click();
+    await until(async () => (await looks(announced))[0] === '', 'nothing is edited');
+    assert.deepEqual(await looks(contractName), ['', '400', '']);
+  });
+
   test('on a low page the list of prices and all buttons stay, beside the change of all prices', async () => {
     await openPrices();
     await control(page, 'btnPreiseAendern').click();

@@ -378,7 +378,8 @@ export class Grid extends View {
     this.#laidOut = this.#rowHeight > 0;
     if (!this.#laidOut) return;
     const name = this.#head.querySelector('.stays');
-    this.element.classList.toggle('keeps-name', name !== null && 2 * name.offsetWidth < this.element.clientWidth);
+    const { clientWidth, scrollWidth } = this.element;
+    this.element.classList.toggle('keeps-name', name !== null && scrollWidth > clientWidth && 2 * name.offsetWidth < clientWidth);
     if (!hadRoom) this.#reveal();
     this.#drawRows();
   }

@@ -99,6 +99,11 @@ export class TextBox extends View {
       this.type(key.text);
       return;
     }
+    // What the browser undoes by itself, where the session does not.
+    if (key.ctrl && key.name.toLowerCase() === 'z') {
+      document.execCommand('undo');
+      return;
+    }
     const input = this.focusElement;
     const effect = keyEffect(key, input.value, input.selectionStart, input.selectionEnd, input.selectionDirection);
     if (effect?.select) input.setSelectionRange(...effect.select);
