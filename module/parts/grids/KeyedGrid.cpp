@@ -41,9 +41,8 @@ void KeyedGrid::setColumns(std::vector<Column> columns) {
                          .width = column.width,
                          .rightAligned = column.rightAligned,
                          .visible = !column.hidden,
-                         .toolTip = column.toolTip,
-
-                         .narrow = column.narrow});
+                         .narrow = column.narrow,
+                         .toolTip = column.toolTip});
     grid_.setColumns(std::move(shown));
     drawOpenColumns();
     if (std::ranges::find(columns_, true, &Column::sorts) == columns_.end()) return;

@@ -3,7 +3,7 @@
 import { execFileSync } from 'node:child_process';
 import { readFileSync } from 'node:fs';
 import { checkScreen } from './check_screen.js';
-import { control, hasFocus, open, serve, settled, startBrowser, top, until } from './support.js';
+import { allowClipboard, control, doubleClick, hasFocus, open, serve, settled, startBrowser, top, until } from './support.js';
 
 const [scenario, database] = process.argv.slice(2);
 
@@ -81,7 +81,7 @@ class Player {
   }
 
   doubleClick([name, row]) {
-    return this.#row(name, row).first().dblclick();
+    return doubleClick(this.#row(name, row).first());
   }
 
   async paste([name, { text }]) {
@@ -207,7 +207,7 @@ const browser = await startBrowser(text ? [`--blink-settings=defaultFontSize=${t
 const server = await serve(process.env.TELLURIX_WORKBENCH, '--database', database, '--port', '0', '--user', 'test');
 try {
   const { page, problems } = await open(browser, server.address);
-  await page.context().grantPermissions(['clipboard-read', 'clipboard-write']);
+  await allowClipboard(page);
   page.setDefaultTimeout(5000);
   const player = new Player(page);
   for (const { line, verb, words } of read(scenario)) {

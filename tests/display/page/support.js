@@ -2,6 +2,7 @@
 import { spawn } from 'node:child_process';
 import { chromium, firefox } from 'playwright-core';
 
+const speaksBidi = process.env.TELLURIX_BROWSER === 'firefox';
 const quiet = [
   '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
   '--disable-background-networking', '--disable-component-update', '--disable-sync',
@@ -33,7 +34,7 @@ export async function serve(program, ...options) {
 
 /** Debian's Chromium, or with TELLURIX_BROWSER=firefox its Firefox, which is spoken to by WebDriver BiDi. */
 export function startBrowser(options = []) {
-  if (process.env.TELLURIX_BROWSER === 'firefox') {
+  if (speaksBidi) {
     return firefox.launch({
       channel: 'moz-firefox',
       executablePath: process.env.FIREFOX ?? '/usr/bin/firefox-esr',
@@ -81,6 +82,17 @@ export async function open(browser, address, size = { width: 1366, height: 768 }
   await page.goto(address);
   await page.waitForSelector('.window');
   return { page, problems };
+}
+
+/** Lets the page read and write the clipboard; Firefox is told so when it starts. */
+export async function allowClipboard(page) {
+  if (!speaksBidi) await page.context().grantPermissions(['clipboard-read', 'clipboard-write']);
+}
+
+/** Clicks twice. By BiDi the driver does not count clicks, so the browser takes them for two. */
+export async function doubleClick(found) {
+  await found.dblclick();
+  if (speaksBidi) await found.dispatchEvent('dblclick');
 }
 
 /** The control of that name in the topmost window. */
