@@ -41,7 +41,10 @@ const builders = {
   },
   section(node, views) {
     const [heading, ...children] = node.children;
-    viewOf(node, views).heading.append(...(heading.children ?? []).map((child) => build(child, views)));
+    const frame = viewOf(node, views);
+    frame.heading.append(...(heading.children ?? []).map((child) => build(child, views)));
+    const list = children.map((child) => views.get(child.control)).find((view) => view?.state.kind === 'grid');
+    list?.countIn(frame.heading);
     return builders.frame({ ...node, children }, views);
   },
   sums(node, views) {

@@ -162,6 +162,20 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
       return (index === place && shown.includes(text)) || [index, shown];
     }, `row ${place} with ${text}`);
 
+    // Paper shows all of them, dark on white, each below the other in the columns of the head.
+    await page.emulateMedia({ media: 'print', colorScheme: 'dark' });
+    const paper = await page.evaluate(() => {
+      dispatchEvent(new Event('beforeprint'));
+      const [head, ...rows] = [...document.querySelectorAll('.window:not(.behind) .grid [role=row]')].map((row) => (
+        [...row.children].map((cell) => Math.round(cell.getBoundingClientRect().left)).join()));
+      const colour = getComputedStyle(document.body).color;
+      dispatchEvent(new Event('afterprint'));
+      return { rows: rows.length, aligned: rows.every((row) => row === head), colour };
+    });
+    assert.deepEqual(paper, { rows: 500, aligned: true, colour: 'rgb(23, 32, 29)' });
+    await page.emulateMedia({ media: null, colorScheme: null });
+    assert.ok(await control(page, 'MSFlexGrid1').locator('.grid-row').count() < 100);
+
     await tabTo('MSFlexGrid1');
     await press('Control+End', 'Home');
     await showsRow(500, 'Preis 500');

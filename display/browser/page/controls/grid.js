@@ -22,6 +22,7 @@ export class Grid extends View {
   #sums = document.createElement('div');
   #whole = false; // all rows are drawn, for paper
   #changed = new Map(); // who has changed a cell, by its row and column
+  #heads = null; // the caption over it, where it counts the rows
   #empty = null; // what stands there instead of rows
   #editor = null; // the box that floats over a cell while it is edited
 
@@ -60,6 +61,7 @@ export class Grid extends View {
     if (changes.headings !== before.headings) this.#head.classList.toggle('pressable', this.state.headings);
     if (changes.content) this.#takeRows();
     this.#drawEmpty();
+    this.#showCount();
     if (changes.visibleRows !== before.visibleRows) this.element.style.setProperty('--rows', changes.visibleRows);
     // The browser is asked for places before anything changes, or it would have to lay out twice. To take
     // a box with the focus away is to ask as well.
@@ -178,6 +180,18 @@ export class Grid extends View {
     this.element.style.setProperty('--count', content.length);
     this.#remove((index) => index >= content.length);
     for (const [index, row] of this.#rows) this.#fill(row, content[index]);
+  }
+
+  /** The heading over the table says how many rows there are, unless it ends with a number of its own. */
+  countIn(heading) {
+    this.#heads = heading.querySelector('.caption');
+    this.#showCount();
+  }
+
+  #showCount() {
+    if (!this.#heads) return;
+    const says = /[^\d\s]\s*$/.test(this.#heads.textContent) && this.state.content.length > 0;
+    this.#heads.dataset.count = says ? this.state.content.length : '';
   }
 
   #takeChanged() {

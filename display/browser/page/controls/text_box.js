@@ -21,6 +21,7 @@ export class TextBox extends View {
     element.classList.add('text-box');
     element.append(input);
     if (state.lines <= 1) input.type = 'text';
+    input.placeholder = ' '; // so that style sheets know an empty one
     input.autocomplete = 'off';
     input.spellcheck = false;
     input.setAttribute('autocapitalize', 'off');
