@@ -166,7 +166,7 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await page.emulateMedia({ media: 'print', colorScheme: 'dark' });
     const paper = await page.evaluate(() => {
       dispatchEvent(new Event('beforeprint'));
-      const [head, ...rows] = [...document.querySelectorAll('.window:not(.behind) .grid [role=row]')].map((row) => (
+      const [head, ...rows] = [...document.querySelectorAll('[data-control="MSFlexGrid1"] [role=row]')].map((row) => (
         [...row.children].map((cell) => Math.round(cell.getBoundingClientRect().left)).join()));
       const colour = getComputedStyle(document.body).color;
       dispatchEvent(new Event('afterprint'));
