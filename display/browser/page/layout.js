@@ -32,7 +32,11 @@ const builders = {
     strip.append(more);
     return strip;
   },
-  sides: (node, views) => box('sides', node.children.map((child) => box('side', [build(child, views)]))),
+  sides(node, views) {
+    const sides = node.children.map((child) => box('side', [build(child, views)]));
+    sides.at(-1).tabIndex = 0; // it scrolls, and may have nothing in it that takes the focus
+    return box('sides', sides);
+  },
   frame(node, views) {
     const frame = viewOf(node, views);
     frame.content.append(...node.children.map((child) => build(child, views)));
