@@ -60,17 +60,27 @@ ui::Event Win32Display::nextEvent() {
         Listening& operator=(const Listening&) = delete;
         EventQueue& events;
     };
+    const auto listeningWhile = [&top](const auto& messagesComeIn) {
+        {
+            const Listening listening{top.events()};
+            messagesComeIn();
+        }
+        if (top.lost()) throw OwnerClosed{};
+        top.events().throwFailure();
+    };
     while (top.events().empty()) {
-        MSG waiting{};
-        if (!PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE) && desktop_.doLater()) {
+        MSG message{};
+        bool nothingWaits = false;
+        // To look for a message hands over those that other threads send.
+        listeningWhile([&] { nothingWaits = PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) == FALSE; });
+        if (!top.events().empty()) break;
+        if (nothingWaits && desktop_.doLater()) {
             draw();
             continue;
         }
         // A native control may have taken the focus without anything having come of it.
         if (GetCapture() == nullptr) top.placeFocus();
-        MSG message{};
-        {
-            const Listening listening{top.events()};
+        listeningWhile([&] {
             if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
                 PostQuitMessage(static_cast<int>(message.wParam));
                 throw MessageLoopEnded{};
@@ -78,9 +88,7 @@ ui::Event Win32Display::nextEvent() {
             top.fetched(message.message);
             TranslateMessage(&message);
             DispatchMessageW(&message);
-        }
-        if (top.lost()) throw OwnerClosed{};
-        top.events().throwFailure();
+        });
     }
     return top.events().take();
 }
