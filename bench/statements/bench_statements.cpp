@@ -50,7 +50,7 @@ public:
         : connection_(connection), text_(text) {}
 
     void run() {
-        each([](base::Value value) { bench::keep(value); }, [] {});
+        each([](const base::Value& value) { bench::keep(value); }, [] {});
     }
     std::vector<Row> rows() {
         std::vector<Row> rows;
