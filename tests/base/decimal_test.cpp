@@ -76,7 +76,7 @@ TEST(Decimal, RoundsHalfAwayFromZero) {
 
 TEST(Decimal, RefusesWhatDoesNotFit18Digits) {
     EXPECT_THROW(Decimal(1'000'000'000'000'000'000), std::out_of_range);
-    EXPECT_THROW(Decimal(std::numeric_limits<std::int64_t>::min()), std::out_of_range);
+    EXPECT_THROW(Decimal{std::numeric_limits<std::int64_t>::min()}, std::out_of_range);
     EXPECT_THROW(Decimal(1, 19), std::out_of_range);
     EXPECT_THROW(Decimal(1, -1), std::out_of_range);
     EXPECT_THROW(Decimal(1).rounded(-1), std::out_of_range);
