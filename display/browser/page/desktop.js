@@ -60,15 +60,10 @@ export class Desktop {
       window.element.inert = window !== top;
       window.element.classList.toggle('behind', window !== top);
       window.element.classList.toggle('covered', index < sheet);
-      // Nobody sees the path of a covered one.
-      if (!window.card && index >= sheet) showPath(window.path, this.#titlesTo(this.#windows.length - 1));
     });
+    // Nobody sees the path of a covered one.
+    if (sheet >= 0) showPath(this.#windows[sheet].path, this.#windows.map(({ title }) => title));
     this.#placeCards();
-  }
-
-  /** The titles of the windows down to that one. */
-  #titlesTo(index) {
-    return this.#windows.slice(0, index + 1).map((window) => window.title);
   }
 
   #placeCards() {
@@ -90,9 +85,12 @@ export class Desktop {
     if (!top) return;
     this.#placing = true;
     const element = this.focused?.focusElement ?? top.element;
-    const strip = element.closest('.filters');
-    if (strip && element.getClientRects().length === 0) strip.classList.add('open');
-    if (document.activeElement !== element) element.focus({ preventScroll: false });
+    if (document.activeElement !== element) {
+      const strip = element.closest('.filters');
+      // One that stands behind the button is shown with the others.
+      if (strip && element.getClientRects().length === 0) strip.querySelector(':scope > .more')?.setAttribute('aria-expanded', 'true');
+      element.focus({ preventScroll: false });
+    }
     this.focused?.focusPlaced?.();
     this.#placing = false;
   }

@@ -27,7 +27,7 @@ const builders = {
     more.type = 'button';
     more.tabIndex = -1;
     more.className = 'button more';
-    more.addEventListener('click', () => more.setAttribute('aria-expanded', strip.classList.toggle('open')));
+    more.addEventListener('click', () => more.setAttribute('aria-expanded', more.getAttribute('aria-expanded') !== 'true'));
     more.setAttribute('aria-expanded', 'false');
     strip.append(more);
     return strip;
@@ -93,7 +93,8 @@ export function countFilters(window) {
   for (const strip of window.querySelectorAll('.filters:has(> .more)')) {
     const used = [...strip.querySelectorAll(':scope > :not(:first-child) :is(input, select)')].filter((control) => (
       !control.readOnly && (control.type === 'checkbox' ? control.checked : control.selectedIndex > 0 || (control.type === 'text' && control.value))));
-    strip.lastChild.textContent = used.length > 0 ? `${text('filters')} (${used.length})` : text('filters');
+    const words = used.length > 0 ? `${text('filters')} (${used.length})` : text('filters');
+    if (strip.lastChild.textContent !== words) strip.lastChild.textContent = words;
   }
 }
 

@@ -64,10 +64,10 @@ void BrowserDisplay::showModal(ui::Form& form) {
 
 ui::Event BrowserDisplay::nextEvent() {
     for (;;) {
-        draw(true);
-        while (!page_.waiting() && desktop_.doLater())
+        do
             draw(true);
-        const PageMessage message = wait();
+        while (!page_.waiting() && desktop_.doLater());
+        const PageMessage message = receive();
         const Window& top = windows_.back();
         if (message.window != top.id) continue;
         if (auto event = toEvent(message, *top.form)) return *event;
@@ -141,6 +141,10 @@ void BrowserDisplay::refresh() {
 
 PageMessage BrowserDisplay::wait() {
     draw(true);
+    return receive();
+}
+
+PageMessage BrowserDisplay::receive() {
     PageMessage message = page_.next();
     handled_ = message.number;
     if (message.kind == PageMessage::Kind::redraw) redraw_ = message;

@@ -60,6 +60,8 @@ private:
     ui::Event nextEvent();
     /// Shows how things are and waits for the page.
     PageMessage wait();
+    /// Waits for the page, which shows how things are.
+    PageMessage receive();
     /// Sends what changed; with `acknowledge`, also which messages have been handled.
     void draw(bool acknowledge);
     void drawWindows(nlohmann::json& message, bool complete);

@@ -21,6 +21,7 @@ export class Grid extends View {
   #laidOut = false; // it has room on the screen, and is not on the page of a tab behind another
   #sums = document.createElement('div');
   #whole = false; // all rows are drawn, for paper
+  #looks = []; // the classes of a cell, by its column
   #changed = new Map(); // who has changed a cell, by its row and column
   #heads = null; // the caption over it, where it counts the rows
   #empty = null; // what stands there instead of rows
@@ -138,6 +139,14 @@ export class Grid extends View {
   }
 
   #drawColumns() {
+    const { columns } = this.state;
+    // While some cells can be edited, the others are seen to be locked.
+    const locks = columns.some((column) => column.open);
+    // What a line is known by stays where the others scroll.
+    const name = columns.find(({ visible, right, width }) => visible && !right && width >= 12);
+    this.#looks = columns.map((column) => [
+      column.right && 'right', locks && !column.open && 'locked', column === name && 'stays', narrowly[column.narrow],
+    ].filter(Boolean).join(' '));
     const visible = this.state.columns.filter((column) => column.visible);
     // Where room is short, texts give way before numbers: half a name can still be recognised. What the
     // user has sized does neither give way nor grow.
@@ -154,7 +163,7 @@ export class Grid extends View {
       cell.setAttribute('role', 'columnheader');
       cell.dataset.column = this.state.columns.indexOf(column);
       cell.classList.toggle('right', column.right);
-      cell.classList.toggle('stays', column === this.#nameColumn);
+      cell.classList.toggle('stays', column === name);
       cell.textContent = column.caption;
       if (!column.caption) cell.append(unseen(text('mark')));
       cell.title = column.tip || column.caption;
@@ -215,6 +224,7 @@ export class Grid extends View {
     }
     this.#empty.textContent = words;
     this.#empty.hidden = !words;
+    if (this.state.error) return; // which describes it
     if (words) this.element.setAttribute('aria-describedby', this.#empty.id);
     else this.element.removeAttribute('aria-describedby');
   }
@@ -270,17 +280,12 @@ export class Grid extends View {
     row.setAttribute('role', 'row');
     row.setAttribute('aria-rowindex', index + 2);
     row.dataset.row = index;
-    // While some cells can be edited, the others are seen to be locked.
-    const locks = this.state.columns.some((column) => column.open);
     this.state.columns.forEach((column, at) => {
       if (!column.visible) return;
       const cell = document.createElement('div');
       cell.setAttribute('role', 'gridcell');
       cell.dataset.column = at;
-      cell.classList.toggle('right', column.right);
-      cell.classList.toggle('locked', locks && !column.open);
-      cell.classList.toggle('stays', column === this.#nameColumn);
-      if (column.narrow) cell.classList.add(narrowly[column.narrow]);
+      cell.className = this.#looks[at];
       row.append(cell);
     });
     this.#fill(row, this.state.content[index]);
@@ -297,11 +302,6 @@ export class Grid extends View {
       if (marked) cell.setAttribute('aria-selected', 'true');
       else cell.removeAttribute('aria-selected');
     }
-  }
-
-  /** The column that a line is known by; it stays where the others scroll. */
-  get #nameColumn() {
-    return this.state.columns.find(({ visible, right, width }) => visible && !right && width >= 12);
   }
 
   #heading(column) {
