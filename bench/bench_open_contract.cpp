@@ -106,14 +106,12 @@ void measureGlance(const embedded::Database& database) {
     for (int i = 0; i < sessions * roundsEach; ++i) {
         for (const Contract& contract : contracts) {
             standin::GlanceReading reading{session.services(), session.record(), contract.id};
-            const Clock::time_point start = Clock::now();
-            for (bool more = true; more;) {
-                const Clock::time_point piece = Clock::now();
-                more = reading.next();
-                pieces.add(Clock::now() - piece);
-            }
-            whole.add(Clock::now() - start);
-            byContract[contract.id].add(Clock::now() - start);
+            const auto took = bench::timeOf([&] {
+                for (bool more = true; more;)
+                    pieces.add(bench::timeOf([&] { more = reading.next(); }));
+            });
+            whole.add(took);
+            byContract[contract.id].add(took);
         }
     }
     bench::heading(std::cout, "A contract at a glance, in milliseconds");

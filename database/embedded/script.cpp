@@ -1,5 +1,7 @@
 #include "database/embedded/script.h"
 
+#include "module/base/text.h"
+
 namespace tellurix::embedded {
 
 namespace {
@@ -16,8 +18,7 @@ bool isGo(std::string_view line) {
 } // namespace
 
 std::vector<std::string_view> splitBatches(std::string_view text) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    text = base::withoutByteOrderMark(text);
     std::vector<std::string_view> batches;
     const auto add = [&](std::string_view batch) {
         if (batch.find_first_not_of(blanks) != std::string_view::npos) batches.push_back(batch);

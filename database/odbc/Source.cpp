@@ -55,10 +55,7 @@ std::string contentsOf(const std::string& path) {
         if (count < 0) throw std::system_error{errno, std::generic_category(), path};
         text.append(part.data(), static_cast<std::size_t>(count));
     }
-    // Some editors write it before a text.
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(byteOrderMark)) text.erase(0, byteOrderMark.size());
-    return text;
+    return std::string{base::withoutByteOrderMark(text)};
 }
 
 /// The entry is not shown: it may be the end of a password that has a semicolon.

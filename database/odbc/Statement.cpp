@@ -1,6 +1,5 @@
 #include "database/odbc/Statement.h"
 
-#include "database/odbc/Source.h"
 #include "database/servers/server_values.h"
 
 #include <array>

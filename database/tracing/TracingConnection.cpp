@@ -13,9 +13,9 @@ Statement begun(std::string text) {
     return {.text = std::move(text), .sent = std::chrono::system_clock::now()};
 }
 
-/// Runs a piece of work of the statement and notes how it went.
+/// Runs a piece of work of the statement, notes how long it took, and tells the observer of a failure.
 template <typename Work>
-auto noted(Statement& statement, const Work& work) {
+auto watched(const TracingConnection::Observer& observer, Statement& statement, const Work& work) {
     const auto start = std::chrono::steady_clock::now();
     const auto stop = [&] {
         statement.duration +=
@@ -28,16 +28,6 @@ auto noted(Statement& statement, const Work& work) {
     } catch (const std::exception& error) {
         statement.error = error.what();
         stop();
-        throw;
-    }
-}
-
-/// The same, and the observer is told of a failure.
-template <typename Work>
-auto watched(const TracingConnection::Observer& observer, Statement& statement, const Work& work) {
-    try {
-        return noted(statement, work);
-    } catch (const std::exception&) {
         observer(statement);
         throw;
     }
@@ -49,19 +39,17 @@ class TracingRows final : public base::Recordset {
 private:
     template <typename Work>
     auto asked(const Work& work) const {
-        if (failed_) return work();
-        try {
-            if (answered_) return work();
-            answered_ = true;
-            auto answer = noted(statement_, work);
+        if (!std::exchange(answered_, true)) {
+            auto answer = watched(observer_, statement_, work);
             observer_(statement_);
             return answer;
+        }
+        if (!statement_.error.empty()) return work(); // which has been told
+        try {
+            return work();
         } catch (const std::exception& error) {
-            failed_ = true;
-            if (statement_.error.empty()) {
-                statement_ = begun("[rows] of " + statement_.text);
-                statement_.error = error.what();
-            }
+            statement_ = begun("[rows] of " + statement_.text);
+            statement_.error = error.what();
             observer_(statement_);
             throw;
         }
@@ -107,7 +95,6 @@ private:
     mutable Statement statement_;
     const TracingConnection::Observer& observer_;
     mutable bool answered_ = false;
-    mutable bool failed_ = false;
 };
 
 /// Runs one piece of work and tells the observer how it went.

@@ -193,7 +193,7 @@ Decimal operator*(const Decimal& left, const Decimal& right) {
 }
 
 double Decimal::toDouble() const {
-    return static_cast<double>(units_) / std::pow(10.0, scale_);
+    return static_cast<double>(units_) / static_cast<double>(powerOfTen(scale_));
 }
 
 std::string Decimal::toString() const {

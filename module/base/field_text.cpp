@@ -5,9 +5,20 @@
 
 namespace tellurix::base {
 
-std::string dateText(const Value& field) {
+std::optional<Date> dayIn(const Value& field) {
     const auto* moment = std::get_if<DateTime>(&field);
-    return moment == nullptr ? std::string{} : dateText(dayOf(*moment));
+    return moment == nullptr ? std::nullopt : std::optional{dayOf(*moment)};
+}
+
+std::string dateText(const Value& field) {
+    const auto day = dayIn(field);
+    return day ? dateText(*day) : std::string{};
+}
+
+std::string periodText(const Value& from, const Value& to) {
+    const std::string first = dateText(from);
+    const std::string last = dateText(to);
+    return first.empty() && last.empty() ? std::string{} : first + " – " + last;
 }
 
 std::optional<Decimal> numberIn(const Value& field) {

@@ -2,6 +2,8 @@
 
 #include "module/base/date_time.h"
 
+#include <compare>
+
 namespace tellurix::base {
 
 /// A week from Monday to Sunday under the number that ISO 8601 gives it. It belongs to the year of its
@@ -11,7 +13,7 @@ struct IsoWeek {
     int year = 0;
     int week = 0; ///< 1 to 53
 
-    friend bool operator==(const IsoWeek&, const IsoWeek&) = default;
+    friend auto operator<=>(const IsoWeek&, const IsoWeek&) = default;
 };
 
 IsoWeek isoWeekOf(Date day);

@@ -89,6 +89,11 @@ std::string_view trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+std::string_view withoutByteOrderMark(std::string_view text) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return text.starts_with(mark) ? text.substr(mark.size()) : text;
+}
+
 std::string replaceAll(std::string text, std::string_view from, std::string_view to) {
     for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
         text.replace(at, from.size(), to);
@@ -99,7 +104,7 @@ std::string replaceAll(std::string text, std::string_view from, std::string_view
 std::string joined(const std::vector<std::string>& texts, std::string_view between) {
     std::string all;
     for (const std::string& text : texts)
-        all.append(all.empty() ? std::string_view{} : between).append(text);
+        all.append(&text == &texts.front() ? std::string_view{} : between).append(text);
     return all;
 }
 

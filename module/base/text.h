@@ -20,6 +20,9 @@ char32_t toUpper(char32_t character);
 /// Without blanks, tabs and line ends at both ends.
 std::string_view trim(std::string_view text);
 
+/// Without the mark that some editors write before a text.
+std::string_view withoutByteOrderMark(std::string_view text);
+
 /// Every `from` replaced by `to`.
 std::string replaceAll(std::string text, std::string_view from, std::string_view to);
 

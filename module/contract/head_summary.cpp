@@ -40,9 +40,8 @@ std::vector<std::string> headSummary(const parts::OpenContract& contract) {
     const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
 
     add(ownText(OwnText::contractDate), base::dateText(header->field("INVDATE")));
-    const std::string from = base::dateText(header->field("LIEFERVON"));
-    const std::string to = base::dateText(header->field("LIEFERBIS"));
-    if (!from.empty() || !to.empty()) add(ownText(OwnText::deliveryPeriod), from + " – " + to);
+    add(ownText(OwnText::deliveryPeriod),
+        base::periodText(header->field("LIEFERVON"), header->field("LIEFERBIS")));
     for (std::size_t i = 0; i < captions.dates.size(); ++i) {
         add(caption(captions.dates[i]), base::dateText(header->field("DATE" + std::to_string(i + 1))));
     }

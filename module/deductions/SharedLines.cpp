@@ -90,29 +90,34 @@ std::string SharedLines::name(std::size_t line, std::size_t member) const {
            (member == article ? base::ownText(OwnText::article, session_.language) : table_.heading(member));
 }
 
-bool SharedLines::changed(std::size_t line, std::size_t member) const {
-    const std::array<const ui::TextBox*, memberCount> boxes{
-        nullptr, &table_.TextBez[line], &table_.TextWert[line], &table_.txtWert[line], nullptr, nullptr};
-    return (boxes[member] != nullptr && boxes[member]->touched()) ||
-           text(member, table_.read(line)) != text(member, shown_[line]);
+ui::Control* SharedLines::controlOf(std::size_t line, std::size_t member) const {
+    const std::array<ui::Control*, memberCount> controls{&table_.CmbStat[line],  &table_.TextBez[line],
+                                                         &table_.TextWert[line], &table_.txtWert[line],
+                                                         &table_.Check1[line],   nullptr};
+    return controls[member];
+}
+
+bool SharedLines::changed(std::size_t line, std::size_t member, const CalculationLine& present) const {
+    const auto* box = ui::as<ui::TextBox>(controlOf(line, member));
+    return (box != nullptr && box->touched()) || text(member, present) != text(member, shown_[line]);
 }
 
 bool SharedLines::changed(std::size_t line) const {
+    const CalculationLine present = table_.read(line);
     for (std::size_t member = 0; member < memberCount; ++member)
-        if (changed(line, member)) return true;
+        if (changed(line, member, present)) return true;
     return false;
 }
 
 void SharedLines::mark() {
     for (std::size_t line = 0; line < LineTable::size; ++line) {
-        const std::array<ui::Control*, memberCount> controls{&table_.CmbStat[line],  &table_.TextBez[line],
-                                                             &table_.TextWert[line], &table_.txtWert[line],
-                                                             &table_.Check1[line],   nullptr};
+        const CalculationLine present = table_.read(line);
         for (std::size_t member = 0; member < memberCount; ++member) {
-            if (controls[member] == nullptr) continue;
-            controls[member]->setChangedBy(changed(line, member)           ? ui::ChangedBy::user
-                                           : taken_[line].contains(member) ? ui::ChangedBy::colleague
-                                                                           : ui::ChangedBy::nobody);
+            ui::Control* control = controlOf(line, member);
+            if (control == nullptr) continue;
+            control->setChangedBy(changed(line, member, present)  ? ui::ChangedBy::user
+                                  : taken_[line].contains(member) ? ui::ChangedBy::colleague
+                                                                  : ui::ChangedBy::nobody);
         }
     }
 }
@@ -152,9 +157,10 @@ void SharedLines::compareLine(std::size_t line, const CalculationLine& now,
 void SharedLines::compareMembers(std::size_t line, const CalculationLine& now,
                                  std::vector<InConflict>& conflicts) {
     // Before anything is shown: showing a line makes all its boxes untouched.
+    const CalculationLine present = table_.read(line);
     std::array<bool, memberCount> mine{};
     for (std::size_t member = 0; member < memberCount; ++member)
-        mine[member] = changed(line, member);
+        mine[member] = changed(line, member, present);
     for (std::size_t member = 0; member < memberCount; ++member) {
         if (text(member, read_.lines[line]) == text(member, now)) continue;
         const std::string had = text(member, table_.read(line));

@@ -4,6 +4,7 @@
 #include "module/deductions/StoredCalculation.h"
 #include "module/host/services.h"
 #include "module/parts/meanwhile/ConflictQuestion.h"
+#include "module/parts/meanwhile/TakenOver.h"
 
 #include <array>
 #include <cstddef>
@@ -64,7 +65,10 @@ private:
     std::string text(const host::CalculationLine& line) const;
     std::string name(std::size_t line) const;
     std::string name(std::size_t line, std::size_t member) const;
-    bool changed(std::size_t line, std::size_t member) const;
+    /// The control that a member stands in; null for the article, which stands in none.
+    ui::Control* controlOf(std::size_t line, std::size_t member) const;
+    /// @param present the line as the screen has it
+    bool changed(std::size_t line, std::size_t member, const host::CalculationLine& present) const;
     bool changed(std::size_t line) const;
 
     LineTable& table_;

@@ -7,7 +7,7 @@
 #include "module/base/number_format.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
-#include "module/parts/meanwhile/ConflictQuestion.h"
+#include "module/parts/meanwhile/TakenOver.h"
 #include "module/ui/controls/caption.h"
 #include "module/ui/input/RefusedInput.h"
 #include "module/ui/input/number_box.h"

@@ -296,8 +296,7 @@ void LineEditor::save() {
     mode_.enter(State::view);
     reloadLine(MSFlexGrid1.currentRow());
     parts::SafeSetFocus(MSFlexGrid1);
-    taken.mark();
-    undo_.say(parts::savedText(OwnText::saved, taken.sentence(session_.language), session_.language));
+    undo_.say(taken.told(OwnText::saved, session_.language));
 }
 
 void LineEditor::saveLine() {

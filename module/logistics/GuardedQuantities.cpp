@@ -82,7 +82,7 @@ parts::KeyedGrid::Column GuardedQuantities::column(std::string caption, const ch
 void GuardedQuantities::show(std::vector<parts::KeyedRow> rows) {
     cell_.close();
     rows_.show(std::move(rows));
-    pending_.clear();
+    takenOver_.clear();
     screen_.changed();
 }
 
@@ -133,11 +133,9 @@ std::string GuardedQuantities::sum(std::string_view field) const {
 
 bool GuardedQuantities::save(host::HostServices& services, const host::TlxVar& session,
                              const std::string& present) {
-    takenOver_.clear();
     const auto now = settle(services, session, present);
     if (!now) return false;
     writeRows(services, session, *now);
-    takenOver_ = pending_;
     tellGone(services, session, *now);
     return true;
 }
@@ -149,7 +147,7 @@ std::optional<GuardedQuantities::QuantitiesByKey> GuardedQuantities::settle(host
         return std::ranges::find(rows_.columns(), field, &parts::KeyedGrid::Column::field)->caption;
     };
     QuantitiesByKey now;
-    parts::RowMerge merge{services, session, rows_, pending_};
+    parts::RowMerge merge{services, session, rows_, takenOver_};
     const bool settled = merge.settle([&] {
         now = read(*session.connection, present);
         for (parts::KeyedRow& row : rows_.rows()) {

@@ -3,7 +3,7 @@
 #include "module/base/date_time.h"
 #include "module/host/services.h"
 #include "module/parts/grids/KeyedGrid.h"
-#include "module/parts/meanwhile/ConflictQuestion.h"
+#include "module/parts/meanwhile/TakenOver.h"
 #include "module/ui/controls/ProgressBar.h"
 #include "module/ui/input/GridEditor.h"
 
@@ -79,7 +79,7 @@ public:
     ///         many rows are written. The others stay typed and marked, and the next call writes them.
     bool save(host::HostServices& services, const host::TlxVar& session, const std::string& present);
 
-    /// What the last save has written although the user did not type it, because it came from somebody else.
+    /// What a save has taken over from somebody else since the rows were shown.
     const parts::TakenOver& takenOver() const { return takenOver_; }
 
 private:
@@ -102,8 +102,7 @@ private:
     ui::ProgressBar& bar_;
     Screen screen_;
     ui::GridEditor cell_;
-    parts::TakenOver pending_;   ///< since the rows were shown
-    parts::TakenOver takenOver_; ///< in the last save
+    parts::TakenOver takenOver_;
 };
 
 } // namespace tellurix::logistics

@@ -1,6 +1,7 @@
 #include "standin/home/F_Start.h"
 
 #include "module/base/date_format.h"
+#include "module/base/field_text.h"
 #include "module/base/whole_number.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/fields/date_box.h"
@@ -47,10 +48,8 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
         return named(contract.flag("ABGESCHLOSSEN") ? "start.isClosed" : "start.isOpen");
     };
     const auto due = [this](base::Fields& contract) {
-        const base::Value end = contract.field("LIEFERBIS");
-        const auto* moment = std::get_if<base::DateTime>(&end);
-        return moment == nullptr ? std::string{}
-                                 : glance_.dueText(base::dayOf(*moment), contract.flag("ABGESCHLOSSEN"));
+        const auto end = base::dayIn(contract.field("LIEFERBIS"));
+        return end ? glance_.dueText(*end, contract.flag("ABGESCHLOSSEN")) : std::string{};
     };
     using Narrow = ui::Grid::Narrow;
     contracts_.setColumns(
@@ -167,6 +166,7 @@ void F_Start::changeLanguage() {
     fillLists();
     services_.localizer().localize(session_, *this);
     contracts_.redraw();
+    sayNothingFound(txtSearch, grdContracts);
     showCount();
     lookedAt_.reset();
     lookAtCurrent();
@@ -202,6 +202,7 @@ void F_Start::reload(std::int64_t current) {
         parts::KeyedRows::read(*session_.connection, contractsQuery(filter()), "ID_VERTRAG", listedAtMost);
     more_ = read.more;
     contracts_.show(std::move(read.rows));
+    sayNothingFound(txtSearch, grdContracts);
     showCount();
     if (!contracts_.select(current)) grdContracts.setCurrent(std::min(row, contracts_.rowCount() - 1));
     btnOpen.setEnabled(!contracts_.empty());

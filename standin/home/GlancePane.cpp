@@ -4,8 +4,6 @@
 #include "module/base/number_format.h"
 #include "standin/home/contract_types.h"
 
-#include <algorithm>
-
 namespace tellurix::standin {
 
 using base::Decimal;
@@ -117,8 +115,9 @@ void GlancePane::showLines(const ContractGlance& glance) {
     gagLines.setHeadings(
         {named("glance.lines"), named("glance.agreed"), named("glance.delivered"), named("glance.open")});
     gagLines.setGauges(std::move(gauges));
-    const std::string limit =
-        base::formatNumber(Decimal{100} + glance.overDelivery, "##0", services_.host().locale);
+    const Decimal permitted = Decimal{100} + glance.overDelivery;
+    const std::string limit = base::formatNumber(
+        permitted, permitted == permitted.rounded(0) ? "##0" : "##0.00", services_.host().locale);
     std::string ticks = glance.lines.empty()              ? named("glance.noLines")
                         : glance.overDelivery > Decimal{} ? filled(named("glance.twoTicks"), {limit})
                                                           : named("glance.oneTick");

@@ -7,7 +7,6 @@
 #include "standin/home/contract_glance.h"
 
 #include <array>
-#include <cstdint>
 #include <string>
 
 namespace tellurix::standin {

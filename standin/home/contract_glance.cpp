@@ -12,15 +12,6 @@ namespace tellurix::standin {
 
 using base::StatementText;
 
-namespace {
-
-std::optional<base::Date> dayIn(const base::Value& field) {
-    const auto* moment = std::get_if<base::DateTime>(&field);
-    return moment == nullptr ? std::nullopt : std::optional{base::dayOf(*moment)};
-}
-
-} // namespace
-
 int daysUntil(base::Date day, base::Date today) {
     return static_cast<int>((std::chrono::local_days{day} - std::chrono::local_days{today}).count());
 }
@@ -62,7 +53,6 @@ void GlanceReading::readHead() {
     const auto row = session_.connection->open(query.number(contract_).text());
     if (row->atEnd()) return;
     ContractGlance& glance = glance_.emplace();
-    glance.id = contract_;
     glance.name = row->text("VERTRAG_NAME");
     glance.type = row->text("VER_TYPE");
     glance.closed = row->flag("ABGESCHLOSSEN");
@@ -72,19 +62,17 @@ void GlanceReading::readHead() {
     const contract::HeaderCaptions captions = contract::headerCaptions(glance.type);
     add(named("glance.customer"), row->text("KUNDE"));
     add(base::ownText(base::OwnText::deliveryAddress, session_.language), row->text("LIEFERADRESSE"));
-    const std::string from = base::dateText(row->field("LIEFERVON"));
-    const std::string to = base::dateText(row->field("LIEFERBIS"));
-    if (!from.empty() || !to.empty())
-        add(base::ownText(base::OwnText::deliveryPeriod, session_.language), from + " – " + to);
+    add(base::ownText(base::OwnText::deliveryPeriod, session_.language),
+        base::periodText(row->field("LIEFERVON"), row->field("LIEFERBIS")));
     for (std::size_t i = 0; i < captions.kopf.size(); ++i)
         add(caption(captions.kopf[i]), row->text("KOPF" + std::to_string(i + 1)));
 
     const base::Date today = services_.host().clock.today();
     for (std::size_t i = 0; i < captions.dates.size(); ++i) {
-        const auto day = dayIn(row->field("DATE" + std::to_string(i + 1)));
+        const auto day = base::dayIn(row->field("DATE" + std::to_string(i + 1)));
         if (day && daysUntil(*day, today) >= 0) glance.dates.push_back({caption(captions.dates[i]), *day});
     }
-    if (const auto day = dayIn(row->field("LIEFERBIS")))
+    if (const auto day = base::dayIn(row->field("LIEFERBIS")))
         glance.dates.push_back({named("glance.deliveryEnd"), *day});
     std::ranges::stable_sort(glance.dates, {}, &ContractGlance::Date::day);
 }

@@ -36,7 +36,6 @@ struct ContractGlance {
         base::Date day;
     };
 
-    std::int32_t id = 0; ///< `ID_VERTRAG`
     std::string name;
     std::string type; ///< contract-type code
     bool closed = false;

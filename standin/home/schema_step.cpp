@@ -188,7 +188,6 @@ std::vector<std::string> prepare(base::Connection& connection, bool withSample) 
     std::vector<std::string> made;
     std::vector<std::string> present;
     std::vector<std::string> said;
-    bool lacks = false;
     for (const std::string_view batch : embedded::splitBatches(database_contents::file("schema.sql"))) {
         const std::string table = tableOf(batch);
         const auto isMade = [&](const std::string& name) {
@@ -205,22 +204,22 @@ std::vector<std::string> prepare(base::Connection& connection, bool withSample) 
             const auto columns = columnsOf(connection, table);
             if (columns) {
                 present.push_back(table);
-                for (const std::string& statement : lackingColumns(batch, *columns)) {
+                for (const std::string& statement : lackingColumns(batch, *columns))
                     said.push_back("lacking, and left to you: " + statement);
-                    lacks = true;
-                }
             } else {
                 connection.execute(batch);
                 made.push_back(table);
             }
         }
     }
+    const bool isWhole = said.empty();
     if (!made.empty()) said.push_back("made: " + base::joined(made, ", "));
     if (!present.empty())
         said.push_back("there already, and left as they are: " + base::joined(present, ", "));
     if (!withSample) return said;
-    const bool fits = !lacks && std::ranges::none_of(
-                                    present, [&](const auto& table) { return holdsRows(connection, table); });
+    const bool fits = isWhole && std::ranges::none_of(present, [&](const auto& table) {
+                          return holdsRows(connection, table);
+                      });
     if (fits) {
         fillWithSample(connection);
         said.emplace_back("filled with the sample trade");

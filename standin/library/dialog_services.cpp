@@ -1,4 +1,5 @@
 #include "com/session/error_kind.h"
+#include "module/base/text.h"
 #include "standin/library/ServiceObject.h"
 #include "standin/library/service_classes.h"
 
@@ -26,18 +27,13 @@ Variant selected(const std::optional<std::string>& answer) {
 }
 
 /// Keys travel as one text, with commas between them.
-std::string joined(const std::vector<std::string>& keys) {
-    std::string text;
-    for (const std::string& key : keys)
-        text += (text.empty() ? "" : ",") + key;
-    return text;
-}
+constexpr std::string_view betweenKeys = ",";
 
 Variant chooseSeveral(ServiceObject& service, Given given) {
     auto call = callOf(service, given);
     std::vector<std::int64_t> marked;
     std::istringstream keys(given[3].text());
-    for (std::string key; std::getline(keys, key, ',');)
+    for (std::string key; std::getline(keys, key, betweenKeys.front());)
         marked.push_back(std::stoll(key));
     const auto chosen =
         call.services().multiSelection.choose(call.session(), given[1].text(), given[2].text(), marked);
@@ -45,7 +41,7 @@ Variant chooseSeveral(ServiceObject& service, Given given) {
     std::vector<std::string> texts;
     for (const std::int64_t key : *chosen)
         texts.push_back(std::to_string(key));
-    return Variant(joined(texts));
+    return Variant(base::joined(texts, betweenKeys));
 }
 
 void showError(ServiceObject& service, Given given) {
@@ -90,9 +86,11 @@ const ServiceClass& keyedLists() {
             .method<ServiceObject>(L"Find",
                                    [](ServiceObject& service, Given given) {
                                        auto call = callOf(service, given);
-                                       return Variant(joined(call.services().keyedLists.find(
-                                           call.session(), given[1].text(), given[2].text(),
-                                           {given[3].text(), given[4].integer()})));
+                                       return Variant(
+                                           base::joined(call.services().keyedLists.find(
+                                                            call.session(), given[1].text(), given[2].text(),
+                                                            {given[3].text(), given[4].integer()}),
+                                                        betweenKeys));
                                    })
             .method<ServiceObject>(L"TypeOf", [](ServiceObject& service, Given given) {
                 auto call = callOf(service, given);

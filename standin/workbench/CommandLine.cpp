@@ -64,7 +64,8 @@ Options CommandLine::sqlOptions() {
 }
 
 Options CommandLine::prepareOptions() {
-    return {{"--sample", "", "every table of the schema, and the sample trade when none of\nthem is there",
+    return {{"--sample", "",
+             "every table of the schema, and the sample trade when none of\nthem has rows or lacks columns",
              [this](const std::string&) { withSample = true; }}};
 }
 
@@ -88,7 +89,7 @@ CommandLine CommandLine::parse(std::span<const std::string> arguments) {
         Options options;
         std::string given = {}; ///< the last one that was
     };
-    Own own[] = {{Command::serve, "serving", line.servingOptions()},
+    Own own[] = {{Command::serve, "", line.servingOptions()},
                  {Command::sql, "sql", line.sqlOptions()},
                  {Command::prepare, "prepare", line.prepareOptions()}};
     bool optionsEnded = false;
@@ -113,7 +114,7 @@ CommandLine CommandLine::parse(std::span<const std::string> arguments) {
         if (line.command == some.command || some.given.empty()) continue;
         if (some.command != Command::serve) throw UsageError{some.given + " is for " + some.name + " only"};
         throw UsageError{some.given + " has no meaning for " +
-                         (line.command == Command::sql ? "sql" : "prepare")};
+                         std::ranges::find(own, line.command, &Own::command)->name};
     }
     if (line.command == Command::sql && !line.texts.empty() && !line.textFile.empty())
         throw UsageError{"sql takes texts or --file, not both"};

@@ -66,8 +66,7 @@ bool runTexts(base::Connection& connection, const std::vector<std::string>& text
 }
 
 std::vector<std::string> textsOfStream(std::istream& in) {
-    std::string text{std::istreambuf_iterator<char>{in}, {}};
-    if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
+    const std::string text{std::istreambuf_iterator<char>{in}, {}};
     const std::vector<std::string_view> batches = embedded::splitBatches(text);
     return {batches.begin(), batches.end()};
 }

@@ -133,6 +133,10 @@ TEST_F(ProvisionReports, AreFilteredByNameAndNumber) {
                 found += row[0] + " ";
             EXPECT_EQ(found, c.found);
         }
+        user.type("txtWaldhelfer", "e");
+        user.type("txtWHNummer", "99");
+        user.key(Key::enter);
+        EXPECT_EQ(user.grid("MSFG").emptyText(), "Keine Treffer für „e, 99“ – bitte anders suchen");
         user.type("txtWHNummer", "");
         user.type("txtWaldhelfer", "huber");
         user.key(Key::tab);

@@ -53,20 +53,20 @@ void GaugesView::paint(HDC dc, const RECT& all) const {
     colour(dc);
     SetBkMode(dc, TRANSPARENT);
     RECT line{all.left, all.top, all.right, all.top + lineHeight()};
-    paintCells(dc, line, gauges_.headings(), false);
+    const std::vector<int> widths = figureWidths();
+    paintCells(dc, line, widths, gauges_.headings(), false);
     for (const auto& gauge : gauges_.gauges()) {
         OffsetRect(&line, 0, heightOf(line));
         const RECT edge{line.left, line.top, line.right, line.top + 1};
         FillRect(dc, &edge, GetSysColorBrush(COLOR_3DLIGHT));
-        paintCells(dc, line, gauge.cells, gauge.warns);
+        paintCells(dc, line, widths, gauge.cells, gauge.warns);
         paintBar(dc, {line.left, line.bottom, line.right, line.bottom + barHeight()}, gauge);
         OffsetRect(&line, 0, 2 * barHeight());
     }
 }
 
-void GaugesView::paintCells(HDC dc, const RECT& line, const std::vector<std::string>& cells,
-                            bool warns) const {
-    const std::vector<int> widths = figureWidths();
+void GaugesView::paintCells(HDC dc, const RECT& line, const std::vector<int>& widths,
+                            const std::vector<std::string>& cells, bool warns) const {
     RECT cell = line;
     const auto write = [&](const std::string& text, UINT align) {
         const std::wstring wide = widen(text);

@@ -21,7 +21,8 @@ private:
     int barHeight() const { return theme().scaled(8); }
     /// Widths of all columns but the first, which has what is left over.
     std::vector<int> figureWidths() const;
-    void paintCells(HDC dc, const RECT& line, const std::vector<std::string>& cells, bool warns) const;
+    void paintCells(HDC dc, const RECT& line, const std::vector<int>& widths,
+                    const std::vector<std::string>& cells, bool warns) const;
     void paintBar(HDC dc, const RECT& bar, const ui::Gauges::Gauge& gauge) const;
 
     ui::Gauges& gauges_;

@@ -153,8 +153,8 @@ void GridView::pullEdge(POINT point) {
 }
 
 void GridView::pointAt(POINT point) {
-    pointed_ = geometry_.at(point).column;
-    host().setToolTip(handle(), tip());
+    const int column = geometry_.at(point).column;
+    if (std::exchange(pointed_, column) != column) host().setToolTip(handle(), tip());
 }
 
 std::string GridView::tip() const {

@@ -216,11 +216,10 @@ void HelperArea::edit() {
 
 void HelperArea::save() {
     if (!quantities_.save(services_, contract_.session, helpers::presentQuantities(contract_.record))) return;
+    const parts::TakenOver taken = quantities_.takenOver();
     reload(std::nullopt);
     parts::SafeSetFocus(MSFG);
-    quantities_.takenOver().mark();
-    undo_.say(parts::savedText(OwnText::saved, quantities_.takenOver().sentence(contract_.session.language),
-                               contract_.session.language));
+    undo_.say(taken.told(OwnText::saved, contract_.session.language));
 }
 
 void HelperArea::cancel() {

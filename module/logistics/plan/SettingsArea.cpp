@@ -301,9 +301,7 @@ void SettingsArea::save() {
     LoadSettings();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(btnBearbeiten);
-    taken.mark();
-    undo_.say(parts::savedText(OwnText::saved, taken.sentence(contract_.session.language),
-                               contract_.session.language));
+    undo_.say(taken.told(OwnText::saved, contract_.session.language));
 }
 
 bool SettingsArea::datesAreThere() {

@@ -64,7 +64,7 @@ void WeekPlan::showChart(parts::KeyedGrid& weeks, const LogisticsContract& contr
         planned.push_back({{static_cast<int>(row.integer("JAHR")), static_cast<int>(row.integer("WOCHE"))},
                            row.key(),
                            base::numberIn(row.field("PLANMENGE")).value_or(Decimal{})});
-    std::ranges::stable_sort(planned, earlier, &PlannedWeek::week);
+    std::ranges::stable_sort(planned, {}, &PlannedWeek::week);
 
     keys_.clear();
     std::vector<base::IsoWeek> order;

@@ -10,7 +10,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace tellurix::logistics {

@@ -1,6 +1,7 @@
 #include "module/logistics/plan/calendar_weeks.h"
 
 #include "module/base/date_format.h"
+#include "module/base/field_text.h"
 
 #include <algorithm>
 #include <string_view>
@@ -30,11 +31,6 @@ std::string inDigits(int number, std::size_t digits) {
     return text;
 }
 
-/// The number by which weeks follow each other.
-int weekKey(const IsoWeek& week) {
-    return week.year * 100 + week.week;
-}
-
 int yearOf(Date day) {
     return static_cast<int>(day.year());
 }
@@ -48,10 +44,10 @@ int generatedWeeksOf(int year) {
 } // namespace
 
 std::optional<DeliveryPeriod> deliveryPeriodOf(const base::Value& from, const base::Value& to) {
-    const auto* first = std::get_if<base::DateTime>(&from);
-    const auto* last = std::get_if<base::DateTime>(&to);
-    if (first == nullptr || last == nullptr) return std::nullopt;
-    return DeliveryPeriod{base::dayOf(*first), base::dayOf(*last)};
+    const auto first = base::dayIn(from);
+    const auto last = base::dayIn(to);
+    if (!first || !last) return std::nullopt;
+    return DeliveryPeriod{*first, *last};
 }
 
 Date FirstMonday(std::int16_t year) {
@@ -84,7 +80,7 @@ WeekDigits digitsOf(const IsoWeek& week) {
 std::vector<IsoWeek> generatedWeeks(const DeliveryPeriod& period) {
     const IsoWeek last = base::isoWeekOf(period.to);
     std::vector<IsoWeek> weeks;
-    for (IsoWeek week = base::isoWeekOf(period.from); weekKey(week) <= weekKey(last);) {
+    for (IsoWeek week = base::isoWeekOf(period.from); week <= last;) {
         // A period may begin in a week 53 that is not generated.
         if (week.week <= generatedWeeksOf(week.year)) weeks.push_back(week);
         if (++week.week > generatedWeeksOf(week.year)) week = {week.year + 1, 1};
@@ -126,11 +122,10 @@ bool yearLiesIn(const DeliveryPeriod& period, int year) {
 }
 
 bool weekLiesIn(const DeliveryPeriod& period, const IsoWeek& week) {
-    const int key = weekKey(week);
     // 28 December is in the last week of its year.
     const int lastOfYear = base::isoWeekOf(dayIn(week.year, std::chrono::December, 28)).week;
-    if (week.week >= 1 && week.week <= lastOfYear && key >= weekKey(base::isoWeekOf(period.from)) &&
-        key <= weekKey(base::isoWeekOf(period.to)))
+    if (week.week >= 1 && week.week <= lastOfYear && week >= base::isoWeekOf(period.from) &&
+        week <= base::isoWeekOf(period.to))
         return true;
     if (week.year < yearOf(period.from) || week.year > yearOf(period.to)) return false;
     const OfferedWeeks offered = offeredWeeks(period, week.year);

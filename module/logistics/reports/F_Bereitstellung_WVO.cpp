@@ -2,6 +2,7 @@
 
 #include "module/base/field_text.h"
 #include "module/base/number_format.h"
+#include "module/base/text.h"
 #include "module/base/whole_number.h"
 #include "module/logistics/reports/ProvisionSaving.h"
 #include "module/logistics/row_saving.h"
@@ -84,7 +85,7 @@ void F_Bereitstellung_WVO::connectChoice() {
             if (loaded_ == choice()) return true;
             loaded_.reset();
             table_.clear();
-            showTitle();
+            showLoaded();
             showSums();
             return true;
         });
@@ -178,26 +179,28 @@ void F_Bereitstellung_WVO::reload() {
     takenOver_.clear();
     loaded_ = choice();
     mode_.enter(parts::EditMode::State::view);
-    showTitle();
+    showLoaded();
     showSums();
 }
 
-void F_Bereitstellung_WVO::showTitle() {
+void F_Bereitstellung_WVO::showLoaded() {
     const bool known = loaded_ && !contractBox_.key().empty();
     setTitle(parts::titleWith(caption_, known ? txtVertrag.text() : ""));
+    MSFG.setEmptyText(whyEmpty());
 }
 
 std::string F_Bereitstellung_WVO::whyEmpty() const {
     if (!loaded_ || !week_.chosen()) return own(OwnText::noReportYet);
     // Only the tick hides helpers.
     if (!table_.empty()) return own(OwnText::allReported);
+    std::vector<std::string> sought;
     for (const ui::TextBox* filter : {&txtWaldhelfer, &txtWHNummer})
-        if (!filter->text().empty()) return own(OwnText::nothingFoundFor, {filter->text()});
-    return own(OwnText::noReports);
+        if (!filter->text().empty()) sought.push_back(filter->text());
+    return sought.empty() ? own(OwnText::noReports)
+                          : own(OwnText::nothingFoundFor, {base::joined(sought, ", ")});
 }
 
 void F_Bereitstellung_WVO::showSums() {
-    MSFG.setEmptyText(whyEmpty());
     const auto shown = [this](ui::Label& label, const base::Decimal& sum) {
         label.setCaption(loaded_ && week_.chosen() ? base::formatNumber(sum, "##,##0", services_.locale)
                                                    : "");
@@ -239,8 +242,7 @@ void F_Bereitstellung_WVO::save() {
     const parts::TakenOver taken = takenOver_;
     reload();
     parts::SafeSetFocus(MSFG);
-    taken.mark();
-    status().say(parts::savedText(OwnText::saved, taken.sentence(session_.language), session_.language));
+    status().say(taken.told(OwnText::saved, session_.language));
     if (!besides.empty())
         parts::ShowMessage(services_.display, base::Refused{besides}.message(session_.language),
                            ui::box::exclamation);

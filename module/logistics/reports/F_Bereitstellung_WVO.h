@@ -7,7 +7,7 @@
 #include "module/logistics/reports/ProvisionTable.h"
 #include "module/parts/EditMode.h"
 #include "module/parts/fields/LookupBox.h"
-#include "module/parts/meanwhile/ConflictQuestion.h"
+#include "module/parts/meanwhile/TakenOver.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/CheckBox.h"
@@ -43,8 +43,8 @@ private:
     /// The week of the former contract stays chosen where the new one has it, too.
     void keepWeek();
     void reload();
-    /// The title names the contract.
-    void showTitle();
+    /// The title names the contract, and an empty list says why it is.
+    void showLoaded();
     /// What the list says where it shows nothing.
     std::string whyEmpty() const;
     void showSums();

@@ -143,11 +143,10 @@ void F_VertragMengenmeldung_WVO::edit() {
 
 void F_VertragMengenmeldung_WVO::save() {
     if (!quantities_.save(services_, session_, quantity_report::presentQuantities(helper()))) return;
+    const parts::TakenOver taken = quantities_.takenOver();
     load();
     parts::SafeSetFocus(MSFG);
-    quantities_.takenOver().mark();
-    status().say(parts::savedText(base::OwnText::saved, quantities_.takenOver().sentence(session_.language),
-                                  session_.language));
+    status().say(taken.told(base::OwnText::saved, session_.language));
 }
 
 bool F_VertragMengenmeldung_WVO::escape() {

@@ -33,8 +33,8 @@ F_ZuegeJeWoche::F_ZuegeJeWoche(host::HostServices& services)
 std::optional<base::IsoWeek> F_ZuegeJeWoche::Run(const host::TlxVar& session, const ReportWeek& week,
                                                  const std::string& contract) {
     chosen_.reset();
-    lblVertrag.setCaption(contract);
     services_.localizer.localize(session, *this);
+    lblVertrag.setCaption(contract);
     show(session, week);
     services_.display.showModal(*this);
     return chosen_;

@@ -3,11 +3,12 @@
 #include "module/base/iso_week.h"
 #include "module/host/services.h"
 #include "module/logistics/reports/ProvisionStatements.h"
-#include "module/parts/grids/KeyedGrid.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Chart.h"
 #include "module/ui/controls/Frame.h"
+#include "module/ui/controls/Grid.h"
+#include "module/ui/controls/Label.h"
 
 #include <optional>
 #include <string>

@@ -2,7 +2,6 @@
 
 #include "module/base/field_text.h"
 #include "module/base/own_text.h"
-#include "module/base/text.h"
 #include "module/base/whole_number.h"
 #include "module/logistics/quantity_cell.h"
 #include "module/logistics/row_saving.h"

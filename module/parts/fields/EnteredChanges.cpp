@@ -24,14 +24,11 @@ void EnteredChanges::watch(ui::ComboBox& list) {
 }
 
 void EnteredChanges::note(ui::Control& box) {
-    any_ = true;
-    if (box.changedBy() == ui::ChangedBy::user) return;
+    entered_.insert(&box);
     box.setChangedBy(ui::ChangedBy::user);
-    entered_.push_back(&box);
 }
 
 void EnteredChanges::forget() {
-    any_ = false;
     for (ui::Control* box : std::exchange(entered_, {}))
         if (box->changedBy() == ui::ChangedBy::user) box->setChangedBy(ui::ChangedBy::nobody);
 }

@@ -4,8 +4,8 @@
 #include "module/ui/controls/ComboBox.h"
 #include "module/ui/controls/TextBox.h"
 
+#include <set>
 #include <string>
-#include <vector>
 
 namespace tellurix::parts {
 
@@ -20,15 +20,14 @@ public:
     /// Watches all of them that stand in a frame, once the layout has been said; null for the whole form.
     void watchAll(ui::Form& form, const ui::Control* frame = nullptr);
 
-    bool any() const { return any_; }
+    bool any() const { return !entered_.empty(); }
     /// The user has entered something into a box by other ways than the box's own.
     void note(ui::Control& box);
     /// The boxes have been filled anew, or what was entered has been saved or thrown away.
     void forget();
 
 private:
-    std::vector<ui::Control*> entered_;
-    bool any_ = false;
+    std::set<ui::Control*> entered_;
     std::string beforePick_;
 };
 

@@ -6,9 +6,7 @@
 #include "module/ui/controls/Label.h"
 #include "module/ui/controls/TextBox.h"
 
-#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tellurix::parts {
@@ -18,31 +16,6 @@ struct Conflict {
     std::string field;  ///< what the user knows it by
     std::string mine;   ///< what the user has, as a text; empty for nothing
     std::string theirs; ///< what the database has by now
-};
-
-/// The fields that came from somebody else.
-class TakenOver {
-public:
-    struct Field {
-        std::string name;        ///< what the user knows it by
-        std::string before = {}; ///< what the user has seen in it, as a text; empty for nothing
-        std::string now = {};
-        bool whole = false; ///< a line of several fields, which is named without its texts
-        /// Shows in the field that it came from somebody else.
-        std::function<void()> mark = {};
-    };
-
-    /// Takes a field up, each once, and marks it.
-    void add(Field field);
-    void clear() { fields_.clear(); }
-    /// Empty for none. Of many only the first are named.
-    std::string sentence(std::string_view language) const;
-    /// Marks them once more, where they have been loaded again after they were saved: now the user reads of
-    /// them.
-    void mark() const;
-
-private:
-    std::vector<Field> fields_;
 };
 
 /// Shows what two have changed, and asks whose is to stay. Closing the window goes back.

@@ -3,6 +3,7 @@
 #include "module/host/services.h"
 #include "module/parts/grids/KeyedGrid.h"
 #include "module/parts/meanwhile/ConflictQuestion.h"
+#include "module/parts/meanwhile/TakenOver.h"
 
 #include <functional>
 #include <string>

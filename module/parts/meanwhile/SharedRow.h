@@ -6,6 +6,7 @@
 #include "module/parts/fields/NumberField.h"
 #include "module/parts/fields/PersonBox.h"
 #include "module/parts/meanwhile/ConflictQuestion.h"
+#include "module/parts/meanwhile/TakenOver.h"
 #include "module/ui/controls/CheckBox.h"
 #include "module/ui/controls/TextBox.h"
 

@@ -1,5 +1,6 @@
 #include "module/ui/controls/control_caption.h"
 
+#include "module/base/text.h"
 #include "module/ui/Form.h"
 #include "module/ui/controls/caption.h"
 #include "module/ui/controls/visit.h"
@@ -9,13 +10,6 @@
 namespace tellurix::ui {
 
 namespace {
-
-std::string joined(const std::vector<std::string>& captions) {
-    std::string text;
-    for (const std::string& caption : captions)
-        text += (&caption == &captions.front() ? "" : "|") + caption;
-    return text;
-}
 
 std::vector<std::string> parts(const std::string& text) {
     std::vector<std::string> captions;
@@ -63,9 +57,9 @@ std::optional<std::string> captionText(const Control& control) {
         if constexpr (requires { visited.caption(); }) {
             return visited.caption();
         } else if constexpr (requires { visited.captions(); }) {
-            return joined(visited.captions());
+            return base::joined(visited.captions(), "|");
         } else if constexpr (requires { visited.columns(); }) {
-            return joined(columnCaptions(visited));
+            return base::joined(columnCaptions(visited), "|");
         } else {
             return std::nullopt;
         }

@@ -1,6 +1,7 @@
 #include "standin/services/mail/F_Mail.h"
 
 #include "module/base/text.h"
+#include "standin/services/pickers/marking_keys.h"
 
 #include <algorithm>
 
@@ -24,11 +25,7 @@ F_Mail::F_Mail(ui::Display& display, Draft draft, Words words)
     txtText.setLines(textLines);
     txtSubject.setText(std::move(draft.subject));
     txtText.setText(std::move(draft.text));
-    grdRecipients.onKeyDown = [this](ui::KeyDown& key) {
-        if (key.key != ui::Key::space || key.ctrl || key.alt) return;
-        key.key = ui::Key::none;
-        toggle();
-    };
+    connectMarking(grdRecipients, [this] { toggle(); });
     // A letter has lines: Enter does what Ctrl+Enter does in the boxes of the other screens.
     txtText.onKeyDown = [](ui::KeyDown& key) { key.ctrl = key.ctrl || key.key == ui::Key::enter; };
     grdRecipients.onDoubleClick = [this] { toggle(); };

@@ -1,6 +1,7 @@
 #include "standin/services/mail/MailService.h"
 
 #include "module/base/text.h"
+#include "module/parts/contract_title.h"
 
 #include <algorithm>
 #include <charconv>
@@ -122,11 +123,10 @@ bool MailService::send() {
     const char* kindWords = kind == RecipientKind::blindCopy ? "mail.bcc"
                             : kind == RecipientKind::copy    ? "mail.cc"
                                                              : "mail.to";
-    // The subject says what it is about: it names the contract.
-    const std::string about = base::trim(subject_).empty() ? "" : " – " + subject_;
     F_Mail form{display_,
                 draft(),
-                {.title = words("mail.title") + about,
+                // The subject says what it is about: it names the contract.
+                {.title = parts::titleWith(words("mail.title"), base::trim(subject_).empty() ? "" : subject_),
                  .kind = words(kindWords) + (setting("MAILSERVER").empty() ? " " + words("mail.asFile") : ""),
                  .count = words("mail.count")}};
     localizer_.localize(session_, form);

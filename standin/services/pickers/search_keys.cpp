@@ -40,13 +40,15 @@ void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> ch
                 ui::choose(list, std::clamp(list.currentRow() + step, 0, last), list.currentColumn());
         }
     };
-    search.onChange.before([&search, &list] {
-        const std::string& language = list.form().language();
-        list.setEmptyText(search.text().empty()
-                              ? base::ownText(base::OwnText::nothingFound, language)
-                              : base::ownText(base::OwnText::nothingFoundFor, language, {search.text()}));
-    });
+    search.onChange.before([&search, &list] { sayNothingFound(search, list); });
     list.onDoubleClick = std::move(choose);
+}
+
+void sayNothingFound(const ui::TextBox& search, ui::Grid& list) {
+    const std::string& language = list.form().language();
+    list.setEmptyText(search.text().empty()
+                          ? base::ownText(base::OwnText::nothingFound, language)
+                          : base::ownText(base::OwnText::nothingFoundFor, language, {search.text()}));
 }
 
 void limitSearch(ui::TextBox& search) {

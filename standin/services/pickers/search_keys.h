@@ -12,6 +12,9 @@ namespace tellurix::standin {
 /// says so.
 void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> choose);
 
+/// What the list says when it is empty: that nothing was found, and for what.
+void sayNothingFound(const ui::TextBox& search, ui::Grid& list);
+
 /// Limits a box whose text becomes part of a statement: one that is longer than any name only makes
 /// the statement long.
 void limitSearch(ui::TextBox& search);

@@ -124,6 +124,11 @@ TEST_F(Glance, SaysTheQuantitiesOfTheLinesAndWarnsPastThePermittedOne) {
         EXPECT_FALSE(gauges[0].warns);
         EXPECT_EQ(user.caption("lblTicks"), "Striche: 100 % und zulässig 110 %");
         EXPECT_FALSE(user.control<ui::Label>("lblTooMuch").visible());
+        db("UPDATE WVO_VERTRAG SET UBERLIEFERUNG = 12.5 WHERE ID_VERTRAEGE = 1");
+        find(user, "einkauf breitenau");
+        find(user, "fichte wolfsberg");
+        EXPECT_EQ(user.caption("lblTicks"), "Striche: 100 % und zulässig 112,50 %");
+        db("UPDATE WVO_VERTRAG SET UBERLIEFERUNG = 10 WHERE ID_VERTRAEGE = 1");
 
         struct Case {
             const char* rule;

@@ -298,6 +298,13 @@ TEST_F(StartPage, SwitchesTheLanguageAtOnceAndBack) {
         EXPECT_EQ(user.window().title(), "Verträge");
         EXPECT_EQ(user.grid("grdContracts").columns().front().caption, "Vertrag");
         EXPECT_EQ(user.caption("lblCount"), "1 Vertrag");
+
+        user.type("txtSearch", "gibt es nicht");
+        EXPECT_EQ(user.grid("grdContracts").emptyText(),
+                  "Keine Treffer für „gibt es nicht“ – bitte anders suchen");
+        user.select("cboLanguage", 1);
+        EXPECT_EQ(user.grid("grdContracts").emptyText(),
+                  "Nothing found for \"gibt es nicht\" – try another search");
     });
 }
 

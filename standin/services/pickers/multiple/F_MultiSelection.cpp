@@ -1,6 +1,7 @@
 #include "standin/services/pickers/multiple/F_MultiSelection.h"
 
 #include "module/base/text.h"
+#include "standin/services/pickers/marking_keys.h"
 #include "standin/services/pickers/search_keys.h"
 #include "standin/services/texts/words.h"
 
@@ -47,7 +48,8 @@ F_MultiSelection::F_MultiSelection(ui::Display& display, std::string title, List
     txtSearch.onChange = [this] { narrow(); };
     connectSearch(txtSearch, grdList, [this] { setFocus(grdList); });
     chkMarked.onClick = [this] { narrow(); };
-    grdList.onKeyDown = [this](ui::KeyDown& key) { listKeyDown(key); };
+    connectMarking(
+        grdList, [this] { toggle(); }, [this] { takeOver(); });
     grdList.onKeyPress = [this](char32_t& character) { searchOn(std::exchange(character, 0)); };
     grdList.onDoubleClick = [this] { toggle(); };
     btnMarkFound.onClick = [this] { markFound(true); };
@@ -103,17 +105,6 @@ void F_MultiSelection::showCount() {
     if (!notOffered_.empty())
         count += " " + base::filled(words_.notOffered, {std::to_string(notOffered_.size())});
     lblCount.setCaption(std::move(count));
-}
-
-void F_MultiSelection::listKeyDown(ui::KeyDown& key) {
-    if (key.ctrl || key.alt) return;
-    if (key.key == ui::Key::space) {
-        key.key = ui::Key::none;
-        toggle();
-    } else if (key.key == ui::Key::enter) {
-        key.key = ui::Key::none;
-        takeOver();
-    }
 }
 
 void F_MultiSelection::searchOn(char32_t character) {

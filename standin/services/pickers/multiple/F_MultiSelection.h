@@ -48,7 +48,6 @@ private:
     void fit(std::vector<ui::Grid::Column> columns);
     void narrow();
     void showCount();
-    void listKeyDown(ui::KeyDown& key);
     void searchOn(char32_t character);
     void toggle();
     void markFound(bool marked);

@@ -1,6 +1,7 @@
 #include "standin/services/selection/codes/ChoiceList.h"
 
 #include "module/base/text.h"
+#include "standin/services/pickers/marking_keys.h"
 
 #include <algorithm>
 
@@ -22,7 +23,11 @@ ChoiceList::ChoiceList(ui::Grid& grid, Captions captions) : grid_(grid), caption
     grid_.setColumns({{.caption = mark, .width = 3},
                       {.caption = captions_.code, .width = 8},
                       {.caption = captions_.name, .width = 30}});
-    grid_.onKeyDown = [this](ui::KeyDown& key) { keyDown(key); };
+    connectMarking(
+        grid_, [this] { toggle(); },
+        [this] {
+            if (onEnter) onEnter();
+        });
     grid_.onDoubleClick = [this] { toggle(); };
 }
 
@@ -42,17 +47,6 @@ void ChoiceList::show(std::vector<Choice> choices, std::vector<std::string> chos
     });
     const bool anyMarked = marked != grid_.rows().end();
     grid_.setCurrent(anyMarked ? static_cast<int>(marked - grid_.rows().begin()) : 0, codeColumn);
-}
-
-void ChoiceList::keyDown(ui::KeyDown& key) {
-    if (key.ctrl || key.alt) return;
-    if (key.key == ui::Key::space) {
-        key.key = ui::Key::none;
-        toggle();
-    } else if (key.key == ui::Key::enter) {
-        key.key = ui::Key::none;
-        if (onEnter) onEnter();
-    }
 }
 
 void ChoiceList::toggle() {

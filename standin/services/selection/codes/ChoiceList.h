@@ -37,7 +37,6 @@ public:
     std::function<void()> onEnter;
 
 private:
-    void keyDown(ui::KeyDown& key);
     void toggle();
     void drawMarks();
 
