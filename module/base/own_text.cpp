@@ -66,6 +66,16 @@ constexpr Words wordsOf(OwnText text) {
         return {"Waldhelfer entfernt", "Forest helper removed"};
     case OwnText::helpersChosen:
         return {"Waldhelfer hinzugefügt: {}, entfernt: {}", "Forest helpers added: {}, removed: {}"};
+    case OwnText::lineMoved:
+        return {"Die Zeile steht jetzt an Stelle {}", "The line is number {} now"};
+    case OwnText::changesDiscarded:
+        return {"Änderungen verworfen", "Changes discarded"};
+    case OwnText::tableExported:
+        return {"Tabelle erstellt", "Table made"};
+    case OwnText::tablesExported:
+        return {"{} Tabellen erstellt", "{} tables made"};
+    case OwnText::mailHandedOver:
+        return {"Serienmail übergeben", "Mail handed over"};
     case OwnText::takesNumber:
         return {"Hier passt eine Zahl bis {}", "A number up to {} fits here"};
     case OwnText::takesDigits:
@@ -403,6 +413,33 @@ constexpr Words wordsOf(OwnText text) {
         return {"Strg, F4\tAuswahl für „{}“", "Ctrl, F4\tchoices for \"{}\""};
     case OwnText::keyLineEnd:
         return {"Strg+Enter\tneue Zeile in „{}“", "Ctrl+Enter\tnew line in \"{}\""};
+    case OwnText::keyUndoTyping:
+        return {"Strg+Z\tTippen zurücknehmen", "Ctrl+Z\ttakes back what was typed"};
+    case OwnText::keyPages:
+        return {"←, →\tvon einer Karteikarte zur anderen", "←, →\tgo from one tab to another"};
+    case OwnText::keyUpDown:
+        return {"↑, ↓ auf den Pfeilen\t{}", "↑, ↓ on the arrows\t{}"};
+    case OwnText::keyFound:
+        return {"↑, ↓, Bild auf, Bild ab\tin den Treffern gehen, während in „{}“ getippt wird",
+                "↑, ↓, Page up, Page down\tgo through what was found while typing in \"{}\""};
+    case OwnText::keyFoundOn:
+        return {"Enter in „{}“\tmit dem Treffer weiter", "Enter in \"{}\"\tgoes on with the row found"};
+    case OwnText::keyMark:
+        return {"Leertaste\tZeile wählen, noch einmal abwählen", "Space\tmarks the row, once more does not"};
+    case OwnText::keySearches:
+        return {"Buchstaben\tsuchen", "Letters\tsearch"};
+    case OwnText::keyRemoveStatistic:
+        return {"Entf\tStatistik der Zeile löschen", "Del\tdeletes the statistic of the line"};
+    case OwnText::keyDays:
+        return {"Pfeile\tum einen Tag, um eine Woche", "Arrows\tgo by a day, by a week"};
+    case OwnText::keyMonths:
+        return {"Bild auf, Bild ab\tum einen Monat, mit Umschalt um ein Jahr",
+                "Page up, Page down\tgo by a month, with Shift by a year"};
+    case OwnText::keyEndsOfMonth:
+        return {"Pos1, Ende\tzum ersten, zum letzten Tag des Monats",
+                "Home, End\tgo to the first, to the last day of the month"};
+    case OwnText::keyTake:
+        return {"Enter\tübernehmen", "Enter\ttakes it over"};
     case OwnText::keySave:
         return {"Strg+S\t{}", "Ctrl+S\t{}"};
     case OwnText::keyCancel:

@@ -38,6 +38,11 @@ enum class OwnText {
     helperAdded,
     helperRemoved,
     helpersChosen, ///< how many are added, how many are removed
+    lineMoved,     ///< its number now
+    changesDiscarded,
+    tableExported,
+    tablesExported, ///< how many
+    mailHandedOver,
     // What boxes take, told when something else is typed
     takesNumber, ///< the largest
     takesDigits,
@@ -184,6 +189,18 @@ enum class OwnText {
     keyAccess, ///< the letter, the caption
     keyPick,
     keyLineEnd,
+    keyUndoTyping,
+    keyPages,
+    keyUpDown, ///< what it is for
+    keyFound,  ///< the search box
+    keyFoundOn,
+    keyMark,
+    keySearches,
+    keyRemoveStatistic,
+    keyDays,
+    keyMonths,
+    keyEndsOfMonth,
+    keyTake,
     keySave,
     keyCancel,
     keyCloses,

@@ -58,6 +58,7 @@ void LineTable::connect(std::size_t line) {
     Label1[line].setCaption(std::to_string(line + 1));
     CmbStat[line].onChange = [this, line] { statisticChosen(line); };
     CmbStat[line].onKeyDown = [this, line](ui::KeyDown& key) { statisticKey(line, key); };
+    CmbStat[line].setOwnKeys({base::OwnText::keyRemoveStatistic});
     ui::makeNumberBox(TextWert[line], typedMask, locale_);
     TextWert[line].onLeave = [this, line] {
         leaveValue(line);

@@ -62,7 +62,6 @@ void F_OffeneMenge::Run(const std::string& contract, const DeliveredQuantity::Ex
                             {std::to_string(claim.place), std::to_string(claim.logs)}));
     }
     parts::GridLayouts layouts{services_, session_, *this};
-    sorting_.takeOrder();
     services_.display.showModal(*this);
     layouts.keep();
 }

@@ -56,7 +56,7 @@ std::vector<parts::KeyedGrid::Column> F_VertragMengen::gridColumns() const {
             {.caption = lblMenge.caption(),
              .width = 14,
              .field = "MENGE",
-             .mask = "##0.00",
+             .mask = "##,##0.00",
              .rightAligned = true},
             {.caption = lblUnit.caption(), .width = 10, .field = "EINHEIT"}};
 }

@@ -318,11 +318,13 @@ void LineEditor::saveLine() {
 }
 
 void LineEditor::cancel() {
+    const bool discards = changed();
     discardNewRow();
     if (mode_.state() == State::fresh) MSFlexGrid1.setCurrent(rowBefore_, MSFlexGrid1.currentColumn());
     showCurrentLine();
     mode_.enter(State::view);
     parts::SafeSetFocus(MSFlexGrid1);
+    if (discards) say(OwnText::changesDiscarded);
 }
 
 void LineEditor::discardNewRow() {
@@ -376,6 +378,7 @@ void LineEditor::moveLine(int step) {
     MSFlexGrid1.setCurrent(to, MSFlexGrid1.currentColumn());
     currentLineShown();
     linesChanged();
+    say(OwnText::lineMoved, {std::to_string(to + 1)});
 }
 
 bool LineEditor::changed() const {

@@ -32,7 +32,7 @@ std::vector<std::string> addressesOf(const parts::OpenContract& contract, std::i
 
 } // namespace
 
-void mailHelpers(const parts::OpenContract& contract, std::int64_t logistics) {
+bool mailHelpers(const parts::OpenContract& contract, std::int64_t logistics) {
     const std::vector<std::string> addresses = addressesOf(contract, logistics);
     host::MailSession& mail = contract.services->mail;
     try {
@@ -42,11 +42,12 @@ void mailHelpers(const parts::OpenContract& contract, std::int64_t logistics) {
             mail.addRecipient("SMTP:" + address);
         mail.setSubject("Information zum Vertrag " + contract.name);
         mail.setText(salutation);
-        mail.send();
+        return mail.send();
     } catch (const std::runtime_error& error) {
         parts::ShowMessage(contract.services->display,
                            std::string{"Automatisches Versenden fehlgeschlagen.\n"} + error.what(),
                            ui::box::exclamation);
+        return false;
     }
 }
 

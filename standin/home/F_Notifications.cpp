@@ -25,10 +25,8 @@ void F_Notifications::Run() {
                         notification.code,
                         contractTypeText(notification.type, services_.localizer(), session_)});
     std::ranges::reverse(rows);
-    grdNotifications.setRows(std::move(rows));
-    grdNotifications.setCurrent(0);
-    services_.localizer().localize(session_, *this);
-    services_.host().display.showModal(*this);
+    sorting_.show(std::move(rows));
+    services_.dialogs().show(session_, *this);
 }
 
 } // namespace tellurix::standin

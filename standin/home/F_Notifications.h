@@ -3,6 +3,7 @@
 #include "module/ui/Form.h"
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Grid.h"
+#include "module/ui/input/TextSorting.h"
 #include "standin/services/WorkbenchServices.h"
 
 namespace tellurix::standin {
@@ -19,6 +20,7 @@ private:
     const host::TlxVar& session_;
 
     ui::Grid grdNotifications{*this, "grdNotifications", 12};
+    ui::TextSorting sorting_{grdNotifications, base::Locale::german()};
     ui::Button btnClose{*this, "btnClose", "S&chließen"};
 };
 

@@ -132,7 +132,6 @@ void F_Start::Run() {
     services_.localizer().localize(session_, *this);
     reload();
     layouts_.emplace(services_.host(), session_, *this);
-    contracts_.takeOrder();
     services_.host().display.showModal(*this);
     layouts_->keep();
 }

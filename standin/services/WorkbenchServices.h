@@ -1,5 +1,6 @@
 #pragma once
 
+#include "standin/services/Dialogs.h"
 #include "standin/services/ErrorReporter.h"
 #include "standin/services/MainWindow.h"
 #include "standin/services/ModuleService.h"
@@ -47,11 +48,13 @@ public:
     /// With the module's requests for the start page's list.
     ModuleService& moduleService() { return moduleService_; }
     Localizer& localizer() { return localizer_; }
+    Dialogs& dialogs() { return dialogs_; }
     SettingsService& settings() { return settings_; }
     const std::shared_ptr<host::HostMainWindow>& mainWindow() const { return mainWindow_; }
 
 private:
     std::unique_ptr<base::Clock> clock_;
+    Dialogs dialogs_;
     ErrorReporter errors_;
     Localizer localizer_;
     DataAccessService dataAccess_;

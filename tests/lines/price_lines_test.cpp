@@ -338,6 +338,7 @@ TEST_F(PriceLines, LinesMoveUpAndDown) {
         EXPECT_EQ(prices("ID", 1), "[1][2][3]") << "the first cannot go up";
         user.key(Key::down);
         EXPECT_EQ(prices("ID", 1), "[2][1][3]");
+        EXPECT_EQ(user.status(), "Die Zeile steht jetzt an Stelle 2");
         EXPECT_EQ(user.grid("MSFlexGrid1").currentRow(), 1) << "the current row goes with the line";
         EXPECT_EQ(user.grid("MSFlexGrid1").cell(1, 1), "Fichte Blochholz A/B");
         user.key(Key::down);

@@ -335,6 +335,7 @@ TEST_F(ForestHelpers, GoToTheSpreadsheetWithTheirSums) {
     helpers(fibreWood, [&](User& user) {
         user.click("btnXLS");
         ASSERT_EQ(host.documents.exports.size(), 1U);
+        EXPECT_EQ(user.status(), "Tabelle erstellt");
         EXPECT_EQ(host.documents.exports[0].title, "Vertrag: R-2025-003 Faserholz Judenburg");
         EXPECT_EQ(host.documents.exports[0].parameters,
                   "FORMAT=0;;0;0;0;0;\r\nROW=1\r\nTABLE="
@@ -375,6 +376,8 @@ TEST_F(ForestHelpers, AreMailedTogether) {
                 "WVO_VERTRAG_WALDHELFER.ID_PERSONAL WHERE isnull(PERSONAL.EMAIL,PERSONAL.NUMMER) is not "
                 "null AND ISNULL(DISABLE,0) = 0 "});
         ASSERT_EQ(host.documents.mails.size(), 1U);
+        EXPECT_EQ(user.status(), "Serienmail übergeben");
+        user.window().status().clear();
         const auto& mail = host.documents.mails.front();
         EXPECT_EQ(std::set<std::string>(mail.recipients.begin(), mail.recipients.end()),
                   (std::set<std::string>{"SMTP:josef.huber@helfer.example", "SMTP:3002",
@@ -390,6 +393,7 @@ TEST_F(ForestHelpers, AreMailedTogether) {
         host.documents.userSends = false;
         user.click("btnSerienmail");
         EXPECT_EQ(host.documents.mails.size(), 3U) << "what the user does not send is told by nobody";
+        EXPECT_EQ(user.status(), "");
     });
 }
 

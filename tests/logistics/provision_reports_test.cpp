@@ -189,9 +189,15 @@ TEST_F(ProvisionReports, TheLoadsOfAllWeeksAreAListAndBarsThatLeadToAWeek) {
             EXPECT_EQ(weeks.bars("chtZuege"), "19:– / –! 20:– / –! 21:– / –! 22:5 / 5 [23:6 / 3] 24:3 / 3");
             weeks.select("chtZuege", 3);
             EXPECT_EQ(weeks.focused(), "grdWochen");
+            weeks.clickHeading("grdWochen", 0);
+            weeks.clickHeading("grdWochen", 0);
+            EXPECT_EQ(weeks.grid("grdWochen").cell(0, 0), "2025/24") << "the last week first";
+            weeks.select("chtZuege", 3);
+            EXPECT_EQ(weeks.bars("chtZuege"), "19:– / –! 20:– / –! 21:– / –! [22:5 / 5] 23:6 / 3 24:3 / 3");
             weeks.click("btnWaehlen");
         });
         user.click("btnZuegeJeWoche");
+        EXPECT_EQ(host.layouts.back(), "save/grdWochen/F_ZuegeJeWoche.grdWochen");
         EXPECT_EQ(user.text("txtKalender"), "22/2025");
         EXPECT_EQ(user.text("txtKalenderTage"), "26.05.2025 - 01.06.2025");
         EXPECT_EQ(user.focused(), "MSFG");
@@ -234,6 +240,7 @@ TEST_F(ProvisionReports, TheSwitchHidesFromTheEyeAlone) {
         user.click("btnAllezusagen");
         EXPECT_EQ(user.grid("MSFG").cell(0, confirmed), "") << "nothing announced, nothing confirmed";
         user.click("btnAbbrechen");
+        EXPECT_EQ(user.status(), "Änderungen verworfen");
         EXPECT_EQ(user.grid("MSFG").cell(0, confirmed), "4");
     });
 }

@@ -427,6 +427,7 @@ TEST_F(QuantityReports, ThreeListingsForTheSpreadsheet) {
         user.click("btnExcel");
         const auto& exports = host.documents.exports;
         ASSERT_EQ(exports.size(), 3U);
+        EXPECT_EQ(user.status(), "3 Tabellen erstellt");
         EXPECT_EQ(exports[0].title, "Waldhelfer und Verträge");
         EXPECT_EQ(exports[0].parameters,
                   "FORMAT=0;;;0;\r\nROW=1\r\nTABLE="

@@ -370,6 +370,7 @@ TEST_F(GridRules, CtrlSSavesAndF1ShowsTheKeysOfTheWindow) {
             reader.key(Key::f1);
             reader.key(Key::escape);
         });
+        stock.status().say("Gelöscht", "&Rückgängig", [] {});
         user.key(Key::f1);
         for (const ui::Grid::Row& row :
              std::vector<ui::Grid::Row>{{"Einfg", "Neu"},
@@ -377,6 +378,7 @@ TEST_F(GridRules, CtrlSSavesAndF1ShowsTheKeysOfTheWindow) {
                                         {"Entf", "Löschen"},
                                         {"Alt+B", "Bearbeiten"},
                                         {"Strg+S", "Speichern"},
+                                        {"Alt+R", "Rückgängig"},
                                         {"Strg+V", "ab der aktuellen Zelle einfügen"},
                                         {"Esc", "Fenster schließen"}})
             EXPECT_EQ(std::ranges::count(keys, row), 1) << row.front() << " " << row.back();

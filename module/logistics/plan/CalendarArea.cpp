@@ -373,10 +373,12 @@ void CalendarArea::discard() {
 }
 
 void CalendarArea::cancel() {
+    const bool discards = changed();
     if (removeUnfinished()) reload(std::nullopt);
     clearBoxes();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(DataGridKalendar);
+    if (discards) undo_.say(words(OwnText::changesDiscarded));
 }
 
 void CalendarArea::removeWeek() {

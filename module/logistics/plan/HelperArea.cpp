@@ -101,8 +101,11 @@ void HelperArea::connect() {
     btnXLS.onClick = [this] {
         services_.spreadsheets.exportTable(contract_.session, helperExport(helpers_, MSFG),
                                            "Vertrag: " + contract_.name);
+        say(OwnText::tableExported);
     };
-    btnSerienmail.onClick = [this] { mailHelpers(contract_, contract_.record); };
+    btnSerienmail.onClick = [this] {
+        if (mailHelpers(contract_, contract_.record)) say(OwnText::mailHandedOver);
+    };
 }
 
 ui::Layout HelperArea::layout() {
@@ -223,8 +226,10 @@ void HelperArea::save() {
 }
 
 void HelperArea::cancel() {
+    const bool discards = changed();
     reload(std::nullopt);
     parts::SafeSetFocus(MSFG);
+    if (discards) say(OwnText::changesDiscarded);
 }
 
 void HelperArea::addOne() {

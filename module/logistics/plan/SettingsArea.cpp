@@ -280,9 +280,11 @@ void SettingsArea::startEdit() {
 }
 
 void SettingsArea::cancel() {
+    const bool discards = changed();
     LoadSettings();
     mode_.enter(parts::EditMode::State::view);
     parts::SafeSetFocus(btnBearbeiten);
+    if (discards) undo_.say(base::ownText(OwnText::changesDiscarded, contract_.session.language));
 }
 
 void SettingsArea::save() {

@@ -222,8 +222,10 @@ void F_Bereitstellung_WVO::startEdit() {
 }
 
 void F_Bereitstellung_WVO::cancel() {
+    const bool discards = table_.hasTyped();
     reload();
     parts::SafeSetFocus(MSFG);
+    if (discards) status().say(own(OwnText::changesDiscarded));
 }
 
 void F_Bereitstellung_WVO::save() {
@@ -253,6 +255,7 @@ void F_Bereitstellung_WVO::exportTable(bool internal) {
                               std::to_string(week_.week) + " (" + txtKalenderTage.text() + ")";
     services_.spreadsheets.exportTable(session_,
                                        spreadsheetParameters("0;;;0;;;;0;;0;", table_.text(internal)), title);
+    status().say(own(OwnText::tableExported));
 }
 
 void F_Bereitstellung_WVO::showLoadsByWeek() {

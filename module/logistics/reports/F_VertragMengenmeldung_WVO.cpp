@@ -154,14 +154,19 @@ bool F_VertragMengenmeldung_WVO::escape() {
 }
 
 void F_VertragMengenmeldung_WVO::cancel() {
+    const bool discards = quantities_.changed();
     load();
     parts::SafeSetFocus(MSFG);
+    if (discards) status().say(base::ownText(base::OwnText::changesDiscarded, session_.language));
 }
 
 void F_VertragMengenmeldung_WVO::exportListings() {
     const ui::BusyPointer busy{services_.display};
-    for (const QuantityListing& listing : quantityListings())
+    const std::vector<QuantityListing> listings = quantityListings();
+    for (const QuantityListing& listing : listings)
         services_.spreadsheets.exportTable(session_, listing.parameters(*session_.connection), listing.title);
+    status().say(
+        base::ownText(base::OwnText::tablesExported, session_.language, {std::to_string(listings.size())}));
 }
 
 bool F_VertragMengenmeldung_WVO::queryUnload() {

@@ -2,6 +2,7 @@
 
 #include "module/base/field_text.h"
 #include "module/logistics/week_chart.h"
+#include "module/parts/grids/grid_layout.h"
 #include "module/ui/input/control_keys.h"
 
 #include <algorithm>
@@ -13,11 +14,11 @@ F_ZuegeJeWoche::F_ZuegeJeWoche(host::HostServices& services)
     grdWochen.setColumns({{.caption = "Jahr/Woche", .width = 12},
                           {.caption = "Züge", .width = 12, .rightAligned = true},
                           {.caption = "Züge zugesagt", .width = 16, .rightAligned = true}});
-    grdWochen.onCurrentChange = [this] { chtZuege.mark(grdWochen.currentRow()); };
+    grdWochen.onCurrentChange = [this] { mark(); };
     grdWochen.onDoubleClick = [this] { choose(); };
     chtZuege.onSelect = [this](int bar) {
         setFocus(grdWochen);
-        ui::choose(grdWochen, bar, grdWochen.currentColumn());
+        ui::choose(grdWochen, sorting_.rowOf(static_cast<std::size_t>(bar)), grdWochen.currentColumn());
     };
     btnWaehlen.onClick = [this] { choose(); };
     btnSchliessen.onClick = [this] { unload(); };
@@ -36,7 +37,9 @@ std::optional<base::IsoWeek> F_ZuegeJeWoche::Run(const host::TlxVar& session, co
     services_.localizer.localize(session, *this);
     lblVertrag.setCaption(contract);
     show(session, week);
+    parts::GridLayouts layouts{services_, session, *this};
     services_.display.showModal(*this);
+    layouts.keep();
     return chosen_;
 }
 
@@ -62,18 +65,24 @@ void F_ZuegeJeWoche::show(const host::TlxVar& session, const ReportWeek& week) {
         bars.push_back({weekName(found), std::move(values), std::move(words)});
     }
     const auto at = std::ranges::find(weeks_, base::IsoWeek{week.year, week.week});
-    grdWochen.setRows(std::move(rows));
-    grdWochen.setCurrent(at == weeks_.end() ? 0 : static_cast<int>(at - weeks_.begin()));
+    sorting_.show(std::move(rows));
+    if (at != weeks_.end())
+        grdWochen.setCurrent(sorting_.rowOf(static_cast<std::size_t>(at - weeks_.begin())));
     chtZuege.setSeries({grdWochen.columns()[1].caption, grdWochen.columns()[2].caption});
     chtZuege.setBars(std::move(bars));
     chtZuege.setToday(placeOf(services_.clock.today(), weeks_));
-    chtZuege.mark(grdWochen.currentRow());
+    mark();
     btnWaehlen.setEnabled(!weeks_.empty());
+}
+
+void F_ZuegeJeWoche::mark() {
+    const int row = grdWochen.currentRow();
+    chtZuege.mark(row == ui::Grid::none ? ui::Chart::none : static_cast<int>(sorting_.originOf(row)));
 }
 
 void F_ZuegeJeWoche::choose() {
     if (grdWochen.currentRow() == ui::Grid::none) return;
-    chosen_ = weeks_.at(static_cast<std::size_t>(grdWochen.currentRow()));
+    chosen_ = weeks_.at(sorting_.originOf(grdWochen.currentRow()));
     unload();
 }
 

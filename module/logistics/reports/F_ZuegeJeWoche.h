@@ -9,6 +9,7 @@
 #include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/Label.h"
+#include "module/ui/input/TextSorting.h"
 
 #include <optional>
 #include <string>
@@ -30,14 +31,16 @@ public:
 
 private:
     void show(const host::TlxVar& session, const ReportWeek& week);
+    void mark();
     void choose();
 
     host::HostServices& services_;
-    std::vector<base::IsoWeek> weeks_; ///< of the rows and of the bars
+    std::vector<base::IsoWeek> weeks_; ///< of the bars, and of the rows as they were given
     std::optional<base::IsoWeek> chosen_;
 
     ui::Label lblVertrag{*this, "lblVertrag"};
     ui::Grid grdWochen{*this, "grdWochen", 16};
+    ui::TextSorting sorting_{grdWochen, services_.locale};
     ui::Frame frmZuege{*this, "frmZuege", "Züge je Woche"};
     ui::Chart chtZuege{*this, "chtZuege"};
     ui::Button btnWaehlen{*this, "btnWaehlen", "Woche &wählen"};

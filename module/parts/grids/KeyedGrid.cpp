@@ -46,6 +46,7 @@ void KeyedGrid::setColumns(std::vector<Column> columns) {
     grid_.setColumns(std::move(shown));
     drawOpenColumns();
     if (std::ranges::find(columns_, true, &Column::sorts) == columns_.end()) return;
+    grid_.onLayoutRestored = [this] { takeOrder(); };
     grid_.onHeadingClick = [this](int column) {
         if (!columns_.at(static_cast<std::size_t>(column)).sorts) return;
         const auto now = sorting();

@@ -7,10 +7,6 @@ namespace tellurix::parts {
 
 namespace {
 
-std::string keyOf(const ui::Grid& grid) {
-    return grid.form().name() + "." + grid.name();
-}
-
 /// Whether two grids look the same, whatever their headings say: those change with the language.
 bool sameLayout(const std::vector<ui::Grid::Column>& left, const std::vector<ui::Grid::Column>& right) {
     return std::ranges::equal(left, right, [](const ui::Grid::Column& a, const ui::Grid::Column& b) {
@@ -29,24 +25,27 @@ void keepLayout(host::HostServices& services, const host::TlxVar& session, const
     }
 }
 
-GridLayouts::GridLayouts(host::HostServices& services, const host::TlxVar& session, const ui::Form& form)
+GridLayouts::GridLayouts(host::HostServices& services, const host::TlxVar& session, const ui::Form& form,
+                         const std::string& what)
     : services_(services), session_(session) {
     for (ui::Control* control : form.controls()) {
         ui::Grid* grid = ui::as<ui::Grid>(control);
         if (grid == nullptr) continue;
+        const std::string key = form.name() + "." + grid->name() + (what.empty() ? "" : "." + what);
         try {
-            services_.gridLayouts.restore(session_, *grid, keyOf(*grid));
+            services_.gridLayouts.restore(session_, *grid, key);
+            grid->onLayoutRestored();
         } catch (const std::exception& error) {
             services_.errors.report(error);
         }
-        grids_.emplace_back(grid, grid->columns());
+        grids_.push_back({grid, key, grid->columns()});
     }
 }
 
 void GridLayouts::keep() {
-    for (auto& [grid, columns] : grids_) {
+    for (auto& [grid, key, columns] : grids_) {
         if (sameLayout(grid->columns(), columns)) continue;
-        keepLayout(services_, session_, *grid, keyOf(*grid));
+        keepLayout(services_, session_, *grid, key);
         columns = grid->columns();
     }
 }

@@ -4,7 +4,6 @@
 #include "module/ui/Form.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace tellurix::parts {
@@ -20,7 +19,9 @@ void keepLayout(host::HostServices& services, const host::TlxVar& session, const
 class GridLayouts {
 public:
     /// @param session has to live as long; the columns of all grids are there
-    GridLayouts(host::HostServices& services, const host::TlxVar& session, const ui::Form& form);
+    /// @param what the form shows, where it shows one thing now and another then: each has its own layout
+    GridLayouts(host::HostServices& services, const host::TlxVar& session, const ui::Form& form,
+                const std::string& what = {});
 
     /// Keeps those that are others than when they were shown or kept last.
     void keep();
@@ -28,7 +29,12 @@ public:
 private:
     host::HostServices& services_;
     const host::TlxVar& session_;
-    std::vector<std::pair<ui::Grid*, std::vector<ui::Grid::Column>>> grids_;
+    struct Kept {
+        ui::Grid* grid;
+        std::string key;
+        std::vector<ui::Grid::Column> columns;
+    };
+    std::vector<Kept> grids_;
 };
 
 } // namespace tellurix::parts

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "module/base/own_text.h"
 #include "module/ui/Handlers.h"
 #include "module/ui/input/keys.h"
 
@@ -8,6 +9,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tellurix::ui {
 
@@ -98,6 +100,11 @@ public:
     /// rules of input. A handler that used the key up sets `key` to Key::none.
     Handlers<void(KeyDown&)> onKeyDown;
 
+    /// What `onKeyDown` makes of keys, for the list of keys (F1): each text has a place for what the control
+    /// is called.
+    const std::vector<base::OwnText>& ownKeys() const { return ownKeys_; }
+    void setOwnKeys(std::vector<base::OwnText> keys) { ownKeys_ = std::move(keys); }
+
     bool dirty() const { return dirty_; }
     /// It has to be drawn again, because a display may show something else.
     void markDirty() { dirty_ = true; }
@@ -122,6 +129,7 @@ private:
     std::string toolTip_;
     std::string warning_;
     std::string error_;
+    std::vector<base::OwnText> ownKeys_;
     /// The frame or tab page around this control, as the layout says it; null at the top.
     Control* container_ = nullptr;
     int page_ = -1; ///< within tabs: the page it stands on

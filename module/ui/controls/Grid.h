@@ -149,6 +149,8 @@ public:
     Handlers<void(const std::string&)> onPaste;
     /// The user made a column wider or narrower.
     Handlers<void()> onColumnSized;
+    /// The columns are as the user had left them: whoever orders the rows does it by their mark.
+    Handlers<void()> onLayoutRestored;
     /// The user scrolled while a cell was being edited, which ends with it; told at other times it means
     /// nothing.
     Handlers<void()> onScroll;

@@ -32,6 +32,7 @@ bool orderBy(std::vector<std::size_t>& order, const std::vector<std::string>& te
 
 TextSorting::TextSorting(Grid& grid, const base::Locale& locale) : grid_(grid), locale_(locale) {
     grid_.onHeadingClick = [this](int column) { sortBy(column); };
+    grid_.onLayoutRestored = [this] { takeOrder(); };
 }
 
 void TextSorting::sortBy(int column) {
@@ -53,6 +54,10 @@ void TextSorting::show(std::vector<Grid::Row> rows) {
     draw(0);
 }
 
+int TextSorting::rowOf(std::size_t origin) const {
+    return static_cast<int>(std::ranges::find(origins_, origin) - origins_.begin());
+}
+
 void TextSorting::draw(std::size_t current) {
     origins_.resize(rows_.size());
     std::iota(origins_.begin(), origins_.end(), std::size_t{0});
@@ -72,9 +77,7 @@ void TextSorting::draw(std::size_t current) {
     for (const std::size_t row : origins_)
         ordered.push_back(rows_[row]);
     grid_.setRows(std::move(ordered));
-    const auto found = std::ranges::find(origins_, current);
-    if (found != origins_.end())
-        grid_.setCurrent(static_cast<int>(found - origins_.begin()), grid_.currentColumn());
+    if (current < origins_.size()) grid_.setCurrent(rowOf(current), grid_.currentColumn());
 }
 
 } // namespace tellurix::ui

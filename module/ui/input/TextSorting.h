@@ -18,13 +18,15 @@ public:
 
     /// Shows other rows, in the order that is marked.
     void show(std::vector<Grid::Row> rows);
-    /// Orders the rows as the columns are marked, after somebody else has marked them.
-    void takeOrder();
     /// Which of the rows that were given stands in a row of the grid.
     std::size_t originOf(int row) const { return origins_.at(static_cast<std::size_t>(row)); }
+    /// The row in which one of those that were given stands.
+    int rowOf(std::size_t origin) const;
 
 private:
     void sortBy(int column);
+    /// Orders the rows as the columns are marked.
+    void takeOrder();
     /// @param current of the rows that were given, the one that is the current one
     void draw(std::size_t current);
 

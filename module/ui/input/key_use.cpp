@@ -24,7 +24,7 @@ struct Row {
 };
 
 /// The first row that fits counts. Without one the key is the native control's.
-constexpr std::array<Row, 32> keyTable{{
+constexpr std::array<Row, 33> keyTable{{
     {ControlKind::button, Keys::space, When::always, KeyUse::rules},
     {ControlKind::checkBox, Keys::space, When::always, KeyUse::rules},
     {ControlKind::tabs, Keys::sideways, When::always, KeyUse::rules},
@@ -33,6 +33,7 @@ constexpr std::array<Row, 32> keyTable{{
     {ControlKind::comboBox, Keys::upOrDown, When::always, KeyUse::rules},
     {ControlKind::comboBox, Keys::page, When::always, KeyUse::rules},
     {ControlKind::comboBox, Keys::toAnEnd, When::always, KeyUse::rules},
+    {ControlKind::comboBox, Keys::erasing, When::listening, KeyUse::rules},
     {ControlKind::listBox, Keys::upOrDown, When::always, KeyUse::rules},
     {ControlKind::listBox, Keys::page, When::always, KeyUse::rules},
     {ControlKind::listBox, Keys::toAnEnd, When::always, KeyUse::rules},

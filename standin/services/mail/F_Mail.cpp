@@ -9,7 +9,7 @@ namespace tellurix::standin {
 
 namespace {
 
-constexpr const char* getsIt = "✓";
+constexpr int tickColumn = 0;
 constexpr int textLines = 10;
 
 } // namespace
@@ -19,7 +19,7 @@ F_Mail::F_Mail(ui::Display& display, Draft draft, Words words)
       recipients_(std::move(draft.recipients)),
       count_(std::move(words.count)) {
     lblKind.setCaption(std::move(words.kind));
-    grdRecipients.setColumns({{.caption = getsIt, .width = 3},
+    grdRecipients.setColumns({{.caption = "✓", .width = 3},
                               {.caption = "Empfänger", .width = 44},
                               {.caption = "Hinweis", .width = 26}});
     txtText.setLines(textLines);
@@ -40,20 +40,31 @@ F_Mail::F_Mail(ui::Display& display, Draft draft, Words words)
     grdRecipients.setCurrent(0, 1);
 }
 
+std::string F_Mail::tickBox(const Recipient& recipient) {
+    if (!recipient.reachable) return {};
+    return recipient.gets ? ui::Grid::ticked : ui::Grid::unticked;
+}
+
 void F_Mail::toggle() {
-    if (grdRecipients.currentRow() == ui::Grid::none) return;
-    Recipient& recipient = recipients_[static_cast<std::size_t>(grdRecipients.currentRow())];
+    const int row = grdRecipients.currentRow();
+    if (row == ui::Grid::none) return;
+    Recipient& recipient = recipients_[sorting_.originOf(row)];
     if (!recipient.reachable) return;
     recipient.gets = !recipient.gets;
     toggled_ = true;
-    showRecipients();
+    grdRecipients.setCell(row, tickColumn, tickBox(recipient));
+    showCount();
 }
 
 void F_Mail::showRecipients() {
     std::vector<ui::Grid::Row> rows;
     for (const Recipient& recipient : recipients_)
-        rows.push_back({recipient.gets ? getsIt : "", recipient.address, recipient.note});
-    grdRecipients.setRows(std::move(rows));
+        rows.push_back({tickBox(recipient), recipient.address, recipient.note});
+    sorting_.show(std::move(rows));
+    showCount();
+}
+
+void F_Mail::showCount() {
     const auto count = std::ranges::count_if(recipients_, &Recipient::gets);
     lblCount.setCaption(base::filled(count_, {std::to_string(count), std::to_string(recipients_.size())}));
     btnSend.setEnabled(count > 0);

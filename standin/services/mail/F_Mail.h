@@ -3,6 +3,7 @@
 #include "module/ui/controls/Button.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
+#include "module/ui/input/TextSorting.h"
 #include "standin/services/AskingForm.h"
 
 #include <optional>
@@ -40,7 +41,10 @@ public:
 private:
     bool changed() const override { return toggled_ || txtSubject.touched() || txtText.touched(); }
     void toggle();
+    /// None for somebody who cannot be reached.
+    static std::string tickBox(const Recipient& recipient);
     void showRecipients();
+    void showCount();
     void send();
 
     std::vector<Recipient> recipients_;
@@ -50,6 +54,7 @@ private:
 
     ui::Label lblKind{*this, "lblKind"};
     ui::Grid grdRecipients{*this, "grdRecipients", 8};
+    ui::TextSorting sorting_{grdRecipients, base::Locale::german()};
     ui::Label lblCount{*this, "lblCount"};
     ui::Label lblSubject{*this, "lblSubject", "&Betreff"};
     ui::TextBox txtSubject{*this, "txtSubject", 70};

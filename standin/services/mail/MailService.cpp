@@ -123,14 +123,13 @@ bool MailService::send() {
     const char* kindWords = kind == RecipientKind::blindCopy ? "mail.bcc"
                             : kind == RecipientKind::copy    ? "mail.cc"
                                                              : "mail.to";
-    F_Mail form{display_,
+    F_Mail form{dialogs_.display(),
                 draft(),
                 // The subject says what it is about: it names the contract.
                 {.title = parts::titleWith(words("mail.title"), base::trim(subject_).empty() ? "" : subject_),
                  .kind = words(kindWords) + (setting("MAILSERVER").empty() ? " " + words("mail.asFile") : ""),
                  .count = words("mail.count")}};
-    localizer_.localize(session_, form);
-    display_.showModal(form);
+    dialogs_.show(session_, form);
     if (!form.sent()) return false;
     MailMessage message{newMessageId(),       setting("MAILFROM"), kind, {},
                         form.sent()->subject, form.sent()->text};
@@ -139,14 +138,14 @@ bool MailService::send() {
     const auto before =
         std::ranges::find_if(maybeSent_, [&](const MailMessage& sent) { return repeats(sent, message); });
     if (before != maybeSent_.end()) {
-        if (display_.messageBox(words("mail.again"),
-                                ui::box::yesNo | ui::box::exclamation | ui::box::defaultButton2,
-                                words("mail.title")) != ui::Answer::yes)
+        if (dialogs_.display().messageBox(words("mail.again"),
+                                          ui::box::yesNo | ui::box::exclamation | ui::box::defaultButton2,
+                                          words("mail.title")) != ui::Answer::yes)
             return false;
         // Under the same identification, by which a mailbox that has it already can tell.
         if (before->text == message.text) message.id = before->id;
     }
-    const ui::BusyPointer busy{display_};
+    const ui::BusyPointer busy{dialogs_.display()};
     try {
         deliver(message);
     } catch (const NotSent& failure) {
@@ -175,7 +174,7 @@ void MailService::leaveAsFile(const MailMessage& message) {
     const std::string name = fileNameOf(message);
     const std::string outbox = setting("MAILOUTBOX");
     if (outbox.empty()) {
-        display_.presentFile(name, text);
+        dialogs_.display().presentFile(name, text);
         return;
     }
     const fs::path file = fs::path{outbox} / name;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/host/document_services.h"
+#include "standin/services/Dialogs.h"
 #include "standin/services/mail/F_Mail.h"
 #include "standin/services/mail/mail_server.h"
 #include "standin/services/texts/Localizer.h"
@@ -24,8 +25,8 @@ namespace tellurix::standin {
 /// | MAILRECIPIENTS | BCC (the default), TO or CC |
 class MailService final : public host::MailSession {
 public:
-    MailService(ui::Display& display, Localizer& localizer, host::NamedSettings& settings)
-        : display_(display), localizer_(localizer), settings_(settings) {}
+    MailService(Dialogs& dialogs, Localizer& localizer, host::NamedSettings& settings)
+        : dialogs_(dialogs), localizer_(localizer), settings_(settings) {}
 
     void signOn(const host::TlxVar& session) override;
     void compose() override;
@@ -42,7 +43,7 @@ private:
     void deliver(const MailMessage& message);
     void leaveAsFile(const MailMessage& message);
 
-    ui::Display& display_;
+    Dialogs& dialogs_;
     Localizer& localizer_;
     host::NamedSettings& settings_;
     host::TlxVar session_;

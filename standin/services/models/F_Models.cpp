@@ -31,17 +31,20 @@ F_Models::F_Models(ui::Display& display, ModelStore store, std::vector<std::stri
                          {.caption = "Bezugszeile(n)", .width = 12},
                          {.caption = "Subset", .width = 24}});
     connect();
-    setLayout(ui::column({ui::row({ui::frame(frmModels, {ui::Layout{grdModels}.growing()}),
-                                   ui::frame(frmLines, {ui::Layout{grdLines}.growing()}).growing()})
-                              .growing(),
-                          ui::row({ui::field(lblName, txtName), btnSave, btnRename, btnDelete}),
-                          ui::bar({}, {}, {btnClose})}));
+    setLayout(ui::column(
+        {ui::row({ui::frame(frmModels, {ui::Layout{grdModels}.growing()}),
+                  ui::frame(frmLines, {ui::Layout{grdLines}.growing()}).growing()})
+             .growing(),
+         ui::row({ui::field(lblName, txtName), ui::Layout{btnSave}.primary(), btnRename, btnDelete}),
+         ui::bar({}, {}, {btnClose})}));
     load(current);
 }
 
 void F_Models::connect() {
     txtName.setMaxLength(longestName);
     grdModels.onCurrentChange = [this] { showModel(); };
+    grdModels.onDoubleClick = [this] { parts::SafeSetFocus(txtName); };
+    grdModels.pressOn(ui::Key::del, btnDelete);
     btnSave.onClick = [this] { save(); };
     btnRename.onClick = [this] { rename(); };
     btnDelete.onClick = [this] { remove(); };
@@ -54,15 +57,16 @@ void F_Models::load(const std::string& name) {
     std::vector<ui::Grid::Row> rows;
     for (const ModelStore::Model& model : models_)
         rows.push_back({model.name});
-    grdModels.setRows(std::move(rows));
+    sorting_.show(std::move(rows));
     const auto found = std::ranges::find(models_, name, &ModelStore::Model::name);
-    grdModels.setCurrent(found == models_.end() ? 0 : static_cast<int>(found - models_.begin()));
+    if (found != models_.end())
+        grdModels.setCurrent(sorting_.rowOf(static_cast<std::size_t>(found - models_.begin())));
     showModel();
 }
 
 const ModelStore::Model* F_Models::current() const {
     const int row = grdModels.currentRow();
-    return row == ui::Grid::none ? nullptr : &models_[static_cast<std::size_t>(row)];
+    return row == ui::Grid::none ? nullptr : &models_[sorting_.originOf(row)];
 }
 
 void F_Models::showModel() {
@@ -97,6 +101,7 @@ void F_Models::save() {
     if (name.empty() || (store_.find(name) && !confirmed("models.replace", name))) return;
     saved_ = store_.save(name, present_);
     load(name);
+    say("models.saved", name);
 }
 
 void F_Models::rename() {
@@ -107,14 +112,21 @@ void F_Models::rename() {
         throw base::Refused{base::filled(texts_("models.nameTaken"), {name})};
     store_.rename(model->id, name);
     load(name);
+    say("models.renamed", name);
 }
 
 void F_Models::remove() {
     const ModelStore::Model* model = current();
     if (model == nullptr || !confirmed("models.delete", model->name)) return;
     if (model->id == saved_) saved_ = 0;
+    const std::string name = model->name;
     store_.remove(model->id);
     load("");
+    say("models.deleted", name);
+}
+
+void F_Models::say(std::string_view key, const std::string& name) {
+    status().say(base::filled(texts_(key), {name}));
 }
 
 bool F_Models::confirmed(std::string_view key, const std::string& name) {

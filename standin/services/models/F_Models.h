@@ -4,6 +4,7 @@
 #include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Grid.h"
 #include "module/ui/controls/TextBox.h"
+#include "module/ui/input/TextSorting.h"
 #include "standin/services/AskingForm.h"
 #include "standin/services/models/ModelStore.h"
 
@@ -42,6 +43,7 @@ private:
     void rename();
     void remove();
     bool confirmed(std::string_view key, const std::string& name);
+    void say(std::string_view key, const std::string& name);
 
     ModelStore store_;
     std::vector<std::string> statistics_;
@@ -53,6 +55,7 @@ private:
     ui::Frame frmModels{*this, "frmModels", "Modelle"};
     ui::Frame frmLines{*this, "frmLines", "Zeilen des Modells"};
     ui::Grid grdModels{*this, "grdModels", 12};
+    ui::TextSorting sorting_{grdModels, base::Locale::german()};
     ui::Grid grdLines{*this, "grdLines", 12};
     ui::Label lblName{*this, "lblName", "&Name"};
     ui::TextBox txtName{*this, "txtName", 40};

@@ -38,14 +38,13 @@ void ModelsService::copy(const host::TlxVar& session, const std::string& categor
 void ModelsService::manage(const host::TlxVar& session, const std::string& category,
                            host::CalculationForm& form, ui::ComboBox& list) {
     const std::string current = list.selectedText();
-    F_Models dialog{display_,
+    F_Models dialog{dialogs_.display(),
                     ModelStore{*session.connection, category},
                     statistics(*session.connection),
                     form.lines(),
                     [&](std::string_view key) { return localizer_.named(key, session); },
                     current};
-    localizer_.localize(session, dialog);
-    display_.showModal(dialog);
+    dialogs_.show(session, dialog);
     fill(session, list, category);
     list.selectItemData(dialog.saved());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "standin/services/Dialogs.h"
 #include "standin/services/texts/Localizer.h"
 
 namespace tellurix::standin {
@@ -7,7 +8,7 @@ namespace tellurix::standin {
 /// The named models of surcharge and deduction lines, managed in a dialog.
 class ModelsService final : public host::ModelService {
 public:
-    ModelsService(ui::Display& display, Localizer& localizer) : display_(display), localizer_(localizer) {}
+    ModelsService(Dialogs& dialogs, Localizer& localizer) : dialogs_(dialogs), localizer_(localizer) {}
 
     void fill(const host::TlxVar& session, ui::ComboBox& list, const std::string& category) override;
     /// @throws base::Refused when somebody else has deleted the model
@@ -17,7 +18,7 @@ public:
                 ui::ComboBox& list) override;
 
 private:
-    ui::Display& display_;
+    Dialogs& dialogs_;
     Localizer& localizer_;
 };
 

@@ -46,6 +46,8 @@ F_Calendar::F_Calendar(std::string title, Date start, Date today, const base::Lo
 
 void F_Calendar::connect(Date today) {
     grdDays.onKeyDown = [this](ui::KeyDown& key) { handleKey(key); };
+    grdDays.setOwnKeys({base::OwnText::keyDays, base::OwnText::keyMonths, base::OwnText::keyEndsOfMonth,
+                        base::OwnText::keyTake});
     grdDays.onKeyPress = [](char32_t& character) { character = 0; }; // no week begins with a letter
     grdDays.onCurrentChange = [this] { goToCell(); };
     grdDays.onDoubleClick = [this] {

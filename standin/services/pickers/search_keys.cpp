@@ -40,6 +40,7 @@ void connectSearch(ui::TextBox& search, ui::Grid& list, std::function<void()> ch
                 ui::choose(list, std::clamp(list.currentRow() + step, 0, last), list.currentColumn());
         }
     };
+    search.setOwnKeys({base::OwnText::keyFound, base::OwnText::keyFoundOn});
     search.onChange.before([&search, &list] { sayNothingFound(search, list); });
     list.onDoubleClick = std::move(choose);
 }

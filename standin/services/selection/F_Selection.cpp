@@ -51,11 +51,8 @@ void F_Selection::connect() {
     btnRemove.onClick = [this] { remove(); };
     grdConditions.onCurrentChange = [this] { showAnother(); };
     grdConditions.onDoubleClick = [this] { parts::SafeSetFocus(cboAttribute); };
-    grdConditions.onKeyDown = [this](ui::KeyDown& key) {
-        if (key.key != ui::Key::del) return;
-        key.key = ui::Key::none;
-        remove();
-    };
+    grdConditions.pressOn(ui::Key::insert, btnAdd);
+    grdConditions.pressOn(ui::Key::del, btnRemove);
     cboJoiner.onChange = [this] { changeJoiner(); };
     cboAttribute.onChange = [this] { changeAttribute(); };
     cboComparison.onChange = [this] { changeComparison(); };
@@ -96,6 +93,7 @@ void F_Selection::remove() {
     drawConditions();
     showAnother();
     if (draft_.current() == nullptr) parts::SafeSetFocus(btnAdd);
+    status().say(words_.named("removed"));
 }
 
 void F_Selection::takeOver() {

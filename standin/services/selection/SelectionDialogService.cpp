@@ -43,16 +43,15 @@ std::optional<std::string> SelectionDialogService::edit(const host::TlxVar& sess
     try {
         present = SelectionExpression::parse(value);
     } catch (const base::Refused& unreadable) {
-        parts::ShowMessage(display_,
+        parts::ShowMessage(dialogs_.display(),
                            filled(words.named("unreadable"), {unreadable.message(session.language)}),
                            ui::box::exclamation, words.named("title"));
     }
     F_Selection::Choices choices;
     for (const AttributeKind& kind : timberAttributes())
         choices[kind.attribute] = choicesOf(session, kind);
-    F_Selection form{display_, words, std::move(choices), std::move(present)};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    F_Selection form{dialogs_.display(), words, std::move(choices), std::move(present)};
+    dialogs_.show(session, form);
     if (!form.chosen()) return std::nullopt;
     return form.chosen()->print();
 }

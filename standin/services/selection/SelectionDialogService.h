@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/base/Locale.h"
+#include "standin/services/Dialogs.h"
 #include "standin/services/texts/Localizer.h"
 
 #include <optional>
@@ -13,8 +14,8 @@ namespace tellurix::standin {
 /// he takes over replaces it.
 class SelectionDialogService final : public host::SelectionDialog {
 public:
-    SelectionDialogService(ui::Display& display, Localizer& localizer, const base::Locale& locale)
-        : display_(display), localizer_(localizer), locale_(locale) {}
+    SelectionDialogService(Dialogs& dialogs, Localizer& localizer, const base::Locale& locale)
+        : dialogs_(dialogs), localizer_(localizer), locale_(locale) {}
 
     /// @throws std::invalid_argument for a key that names no line
     std::optional<std::string> select(const host::TlxVar& session, const std::string& key,
@@ -25,7 +26,7 @@ public:
                                     const std::string& out2) override;
 
 private:
-    ui::Display& display_;
+    Dialogs& dialogs_;
     Localizer& localizer_;
     base::Locale locale_;
 };

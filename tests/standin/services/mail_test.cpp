@@ -86,7 +86,7 @@ TEST_F(Mail, IsShownAndGoesAsABlindCopy) {
                    [](User& user) {
                        EXPECT_EQ(user.window().title(),
                                  "Nachricht senden – Information zum Vertrag Fichte für Müller");
-                       EXPECT_EQ(recipientsIn(user), "3001(keine Adresse) ✓a@example.com ✓b@example.com ");
+                       EXPECT_EQ(recipientsIn(user), "3001(keine Adresse) ☑a@example.com ☑b@example.com ");
                        EXPECT_EQ(user.caption("lblCount"), "2 von 3 Empfängern");
                        EXPECT_EQ(user.text("txtText"),
                                  "Sehr geehrter Waldhelfer,\r\n" + std::string(26, ' '));
@@ -117,6 +117,7 @@ TEST_F(Mail, TheUserDecidesWhoGetsIt) {
                    [](User& user) {
                        user.focus("grdRecipients");
                        user.key(Key::space);
+                       EXPECT_EQ(recipientsIn(user), "☐a@example.com ☑b@example.com ");
                        user.click("btnSend");
                    }),
               "sent");
@@ -140,7 +141,7 @@ TEST_F(Mail, IsSentForAllOrForNobodyAndNotTwice) {
     EXPECT_EQ(server.mail(1), "") << "not for the first one either";
     EXPECT_EQ(send(two,
                    [](User& user) {
-                       EXPECT_EQ(recipientsIn(user), "b@example.com(vom Server abgelehnt) ✓a@example.com ");
+                       EXPECT_EQ(recipientsIn(user), "☐b@example.com(vom Server abgelehnt) ☑a@example.com ");
                        user.click("btnSend");
                    }),
               "sent");

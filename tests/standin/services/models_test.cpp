@@ -60,7 +60,8 @@ TEST_F(Models, AreSavedRenamedAndDeleted) {
         EXPECT_EQ(user.text("txtName"), "Industrieholz frei Werk");
         EXPECT_EQ(user.grid("grdLines").cell(1, 1), "Manipulation");
         user.type("txtName", " Neu ");
-        user.click("btnSave");
+        user.ctrl('S');
+        EXPECT_EQ(user.status(), "Modell „Neu“ gespeichert");
         EXPECT_EQ(user.grid("grdModels").cell(1, 0), "Neu");
         EXPECT_EQ(user.grid("grdLines").rows().size(), 1U);
         user.close();
@@ -89,6 +90,7 @@ TEST_F(Models, AreSavedRenamedAndDeleted) {
         EXPECT_EQ(user.focused(), "txtName") << "no name with an apostrophe goes on lines";
         user.type("txtName", "Industrieholz");
         user.click("btnRename");
+        EXPECT_EQ(user.status(), "Das Modell heißt jetzt „Industrieholz“");
         EXPECT_EQ(user.grid("grdModels").cell(0, 0), "Industrieholz");
         display.onMessage("Namen");
         user.type("txtName", " ");
@@ -96,7 +98,14 @@ TEST_F(Models, AreSavedRenamedAndDeleted) {
         display.onMessage("„Industrieholz“ gelöscht", Answer::no);
         user.click("btnDelete");
         display.onMessage("„Industrieholz“ gelöscht", Answer::yes);
-        user.click("btnDelete");
+        user.focus("grdModels");
+        user.key(ui::Key::del);
+        EXPECT_EQ(user.status(), "Modell „Industrieholz“ gelöscht");
+        user.clickHeading("grdModels", 0);
+        user.clickHeading("grdModels", 0);
+        EXPECT_EQ(user.text("txtName"), user.grid("grdModels").cell(1, 0)) << "the row stays the current one";
+        user.select("grdModels", 0);
+        EXPECT_EQ(user.text("txtName"), user.grid("grdModels").cell(0, 0));
         user.close();
     });
     EXPECT_EQ(value("SELECT COUNT(*) FROM WORKBENCH_MODEL_LINE WHERE ID_MODEL = 2"), "0");

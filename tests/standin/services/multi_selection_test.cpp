@@ -148,8 +148,10 @@ TEST_F(MultiSelection, AnswersTheMarkedKeys) {
          std::nullopt},
     };
     display.onMessage("Verwerfen?", ui::Answer::yes);
-    for (const Case& c : cases)
+    for (const Case& c : cases) {
         EXPECT_EQ(chosen(c.marked, c.script), c.answer) << c.rule;
+        session.connection->execute("DELETE FROM WORKBENCH_GRID_LAYOUT");
+    }
 }
 
 TEST_F(MultiSelection, OffersWhomTheUserMaySee) {

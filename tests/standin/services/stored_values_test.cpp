@@ -3,6 +3,9 @@
 #include "module/ui/Form.h"
 #include "tests/standin/services/ServicesTest.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace tellurix::tests {
 namespace {
 
@@ -59,6 +62,99 @@ TEST_F(StoredValues, GridLayoutsAreKeptByUserAndKey) {
     EXPECT_EQ(widths(3), "10 10 10 ") << "another user's own";
     save({wide(5), wide(5), wide(5)});
     EXPECT_EQ(widths(3), "5 5 5 ");
+}
+
+TEST_F(StoredValues, EveryDialogKeepsItsGridsAndTellsTheirKeys) {
+    using ui::Key;
+    const auto lists = [this](const char* query) {
+        return [this, query] { host.listPicker.choose(session, query, "Auswahl", ""); };
+    };
+    struct Case {
+        const char* form;
+        const char* grid;
+        std::function<void()> open;
+        ui::Grid::Row key; ///< one of those that F1 shows
+    };
+    const Case cases[] = {
+        {"F_ListPicker",
+         "grdList",
+         lists("SELECT EINHEIT, EINHEIT_ID FROM WARENEINHEIT"),
+         {"Enter in „Filter“", "mit dem Treffer weiter"}},
+        {"F_PersonPicker",
+         "grdPersons",
+         [this] {
+             auto confirmed = host::Boolean16::False;
+             host.personalPicker.choose(session, "2PVK", 0, 0, 0, confirmed);
+         },
+         {"↑, ↓, Bild auf, Bild ab", "in den Treffern gehen, während in „Suche“ getippt wird"}},
+        {"F_MultiSelection",
+         "grdList",
+         [this] {
+             host.multiSelection.choose(session, "A", "SELECT ID_PERSONAL, NAME, ORT FROM PERSONAL", {});
+         },
+         {"Buchstaben", "suchen"}},
+        {"F_LookupGrid",
+         "grdList",
+         [this] {
+             host.lookupGridDialog.choose(session, host.settings.text(session, "HOLZART_GRID"), "Ha", "");
+         },
+         {"Leertaste", "Zeile wählen, noch einmal abwählen"}},
+        {"F_Mail",
+         "grdRecipients",
+         [this] {
+             host.mail.signOn(session);
+             host.mail.compose();
+             host.mail.addRecipient("a@example.com");
+             host.mail.addRecipient("b@example.com");
+             host.mail.send();
+         },
+         {"Enter", "wie ein Doppelklick auf die Zeile"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.form);
+        std::vector<ui::Grid::Row> order;
+        display.onWindow(c.form, [&](User& user) {
+            user.clickHeading(c.grid, 1);
+            user.clickHeading(c.grid, 1);
+            user.focus(c.grid);
+            user.key({.key = Key::right, .shift = true, .ctrl = true});
+            order = user.grid(c.grid).rows();
+            EXPECT_GT(order.size(), 1u);
+            display.onWindow("F_Tasten", [&](User& reader) {
+                const auto& keys = reader.grid("grdTasten").rows();
+                EXPECT_EQ(std::ranges::count(keys, c.key), 1);
+                reader.key(Key::escape);
+            });
+            user.key(Key::f1);
+            user.key(Key::escape);
+        });
+        c.open();
+        display.onWindow(c.form, [&](User& user) {
+            const ui::Grid& grid = user.grid(c.grid);
+            EXPECT_EQ(grid.rows(), order);
+            EXPECT_EQ(grid.columns()[1].order, ui::Grid::Order::descending);
+            EXPECT_TRUE(std::ranges::any_of(grid.columns(), &ui::Grid::Column::sized));
+            user.key(Key::escape);
+        });
+        c.open();
+    }
+    display.onWindow("F_ListPicker", [](User& user) {
+        EXPECT_FALSE(user.grid("grdList").columns()[0].sized) << "another list, though of as many columns";
+        user.key(Key::escape);
+    });
+    lists("SELECT SHORT, LONG FROM WVO_T_BELIEFERUNG")();
+    display.onWindow("F_Calendar", [this](User& user) {
+        display.onWindow("F_Tasten", [](User& reader) {
+            const auto& keys = reader.grid("grdTasten").rows();
+            const auto ends = std::ranges::find(keys, "Pos1, Ende", [](const auto& row) { return row[0]; });
+            ASSERT_NE(ends, keys.end());
+            EXPECT_EQ(ends->back(), "zum ersten, zum letzten Tag des Monats") << "and nothing else";
+            reader.key(Key::escape);
+        });
+        user.key(Key::f1);
+        user.key(Key::escape);
+    });
+    lists("DATUM")();
 }
 
 TEST_F(StoredValues, SettingsAndSingleValuesAreRead) {

@@ -22,6 +22,7 @@ export class Gauges extends View {
 
   draw() {
     const { headings, lines } = this.state;
+    this.element.setAttribute('aria-label', headings[0] ?? '');
     this.element.replaceChildren(
       make('thead', '', make('tr', '', ...headings.map((text) => heading('col', text)))),
       ...lines.map((line) => {

@@ -31,7 +31,7 @@ std::int32_t CatalogueSelectionService::choose(const host::TlxVar& session, cons
     auto article = session.connection->open(articleQuery(upperType, session.accessLevel));
     for (; !article->atEnd(); article->moveNext()) {
         list.entries.push_back({article->text("ART_ID"), article->text("BEZEICH1"),
-                                base::numberText(article->field("EINHPREIS"), "0.00", locale_),
+                                base::numberText(article->field("EINHPREIS"), "##,##0.00", locale_),
                                 article->text("SUBSET_DEF")});
     }
     F_ListPicker form{
@@ -39,8 +39,7 @@ std::int32_t CatalogueSelectionService::choose(const host::TlxVar& session, cons
         std::move(list),
         {.all = localizer_.named("list.count", session), .some = localizer_.named("list.more", session)},
         current > 0 ? std::to_string(current) : std::string{}};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    dialogs_.show(session, form, mode);
     return form.chosen() ? base::wholeNumber<std::int32_t>(form.chosen()->front()).value_or(0) : 0;
 }
 

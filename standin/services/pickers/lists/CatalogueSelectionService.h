@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/base/Locale.h"
+#include "standin/services/Dialogs.h"
 #include "standin/services/texts/Localizer.h"
 
 namespace tellurix::standin {
@@ -8,8 +9,8 @@ namespace tellurix::standin {
 /// Lists the articles that a contract type is offered and the user may see.
 class CatalogueSelectionService final : public host::CatalogueSelection {
 public:
-    CatalogueSelectionService(ui::Display& display, Localizer& localizer, const base::Locale& locale)
-        : display_(display), localizer_(localizer), locale_(locale) {}
+    CatalogueSelectionService(Dialogs& dialogs, Localizer& localizer, const base::Locale& locale)
+        : dialogs_(dialogs), localizer_(localizer), locale_(locale) {}
 
     /// Starts on the current article.
     /// @throws std::invalid_argument for a mode that is none
@@ -17,7 +18,7 @@ public:
                         std::int32_t current) override;
 
 private:
-    ui::Display& display_;
+    Dialogs& dialogs_;
     Localizer& localizer_;
     base::Locale locale_;
 };

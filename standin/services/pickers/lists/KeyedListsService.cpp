@@ -37,8 +37,7 @@ std::string KeyedListsService::choose(const host::TlxVar& session, const std::st
         ofContracts ? contracts(session, limits) : types(session),
         {.all = localizer_.named("list.count", session), .some = localizer_.named("list.more", session)},
         current};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    dialogs_.show(session, form, list);
     if (!form.chosen()) return {};
     return ofContracts ? form.chosen()->back() : form.chosen()->front();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "standin/services/Dialogs.h"
 #include "standin/services/pickers/lists/F_ListPicker.h"
 #include "standin/services/texts/Localizer.h"
 
@@ -8,8 +9,7 @@ namespace tellurix::standin {
 /// The lists of contracts and contract types, from `VERTRAEGE` with its column `VER_TYPE`.
 class KeyedListsService final : public host::KeyedLists {
 public:
-    KeyedListsService(ui::Display& display, Localizer& localizer)
-        : display_(display), localizer_(localizer) {}
+    KeyedListsService(Dialogs& dialogs, Localizer& localizer) : dialogs_(dialogs), localizer_(localizer) {}
 
     /// @throws std::invalid_argument for a list that does not exist
     std::string choose(const host::TlxVar& session, const std::string& list, const std::string& title,
@@ -22,7 +22,7 @@ private:
     F_ListPicker::List contracts(const host::TlxVar& session, const Limits& limits) const;
     F_ListPicker::List types(const host::TlxVar& session) const;
 
-    ui::Display& display_;
+    Dialogs& dialogs_;
     Localizer& localizer_;
 };
 

@@ -43,6 +43,8 @@ std::string ListPickerService::choose(const host::TlxVar& session, const std::st
 std::string ListPickerService::chooseEntry(const host::TlxVar& session, const std::string& query,
                                            const std::string& title, const std::string& current) {
     F_ListPicker::List list = listOf(*session.connection->open(choicesOf(query).value_or(query)));
+    // What the list shows is known by it in every language.
+    const std::string column = list.headings.front();
     for (std::string& heading : list.headings)
         heading = headingOf(session, heading);
     F_ListPicker form{
@@ -50,8 +52,7 @@ std::string ListPickerService::chooseEntry(const host::TlxVar& session, const st
         std::move(list),
         {.all = localizer_.named("list.count", session), .some = localizer_.named("list.more", session)},
         current};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    dialogs_.show(session, form, column);
     return form.chosen() ? form.chosen()->front() : current;
 }
 
@@ -59,8 +60,7 @@ std::string ListPickerService::chooseDay(const host::TlxVar& session, const std:
                                          const std::string& current) {
     const base::Date today = clock_.today();
     F_Calendar form{title, base::parseDate(current).value_or(today), today, locale_};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    dialogs_.show(session, form);
     return form.chosen() ? base::dateText(*form.chosen()) : current;
 }
 

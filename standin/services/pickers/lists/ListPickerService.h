@@ -2,6 +2,7 @@
 
 #include "module/base/Clock.h"
 #include "module/base/Locale.h"
+#include "standin/services/Dialogs.h"
 #include "standin/services/texts/Localizer.h"
 
 namespace tellurix::standin {
@@ -9,9 +10,9 @@ namespace tellurix::standin {
 /// Shows the rows of a query or of a named list in a list that can be narrowed, or a calendar.
 class ListPickerService final : public host::ListPicker {
 public:
-    ListPickerService(ui::Display& display, const base::Clock& clock, Localizer& localizer,
+    ListPickerService(Dialogs& dialogs, const base::Clock& clock, Localizer& localizer,
                       const base::Locale& locale)
-        : display_(display), clock_(clock), localizer_(localizer), locale_(locale) {}
+        : dialogs_(dialogs), clock_(clock), localizer_(localizer), locale_(locale) {}
 
     std::string choose(const host::TlxVar& session, const std::string& query, const std::string& title,
                        const std::string& current, const std::string& text) override;
@@ -22,7 +23,7 @@ private:
     std::string chooseDay(const host::TlxVar& session, const std::string& title, const std::string& current);
     std::string headingOf(const host::TlxVar& session, const std::string& column) const;
 
-    ui::Display& display_;
+    Dialogs& dialogs_;
     const base::Clock& clock_;
     Localizer& localizer_;
     base::Locale locale_;

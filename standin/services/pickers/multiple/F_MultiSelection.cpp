@@ -50,6 +50,7 @@ F_MultiSelection::F_MultiSelection(ui::Display& display, std::string title, List
     chkMarked.onClick = [this] { narrow(); };
     connectMarking(
         grdList, [this] { toggle(); }, [this] { takeOver(); });
+    grdList.setOwnKeys({base::OwnText::keyMark, base::OwnText::keyTake, base::OwnText::keySearches});
     grdList.onKeyPress = [this](char32_t& character) { searchOn(std::exchange(character, 0)); };
     grdList.onDoubleClick = [this] { toggle(); };
     btnMarkFound.onClick = [this] { markFound(true); };

@@ -32,15 +32,14 @@ std::optional<std::vector<std::int64_t>>
 MultiSelectionService::choose(const host::TlxVar& session, const std::string& list, const std::string& query,
                               const std::vector<std::int64_t>& marked) {
     const std::string title = localizer_.named("multi.title", session);
-    F_MultiSelection form{display_,
+    F_MultiSelection form{dialogs_.display(),
                           localizer_.namedOr("multi.title." + list, session, title),
                           read(*session.connection, query),
                           {.count = localizer_.named("multi.count", session),
                            .none = localizer_.named("multi.none", session),
                            .notOffered = localizer_.named("multi.notOffered", session)},
                           marked};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    dialogs_.show(session, form, list);
     return form.chosen();
 }
 

@@ -56,8 +56,7 @@ std::int32_t PersonPicker::choose(const host::TlxVar& session, const std::string
     const std::string title = localizer_.named("person.title", session);
     F_PersonPicker form{localizer_.namedOr("person.title." + mode, session, title), searched, typed,
                         std::move(found), start};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    dialogs_.show(session, form);
     const std::int32_t chosen = form.chosen().value_or(cancelled);
     if (chosen > 0) confirmed = host::Boolean16::True;
     return chosen;

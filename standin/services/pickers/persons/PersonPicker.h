@@ -1,5 +1,6 @@
 #pragma once
 
+#include "standin/services/Dialogs.h"
 #include "standin/services/pickers/persons/F_PersonPicker.h"
 #include "standin/services/texts/Localizer.h"
 
@@ -13,7 +14,7 @@ public:
     /// Answered when the user cancels; "Keine Auswahl" answers 0.
     static constexpr std::int32_t cancelled = -1;
 
-    PersonPicker(ui::Display& display, Localizer& localizer) : display_(display), localizer_(localizer) {}
+    PersonPicker(Dialogs& dialogs, Localizer& localizer) : dialogs_(dialogs), localizer_(localizer) {}
 
     /// Starts on the current person, or on the standard client where clients are chosen. `confirmed`
     /// becomes true when a person was chosen and stays as it is otherwise.
@@ -25,7 +26,7 @@ private:
     F_PersonPicker::Found search(const host::TlxVar& session, const std::string& modeColumn, int accessLevel,
                                  const std::string& typed) const;
 
-    ui::Display& display_;
+    Dialogs& dialogs_;
     Localizer& localizer_;
 };
 

@@ -40,7 +40,7 @@ void ChoiceList::show(std::vector<Choice> choices, std::vector<std::string> chos
     std::vector<ui::Grid::Row> rows;
     for (Choice& choice : choices)
         rows.push_back({"", std::move(choice.code), std::move(choice.name)});
-    grid_.setRows(std::move(rows));
+    sorting_.show(std::move(rows));
     drawMarks();
     const auto marked = std::ranges::find_if(grid_.rows(), [](const ui::Grid::Row& row) {
         return row[markColumn] == ui::Grid::ticked || row[markColumn] == mark;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "module/ui/controls/Grid.h"
+#include "module/ui/input/TextSorting.h"
 #include "standin/services/selection/timber_attributes.h"
 
 #include <functional>
@@ -41,6 +42,7 @@ private:
     void drawMarks();
 
     ui::Grid& grid_;
+    ui::TextSorting sorting_{grid_, base::Locale::german()};
     Captions captions_;
     std::vector<std::string> chosen_;
     bool several_ = true;

@@ -12,14 +12,13 @@ std::string LookupGridDialogService::choose(const host::TlxVar& session, const s
                                             const std::string& mode, const std::string& current) {
     const AttributeKind* kind = findAttribute(layout);
     if (kind == nullptr) throw std::invalid_argument{"Es gibt keine Auswahlliste „" + layout + "“."};
-    F_LookupGrid form{display_,
+    F_LookupGrid form{dialogs_.display(),
                       title,
                       SelectionWords{localizer_, session, locale_}.choiceCaptions(),
                       choicesOf(session, *kind),
                       codesOf(current),
                       mode == "01"};
-    localizer_.localize(session, form);
-    display_.showModal(form);
+    dialogs_.show(session, form, layout);
     if (!form.chosen()) return current;
     std::string codes;
     for (const std::string& code : *form.chosen())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "standin/services/Dialogs.h"
 #include "standin/services/texts/Localizer.h"
 
 namespace tellurix::standin {
@@ -7,15 +8,15 @@ namespace tellurix::standin {
 /// Shows the codes of a timber attribute that are not disabled, to mark several of them.
 class LookupGridDialogService final : public host::LookupGridDialog {
 public:
-    LookupGridDialogService(ui::Display& display, Localizer& localizer, const base::Locale& locale)
-        : display_(display), localizer_(localizer), locale_(locale) {}
+    LookupGridDialogService(Dialogs& dialogs, Localizer& localizer, const base::Locale& locale)
+        : dialogs_(dialogs), localizer_(localizer), locale_(locale) {}
 
     /// @throws std::invalid_argument for a list that does not exist
     std::string choose(const host::TlxVar& session, const std::string& layout, const std::string& title,
                        const std::string& text, const std::string& mode, const std::string& current) override;
 
 private:
-    ui::Display& display_;
+    Dialogs& dialogs_;
     Localizer& localizer_;
     base::Locale locale_;
 };
