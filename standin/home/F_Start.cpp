@@ -47,13 +47,11 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
     const auto status = [this](base::Fields& contract) {
         return named(contract.flag("ABGESCHLOSSEN") ? "start.isClosed" : "start.isOpen");
     };
-    const auto due = [this](base::Fields& contract) {
-        const auto end = base::dayIn(contract.field("LIEFERBIS"));
-        return end ? glance_.dueText(*end, contract.flag("ABGESCHLOSSEN")) : std::string{};
-    };
+    const auto due = [this](base::Fields& contract) { return dueText(contract); };
+    const auto endsSoon = [this](base::Fields& contract) { return dueOf(contract) == Due::soon; };
     using Narrow = ui::Grid::Narrow;
     contracts_.setColumns(
-        {{.caption = "Vertrag", .width = 30, .field = "VERTRAG_NAME", .sorts = true},
+        {{.caption = "Vertrag", .width = 40, .field = "VERTRAG_NAME", .sorts = true},
          {.caption = "Vertragsart", .width = 15, .narrow = Narrow::away, .sorts = true, .shown = type},
          {.caption = "Kunde",
           .width = 19,
@@ -61,13 +59,18 @@ F_Start::F_Start(WorkbenchServices& services, host::TlxVar& session, ContractOpe
           .narrow = Narrow::below,
           .sorts = true},
          {.caption = "Lieferung von",
-          .width = 11,
+          .width = 10,
           .field = "LIEFERVON",
           .narrow = Narrow::away,
           .sorts = true},
-         {.caption = "bis", .width = 20, .field = "LIEFERBIS", .sorts = true},
-         {.caption = "Frist", .width = 8, .narrow = Narrow::below, .shown = due},
-         {.caption = "Status", .width = 9, .narrow = Narrow::away, .sorts = true, .shown = status},
+         {.caption = "bis", .width = 10, .field = "LIEFERBIS", .sorts = true},
+         {.caption = "Frist",
+          .width = 6,
+          .narrow = Narrow::below,
+          .shown = due,
+          .remark = true,
+          .warns = endsSoon},
+         {.caption = "Status", .width = 12, .narrow = Narrow::away, .sorts = true, .shown = status},
          {.caption = "Preise",
           .width = 6,
           .field = "PREISE",
@@ -234,11 +237,35 @@ void F_Start::lookAtCurrent() {
     });
 }
 
+Due F_Start::dueOf(base::Fields& contract) const {
+    const auto end = base::dayIn(contract.field("LIEFERBIS"));
+    if (!end) return Due::notYet;
+    return standin::dueOf(*end, contract.flag("ABGESCHLOSSEN"), services_.host().clock.today());
+}
+
+std::string F_Start::dueText(base::Fields& contract) const {
+    const Due due = dueOf(contract);
+    if (due == Due::notYet) return {};
+    if (due == Due::over) return named("start.over");
+    const base::Date end = *base::dayIn(contract.field("LIEFERBIS"));
+    return filled(named("start.endsIn"), {std::to_string(daysUntil(end, services_.host().clock.today()))});
+}
+
 void F_Start::showCount() {
     const std::string count = std::to_string(contracts_.rowCount());
-    lblCount.setCaption(more_                        ? filled(named("start.more"), {count, count})
-                        : contracts_.rowCount() == 1 ? named("start.countOne")
-                                                     : filled(named("start.count"), {count}));
+    std::string says = more_                        ? filled(named("start.more"), {count, count})
+                       : contracts_.rowCount() == 1 ? named("start.countOne")
+                                                    : filled(named("start.count"), {count});
+    const auto tell = [&](Due due, const char* one, const char* several) {
+        const auto number = std::ranges::count_if(
+            contracts_.rows(), [&](base::Fields& contract) { return dueOf(contract) == due; });
+        if (number > 0)
+            says += ", " + (number == 1 ? named(one) : filled(named(several), {std::to_string(number)}));
+    };
+    if (more_) return lblCount.setCaption(std::move(says)); // of those that are not listed nothing is known
+    tell(Due::soon, "start.endsSoonOne", "start.endSoon");
+    tell(Due::over, "start.isOverOne", "start.areOver");
+    lblCount.setCaption(std::move(says));
 }
 
 void F_Start::openCurrent() {

@@ -53,6 +53,10 @@ private:
     /// Reads the contracts, with the current one kept current where it is still there.
     void reload();
     void reload(std::int64_t current);
+    /// When a contract ends: whether it is due, and what its line in the list says about that: "in 18 T.".
+    Due dueOf(base::Fields& contract) const;
+    std::string dueText(base::Fields& contract) const;
+    /// How many contracts are listed, and how many of them are due.
     void showCount();
     /// Shows the current contract at a glance as soon as the user leaves time for reading it.
     void lookAtCurrent();

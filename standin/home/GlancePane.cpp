@@ -146,14 +146,8 @@ void GlancePane::showDates(const ContractGlance& glance) {
                                 : days == 1 ? named("glance.tomorrow")
                                             : filled(named("glance.inDays"), {std::to_string(days)});
         lblDue[i].setCaption(due);
-        lblDue[i].setWarning(days >= 0 && days <= dueWithin && !glance.closed ? due : "");
+        lblDue[i].setWarning(dueOf(date.day, glance.closed, today) == Due::soon ? due : "");
     }
-}
-
-std::string GlancePane::dueText(base::Date end, bool closed) const {
-    const int days = daysUntil(end, services_.host().clock.today());
-    if (closed || days > dueWithin) return {};
-    return days < 0 ? named("start.over") : filled(named("start.endsIn"), {std::to_string(days)});
 }
 
 } // namespace tellurix::standin

@@ -24,9 +24,6 @@ public:
     /// The next one is on its way: what is there stays, and is drawn as something old.
     void setOld(bool old);
 
-    /// When a contract ends, as its list says it: "in 18 T.", "vorbei"; empty for one that is not due.
-    std::string dueText(base::Date end, bool closed) const;
-
 private:
     void showHead(const ContractGlance& glance);
     void showLines(const ContractGlance& glance);

@@ -16,6 +16,11 @@ int daysUntil(base::Date day, base::Date today) {
     return static_cast<int>((std::chrono::local_days{day} - std::chrono::local_days{today}).count());
 }
 
+Due dueOf(base::Date day, bool closed, base::Date today) {
+    const int days = daysUntil(day, today);
+    return closed || days > dueWithin ? Due::notYet : days < 0 ? Due::over : Due::soon;
+}
+
 GlanceReading::GlanceReading(WorkbenchServices& services, const host::TlxVar& session, std::int32_t contract)
     : services_(services), session_(session), contract_(contract) {}
 

@@ -18,6 +18,10 @@ inline constexpr int dueWithin = 30;
 
 /// How many days a day is away; negative for one that is over.
 int daysUntil(base::Date day, base::Date today);
+/// Whether a contract's day still needs somebody: it comes within `dueWithin` days, or went by.
+enum class Due { notYet, soon, over };
+/// @param closed a contract that is closed needs nobody
+Due dueOf(base::Date day, bool closed, base::Date today);
 
 /// What is asked on the phone about a contract.
 struct ContractGlance {

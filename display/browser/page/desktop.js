@@ -40,6 +40,7 @@ export class Desktop {
   apply(drawing) {
     if (drawing.complete) this.#close(() => true);
     if (drawing.closed) this.#close((window) => drawing.closed.includes(window.id));
+    this.#handOver(drawing.focus);
     for (const opened of drawing.opened ?? []) this.#open(opened);
     for (const changed of drawing.changed ?? []) this.#change(changed);
     if (drawing.busy !== undefined) {
@@ -51,6 +52,18 @@ export class Desktop {
     if (complete || opened || closed || changed?.some(({ title }) => title !== undefined)) this.#stack(top);
     document.title = top?.title ?? '';
     this.focused = drawing.focus ? top?.views.get(drawing.focus.control) ?? null : null;
+  }
+
+  /**
+   * A table takes the focus from the box in its cell before anything changes. Afterwards the browser would
+   * have to lay out all that has changed first, while the user waits for the line that he has committed.
+   */
+  #handOver(focus) {
+    const view = this.#windows.at(-1)?.views.get(focus?.control);
+    if (view?.state.kind !== 'grid' || !view.element.contains(document.activeElement)) return;
+    this.#placing = true;
+    view.focusElement.focus({ preventScroll: true });
+    this.#placing = false;
   }
 
   /** Shows the topmost sheet and the cards over it. */

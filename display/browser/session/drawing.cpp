@@ -29,7 +29,7 @@ const char* nameOf(ui::ChangedBy who) {
 void draw(json& out, const ui::Label& label, bool /*whole*/) {
     out["kind"] = "label";
     out["caption"] = label.caption();
-    out["highlighted"] = label.highlighted();
+    out["strong"] = label.strong() || label.highlighted();
 }
 
 void draw(json& out, const ui::TextBox& box, bool /*whole*/) {
@@ -93,6 +93,7 @@ json drawColumns(const ui::Grid& grid) {
                            {"tip", column.toolTip},
                            {"open", column.open},
                            {"narrow", column.narrow},
+                           {"remark", column.remark},
                            {"visible", column.visible}});
     }
     return columns;
@@ -114,11 +115,15 @@ void draw(json& out, const ui::Grid& grid, bool whole) {
         out["editor"] = {{"control", box->id()}, {"row", grid.editedRow()}, {"column", grid.editedColumn()}};
     }
     out["empty"] = grid.emptyText();
-    if (whole || grid.changedCellsDirty()) {
+    if (whole || grid.marksDirty()) {
         json cells = json::array();
         for (const auto& [cell, who] : grid.changedCells())
             cells.push_back({cell.row, cell.column, nameOf(who)});
         out["changedCells"] = std::move(cells);
+        json warnings = json::array();
+        for (const ui::Grid::Cell cell : grid.warnings())
+            warnings.push_back({cell.row, cell.column});
+        out["warnings"] = std::move(warnings);
     }
     if (whole || grid.columnsDirty()) out["columns"] = drawColumns(grid);
     if (whole || grid.rowsDirty()) {

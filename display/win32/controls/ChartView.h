@@ -12,6 +12,7 @@ public:
 
 private:
     Room measure() const override;
+    bool fills() const override { return true; }
     void draw() override;
     void paint(HDC dc, const RECT& all) const override;
     LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

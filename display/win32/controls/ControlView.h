@@ -76,6 +76,10 @@ public:
 
     /// The room that it needs, as of its last drawing.
     const Room& room() const { return room_; }
+    /// Whether it takes all the width that there is: what shows much at once.
+    virtual bool fills() const { return false; }
+    /// Between its edges and what stands inside of it, as it is now.
+    virtual RECT padding() const { return {}; }
     /// Puts it somewhere, with its error beside it; in coordinates of the window's client area.
     void place(const RECT& rect);
     const RECT& rect() const { return rect_; }

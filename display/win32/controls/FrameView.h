@@ -13,8 +13,7 @@ public:
 
     /// What the border takes at least; its content is the arrangement's.
     Room measure() const override;
-    /// The space between the border and the content.
-    RECT padding() const;
+    RECT padding() const override;
 
 private:
     void draw() override;

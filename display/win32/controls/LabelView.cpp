@@ -10,10 +10,14 @@ LabelView::LabelView(ViewHost& host, ui::Label& label) : ControlView(host, label
     create(L"STATIC", SS_LEFT);
 }
 
+SIZE LabelView::textSize() const {
+    return theme().textSize(label_.caption(), true, longestLine_ * theme().characterWidth(), label_.strong());
+}
+
 Room LabelView::measure() const {
-    const SIZE size = theme().textSize(label_.caption(), true, wrapAt());
+    const SIZE size = textSize();
     const int height = std::max(static_cast<int>(size.cy), theme().lineHeight());
-    return {Extent::fixed(size.cx + theme().scaled(2)), Extent::fixed(height)};
+    return {Extent::fixed(size.cx + theme().scaled(4)), Extent::fixed(height)};
 }
 
 HBRUSH LabelView::colour(HDC dc) const {
@@ -30,9 +34,11 @@ HBRUSH LabelView::colour(HDC dc) const {
 
 void LabelView::draw() {
     // One line stands at the height of the text in the box beside it.
-    const bool oneLine = theme().textSize(label_.caption(), true, wrapAt()).cy < 2 * theme().textHeight();
+    const bool oneLine = textSize().cy < 2 * theme().textHeight();
     const LONG_PTR style = GetWindowLongPtrW(handle(), GWL_STYLE) & ~LONG_PTR{SS_CENTERIMAGE};
     SetWindowLongPtrW(handle(), GWL_STYLE, oneLine ? style | SS_CENTERIMAGE : style);
+    const HFONT font = label_.strong() ? theme().boldFont() : theme().font();
+    SendMessageW(handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     showText(widen(label_.caption()));
     InvalidateRect(handle(), nullptr, TRUE); // its colour may be another one
 }

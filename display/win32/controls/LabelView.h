@@ -12,12 +12,15 @@ public:
 
     Room measure() const override;
     HBRUSH colour(HDC dc) const override;
+    /// It stands before a box, which a long caption must not push out of the window.
+    void setBeforeBox() { longestLine_ = 40; }
 
 private:
     void draw() override;
-    int wrapAt() const { return 80 * theme().characterWidth(); }
+    SIZE textSize() const;
 
     ui::Label& label_;
+    int longestLine_ = 80; ///< in average characters
 };
 
 } // namespace tellurix::windows

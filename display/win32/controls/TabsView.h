@@ -15,8 +15,7 @@ public:
 
     /// What the tabs take at least; the pages are the arrangement's.
     Room measure() const override;
-    /// The space between the border and the page.
-    RECT padding() const;
+    RECT padding() const override;
 
     void notified(UINT code, NMHDR* details) override;
 

@@ -16,6 +16,7 @@ constexpr wchar_t selectAllCharacter = 1; // Ctrl+A
 constexpr wchar_t undoCharacter = 26;     // Ctrl+Z
 constexpr UINT_PTR flashTimer = 1;
 constexpr UINT flashTime = 250; ///< milliseconds
+constexpr int leastWidth = 10;  ///< in average characters: a date can be read whole
 
 } // namespace
 
@@ -45,7 +46,7 @@ Room TextBoxView::measure() const {
         box_.width() * theme().characterWidth() + (severalLines() ? theme().scaled(28) : theme().textEdges());
     const int pick = box_.onPick ? theme().lineHeight() : 0;
     const int extraLines = (box_.lines() - 1) * theme().textHeight();
-    const int small = std::min(width, 6 * theme().characterWidth() + theme().textEdges());
+    const int small = std::min(width, leastWidth * theme().characterWidth() + theme().textEdges());
     return {{small + pick, width + pick},
             {theme().lineHeight() + (extraLines > 0 ? theme().textHeight() : 0),
              theme().lineHeight() + extraLines}};

@@ -6,9 +6,19 @@
 
 namespace tellurix::windows {
 
+namespace {
+
+/// What is shorter is a date or a code, of which a part means nothing.
+bool isName(const ui::Grid::Column& column) {
+    return !column.rightAligned && column.width >= 12;
+}
+
+} // namespace
+
 int GridGeometry::roomOf(const ui::Grid::Column& column) const {
     // A caption that is longer than what stands below it has to be read as well.
-    const int caption = column.sized ? 0 : theme_.textSize(column.caption, false).cx;
+    const int sign = column.order == ui::Grid::Order::none ? 0 : theme_.scaled(14);
+    const int caption = column.sized ? 0 : theme_.textSize(column.caption, false, 0, true).cx + sign;
     return std::max(column.width * theme_.characterWidth(), caption) + theme_.textEdges();
 }
 
@@ -29,14 +39,14 @@ void GridGeometry::fit(int width, int height) {
         widths_.push_back(column.visible ? roomOf(column) : 0);
         if (!column.visible || column.sized) continue;
         growing += widths_.back();
-        if (!column.rightAligned) flexible += widths_.back() / 2;
+        if (isName(column)) flexible += widths_.back() / 2;
     }
     const int wanted = std::accumulate(widths_.begin(), widths_.end(), 0);
     const int missing = std::clamp(wanted - width, 0, flexible);
     const int spare = std::max(width - wanted, 0);
     for (std::size_t i = 0; i < widths_.size(); ++i) {
         if (!visible(i) || grid_.columns()[i].sized) continue;
-        const bool text = !grid_.columns()[i].rightAligned;
+        const bool text = isName(grid_.columns()[i]);
         // Rounded so that no column is pushed out by a pixel.
         if (missing > 0 && text) widths_[i] -= (widths_[i] / 2 * missing + flexible - 1) / flexible;
         if (spare > 0) widths_[i] += widths_[i] * spare / growing;

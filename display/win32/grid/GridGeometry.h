@@ -13,8 +13,8 @@ class GridGeometry {
 public:
     GridGeometry(const ui::Grid& grid, const Theme& theme) : grid_(grid), theme_(theme) {}
 
-    /// Fits the columns into the window: where room is short, texts give way before numbers, because
-    /// half a name can still be recognised.
+    /// Fits the columns into the window: where room is short, long texts give way before numbers and
+    /// dates, because half a name can still be recognised.
     void fit(int width, int height);
 
     int rowHeight() const { return theme_.textHeight() + theme_.scaled(6); }

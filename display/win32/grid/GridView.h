@@ -27,6 +27,7 @@ public:
     GridView(ViewHost& host, ui::Grid& grid);
 
     Room measure() const override;
+    bool fills() const override { return true; }
     void placeControl(const RECT& rect) override;
     /// Puts the box that edits a cell over that cell.
     void placeEditor();

@@ -64,7 +64,10 @@ private:
             if (cell.left == cell.right || cell.right < area.left || cell.left > area.right) continue;
             const bool marked = isMarked({row, column});
             if (marked) FillRect(dc_, &cell, GetSysColorBrush(COLOR_HIGHLIGHT));
-            SetTextColor(dc_, marked ? GetSysColor(COLOR_HIGHLIGHTTEXT) : ink);
+            const bool warns = !inverse && grid_.warnings().contains({row, column});
+            SetTextColor(dc_, marked  ? GetSysColor(COLOR_HIGHLIGHTTEXT)
+                              : warns ? theme_.warningColour()
+                                      : ink);
             const auto index = static_cast<std::size_t>(column);
             if (index < texts.size()) paintText(cell, texts[index], columnAt(column).rightAligned);
             line({cell.right - 1, cell.top, cell.right, cell.bottom}, COLOR_3DLIGHT);

@@ -190,16 +190,18 @@ Room ContainerPart::room() const {
         const Room room = page->room();
         inside = {larger(inside.width, room.width), larger(inside.height, room.height)};
     }
-    const Extent sides = Extent::fixed(padding_.left + padding_.right);
-    const Extent ends = Extent::fixed(padding_.top + padding_.bottom);
+    const RECT padding = view_.padding();
+    const Extent sides = Extent::fixed(padding.left + padding.right);
+    const Extent ends = Extent::fixed(padding.top + padding.bottom);
     // The border's own caption has to fit as well.
     return {larger(inside.width + sides, view_.room().width), inside.height + ends};
 }
 
 void ContainerPart::place(const RECT& rect) {
     view_.place(rect);
-    const RECT inside{rect.left + padding_.left, rect.top + padding_.top, rect.right - padding_.right,
-                      rect.bottom - padding_.bottom};
+    const RECT padding = view_.padding();
+    const RECT inside{rect.left + padding.left, rect.top + padding.top, rect.right - padding.right,
+                      rect.bottom - padding.bottom};
     for (const auto& page : pages_) {
         if (page->present()) page->place(inside);
     }

@@ -12,7 +12,7 @@ public:
     bool present() const override { return view_.control().visible(); }
     Room room() const override { return view_.room(); }
     void place(const RECT& rect) override { view_.place(rect); }
-    bool fills() const override { return view_.control().kind() == ui::ControlKind::grid; }
+    bool fills() const override { return view_.fills(); }
 
 private:
     ControlView& view_;
@@ -79,8 +79,7 @@ public:
 /// A column inside the border of a frame, or the pages behind a row of tabs.
 class ContainerPart final : public Part {
 public:
-    ContainerPart(ControlView& view, RECT padding, Parts pages)
-        : view_(view), padding_(padding), pages_(std::move(pages)) {}
+    ContainerPart(ControlView& view, Parts pages) : view_(view), pages_(std::move(pages)) {}
 
     bool present() const override { return view_.control().visible(); }
     Room room() const override;
@@ -90,7 +89,6 @@ public:
 
 private:
     ControlView& view_;
-    RECT padding_;
     Parts pages_;
 };
 

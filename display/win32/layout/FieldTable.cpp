@@ -1,3 +1,4 @@
+#include "display/win32/controls/LabelView.h"
 #include "display/win32/layout/Boxes.h"
 #include "display/win32/layout/Part.h"
 
@@ -116,7 +117,9 @@ private:
         }
         auto row = std::make_unique<RowPart>(std::move(content), host.theme().scaled(4));
         row->setGrowing(node.grows || field.grows);
-        return {std::make_unique<ControlPart>(host.viewOf(*field.control)), std::move(row)};
+        auto& label = static_cast<LabelView&>(host.viewOf(*field.control));
+        label.setBeforeBox();
+        return {std::make_unique<ControlPart>(label), std::move(row)};
     }
 
     /// What is shown at the moment, row by row.

@@ -1,5 +1,3 @@
-#include "display/win32/controls/FrameView.h"
-#include "display/win32/controls/TabsView.h"
 #include "display/win32/layout/Boxes.h"
 #include "display/win32/layout/Part.h"
 
@@ -42,15 +40,13 @@ std::unique_ptr<Part> makeSums(const Layout& layout, ViewHost& host) {
 }
 
 std::unique_ptr<Part> makeFrame(const Layout& layout, ViewHost& host) {
-    auto& view = static_cast<FrameView&>(host.viewOf(*layout.control));
     Parts content;
     content.push_back(std::make_unique<ColumnPart>(makeParts(layout.children, host), host.theme().gap()));
-    return std::make_unique<ContainerPart>(view, view.padding(), std::move(content));
+    return std::make_unique<ContainerPart>(host.viewOf(*layout.control), std::move(content));
 }
 
 std::unique_ptr<Part> makeTabs(const Layout& layout, ViewHost& host) {
-    auto& view = static_cast<TabsView&>(host.viewOf(*layout.control));
-    return std::make_unique<ContainerPart>(view, view.padding(), makeParts(layout.children, host));
+    return std::make_unique<ContainerPart>(host.viewOf(*layout.control), makeParts(layout.children, host));
 }
 
 std::unique_ptr<Part> make(const Layout& layout, ViewHost& host) {

@@ -84,9 +84,9 @@ COLORREF Theme::warningColour() const {
     return isHighContrast() ? GetSysColor(COLOR_HOTLIGHT) : RGB(163, 34, 27);
 }
 
-SIZE Theme::textSize(const std::string& text, bool withMark, int wrapAt) const {
+SIZE Theme::textSize(const std::string& text, bool withMark, int wrapAt, bool bold) const {
     const ScreenContext screen;
-    const Selected selected{screen, font_};
+    const Selected selected{screen, bold ? boldFont() : font()};
     const std::wstring wide = widen(text);
     RECT room{0, 0, wrapAt, 0};
     const UINT how = DT_CALCRECT | (withMark ? 0U : DT_NOPREFIX) | (wrapAt > 0 ? DT_WORDBREAK : 0U);

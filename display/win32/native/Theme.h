@@ -45,7 +45,7 @@ public:
     int margin() const { return units(7); }
     /// Room that a caption needs; it is broken into lines of `wrapAt` pixels at most, 0 for never.
     /// @param withMark whether "&" marks an access key in it
-    SIZE textSize(const std::string& text, bool withMark, int wrapAt = 0) const;
+    SIZE textSize(const std::string& text, bool withMark, int wrapAt = 0, bool bold = false) const;
 
 private:
     /// Vertical dialog units, which follow the system's font.

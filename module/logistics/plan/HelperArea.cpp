@@ -97,7 +97,7 @@ void HelperArea::connect() {
     btnAMB.onClick = [this] { confirm(helpers::confirmAnnounced(contract_.record)); };
     btnAWBMB.onClick = [this] { confirm(helpers::confirmOwners(contract_.record)); };
     for (ui::Label* sum : {&lbldruchschnMenge, &lblangemMenge, &lblangemWBMenge, &lblbestMenge, &lblEinheit})
-        sum->setHighlighted(true);
+        sum->setStrong(true);
     btnXLS.onClick = [this] {
         services_.spreadsheets.exportTable(contract_.session, helperExport(helpers_, MSFG),
                                            "Vertrag: " + contract_.name);

@@ -49,7 +49,7 @@ void F_VertragMengenmeldung_WVO::connect() {
     btnSchliesen.onClick = [this] { unload(); };
     btnSchliesen.setCausesValidation(false);
     for (ui::Label* sum : {&lblCol2, &lblCol3})
-        sum->setHighlighted(true);
+        sum->setStrong(true);
     mode_.onEnter = [this] {
         contracts_.openCells(!mode_.viewing());
         setCancelButton(mode_.viewing() ? btnSchliesen : btnAbbrechen);

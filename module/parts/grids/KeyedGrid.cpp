@@ -41,6 +41,7 @@ void KeyedGrid::setColumns(std::vector<Column> columns) {
                          .width = column.width,
                          .rightAligned = column.rightAligned,
                          .visible = !column.hidden,
+                         .remark = column.remark,
                          .narrow = column.narrow,
                          .toolTip = column.toolTip});
     grid_.setColumns(std::move(shown));
@@ -112,15 +113,17 @@ void KeyedGrid::drawRow(int row) {
         if (columns_[column].shown || !columns_[column].field.empty())
             grid_.setCell(row, static_cast<int>(column), cellText(read, columns_[column]));
     }
-    drawChanges(row);
+    drawMarks(row);
 }
 
-void KeyedGrid::drawChanges(int row) {
-    const KeyedRow& read = this->row(row);
+void KeyedGrid::drawMarks(int row) {
+    KeyedRow& read = this->row(row);
     if (read.fieldCount() == 0) return;
     for (std::size_t column = 0; column < columns_.size(); ++column) {
+        const ui::Grid::Cell cell{row, static_cast<int>(column)};
+        if (columns_[column].warns) grid_.setWarning(cell, columns_[column].warns(read));
         if (columns_[column].shown || columns_[column].field.empty()) continue;
-        grid_.setChangedBy({row, static_cast<int>(column)}, read.changedBy(columns_[column].field));
+        grid_.setChangedBy(cell, read.changedBy(columns_[column].field));
     }
 }
 
@@ -168,7 +171,7 @@ void KeyedGrid::drawRows(std::optional<std::int64_t> current) {
         cells.push_back(cellsOf(rows_[row]));
     grid_.setRows(std::move(cells));
     for (int row = 0; row < rowCount(); ++row)
-        drawChanges(row);
+        drawMarks(row);
     tellTouched();
     if (const auto found = current ? find(*current) : std::nullopt) {
         grid_.setCurrent(*found, grid_.currentColumn());
@@ -220,8 +223,8 @@ void KeyedGrid::swap(int row, int other) {
         grid_.setCell(row, column, grid_.cell(other, column));
         grid_.setCell(other, column, std::move(cell));
     }
-    drawChanges(row);
-    drawChanges(other);
+    drawMarks(row);
+    drawMarks(other);
 }
 
 void KeyedGrid::setValue(int row, std::string_view field, base::Value value) {
@@ -234,7 +237,7 @@ void KeyedGrid::markFromOthers(std::int64_t key, std::string_view field) {
     const auto row = std::ranges::find(rows_, key, &KeyedRow::key);
     if (row == rows_.end()) return;
     row->setChangedBy(field, ui::ChangedBy::colleague);
-    if (const auto seen = find(key)) drawChanges(*seen);
+    if (const auto seen = find(key)) drawMarks(*seen);
 }
 
 int KeyedGrid::touchedRows() const {

@@ -35,6 +35,9 @@ public:
         std::string toolTip = {};
         /// What the cell shows where it is not one field in a mask.
         std::function<std::string(KeyedRow&)> shown = {};
+        bool remark = false; ///< says something about the row, beside its data
+        /// Whether what the cell shows is a warning.
+        std::function<bool(KeyedRow&)> warns = {};
     };
 
     /// @param locale for the numbers that are shown in a mask
@@ -117,7 +120,7 @@ private:
     bool comesBefore(const Sorting& sorting, std::size_t row, std::size_t other);
     void orderRows();
     void drawRow(int row);
-    void drawChanges(int row);
+    void drawMarks(int row);
     void drawOpenColumns();
     /// Tells the user how many rows he has changed.
     void tellTouched();

@@ -61,8 +61,9 @@ bool Grid::anyOpen() const {
 
 void Grid::setRows(std::vector<Row> rows) {
     rows_ = std::move(rows);
-    changedCellsDirty_ |= !changedCells_.empty();
+    marksDirty_ |= !changedCells_.empty() || !warnings_.empty();
     changedCells_.clear();
+    warnings_.clear();
     moveCurrentRow(std::clamp(currentRow_, rows_.empty() ? none : 0, static_cast<int>(rows_.size()) - 1));
     markRowsDirty();
 }
@@ -74,12 +75,16 @@ void Grid::addRow(Row row) {
 
 void Grid::removeRow(int row) {
     rows_.erase(rows_.begin() + row);
+    const auto movedUp = [row](Cell cell) { return Cell{cell.row - (cell.row > row ? 1 : 0), cell.column}; };
     std::map<Cell, ChangedBy> changed;
-    for (const auto& [cell, who] : changedCells_) {
-        if (cell.row != row) changed.emplace(Cell{cell.row - (cell.row > row ? 1 : 0), cell.column}, who);
-    }
-    changedCellsDirty_ |= !changedCells_.empty();
+    for (const auto& [cell, who] : changedCells_)
+        if (cell.row != row) changed.emplace(movedUp(cell), who);
+    std::set<Cell> warnings;
+    for (const Cell cell : warnings_)
+        if (cell.row != row) warnings.insert(movedUp(cell));
+    marksDirty_ |= !changedCells_.empty() || !warnings_.empty();
     changedCells_ = std::move(changed);
+    warnings_ = std::move(warnings);
     moveCurrentRow(std::min(currentRow_, static_cast<int>(rows_.size()) - 1));
     markRowsDirty();
 }
@@ -108,7 +113,18 @@ void Grid::setChangedBy(Cell cell, ChangedBy who) {
     } else {
         changedCells_[cell] = who;
     }
-    changedCellsDirty_ = true;
+    marksDirty_ = true;
+    markDirty();
+}
+
+void Grid::setWarning(Cell cell, bool warns) {
+    if (warnings_.contains(cell) == warns) return;
+    if (warns) {
+        warnings_.insert(cell);
+    } else {
+        warnings_.erase(cell);
+    }
+    marksDirty_ = true;
     markDirty();
 }
 
@@ -165,7 +181,7 @@ void Grid::drawn() {
     columnsDirty_ = false;
     rowsDirty_ = false;
     changedRows_.clear();
-    changedCellsDirty_ = false;
+    marksDirty_ = false;
     reveals_ = false;
 }
 

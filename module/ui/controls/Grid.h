@@ -38,8 +38,9 @@ public:
         int width = 10; ///< room for how many average characters
         bool rightAligned = false;
         bool visible = true;
-        bool sized = false; ///< by the user: it is as wide as it says, however much room there is
-        bool open = false;  ///< its cells can be edited at the moment
+        bool sized = false;  ///< by the user: it is as wide as it says, however much room there is
+        bool open = false;   ///< its cells can be edited at the moment
+        bool remark = false; ///< says something about the row, beside its data
         Narrow narrow = Narrow::beside;
         Order order = Order::none;
         std::string toolTip = {}; ///< shown over the column
@@ -104,6 +105,10 @@ public:
     using Control::changedBy;
     using Control::setChangedBy;
 
+    /// The cells whose text is a warning. Rows that are set anew warn of nothing.
+    const std::set<Cell>& warnings() const { return warnings_; }
+    void setWarning(Cell cell, bool warns);
+
     std::optional<Block> block() const;
     /// The end of the block that moves; without one the current cell.
     Cell farEnd() const { return mark_ ? mark_->second : Cell{currentRow_, currentColumn_}; }
@@ -131,7 +136,8 @@ public:
     bool columnsDirty() const { return columnsDirty_; }
     bool rowsDirty() const { return rowsDirty_; }
     const std::set<int>& changedRows() const { return changedRows_; }
-    bool changedCellsDirty() const { return changedCellsDirty_; }
+    /// Who has changed cells, or which of them warn.
+    bool marksDirty() const { return marksDirty_; }
     /// A display scrolls to `farEnd` when it draws this, and at no other change of the grid.
     bool reveals() const { return reveals_; }
     void drawn() override;
@@ -175,7 +181,8 @@ private:
     bool reveals_ = false;
     std::set<int> changedRows_;
     std::map<Cell, ChangedBy> changedCells_;
-    bool changedCellsDirty_ = false;
+    std::set<Cell> warnings_;
+    bool marksDirty_ = false;
     std::string emptyText_;
 };
 

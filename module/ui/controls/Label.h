@@ -18,12 +18,16 @@ public:
 
     const std::string& caption() const { return caption_; }
     void setCaption(std::string caption) { change(caption_, std::move(caption)); }
-    /// Stands out among labels of its kind.
+    /// A value that the eye looks for: drawn bold.
+    bool strong() const { return strong_; }
+    void setStrong(bool strong) { change(strong_, strong); }
+    /// Stands out among labels of its kind, in the system's colour for that.
     bool highlighted() const { return highlighted_; }
     void setHighlighted(bool highlighted) { change(highlighted_, highlighted); }
 
 private:
     std::string caption_;
+    bool strong_ = false;
     bool highlighted_ = false;
 };
 

@@ -80,7 +80,13 @@ TEST_F(StartPage, NarrowsTheContracts) {
     };
     work([&](User& user) {
         EXPECT_EQ(user.focused(), "txtSearch");
-        EXPECT_EQ(user.control<ui::Label>("lblCount").caption(), "18 Verträge");
+        EXPECT_EQ(user.caption("lblCount"),
+                  "18 Verträge, 1 endet in den nächsten 30 Tagen, 11 sind vorbei und noch offen");
+        ui::Grid& contracts = user.grid("grdContracts");
+        for (const ui::Grid::Cell cell : contracts.warnings())
+            EXPECT_EQ(contracts.cell(cell.row, 0) + ": " + contracts.cell(cell.row, cell.column),
+                      "A8-2025-001 Provision Gmunden: in 22 T.");
+        EXPECT_EQ(contracts.warnings().size(), 1U) << "who is over needs no warning";
         for (const Case& row : cases) {
             user.type("txtSearch", row.search);
             user.select("cboType", row.type);
@@ -285,7 +291,7 @@ TEST_F(StartPage, SwitchesTheLanguageAtOnceAndBack) {
         EXPECT_EQ(user.control<ui::Button>("btnOpen").caption(), "&Open");
         EXPECT_EQ(user.grid("grdContracts").columns().front().caption, "Contract");
         EXPECT_EQ(user.grid("grdContracts").cell(0, 1), "R – Sale");
-        EXPECT_EQ(user.caption("lblCount"), "1 contract");
+        EXPECT_EQ(user.caption("lblCount"), "1 contract, 1 is over and still open");
         EXPECT_EQ(user.items("cboClosed"), "All\nOpen\nClosed\n");
         EXPECT_EQ(user.control<ui::ComboBox>("cboClosed").selected(), open);
         display.onWindow("F_Vertrag", [](User& editor) {
@@ -297,7 +303,7 @@ TEST_F(StartPage, SwitchesTheLanguageAtOnceAndBack) {
         user.select("cboLanguage", 0);
         EXPECT_EQ(user.window().title(), "Verträge");
         EXPECT_EQ(user.grid("grdContracts").columns().front().caption, "Vertrag");
-        EXPECT_EQ(user.caption("lblCount"), "1 Vertrag");
+        EXPECT_EQ(user.caption("lblCount"), "1 Vertrag, 1 ist vorbei und noch offen");
 
         user.type("txtSearch", "gibt es nicht");
         EXPECT_EQ(user.grid("grdContracts").emptyText(),

@@ -18,6 +18,18 @@ export function charactersIn(width, grid) {
   return Math.max(1, Math.round(width / characterWidth(grid)) - 2);
 }
 
+const pen = document.createElement('canvas').getContext('2d');
+
+/** How wide a heading is, which is bold, in the characters that columns are measured in. */
+export function headingWidth(caption) {
+  const { fontFamily } = getComputedStyle(document.body);
+  const width = (weight, text) => {
+    pen.font = `${weight} 100px ${fontFamily}`;
+    return pen.measureText(text).width;
+  };
+  return Math.ceil(10 * width(600, caption) / width(400, '0')) / 10;
+}
+
 export class ColumnEdge {
   #cell;
   #listener;

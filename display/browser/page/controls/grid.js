@@ -5,11 +5,12 @@
 import { isZero, readable } from '../figures.js';
 import { copiedCells } from '../grid_text.js';
 import { text } from '../texts.js';
-import { charactersIn, ColumnEdge } from './column_edge.js';
+import { charactersIn, ColumnEdge, headingWidth } from './column_edge.js';
 import { newElementId, showChange, unseen, View } from './view.js';
 
 const narrowly = ['', 'below', 'away']; // on a narrow screen
 const orders = ['none', 'ascending', 'descending'];
+const nameWidth = 12; // a text that wide is a name or the like, what is shorter is a date or a code
 const rowsBeyond = 8; // drawn above and below those that are seen: scrolling shows no gaps
 
 export class Grid extends View {
@@ -23,6 +24,7 @@ export class Grid extends View {
   #whole = false; // all rows are drawn, for paper
   #looks = []; // the classes of a cell, by its column
   #changed = new Map(); // who has changed a cell, by its row and column
+  #warnings = new Set(); // the cells whose text warns, in the same way
   #heads = null; // the caption over it, where it counts the rows
   #empty = null; // what stands there instead of rows
   #editor = null; // the box that floats over a cell while it is edited
@@ -70,7 +72,7 @@ export class Grid extends View {
     const wanted = this.#wanted();
     if (!this.state.editor) this.#removeEditor();
     this.#drawRows(wanted);
-    if (changes.changedCells) this.#takeChanged();
+    if (changes.changedCells) this.#takeMarks();
     if (changes.block || before.block) for (const [index, row] of this.#rows) this.#markCells(row, index);
     if (changes.editable !== before.editable) this.element.setAttribute('aria-readonly', !this.state.editable);
     for (const [index, texts] of changes.changedRows ?? []) this.#takeRow(index, texts);
@@ -143,18 +145,19 @@ export class Grid extends View {
     // While some cells can be edited, the others are seen to be locked.
     const locks = columns.some((column) => column.open);
     // What a line is known by stays where the others scroll.
-    const name = columns.find(({ visible, right, width }) => visible && !right && width >= 12);
+    const name = columns.find(({ visible, right, width }) => visible && !right && width >= nameWidth);
     this.#looks = columns.map((column) => [
-      column.right && 'right', locks && !column.open && 'locked', column === name && 'stays', narrowly[column.narrow],
+      column.right && 'right', locks && !column.open && 'locked', column === name && 'stays', column.remark && 'remark',
+      narrowly[column.narrow],
     ].filter(Boolean).join(' '));
     const visible = this.state.columns.filter((column) => column.visible);
-    // Where room is short, texts give way before numbers: half a name can still be recognised. What the
-    // user has sized does neither give way nor grow.
+    // Where room is short, long texts give way before numbers and dates: half a name can still be recognised.
+    // What the user has sized does neither give way nor grow.
     const widths = visible.map(({ width, right, sized, caption, order }) => {
-      // A caption that is longer than what stands below it has to be read as well; it is bold.
-      const heading = Math.ceil(1.2 * caption.length) + (order ? 4 : 2);
+      // A caption that is longer than what stands below it has to be read as well.
+      const heading = headingWidth(caption) + (order ? 4.5 : 2.5);
       const room = sized ? width + 2 : Math.max(width + 2, heading);
-      return sized ? `${room}ch` : `minmax(${right ? room : Math.max(heading, Math.ceil(room / 2))}ch, ${room}fr)`;
+      return sized ? `${room}ch` : `minmax(${right || width < nameWidth ? room : Math.max(heading, room / 2)}ch, ${room}fr)`;
     });
     this.element.style.setProperty('--columns', widths.join(' ') || '1fr');
     this.element.style.setProperty('--width', visible.reduce((sum, column) => sum + column.width + 2, 0));
@@ -203,13 +206,18 @@ export class Grid extends View {
     this.#heads.dataset.count = says ? this.state.content.length : '';
   }
 
-  #takeChanged() {
+  #takeMarks() {
     this.#changed = new Map(this.state.changedCells.map(([row, column, who]) => [`${row}/${column}`, who]));
-    for (const [index, row] of this.#rows) this.#markChanged(row, index);
+    this.#warnings = new Set(this.state.warnings.map(([row, column]) => `${row}/${column}`));
+    for (const [index, row] of this.#rows) this.#mark(row, index);
   }
 
-  #markChanged(row, index) {
-    for (const cell of row.children) showChange(cell, this.#changed.get(`${index}/${cell.dataset.column}`));
+  #mark(row, index) {
+    for (const cell of row.children) {
+      const place = `${index}/${cell.dataset.column}`;
+      showChange(cell, this.#changed.get(place));
+      cell.classList.toggle('warns', this.#warnings.has(place));
+    }
   }
 
   #drawEmpty() {
@@ -290,7 +298,7 @@ export class Grid extends View {
     });
     this.#fill(row, this.state.content[index]);
     if (this.state.block) this.#markCells(row, index);
-    if (this.#changed.size > 0) this.#markChanged(row, index);
+    if (this.#changed.size + this.#warnings.size > 0) this.#mark(row, index);
     return row;
   }
 

@@ -20,7 +20,7 @@ export class Label extends View {
   draw() {
     showCaption(this.element, readable(this.state.caption));
     this.element.classList.toggle('disabled', !this.state.enabled);
-    this.element.classList.toggle('highlighted', Boolean(this.state.highlighted));
+    this.element.classList.toggle('strong', this.state.strong);
   }
 }
 
