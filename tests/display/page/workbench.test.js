@@ -434,7 +434,8 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
   test('the current contract is seen at a glance, and a bar of its loads leads to a week', async () => {
     const pane = page.locator('.gauges');
     await page.keyboard.type('faserholz judenburg');
-    await until(async () => (await pane.locator('tbody').count()) === 2, 'a line and a bar for each quantity');
+    await until(async () => (await page.locator('.side .caption').first().textContent()).startsWith('R-2025-003'), 'its name');
+    assert.equal(await pane.locator('tbody').count(), 2, 'a line and a bar for each quantity');
     assert.ok((await pane.locator('.track').first().boundingBox()).width > 300);
     assert.equal(await pane.locator('tr[aria-hidden="true"]').count(), 2, 'the words say what the bars show');
 
