@@ -157,10 +157,15 @@ void F_Vertrag::showCustomer() {
 }
 
 void F_Vertrag::ShowHeader() {
-    const std::vector<std::string> summary = headSummary(openContract());
+    const HeadSummary summary = headSummary(openContract());
     List1.clear();
-    for (const std::string& line : summary)
+    for (const std::string& line : summary.lines)
         List1.add(line);
+    period_ = summary.period;
+}
+
+std::string F_Vertrag::subject() const {
+    return txtKunde.text() + (txtKunde.text().empty() || period_.empty() ? "" : " · ") + period_;
 }
 
 void F_Vertrag::CopyGrid(const ui::Grid& source, ui::Grid& target) {

@@ -52,6 +52,8 @@ public:
     std::string GetAbschlagValue(const std::string& column);
     /// The person picker's code for the customers of a contract type; empty for an unknown type.
     static std::string GetRightsCode(const std::string& typeCode);
+    /// The customer and the period of the delivery.
+    std::string subject() const override;
 
 private:
     void arrange();
@@ -87,6 +89,7 @@ private:
     std::int32_t id_ = 0;
     std::string name_;             ///< `VERTRAG_NAME`, which is also the accounting name
     std::int32_t customer_ = 0;    ///< `ID_PERSONAL`, 0 for none
+    std::string period_;           ///< of the delivery
     std::int64_t accessLevel_ = 0; ///< `ID_ACCESS_LEVELS`, 0 for none
     bool notYetSaved_ = true;
     bool newContract_ = false;

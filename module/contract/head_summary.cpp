@@ -12,7 +12,7 @@ namespace tellurix::contract {
 
 using base::OwnText;
 
-std::vector<std::string> headSummary(const parts::OpenContract& contract) {
+HeadSummary headSummary(const parts::OpenContract& contract) {
     // clang-format off
     base::StatementText query{"SELECT "
         "VERTRAEGE.INVDATE,VERTRAEGE.DATE1,VERTRAEGE.DATE2,VERTRAEGE.DATE3,VERTRAEGE.LIEFERVON,VERTRAEGE.LIEFERBIS,"
@@ -29,9 +29,9 @@ std::vector<std::string> headSummary(const parts::OpenContract& contract) {
     // clang-format on
     const auto header = contract.connection().open(query.number(contract.id).text());
     requireContract(*header);
-    std::vector<std::string> summary;
+    HeadSummary summary;
     const auto add = [&summary](const std::string& caption, const std::string& value) {
-        if (!value.empty()) summary.push_back(ui::plainCaption(caption) + ": " + value);
+        if (!value.empty()) summary.lines.push_back(ui::plainCaption(caption) + ": " + value);
     };
     const auto caption = [&contract](int number) {
         return contract.services->localizer.text(number, contract.session);
@@ -40,8 +40,8 @@ std::vector<std::string> headSummary(const parts::OpenContract& contract) {
     const HeaderCaptions captions = headerCaptions(host::moduleState().context.StrVer_Type);
 
     add(ownText(OwnText::contractDate), base::dateText(header->field("INVDATE")));
-    add(ownText(OwnText::deliveryPeriod),
-        base::periodText(header->field("LIEFERVON"), header->field("LIEFERBIS")));
+    summary.period = base::periodText(header->field("LIEFERVON"), header->field("LIEFERBIS"));
+    add(ownText(OwnText::deliveryPeriod), summary.period);
     for (std::size_t i = 0; i < captions.dates.size(); ++i) {
         add(caption(captions.dates[i]), base::dateText(header->field("DATE" + std::to_string(i + 1))));
     }

@@ -60,7 +60,7 @@ F_Tasten::F_Tasten(const Form& window) : Form("F_Tasten") {
     if (const Button* save = window.primaryButton()) add(OwnText::keySave, {plainCaption(save->caption())});
     if (const Button* cancel = window.cancelButton()) {
         add(OwnText::keyCancel, {plainCaption(cancel->caption())});
-    } else {
+    } else if (window.closes()) {
         add(OwnText::keyCloses);
     }
     addGrids(grids);

@@ -29,6 +29,9 @@ public:
     const std::string& name() const { return name_; }
     const std::string& title() const { return title_; }
     void setTitle(std::string title);
+    /// Whom and which time it is about: paper says so below the title, also of the windows above that have
+    /// nothing of their own to say. Asked at each drawing; empty for nothing.
+    virtual std::string subject() const { return {}; }
 
     /// All controls in the order of their ids.
     std::span<Control* const> controls() const { return controls_; }
@@ -56,6 +59,8 @@ public:
     /// open in it, and asks where something typed would be lost by accident.
     /// @return false when that was all that Esc is to do
     virtual bool escape() { return true; }
+    /// Whether the user can close it at all.
+    virtual bool closes() const { return true; }
 
     /// In which the words of the rules of input are: "en"; any other is German.
     const std::string& language() const { return language_; }

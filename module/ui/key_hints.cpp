@@ -27,8 +27,7 @@ public:
             const TextBox* box = as<TextBox>(focused);
             if (box != nullptr && box->onPick && !box->locked()) add(OwnText::hintPick);
             addPressed(OwnText::keySave, form_.primaryButton());
-            if (form_.cancelButton() != form_.primaryButton())
-                addPressed(OwnText::keyCancel, form_.cancelButton());
+            addEscape();
         }
         if (hints_.size() >= mostHints) hints_.resize(mostHints - 1);
         add(OwnText::hintKeys);
@@ -44,6 +43,14 @@ private:
 
     void addPressed(OwnText text, const Button* button) {
         if (button != nullptr && button->usable()) add(text, {plainCaption(button->caption())});
+    }
+
+    void addEscape() {
+        if (form_.cancelButton() == nullptr) {
+            if (form_.closes()) add(OwnText::keyCancel, {base::ownText(OwnText::close, form_.language())});
+        } else if (form_.cancelButton() != form_.primaryButton()) {
+            addPressed(OwnText::keyCancel, form_.cancelButton());
+        }
     }
 
     bool addOpenCell() {

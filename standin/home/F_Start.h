@@ -41,7 +41,8 @@ public:
     void Run();
 
 private:
-    bool queryUnload() override { return closing_ == Closing::allowed; }
+    bool closes() const override { return closing_ == Closing::allowed; }
+    bool queryUnload() override { return closes(); }
     void connect();
     void connectPeriod(ui::TextBox& box);
     void arrange();

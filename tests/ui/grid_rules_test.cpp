@@ -251,14 +251,14 @@ TEST_F(GridRules, TheStatusLineNamesTheKeysThatAreNext) {
         stock.btnNeu.setEnabled(false);
         EXPECT_EQ(hints(), "F2 Bearbeiten, Strg+C Kopieren, Strg+S Speichern, F1 Tasten");
         stock.grid.openColumns({2, 4});
-        EXPECT_EQ(hints(), "F2 Zelle ändern, Strg+S Speichern, F1 Tasten");
+        EXPECT_EQ(hints(), "F2 Zelle ändern, Strg+S Speichern, Esc Schließen, F1 Tasten");
         stock.grid.setCurrent(0, 2);
         user.key(Key::f2);
         EXPECT_EQ(hints(), "Enter übernehmen, Esc verwerfen, ↑ ↓ Zeile, F1 Tasten");
         user.key(Key::escape);
         stock.setLanguage("en");
         user.focus("btnOk");
-        EXPECT_EQ(hints(), "Ctrl+S Speichern, F1 keys");
+        EXPECT_EQ(hints(), "Ctrl+S Speichern, Esc Close, F1 keys");
     });
 }
 

@@ -89,7 +89,12 @@ export class Desktop {
   #print(whole) {
     const { lang, style } = document.documentElement;
     style.setProperty('--printed', `"${new Date().toLocaleDateString(lang)}"`);
-    for (const view of this.#windows.at(-1)?.views.values() ?? []) view.showWhole?.(whole);
+    const sheets = this.#windows.filter(({ card }) => !card);
+    const sheet = sheets.at(-1);
+    if (!sheet) return;
+    sheet.path.dataset.title = sheet.title;
+    sheet.path.dataset.subject = sheets.findLast(({ subject }) => subject)?.subject ?? '';
+    for (const view of sheet.views.values()) view.showWhole?.(whole);
   }
 
   /** Puts the browser's focus where the session says it is. */
@@ -183,13 +188,13 @@ export class Desktop {
     this.perform(view.window, { type: 'focus', control: view.state.id });
   }
 
-  #open({ id, form, title, card, asks, layout, controls, status, hints }) {
+  #open({ id, form, title, subject, card, asks, layout, controls, status, hints }) {
     const element = document.createElement('section');
     element.className = card ? 'window card' : 'window';
     element.id = newElementId();
     element.tabIndex = -1;
     element.dataset.form = form;
-    const window = { id, element, card, views: new Map(), desktop: this };
+    const window = { id, element, card, subject, views: new Map(), desktop: this };
     if (this.#windows.length > 0) {
       element.setAttribute('role', 'dialog');
       element.setAttribute('aria-modal', 'true');
@@ -253,10 +258,11 @@ export class Desktop {
     if (window.card) showPath(window.path, [title]);
   }
 
-  #change({ id, title, controls, status, hints }) {
+  #change({ id, title, subject, controls, status, hints }) {
     const window = this.#windows.find((candidate) => candidate.id === id);
     if (!window) return;
     if (title !== undefined) this.#title(window, title);
+    if (subject !== undefined) window.subject = subject;
     this.#draw(window, controls ?? []);
     countFilters(window.element);
     if (status) window.status.draw(status);

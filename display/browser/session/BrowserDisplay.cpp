@@ -162,6 +162,8 @@ void BrowserDisplay::drawWindows(json& message, bool complete) {
             if (below != nullptr) opened.back()["asks"] = below->id();
             window.hints = ui::keyHints(*window.form);
             opened.back()["hints"] = drawHints(window.hints);
+            window.subject = window.form->subject();
+            opened.back()["subject"] = window.subject;
             window.drawn = true;
             continue;
         }
@@ -174,6 +176,10 @@ void BrowserDisplay::drawWindows(json& message, bool complete) {
         if (auto hints = ui::keyHints(*window.form); hints != window.hints) {
             change["hints"] = drawHints(hints);
             window.hints = std::move(hints);
+        }
+        if (std::string subject = window.form->subject(); subject != window.subject) {
+            change["subject"] = subject;
+            window.subject = std::move(subject);
         }
         if (json controls = drawChanges(*window.form); !controls.empty()) {
             change["controls"] = std::move(controls);

@@ -45,6 +45,7 @@ private:
         ui::Form* form;
         bool drawn = false;
         std::vector<ui::KeyHint> hints = {}; ///< as the page shows them
+        std::string subject = {};            ///< as the page knows it
     };
     struct Question {
         int id;

@@ -93,6 +93,27 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     });
     return (now.text === text && now.seen) || now;
   }, `a cell with ${text}`);
+  /** Paper in dark: what stands on top, and a list in columns, or all rows of a table below the heads of theirs. */
+  const onPaper = async (name) => {
+    await page.emulateMedia({ media: 'print', colorScheme: 'dark' });
+    const paper = await control(page, name).evaluate((shown) => {
+      dispatchEvent(new Event('beforeprint'));
+      const lefts = (row) => [...row.children].filter((cell) => !cell.hidden).map((cell) => Math.round(cell.getBoundingClientRect().left)).join();
+      const path = document.querySelector('.window:not(.behind) > .path');
+      const says = ['::before', '::after'].map((part) => JSON.parse(getComputedStyle(path, part).content));
+      const [head, ...rows] = shown.querySelectorAll('[role=row]');
+      const table = head && {
+        rows: rows.length, aligned: rows.every((row) => lefts(row) === lefts(head)),
+        repeats: getComputedStyle(head).display, breaks: getComputedStyle(rows[0]).breakInside,
+      };
+      const names = [...shown.querySelectorAll('.name')].map((element) => element.getBoundingClientRect().left);
+      const colour = getComputedStyle(document.body).color;
+      dispatchEvent(new Event('afterprint'));
+      return { says, colour, ...(table || { columns: new Set(names).size }) };
+    });
+    await page.emulateMedia({ media: null, colorScheme: null });
+    return paper;
+  };
   const interrupt = async () => {
     await page.evaluate(() => window.cutLine());
     await page.locator('#banner', { hasText: 'unterbrochen' }).waitFor();
@@ -154,6 +175,12 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
   });
 
   test('of hundreds of price lines, the one that is edited, new, moved or next is in sight', async () => {
+    await openContract();
+    assert.deepEqual(await onPaper('List1'), {
+      says: ['Vertrag (R-2025-001 Fichte Wolfsberg)', 'Sägewerk Kärnthaler · 01.01.2025 – 31.12.2025'], colour: 'rgb(23, 32, 29)', columns: 2,
+    });
+    await press('Escape');
+    await top('F_Start');
     await openPrices();
     const current = () => control(page, 'MSFlexGrid1').locator('[role=row].current');
     const showsRow = (place, text) => until(async () => {
@@ -162,19 +189,11 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
       return (index === place && shown.includes(text)) || [index, shown];
     }, `row ${place} with ${text}`);
 
-    // Paper shows all of them, dark on white, each below the other in the columns of the head.
-    await page.emulateMedia({ media: 'print', colorScheme: 'dark' });
-    const paper = await page.evaluate(() => {
-      dispatchEvent(new Event('beforeprint'));
-      const [head, ...rows] = [...document.querySelectorAll('[data-control="MSFlexGrid1"] [role=row]')].map((row) => (
-        [...row.children].map((cell) => Math.round(cell.getBoundingClientRect().left)).join()));
-      const colour = getComputedStyle(document.body).color;
-      dispatchEvent(new Event('afterprint'));
-      return { rows: rows.length, aligned: rows.every((row) => row === head), colour };
+    assert.deepEqual(await onPaper('MSFlexGrid1'), {
+      says: ['Preise – R-2025-001 Fichte Wolfsberg', 'Sägewerk Kärnthaler · 01.01.2025 – 31.12.2025'],
+      colour: 'rgb(23, 32, 29)', rows: 500, aligned: true, repeats: 'table-header-group', breaks: 'avoid',
     });
-    assert.deepEqual(paper, { rows: 500, aligned: true, colour: 'rgb(23, 32, 29)' });
-    await page.emulateMedia({ media: null, colorScheme: null });
-    assert.ok(await control(page, 'MSFlexGrid1').locator('.grid-row').count() < 100);
+    await until(async () => (await control(page, 'MSFlexGrid1').locator('.grid-row').count()) < 100, 'few rows on the screen');
 
     await tabTo('MSFlexGrid1');
     await press('Control+End', 'Home');
@@ -380,6 +399,8 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await page.keyboard.type('3001');
     await press('Tab');
     await table.getByText('Judenburg').waitFor();
+    const { rows, aligned } = await onPaper('MSFG');
+    assert.deepEqual({ rows, aligned }, { rows: 4, aligned: true }, 'three, and the sums below their columns');
     await control(page, 'btnBearbeiten').click();
     await support.hasFocus(page, 'MSFG');
     await page.keyboard.type('7');

@@ -13,6 +13,12 @@ const orders = ['none', 'ascending', 'descending'];
 const nameWidth = 12; // a text that wide is a name or the like, what is shorter is a date or a code
 const rowsBeyond = 8; // drawn above and below those that are seen: scrolling shows no gaps
 
+function sumCell() {
+  const cell = document.createElement('div');
+  cell.setAttribute('role', 'gridcell');
+  return cell;
+}
+
 export class Grid extends View {
   #head = document.createElement('div');
   #body = document.createElement('div');
@@ -21,6 +27,7 @@ export class Grid extends View {
   #scrolledTo = 0;
   #laidOut = false; // it has room on the screen, and is not on the page of a tab behind another
   #sums = document.createElement('div');
+  #sumRows = new Map(); // the cells of each by their columns
   #whole = false; // all rows are drawn, for paper
   #looks = []; // the classes of a cell, by its column
   #changed = new Map(); // who has changed a cell, by its row and column
@@ -112,31 +119,30 @@ export class Grid extends View {
     frame?.standsAs(group);
     this.#sums.className = 'grid-sums';
     this.#sums.setAttribute('role', 'presentation');
-    this.#sums.append(...rows.map((cells) => {
+    for (const cells of rows) {
       const row = document.createElement('div');
       row.setAttribute('role', 'row');
-      row.append(...cells.map(({ column, content }) => {
-        const cell = document.createElement('div');
-        cell.setAttribute('role', 'gridcell');
-        cell.dataset.sum = column;
+      this.#sumRows.set(row, new Map(cells.map(({ column, content }) => {
+        const cell = sumCell();
         cell.append(...content);
-        return cell;
-      }));
-      return row;
-    }));
+        return [column, cell];
+      })));
+    }
+    this.#sums.append(...this.#sumRows.keys());
     group.replaceChildren(this.#sums);
     this.element.append(group);
     this.#placeSums();
   }
 
-  /** The sums stand in the columns that they belong to; those of a hidden one are hidden with it. */
+  /** The sums stand in the columns that they belong to, beside empty cells; those of a hidden one are hidden. */
   #placeSums() {
-    const visible = this.state.columns?.filter((column) => column.visible) ?? [];
-    for (const cell of this.#sums.querySelectorAll('[data-sum]')) {
-      const column = this.state.columns?.[cell.dataset.sum];
-      cell.hidden = !column?.visible;
-      cell.style.gridColumn = visible.indexOf(column) + 1;
-      cell.classList.toggle('right', Boolean(column?.right));
+    for (const [row, cells] of this.#sumRows) {
+      row.replaceChildren(...this.state.columns.map(({ visible, right }, at) => {
+        const cell = cells.get(at) ?? sumCell();
+        cell.hidden = !visible;
+        cell.classList.toggle('right', right);
+        return cell;
+      }));
     }
   }
 
