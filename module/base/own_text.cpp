@@ -348,6 +348,8 @@ constexpr Words wordsOf(OwnText text) {
         return {"fehlt", "missing"};
     case OwnText::helpersReported:
         return {"{} von {} haben gemeldet", "{} of {} have reported"};
+    case OwnText::helpersMissing:
+        return {"Es fehlen: {}", "Missing: {}"};
     case OwnText::carrier:
         return {"Frächter", "Carrier"};
     case OwnText::loadsWanted:

@@ -160,6 +160,7 @@ enum class OwnText {
     // Weekly provision reports
     reportMissing,   ///< marks a helper
     helpersReported, ///< how many, of how many
+    helpersMissing,  ///< who has not reported
     carrier,
     loadsWanted,     ///< the most loads
     reportsGone,     ///< the helpers

@@ -316,12 +316,15 @@ TEST_F(LogisticsCalendar, SavingWritesOneWeek) {
         EXPECT_EQ(user.focused(), "txtWoche");
         current(user, 0);
         user.click("btnAbbrechen1");
-        EXPECT_EQ(user.text("txtJahr"), "") << "discarded";
+        const auto boxes = [&] {
+            return user.text("txtJahr") + "/" + user.text("txtWoche") + "/" + user.text("txtPlanmenge");
+        };
+        EXPECT_EQ(boxes(), "2025/19/250") << "discarded: the current one stands there again";
 
         current(user, 5);
+        EXPECT_EQ(boxes(), "2025/24/");
         user.click("btnBearbeiten1");
-        EXPECT_EQ(user.text("txtJahr") + "/" + user.text("txtWoche") + "/" + user.text("txtPlanmenge"),
-                  "2025/24/");
+        EXPECT_EQ(boxes(), "2025/24/");
         user.type("txtPlanmenge", "99");
         host.statements.clear();
         user.click("btnSpeichern1"); // its own year and week

@@ -32,6 +32,7 @@ TEST_F(ProvisionReports, ShowARowForEachHelperOfContractAndWeek) {
         EXPECT_EQ(grid.cell(0, 1) + "|" + grid.cell(0, 4), "Huber Josef|Zufahrt nur bei Trockenheit");
         EXPECT_EQ(grid.cell(0, 7) + "|" + grid.cell(0, 8) + "|" + grid.cell(0, 9), "400|350|136");
         EXPECT_EQ(user.caption("lblGemeldet"), "2 von 4 haben gemeldet");
+        EXPECT_EQ(user.caption("lblFehlen"), "Es fehlen: Öllinger Franz, Steiner Alois");
         EXPECT_EQ(sums(user), "6 3 / 13 9") << "with reports of other weeks of other years";
 
         host.database.execute("UPDATE WVO_BEREITMELDUNG_KW SET WOCHE = 23 WHERE ID = 5");

@@ -4,7 +4,7 @@ const paths = {
   delete: 'M4 4l8 8M12 4l-8 8',
   document: 'M4 1.5h5.5L12.5 5v9.5h-8.5zM9 1.5V5.5h3.5M6 8.5h4.5M6 11h4.5',
   pick: 'M7 2.5a4.5 4.5 0 1 0 0 9 4.5 4.5 0 0 0 0-9zM10.3 10.3l3.7 3.7',
-  more: 'M3.5 8h.01M8 8h.01M12.5 8h.01',
+  more: 'M3 8h.8M7.6 8h.8M12.2 8h.8',
   tree: 'M8 1.5l3.5 4h-2l3 4h-9l3-4h-2zM8 9.5v5',
   calendar: 'M2.5 3.5h11v10h-11zM2.5 6.5h11M5.5 1.5v3M10.5 1.5v3',
   table: 'M2 3h12v10H2zM2 6.5h12M2 9.8h12M6 3v10',

@@ -121,7 +121,10 @@ void CalendarArea::connect() {
     DataGridKalendar.onDoubleClick = [this] {
         if (btnBearbeiten1.usable()) startEdit();
     };
-    DataGridKalendar.onCurrentChange = [this] { weekPlan_.mark(weeks_.currentKey()); };
+    DataGridKalendar.onCurrentChange = [this] {
+        weekPlan_.mark(weeks_.currentKey());
+        showCurrent();
+    };
     weekPlan_.onSelect = [this](std::int64_t week) { goTo(week); };
     btnNeu1.onClick = [this] { startNew(); };
     btnBearbeiten1.onClick = [this] { startEdit(); };
@@ -216,6 +219,7 @@ void CalendarArea::reload(std::optional<std::int64_t> key) {
     weeks_.show(std::move(rows));
     if (key) weeks_.select(*key);
     weekPlan_.show(weeks_, contract_, statements_);
+    showCurrent();
 }
 
 void CalendarArea::goTo(std::int64_t week) {
@@ -254,6 +258,14 @@ void CalendarArea::clearBoxes() {
     for (ui::TextBox* box : {&txtJahr, &txtWoche, &txtPlanmenge})
         box->show("");
     row_.leave();
+}
+
+void CalendarArea::showCurrent() {
+    if (!mode_.viewing()) return;
+    if (weeks_.currentKey())
+        row_.show(weeks_.row(DataGridKalendar.currentRow()));
+    else
+        clearBoxes();
 }
 
 void CalendarArea::startNew() {
@@ -375,8 +387,8 @@ void CalendarArea::discard() {
 void CalendarArea::cancel() {
     const bool discards = changed();
     if (removeUnfinished()) reload(std::nullopt);
-    clearBoxes();
     mode_.enter(parts::EditMode::State::view);
+    showCurrent();
     parts::SafeSetFocus(DataGridKalendar);
     if (discards) undo_.say(words(OwnText::changesDiscarded));
 }

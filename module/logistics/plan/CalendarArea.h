@@ -54,6 +54,8 @@ private:
     /// The one that the rows are ordered by, negative for descending.
     int sortColumn();
     void clearBoxes();
+    /// The current week stands beside the list while none is edited.
+    void showCurrent();
     void startNew();
     void startEdit();
     void edit(parts::EditMode::State state, std::int64_t key);

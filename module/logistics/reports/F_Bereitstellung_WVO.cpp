@@ -128,7 +128,7 @@ void F_Bereitstellung_WVO::arrange() {
                                   ui::row({ui::under(name, lblZ1), ui::under(announced, lblZ2),
                                            ui::under(remark, lblVS), ui::under(confirmed, lblZ3)})}))
             .growing(),
-        ui::row({lblGemeldet, pgbSpeichern}),
+        ui::row({lblGemeldet, lblFehlen, pgbSpeichern}),
         ui::bar({btnBearbeiten, ui::Layout{btnSpeichern}.primary(), btnAbbrechen, btnAllezusagen},
                 {btnExcel, btnExcelAlles, btnFHPExport, btnZuegeJeWoche}, {btnSchliesen}),
     }));
@@ -209,10 +209,26 @@ void F_Bereitstellung_WVO::showSums() {
     shown(lblWH3, table_.confirmed());
     shown(lblZ2, table_.announced() + otherAnnounced_);
     shown(lblZ3, table_.confirmed() + otherConfirmed_);
-    lblGemeldet.setCaption(loaded_ && week_.chosen() && !table_.empty()
-                               ? own(OwnText::helpersReported, {std::to_string(table_.reported()),
-                                                                std::to_string(table_.rows().size())})
-                               : "");
+    showReported();
+}
+
+void F_Bereitstellung_WVO::showReported() {
+    constexpr std::size_t most = 8;
+    std::string counted;
+    std::string named;
+    if (loaded_ && week_.chosen() && !table_.empty()) {
+        const std::size_t all = table_.rows().size();
+        std::vector<std::string> missing = table_.missing();
+        counted = own(OwnText::helpersReported, {std::to_string(all - missing.size()), std::to_string(all)});
+        if (missing.size() > most) {
+            missing.resize(most);
+            missing.emplace_back("…");
+        }
+        if (!missing.empty()) named = own(OwnText::helpersMissing, {base::joined(missing, ", ")});
+    }
+    lblGemeldet.setCaption(counted);
+    lblGemeldet.setWarning(named.empty() ? "" : counted);
+    lblFehlen.setCaption(named);
 }
 
 void F_Bereitstellung_WVO::startEdit() {

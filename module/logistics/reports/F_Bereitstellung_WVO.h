@@ -48,6 +48,8 @@ private:
     /// What the list says where it shows nothing.
     std::string whyEmpty() const;
     void showSums();
+    /// How many have reported, and who has not.
+    void showReported();
 
     void startEdit();
     void cancel();
@@ -83,6 +85,7 @@ private:
     ui::Grid MSFG{*this, "MSFG", 16};
     ui::TextBox txtEdit{*this, "txtEdit", 14};
     ui::Label lblGemeldet{*this, "lblGemeldet"};
+    ui::Label lblFehlen{*this, "lblFehlen"};
     ui::ProgressBar pgbSpeichern{*this, "pgbSpeichern"};
 
     ui::Frame frmSummen{*this, "frmSummen", "Summen"};

@@ -144,8 +144,11 @@ void ProvisionTable::hideReported() {
     grid_.showOnly([](KeyedRow& row) { return !hasReport(row); });
 }
 
-int ProvisionTable::reported() {
-    return static_cast<int>(std::ranges::count_if(rows(), hasReport));
+std::vector<std::string> ProvisionTable::missing() {
+    std::vector<std::string> names;
+    for (KeyedRow& row : rows())
+        if (!hasReport(row)) names.push_back(nameOf(row));
+    return names;
 }
 
 bool ProvisionTable::hasTyped() {

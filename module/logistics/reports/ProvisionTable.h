@@ -35,7 +35,8 @@ public:
     bool empty() const { return grid_.empty(); }
     std::span<parts::KeyedRow> rows() { return grid_.rows(); }
     parts::KeyedGrid& grid() { return grid_; }
-    int reported();
+    /// The names of those who have not reported.
+    std::vector<std::string> missing();
     /// How many rows have values that are not written yet.
     int changed() const { return grid_.touchedRows(); }
     /// Whether anything would be lost: such a row, or what was typed into a cell that is still open.

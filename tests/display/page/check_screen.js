@@ -45,6 +45,13 @@ function findMisplaced() {
     }
   }
 
+  const words = document.createRange();
+  for (const button of top.querySelectorAll('.button')) {
+    words.selectNodeContents(button);
+    const room = button.clientWidth - 2 * parseFloat(getComputedStyle(button).paddingLeft);
+    if (seen(button) && words.getBoundingClientRect().width > room + 1) findings.push(`${nameOf(button)} is filled from edge to edge`);
+  }
+
   for (const area of [document.documentElement, ...top.querySelectorAll('.content')]) {
     if (area.scrollWidth > area.clientWidth + 1) findings.push(`${area.className || 'page'} is ${area.scrollWidth - area.clientWidth} too wide`);
   }

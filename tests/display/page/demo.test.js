@@ -193,6 +193,21 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
     await type('1.2.2025\t');
     await until(async () => (await date.getAttribute('aria-invalid')) === null, 'valid');
     assert.ok(!(await text.isVisible()));
+
+    // An empty table is described by what it says instead of rows, or else by what is wrong.
+    const described = await page.evaluate(async () => {
+      const { Grid } = await import(new URL('controls/grid.js', document.querySelector('script').src));
+      const grid = new Grid({}, { name: 'grdEmpty', id: 0 });
+      document.body.append(grid.element);
+      const state = { visible: true, enabled: true, columns: [], content: [], current: [-1, 0], far: [-1, 0], changedCells: [], empty: 'Leer' };
+      const texts = ['', 'Falsch', ''].map((error) => {
+        grid.update({ ...state, error });
+        return document.getElementById(grid.element.getAttribute('aria-describedby')).textContent;
+      });
+      grid.element.remove();
+      return texts;
+    });
+    assert.deepEqual(described, ['Leer', 'Falsch', 'Leer']);
   });
 
   test('the status line says what was done, and its offer is pressed by pointer and letter', async () => {

@@ -167,8 +167,20 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     problems.splice(0, problems.length, ...problems.filter((text) => !/ERR_CONNECTION_REFUSED|403/.test(text)));
   });
 
-  test('the language can be changed while the program runs', async () => {
+  test('the language can be changed while the program runs, on a phone behind the filters\' button', async () => {
+    await page.setViewportSize({ width: 390, height: 844 });
+    const language = control(page, 'cboLanguage');
+    const isOpen = (open) => until(async () => {
+      const now = [await page.locator('.more').getAttribute('aria-expanded'), await language.isVisible()].join();
+      return now === `${open},${open}` || now;
+    }, `open: ${open}`);
+    await isOpen(false);
     await tabTo('cboLanguage');
+    await isOpen(true);
+    await page.locator('.more').click();
+    await isOpen(false);
+    await page.locator('.more').click();
+    await isOpen(true);
     await press('ArrowDown');
     await until(async () => (await page.evaluate(() => document.documentElement.lang)) === 'en', 'English');
     await page.getByRole('button', { name: 'Open' }).waitFor();
