@@ -121,7 +121,7 @@ void F_HeaderVertrag::arrange() {
     std::vector<ui::Layout> texts;
     for (std::size_t i = 0; i < txtNumber.size(); ++i) {
         numbers.push_back(field(lblNumber[i], txtNumber[i]));
-        texts.push_back(field(LabelKopf[i], txtKopf[i]));
+        texts.push_back(field(LabelKopf[i], txtKopf[i]).growing());
     }
     setLayout(column({
         row({

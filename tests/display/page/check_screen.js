@@ -45,6 +45,12 @@ function findMisplaced() {
     }
   }
 
+  for (const grid of top.querySelectorAll('.grid:has(.grid-row)')) {
+    const height = (part) => grid.querySelector(part)?.offsetHeight ?? 0;
+    const room = grid.clientHeight - height('.grid-head') - height('.grid-sums');
+    if (seen(grid) && room < height('.grid-row')) findings.push(`${nameOf(grid)} shows no row`);
+  }
+
   const words = document.createRange();
   for (const button of top.querySelectorAll('.button')) {
     words.selectNodeContents(button);

@@ -114,6 +114,7 @@ export class Grid extends View {
    * @param frame the frame that the screen keeps them in, or null
    */
   showSums(rows, frame) {
+    this.element.classList.add('summed');
     const group = document.createElement('div');
     group.setAttribute('role', 'rowgroup');
     frame?.standsAs(group);
