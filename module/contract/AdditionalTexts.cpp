@@ -58,13 +58,19 @@ void AdditionalTexts::load() {
 }
 
 void AdditionalTexts::toggle() {
-    if (picZusatzText.visible()) {
-        picZusatzText.setVisible(false);
-        parts::SafeSetFocus(opener_);
-    } else {
-        show();
-        parts::SafeSetFocus(txtZusatz);
-    }
+    if (close()) return;
+    show();
+    parts::SafeSetFocus(txtZusatz);
+}
+
+bool AdditionalTexts::close() {
+    if (!picZusatzText.visible()) return false;
+    if (keepsRefused()) return true;
+    for (Text& text : texts_)
+        text.box.setText(text.written);
+    picZusatzText.setVisible(false);
+    parts::SafeSetFocus(opener_);
+    return true;
 }
 
 void AdditionalTexts::show() {

@@ -24,6 +24,10 @@ public:
     void open(parts::OpenContract contract);
     /// Shows the texts of the contract.
     void load();
+    /// Writes what the frame holds and hides it; where that is refused and the user does not discard it, it
+    /// stays.
+    /// @return false when it was not shown
+    bool close();
     /// Writes what differs from the database.
     void write();
     /// Writes what is still unwritten. Where that fails the user is asked once whether to discard it.

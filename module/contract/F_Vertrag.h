@@ -82,6 +82,7 @@ private:
     void removeCustomer();
     void openHeader();
     void save();
+    bool escape() override { return !additionalTexts_.close(); }
     bool queryUnload() override;
 
     host::HostServices& services_;

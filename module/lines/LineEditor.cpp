@@ -273,7 +273,9 @@ void LineEditor::selectInDialog() {
     list_.setDialogSelectionOf(*chosen, id);
     selection_.showChosen(*chosen);
     row_.keep(selectionColumn, *chosen);
-    if (!viewing()) return;
+    // A new line goes with its selection.
+    if (mode_.state() == State::fresh) return;
+    if (!viewing()) return say(OwnText::writtenAtOnce, {ui::plainCaption(selection_.button().caption())});
     currentLineShown();
     say(OwnText::selectionSaved);
 }

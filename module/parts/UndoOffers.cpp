@@ -13,7 +13,8 @@ void UndoOffers::say(const std::string& text) {
     if (done_.empty()) return status_.say(text);
     // What would be undone has to be seen beside the offer.
     const std::string& last = done_.back().text;
-    status_.say(text.empty() ? last : text + " " + last,
+    const char* end = text.ends_with('.') ? " " : ". ";
+    status_.say(text.empty() ? last : text + end + last,
                 base::ownText(base::OwnText::undo, session_.language), [this] { undoLast(); });
 }
 

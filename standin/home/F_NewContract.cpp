@@ -42,8 +42,9 @@ std::optional<F_NewContract::Contract> F_NewContract::Run(const std::string& typ
 }
 
 void F_NewContract::refuse(std::string_view reason) {
-    parts::ShowMessage(services_.host().display, services_.localizer().named(reason, session_),
-                       ui::box::exclamation);
+    const std::string why = services_.localizer().named(reason, session_);
+    txtName.setError(why);
+    parts::ShowMessage(services_.host().display, why, ui::box::exclamation);
     parts::SafeSetFocus(txtName);
     txtName.selectAll();
 }

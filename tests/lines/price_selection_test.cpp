@@ -46,6 +46,9 @@ TEST_F(PriceSelection, QuickSelectionAndDialogReplaceEachOther) {
                   "83 NOT IN ('LA', 'BU', 'EI') ;94 BETWEEN 4 AND 6 ;")
             << "empty boxes do not destroy what the dialog wrote";
         user.click("cmdBearbeiten");
+        host.onSelectionDialog = [](const std::string& key) { return key; };
+        user.click("cmdSelect");
+        EXPECT_EQ(user.status(), "Selection – schon gespeichert, „Abbrechen“ nimmt es nicht zurück");
         user.type("txtHa", "FI ,KI");
         user.click("cmdSpeichern");
         EXPECT_EQ(value("SELECT SELEKTION_VALUE FROM VERTRAG_PREISE WHERE ID = 5"), "83 IN ('FI ', 'KI') ;");

@@ -184,7 +184,7 @@ TEST_F(ProvisionReports, TakeWholeLoadsAndCarriersThatCanBeQuoted) {
 TEST_F(ProvisionReports, TheLoadsOfAllWeeksAreAListAndBarsThatLeadToAWeek) {
     work([&](User& user) {
         host.display.onWindow("F_ZuegeJeWoche", [&](User& weeks) {
-            EXPECT_EQ(weeks.caption("lblVertrag"), fibreWood);
+            EXPECT_EQ(weeks.window().title(), std::string{"Züge je Woche – "} + fibreWood);
             EXPECT_EQ(weeks.grid("grdWochen").rows().size(), 6U);
             EXPECT_EQ(weeks.grid("grdWochen").rows()[4], (ui::Grid::Row{"2025/23", "6", "3"}));
             EXPECT_EQ(weeks.bars("chtZuege"), "19:– / –! 20:– / –! 21:– / –! 22:5 / 5 [23:6 / 3] 24:3 / 3");

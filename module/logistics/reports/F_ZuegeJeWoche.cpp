@@ -2,6 +2,7 @@
 
 #include "module/base/field_text.h"
 #include "module/logistics/week_chart.h"
+#include "module/parts/contract_title.h"
 #include "module/parts/grids/grid_layout.h"
 #include "module/ui/input/control_keys.h"
 
@@ -9,8 +10,14 @@
 
 namespace tellurix::logistics {
 
+namespace {
+
+constexpr const char* loadsCaption = "Züge je Woche";
+
+} // namespace
+
 F_ZuegeJeWoche::F_ZuegeJeWoche(host::HostServices& services)
-    : Form("F_ZuegeJeWoche", "Züge je Woche"), services_(services) {
+    : Form("F_ZuegeJeWoche", loadsCaption), services_(services) {
     grdWochen.setColumns({{.caption = "Jahr/Woche", .width = 12},
                           {.caption = "Züge", .width = 12, .rightAligned = true},
                           {.caption = "Züge zugesagt", .width = 16, .rightAligned = true}});
@@ -24,7 +31,6 @@ F_ZuegeJeWoche::F_ZuegeJeWoche(host::HostServices& services)
     btnSchliessen.onClick = [this] { unload(); };
     setCancelButton(btnSchliessen);
     setLayout(ui::column({
-        lblVertrag,
         ui::sides(ui::Layout{grdWochen}.growing(), ui::groups({ui::frame(frmZuege, {chtZuege})}).growing())
             .growing(),
         ui::bar({ui::Layout{btnWaehlen}.primary()}, {}, {btnSchliessen}),
@@ -34,8 +40,7 @@ F_ZuegeJeWoche::F_ZuegeJeWoche(host::HostServices& services)
 std::optional<base::IsoWeek> F_ZuegeJeWoche::Run(const host::TlxVar& session, const ReportWeek& week,
                                                  const std::string& contract) {
     chosen_.reset();
-    services_.localizer.localize(session, *this);
-    lblVertrag.setCaption(contract);
+    parts::localizeWithTitle(services_, session, *this, loadsCaption, contract);
     show(session, week);
     parts::GridLayouts layouts{services_, session, *this};
     services_.display.showModal(*this);

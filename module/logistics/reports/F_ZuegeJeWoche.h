@@ -8,7 +8,6 @@
 #include "module/ui/controls/Chart.h"
 #include "module/ui/controls/Frame.h"
 #include "module/ui/controls/Grid.h"
-#include "module/ui/controls/Label.h"
 #include "module/ui/input/TextSorting.h"
 
 #include <optional>
@@ -38,7 +37,6 @@ private:
     std::vector<base::IsoWeek> weeks_; ///< of the bars, and of the rows as they were given
     std::optional<base::IsoWeek> chosen_;
 
-    ui::Label lblVertrag{*this, "lblVertrag"};
     ui::Grid grdWochen{*this, "grdWochen", 16};
     ui::TextSorting sorting_{grdWochen, services_.locale};
     ui::Frame frmZuege{*this, "frmZuege", "Züge je Woche"};

@@ -54,6 +54,7 @@ void F_Models::connect() {
 
 void F_Models::load(const std::string& name) {
     models_ = store_.models();
+    txtName.show("");
     std::vector<ui::Grid::Row> rows;
     for (const ModelStore::Model& model : models_)
         rows.push_back({model.name});
@@ -71,7 +72,8 @@ const ModelStore::Model* F_Models::current() const {
 
 void F_Models::showModel() {
     const ModelStore::Model* model = current();
-    txtName.show(model == nullptr ? "" : model->name);
+    // What is typed is for the present lines, whichever model is looked at meanwhile.
+    if (!txtName.touched()) txtName.show(model == nullptr ? "" : model->name);
     for (ui::Button* button : {&btnRename, &btnDelete})
         button->setEnabled(model != nullptr);
     std::vector<ui::Grid::Row> rows;
@@ -90,7 +92,8 @@ std::string F_Models::typedName() {
     // The name goes into a statement as it stands, on the lines of every calculation that takes the model.
     std::string name{base::trim(parts::typedCodes(txtName))};
     if (name.empty()) {
-        parts::ShowMessage(display(), texts_("models.nameMissing"), ui::box::exclamation);
+        txtName.setError(texts_("models.nameMissing"));
+        parts::ShowMessage(display(), txtName.error(), ui::box::exclamation);
         setFocus(txtName);
     }
     return name;
@@ -108,8 +111,11 @@ void F_Models::rename() {
     const ModelStore::Model* model = current();
     const std::string name = typedName();
     if (model == nullptr || name.empty()) return;
-    if (const auto other = store_.find(name); other && *other != model->id)
-        throw base::Refused{base::filled(texts_("models.nameTaken"), {name})};
+    if (const auto other = store_.find(name); other && *other != model->id) {
+        txtName.setError(base::filled(texts_("models.nameTaken"), {name}));
+        setFocus(txtName);
+        throw base::Refused{txtName.error()};
+    }
     store_.rename(model->id, name);
     load(name);
     say("models.renamed", name);

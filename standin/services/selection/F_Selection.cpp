@@ -105,19 +105,22 @@ void F_Selection::takeOver() {
     }
     grdConditions.setCurrent(problem->position);
     showAnother();
+    const std::string why = filled(words_.named(problem->word), {problem->value});
+    for (ui::Control* control : valueFields()) {
+        if (!control->usable()) continue;
+        control->setError(why);
+        setFocus(*control);
+        break;
+    }
     parts::ShowMessage(
         display(),
         filled(words_.named("problem"), {std::to_string(problem->position + 1),
-                                         words_.attribute(draft_.current()->condition.attribute),
-                                         filled(words_.named(problem->word), {problem->value})}),
+                                         words_.attribute(draft_.current()->condition.attribute), why}),
         ui::box::exclamation, title());
-    for (ui::Control* control :
-         std::initializer_list<ui::Control*>{&grdValues, &txtLengths, &txtFrom, &cboFrom, &txtTo, &cboTo}) {
-        if (control->usable()) {
-            setFocus(*control);
-            break;
-        }
-    }
+}
+
+std::array<ui::Control*, 6> F_Selection::valueFields() {
+    return {&grdValues, &txtLengths, &txtFrom, &cboFrom, &txtTo, &cboTo};
 }
 
 void F_Selection::showAnother() {
@@ -144,6 +147,7 @@ void F_Selection::showCondition() {
 }
 
 void F_Selection::showValues() {
+    forgetErrors();
     showFieldsInUse();
     const SelectionTerm* term = draft_.current();
     if (term == nullptr) {
@@ -211,7 +215,13 @@ void F_Selection::changeComparison() {
     showValues();
 }
 
+void F_Selection::forgetErrors() {
+    for (ui::Control* control : valueFields())
+        control->setError({});
+}
+
 void F_Selection::changeValues() {
+    forgetErrors();
     const SelectionTerm* term = draft_.current();
     if (term == nullptr) return;
     const auto& [attribute, comparison, held] = term->condition;

@@ -8,6 +8,7 @@
 #include "standin/services/selection/codes/ChoiceList.h"
 #include "standin/services/selection/selection_words.h"
 
+#include <array>
 #include <map>
 #include <optional>
 #include <vector>
@@ -39,6 +40,9 @@ private:
     void showAnother();
     void showValues();
     void showFieldsInUse();
+    /// Where the values of a condition are entered, by its attribute and comparison.
+    std::array<ui::Control*, 6> valueFields();
+    void forgetErrors();
     /// Takes what the user did in one of the fields into the draft.
     void changeJoiner();
     void changeAttribute();

@@ -243,6 +243,7 @@ TEST_F(StartPage, RefusesANameThatIsNoneAndCreatesNothing) {
                 form.click("btnOk");
                 EXPECT_EQ(form.text("txtName"), row.name) << row.rule;
                 EXPECT_EQ(form.focused(), "txtName") << row.rule;
+                EXPECT_NE(form.error("txtName").find(row.message), std::string::npos) << row.rule;
             }
             display.onMessage("Verwerfen?", ui::Answer::no);
             form.key(Key::escape);

@@ -85,6 +85,10 @@ TEST_F(Models, AreSavedRenamedAndDeleted) {
         user.type("txtName", "Sägewerk Standard");
         user.click("btnRename");
         EXPECT_NE(display.errors().back().find("gibt es schon"), std::string::npos);
+        EXPECT_EQ(user.error("txtName"), display.errors().back());
+        user.select("grdModels", 1);
+        EXPECT_EQ(user.text("txtName"), "Sägewerk Standard") << "what is typed stays";
+        user.select("grdModels", 0);
         user.type("txtName", "D'Angelo");
         user.click("btnRename");
         EXPECT_EQ(user.focused(), "txtName") << "no name with an apostrophe goes on lines";

@@ -204,6 +204,7 @@ TEST_F(SelectionDialog, AnUnfinishedConditionKeepsItOpen) {
             display.onMessage(c.message, ui::Answer::ok, "Selektion");
             user.click("btnOk");
             EXPECT_EQ(user.focused(), c.focused) << c.message;
+            EXPECT_NE(user.error(c.focused), "");
             user.click("btnCancel");
         });
         EXPECT_EQ(value, "cancelled") << c.message;
