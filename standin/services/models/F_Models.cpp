@@ -1,6 +1,7 @@
 #include "standin/services/models/F_Models.h"
 
 #include "module/base/Refused.h"
+#include "module/base/number_format.h"
 #include "module/base/text.h"
 #include "module/parts/M_Common.h"
 #include "module/parts/fields/typed_text.h"
@@ -83,7 +84,9 @@ void F_Models::showModel() {
         if (lines[i] == host::CalculationLine{}) continue;
         const auto position = static_cast<std::size_t>(lines[i].statistic);
         rows.push_back({std::to_string(i + 1), position < statistics_.size() ? statistics_[position] : "",
-                        lines[i].designation, lines[i].value, lines[i].references, lines[i].subset});
+                        lines[i].designation,
+                        base::reformatNumber(lines[i].value, "##,##0.00", base::Locale::german()),
+                        lines[i].references, lines[i].subset});
     }
     grdLines.setRows(std::move(rows));
 }
