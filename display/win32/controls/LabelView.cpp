@@ -10,6 +10,12 @@ LabelView::LabelView(ViewHost& host, ui::Label& label) : ControlView(host, label
     create(L"STATIC", SS_LEFT);
 }
 
+void LabelView::setBeforeBox() {
+    longestLine_ = 28;
+    markStale();
+    update();
+}
+
 SIZE LabelView::textSize() const {
     return theme().textSize(label_.caption(), true, longestLine_ * theme().characterWidth(), label_.strong());
 }

@@ -13,7 +13,7 @@ public:
     Room measure() const override;
     HBRUSH colour(HDC dc) const override;
     /// It stands before a box, which a long caption must not push out of the window.
-    void setBeforeBox() { longestLine_ = 40; }
+    void setBeforeBox();
 
 private:
     void draw() override;
