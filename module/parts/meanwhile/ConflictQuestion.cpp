@@ -27,10 +27,11 @@ ConflictQuestion::ConflictQuestion(host::HostServices& services, const host::Tlx
     answers(btnMeines, Answer::mine);
     answers(btnDeren, Answer::theirs);
     answers(btnZuruck, Answer::back);
+    setCard();
     setCancelButton(btnZuruck);
     txtUnterschiede.setLocked(true);
     setLayout(ui::column(
-        {lblFrage, ui::Layout{txtUnterschiede}.growing(), ui::row({btnMeines, btnDeren, btnZuruck})}));
+        {lblFrage, ui::Layout{txtUnterschiede}.growing(), ui::bar({btnMeines, btnDeren, btnZuruck})}));
 }
 
 ConflictQuestion::Answer ConflictQuestion::ask(const std::vector<Conflict>& conflicts) {

@@ -199,7 +199,7 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
       const { Grid } = await import(new URL('controls/grid.js', document.querySelector('script').src));
       const grid = new Grid({}, { name: 'grdEmpty', id: 0 });
       document.body.append(grid.element);
-      const state = { visible: true, enabled: true, columns: [], content: [], current: [-1, 0], far: [-1, 0], changedCells: [], empty: 'Leer' };
+      const state = { visible: true, enabled: true, columns: [], content: [], current: [-1, 0], far: [-1, 0], changedCells: [], warnings: [], empty: 'Leer' };
       const texts = ['', 'Falsch', ''].map((error) => {
         grid.update({ ...state, error });
         return document.getElementById(grid.element.getAttribute('aria-describedby')).textContent;

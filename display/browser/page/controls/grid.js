@@ -161,6 +161,7 @@ export class Grid extends View {
     // Where room is short, long texts give way before numbers and dates: half a name can still be recognised.
     // What the user has sized does neither give way nor grow.
     const widths = visible.map(({ width, right, sized, caption, order }) => {
+      if (!caption && !sized) return `${width + 1}ch`; // marks of the row
       // A caption that is longer than what stands below it has to be read as well.
       const heading = headingWidth(caption) + (order ? 4.5 : 2.5);
       const room = sized ? width + 2 : Math.max(width + 2, heading);
