@@ -6,7 +6,7 @@
 # which returns the bytes of a file by its name relative to <folder>, or throws std::out_of_range.
 #
 # The comments of scripts and style sheets, where they stand on lines of their own, are for those who read the
-# source: they are left out.
+# source: they are left out, and so is the indentation.
 function(tellurix_embed_files target namespace name folder)
   set(generated ${CMAKE_CURRENT_BINARY_DIR}/embedded_${name})
   set(arrays "")
@@ -18,6 +18,7 @@ function(tellurix_embed_files target namespace name folder)
       file(READ ${folder}/${file} text)
       string(REGEX REPLACE "\n *//[^\n]*" "" text "\n${text}")
       string(REGEX REPLACE "\n */\\*([^*]|\\*+[^*/])*\\*+/" "" text "${text}")
+      string(REGEX REPLACE "\n[\n ]*" "\n" text "${text}")
       string(HEX "${text}" bytes)
     else()
       file(READ ${folder}/${file} bytes HEX)

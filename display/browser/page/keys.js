@@ -41,11 +41,15 @@ const awayFromPage = new Set(['ArrowLeft', 'ArrowRight', 'Home']);
 
 const nobodysKeys = '0';
 
-/** The session's answer, by its own rules. */
+/** The session's answers, by its own rules. */
+function answersFor(view) {
+  return keyUses.answers[keyUses.of[view?.state.keys ?? nobodysKeys]];
+}
+
 function useOf(view, key) {
-  if (key.alt) return 'native';
-  const { uses } = keyUses[view?.state.keys ?? nobodysKeys];
-  return uses[`${key.ctrl ? 'ctrl+' : ''}${key.code}`] ?? 'native';
+  if (key.alt || key.code === 0) return 'native';
+  const { most, others } = answersFor(view)[key.ctrl ? 'ctrl' : 'plain'];
+  return Object.keys(others).find((use) => others[use].includes(key.code)) ?? most;
 }
 
 /**
@@ -64,7 +68,7 @@ export function decide(view, key) {
   if (key.access) return key.repeat ? 'nobody' : 'access';
   // Browsers open their menu or go to another page.
   if (key.name === 'Alt' || (key.alt && awayFromPage.has(key.name))) return 'nobody';
-  if (key.repeat && keyUses[view?.state.keys ?? nobodysKeys].once.includes(key.code)) return 'nobody';
+  if (key.repeat && answersFor(view).once.includes(key.code)) return 'nobody';
   const use = useOf(view, key);
   if (use === 'rules') return 'session';
   if (use === 'nobody') return 'nobody';

@@ -74,10 +74,7 @@ describe('the browser display', { skip: program ? false : 'TELLURIX_WEB_DEMO nam
 
   test('what a browser loads of the page stays small', async () => {
     const loads = [];
-    // The table of keys is none of them: it is made from the rules of input.
-    page.on('response', (response) => {
-      if (!response.url().endsWith('key_uses.js')) loads.push(response.body());
-    });
+    page.on('response', (response) => loads.push(response.body()));
     await page.reload();
     await page.waitForSelector('.window');
     const bytes = (await Promise.all(loads)).reduce((sum, body) => sum + body.length, 0);
