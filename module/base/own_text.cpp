@@ -391,6 +391,9 @@ constexpr Words wordsOf(OwnText text) {
     case OwnText::pastingStopped:
         return {"Das Einfügen endet in Zeile {}, Spalte „{}“; die Zellen davor sind eingefügt.",
                 "Pasting ends in row {}, column \"{}\"; the cells before it are pasted."};
+    case OwnText::nothingPasted:
+        return {"Nichts ist eingefügt – Zeile {}, Spalte „{}“:",
+                "Nothing is pasted – row {}, column \"{}\":"};
     case OwnText::cellIsFixed:
         return {"Diese Zelle kann nicht geändert werden, „{}“ wurde nicht eingefügt.",
                 "This cell cannot be changed; \"{}\" was not pasted."};
@@ -411,6 +414,9 @@ constexpr Words wordsOf(OwnText text) {
         return {"Leertaste\tKnopf drücken, Häkchen setzen", "Space\tpresses a button, sets a tick"};
     case OwnText::keyAccess:
         return {"Alt+{}\t{}", "Alt+{}\t{}"};
+    case OwnText::keyDate:
+        return {"15.1.; +7; h\tin Datumsfeldern: Tag und Monat, in 7 Tagen, heute",
+                "15.1.; +7; h\tin boxes for dates: day and month, in 7 days, today"};
     case OwnText::keyPick:
         return {"Strg, F4\tAuswahl für „{}“", "Ctrl, F4\tchoices for \"{}\""};
     case OwnText::keyLineEnd:

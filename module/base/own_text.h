@@ -178,6 +178,7 @@ enum class OwnText {
     serviceFailed,      ///< a service of the host: class, operation, what it says
     // Pasting into the cells of a grid
     pastingStopped, ///< begins the message: the row, the heading of the column
+    nothingPasted,  ///< the row's number, the column's heading
     cellIsFixed,    ///< the value
     notTyped,       ///< the value
     noRoomToPaste,  ///< the value
@@ -188,6 +189,7 @@ enum class OwnText {
     keyGoOn,
     keyPressOrTick,
     keyAccess, ///< the letter, the caption
+    keyDate,
     keyPick,
     keyLineEnd,
     keyUndoTyping,

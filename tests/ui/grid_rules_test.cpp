@@ -176,7 +176,7 @@ TEST_F(GridRules, APastedBlockIsTypedCellByCellAndStopsAtTheFirstRefusal) {
          ""},
         {"an empty cell empties", {3, 4}, "\"\"", {"3/4="}, "3/4", ""},
         {"cells between that stay as they are", {0, 1}, "Fichte\t9", {"0/2=9"}, "0/1", ""},
-        {"a cell that cannot be edited", {0, 1}, "Buche\t9", {}, "0/1", "Zeile 1, Spalte „Name“"},
+        {"a cell that cannot be edited", {0, 1}, "Buche\t9", {}, "0/1", "Nichts ist eingefügt – Zeile 1, Spalte „Name“: Diese Zelle"},
         {"what the filter does not take", {0, 2}, "5\n12 fm\n6", {"0/2=5"}, "1/2", "Zeile 2, Spalte „Menge“"},
         {"what is too long", {0, 2}, "123456", {}, "0/2", "Sie nimmt „123456“ nicht an."},
         {"what the screen refuses",

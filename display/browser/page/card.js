@@ -7,7 +7,8 @@ export function placeCard(card, field) {
   const height = card.offsetHeight;
   const { left, top } = placeFor(field?.getBoundingClientRect(), { width, height });
   card.style.left = `${Math.round(left)}px`;
-  card.style.top = `${Math.round(top)}px`;
+  // A notice may stand above the screens.
+  card.style.top = `${Math.round(top - card.offsetParent.getBoundingClientRect().top)}px`;
 }
 
 function placeFor(field, { width, height }) {

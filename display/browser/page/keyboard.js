@@ -65,8 +65,9 @@ export class Keyboard {
     const who = decide(view, key);
     if (who === 'browser') {
       if (isOverheard(view, key)) this.#desktop.sayKey(key);
-      // The browser would scroll the page or leave it.
-      if (view?.state.kind !== 'text' && (key.code === 8 || key.code === 32)) event.preventDefault();
+      // The browser would scroll the page, leave it, or mark all of it.
+      const strays = key.code === 8 || key.code === 32 || (key.ctrl && key.code === 65);
+      if (view?.state.kind !== 'text' && strays) event.preventDefault();
       return;
     }
     event.preventDefault();

@@ -104,9 +104,24 @@ void GridEditor::commit() {
 }
 
 void GridEditor::paste(const std::string& text) {
-    const std::vector<std::vector<std::string>> lines = pastedCells(text);
+    if (grid_.currentRow() == Grid::none) return;
+    pasted_ = false;
+    // The screen shows the details of the line that it has written last.
+    const auto tellCurrent = [this] {
+        if (pasted_ && grid_.onCurrentChange) grid_.onCurrentChange();
+    };
+    try {
+        pasteLines(pastedCells(text));
+    } catch (const std::exception&) {
+        tellCurrent();
+        throw;
+    }
+    tellCurrent();
+}
+
+void GridEditor::pasteLines(const std::vector<std::vector<std::string>>& lines) {
     const Grid::Cell first{grid_.currentRow(), grid_.currentColumn()};
-    if (first.row == Grid::none || lines.empty()) return;
+    if (lines.empty()) return;
     Grid::Cell cell = first;
     Grid::Cell last = first;
     for (const std::vector<std::string>& line : lines) {
@@ -139,6 +154,7 @@ void GridEditor::pasteInto(Grid::Cell cell, const std::string& value) {
     if (!typeText(box_, value)) refusePasted(cell, value, {base::OwnText::notTyped});
     try {
         std::string shown = write(cell.row, cell.column, box_.text());
+        pasted_ = true;
         if (cell.row < static_cast<int>(grid_.rows().size()))
             grid_.setCell(cell.row, cell.column, std::move(shown));
     } catch (const base::Refused& refused) {
@@ -150,7 +166,7 @@ void GridEditor::pasteInto(Grid::Cell cell, const std::string& value) {
 }
 
 base::Refused::Sentence GridEditor::placeOf(Grid::Cell cell) const {
-    return {base::OwnText::pastingStopped,
+    return {pasted_ ? base::OwnText::pastingStopped : base::OwnText::nothingPasted,
             {std::to_string(cell.row + 1), grid_.columns()[static_cast<std::size_t>(cell.column)].caption}};
 }
 

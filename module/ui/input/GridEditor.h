@@ -53,6 +53,7 @@ private:
     bool editable(int row, int column) const;
     bool editsAnything() const;
     void paste(const std::string& text);
+    void pasteLines(const std::vector<std::vector<std::string>>& lines);
     void pasteInto(Grid::Cell cell, const std::string& value);
     base::Refused::Sentence placeOf(Grid::Cell cell) const;
     /// @param reason gets the value as its last one
@@ -61,6 +62,7 @@ private:
 
     Grid& grid_;
     TextBox& box_;
+    bool pasted_ = false; ///< a cell of the block that came last has been filled
 };
 
 } // namespace tellurix::ui

@@ -12,6 +12,7 @@ void makeDateBox(TextBox& box, std::function<base::Date()> today, std::function<
     constexpr int longestDate = 10; // "dd.mm.yyyy"
     box.setMaxLength(longestDate);
     box.setTakes({base::OwnText::takesDate});
+    box.setOwnKeys({base::OwnText::keyDate});
     box.onKeyPress = [](char32_t& key) {
         // The letters are those of "heute".
         if (std::u32string_view{U"0123456789.-/+hHeEuUtT"}.find(key) == std::u32string_view::npos) key = 0;
