@@ -40,17 +40,20 @@ export class TextBox extends View {
     input.addEventListener('compositionend', (event) => this.#composed(event.data));
   }
 
-  draw(changes) {
+  draw(changes, before) {
     const input = this.focusElement;
     const { locked, width, lines, maxLength, right, picks } = this.state;
     const shown = lineEnds(this.state.text, this.#severalLines);
     if (input.value !== shown) input.value = shown;
-    input.readOnly = locked;
-    if (maxLength > 0) input.maxLength = maxLength;
-    else input.removeAttribute('maxlength');
+    // Most drawings of a box change its text: to say the rest again costs more than to look.
+    if (locked !== before.locked) input.readOnly = locked;
+    if (maxLength !== before.maxLength) {
+      if (maxLength > 0) input.maxLength = maxLength;
+      else input.removeAttribute('maxlength');
+    }
     input.classList.toggle('right', right);
-    this.element.style.setProperty('--width', width);
-    if (lines > 1) input.rows = lines;
+    if (width !== before.width) this.element.style.setProperty('--width', width);
+    if (lines > 1 && lines !== before.lines) input.rows = lines;
     this.#drawPick(picks);
     this.#drawRefusal();
     if (changes.selection) {

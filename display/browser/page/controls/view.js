@@ -60,16 +60,15 @@ export class View {
     this.state = { ...before, ...changes };
     this.element.hidden = !this.state.visible;
     const target = this.focusElement ?? this.element;
-    if (this.state.tip) target.title = this.state.tip;
-    else target.removeAttribute('title');
     // A warning is seen as a colour, and read as the description.
+    const title = this.state.warning || this.state.tip || '';
+    if (title !== target.title) target.title = title;
     this.element.classList.toggle('warns', Boolean(this.state.warning));
     this.element.classList.toggle('quiet', this.state.quiet);
-    if (this.state.warning) target.title = this.state.warning;
     showChange(this.element, this.state.changedBy, target, this.state.warning);
     this.drawError();
     if ('disabled' in target) target.disabled = !this.state.enabled;
-    else if (this.focusElement) target.setAttribute('aria-disabled', !this.state.enabled);
+    else if (this.focusElement && this.state.enabled !== before.enabled) target.setAttribute('aria-disabled', !this.state.enabled);
     this.draw(changes, before);
   }
 
