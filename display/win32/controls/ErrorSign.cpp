@@ -31,6 +31,9 @@ void ErrorSign::show(const std::string& text, HWND about) {
         SendMessageW(words_, WM_SETFONT, reinterpret_cast<WPARAM>(theme_.font()), FALSE);
         picture_ = makePicture("error", theme_.scaled(16), theme_.warningColour());
         SendMessageW(icon_, STM_SETICON, reinterpret_cast<WPARAM>(picture_), 0);
+        // What is made last lies below the others, the frame around the box among them.
+        for (HWND part : {words_, icon_})
+            SetWindowPos(part, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
     SetWindowTextW(words_, widen(text_).c_str());
     SetWindowLongPtrW(words_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(about));

@@ -98,14 +98,24 @@ std::string plain(const std::string& caption) {
     return text;
 }
 
-/// What one of the windows about a control says.
+/// Whether another window lies over one that has room of its own. Over a cell of a table words have none.
+bool covered(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
+    if (place.right <= place.left) return false;
+    return ChildWindowFromPointEx(GetParent(window), {place.left + 1, (place.top + place.bottom) / 2},
+                                  CWP_SKIPINVISIBLE) != window;
+}
+
+/// What one of the windows about a control says, as far as it can be seen.
 std::string wordsAbout(HWND control, int number) {
     Search search{[=](HWND window) {
         return classOf(window) == L"Static" && GetDlgCtrlID(window) == number &&
                GetWindowLongPtrW(window, GWLP_USERDATA) == reinterpret_cast<LONG_PTR>(control);
     }};
     EnumChildWindows(GetParent(control), lookAt, reinterpret_cast<LPARAM>(&search));
-    return search.found == nullptr ? std::string{} : windowText(search.found);
+    return search.found == nullptr || covered(search.found) ? std::string{} : windowText(search.found);
 }
 
 } // namespace
