@@ -110,10 +110,7 @@ void ChartView::paintBar(HDC dc, const RECT& plot, int index) const {
         write(dc, bar.name, middle, plot.bottom + theme().scaled(2), TA_CENTER);
     if (!marked) return;
     const Selected bold{dc, theme().boldFont()};
-    const std::wstring text = widen(bar.text);
-    SIZE size{};
-    GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
-    const int half = static_cast<int>(size.cx) / 2;
+    const int half = static_cast<int>(theme().textSize(bar.text, false, 0, true).cx) / 2;
     const int x =
         std::clamp(middle, static_cast<int>(plot.left) + half,
                    std::max(static_cast<int>(plot.left) + half, static_cast<int>(plot.right) - half));

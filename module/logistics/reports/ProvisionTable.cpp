@@ -111,7 +111,7 @@ void ProvisionTable::open(const std::string& language, int carrierWidth) {
          .sorts = true,
          .shown = [this](KeyedRow& row) { return mark(row); },
          .remark = true,
-         .warns = [this](KeyedRow& row) { return ofWeek_ && !hasReport(row) && !row.touched(); }},
+         .warns = [this](KeyedRow& row) { return lacksReport(row); }},
         loads("Züge", reportField::announced),
         {.caption = "Bemerkung WH", .width = 28, .field = "BEMERKUNG", .sorts = true},
         loads("Züge zugesagt", reportField::confirmed),
@@ -157,9 +157,13 @@ bool ProvisionTable::hasTyped() {
     return grid_.touchedRows() > 0 || (editor_.open() && box_.touched());
 }
 
+bool ProvisionTable::lacksReport(KeyedRow& row) const {
+    return ofWeek_ && !row.touched() && !hasReport(row);
+}
+
 std::string ProvisionTable::mark(KeyedRow& row) const {
     if (row.touched()) return "*";
-    return ofWeek_ && !hasReport(row) ? base::ownText(OwnText::reportMissing, language_) : std::string{};
+    return lacksReport(row) ? base::ownText(OwnText::reportMissing, language_) : std::string{};
 }
 
 int ProvisionTable::columnOf(std::string_view field) const {

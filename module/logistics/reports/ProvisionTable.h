@@ -76,6 +76,8 @@ public:
 
 private:
     void hideReported();
+    /// Whether its helper has not reported in the chosen week, and nothing is typed for him either.
+    bool lacksReport(parts::KeyedRow& row) const;
     std::string mark(parts::KeyedRow& row) const;
     int columnOf(std::string_view field) const;
     /// @throws ui::RefusedInput for a value in a column, which names both

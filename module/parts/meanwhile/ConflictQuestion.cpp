@@ -1,7 +1,6 @@
 #include "module/parts/meanwhile/ConflictQuestion.h"
 
 #include "module/base/own_text.h"
-#include "module/base/text.h"
 
 #include <algorithm>
 
