@@ -86,7 +86,7 @@ export class Desktop {
   }
 
   /** Gets ready for paper (style/print.css), and for the screen again. */
-  #print(whole) {
+  #print(printing) {
     const { lang, style } = document.documentElement;
     style.setProperty('--printed', `"${new Date().toLocaleDateString(lang)}"`);
     const sheets = this.#windows.filter(({ card }) => !card);
@@ -94,7 +94,7 @@ export class Desktop {
     if (!sheet) return;
     sheet.path.dataset.title = sheet.title;
     sheet.path.dataset.subject = sheets.findLast(({ subject }) => subject)?.subject ?? '';
-    for (const view of sheet.views.values()) view.showWhole?.(whole);
+    for (const view of sheet.views.values()) view.showOnPaper?.(printing);
   }
 
   /** Puts the browser's focus where the session says it is. */
@@ -207,7 +207,8 @@ export class Desktop {
     element.classList.toggle('one-grid', controls.filter(({ kind }) => kind === 'grid').length === 1);
     // One may show another: a table that is being edited has a box in it.
     this.#draw(window, controls);
-    const { content, bar } = buildLayout(layout, window.views, element);
+    const { content, bar, strips } = buildLayout(layout, window.views, element);
+    window.strips = strips;
     const middle = document.createElement('div');
     middle.className = 'content scrolls';
     middle.append(content);
@@ -224,7 +225,7 @@ export class Desktop {
     }
     window.status.draw(status);
     window.status.drawHints(hints);
-    countFilters(element);
+    countFilters(strips);
   }
 
   #titleBar(window) {
@@ -264,7 +265,7 @@ export class Desktop {
     if (title !== undefined) this.#title(window, title);
     if (subject !== undefined) window.subject = subject;
     this.#draw(window, controls ?? []);
-    countFilters(window.element);
+    countFilters(window.strips);
     if (status) window.status.draw(status);
     if (hints) window.status.drawHints(hints);
   }

@@ -1,10 +1,19 @@
 // Arranges the controls of a window as its layout tree says.
+import { showVacancy } from './controls/view.js';
 import { text } from './texts.js';
 
+// What stands in a place is said by classes, as far as style sheets ask for an order: selectors that look into it for
+// one would have the browser look again whenever a row comes into a table.
 const builders = {
   control: (node, views) => viewOf(node, views).element,
   field: (node, views) => box('field', [labelOf(node, views), fieldContent(node, views)]),
-  row: (node, views) => box('row', node.children.map((child) => build(child, views))),
+  row(node, views) {
+    const row = box('row', node.children.map((child) => build(child, views)));
+    const has = (places) => row.querySelector(`:scope > ${places}`) !== null;
+    row.classList.toggle('abreast', has('.frame + .frame.grows'));
+    row.classList.toggle('of-three', has('.groups:first-child + .groups + .grows:last-child'));
+    return row;
+  },
   column: (node, views) => box('column', node.children.map((child) => build(child, views))),
   fields(node, views) {
     const table = box('fields', node.children.flatMap((child) => fieldCells(child, views)));
@@ -35,7 +44,11 @@ const builders = {
   sides(node, views) {
     const sides = node.children.map((child) => box('side', [build(child, views)]));
     sides.at(-1).tabIndex = 0; // it scrolls, and may have nothing in it that takes the focus
-    return box('sides', sides);
+    const both = box('sides', sides);
+    for (const side of sides) side.classList.toggle('glance', side.querySelector(':scope > .groups .gauges') !== null);
+    both.classList.toggle('list-grows', sides[0].firstChild.classList.contains('grows'));
+    both.classList.toggle('details-grow', sides.at(-1).firstChild.classList.contains('grows'));
+    return both;
   },
   frame(node, views) {
     const frame = viewOf(node, views);
@@ -46,7 +59,9 @@ const builders = {
   section(node, views) {
     const [heading, ...children] = node.children;
     const frame = viewOf(node, views);
-    frame.heading.append(...(heading.children ?? []).map((child) => build(child, views)));
+    const tools = (heading.children ?? []).map((child) => build(child, views));
+    frame.heading.append(...tools);
+    frame.heading.classList.toggle('equipped', tools.length > 0);
     const list = children.map((child) => views.get(child.control)).find((view) => view?.state.kind === 'grid');
     list?.countIn(frame.heading);
     return builders.frame({ ...node, children }, views);
@@ -76,21 +91,23 @@ const builders = {
 
 /**
  * @param window the element of the window
- * @returns what scrolls, and the bar of buttons below it: those of a page, too, while that is shown
+ * @returns what scrolls, the bar of buttons below it (those of a page, too, while that is shown), and the strips whose
+ *   filters a narrow screen hides
  */
 export function buildLayout(node, views, window) {
   const content = build(node, views);
+  for (const place of content.querySelectorAll('.label-cell, .field-content, .buttons')) showVacancy(place);
   nameTheRest(views, window);
   const bars = [...content.querySelectorAll('.bar')];
   const bar = bars.pop() ?? null;
   bar?.prepend(...bars);
   bar?.remove();
-  return { content, bar };
+  return { content, bar, strips: [...content.querySelectorAll('.filters:has(> .more)')] };
 }
 
 /** Says how many of the filters behind a button are in use. */
-export function countFilters(window) {
-  for (const strip of window.querySelectorAll('.filters:has(> .more)')) {
+export function countFilters(strips) {
+  for (const strip of strips) {
     const used = [...strip.querySelectorAll(':scope > :not(:first-child) :is(input, select)')].filter((control) => (
       !control.readOnly && (control.type === 'checkbox' ? control.checked : control.selectedIndex > 0 || (control.type === 'text' && control.value))));
     const words = used.length > 0 ? `${text('filters')} (${used.length})` : text('filters');
@@ -102,6 +119,7 @@ function build(node, views) {
   const complete = { children: [], ...node };
   const element = builders[complete.kind](complete, views);
   if (complete.grows) element.classList.add('grows');
+  if (complete.children.some(({ grows }) => grows)) element.classList.add('stretches');
   if (complete.primary) element.classList.add('primary');
   return element;
 }

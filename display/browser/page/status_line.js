@@ -2,12 +2,19 @@
 import { announceAccessKey, showCaption } from './caption.js';
 import { text as words } from './texts.js';
 
+function emptyHint() {
+  const hint = document.createElement('span');
+  hint.append(document.createElement('kbd'), ' ');
+  return hint;
+}
+
 export class StatusLine {
   element;
 
   #text = document.createElement('span');
   #action = document.createElement('button');
   #hints = document.createElement('span');
+  #height = 0;
 
   /** @param act the offer has been pressed */
   constructor(act) {
@@ -25,18 +32,30 @@ export class StatusLine {
     this.#hints.className = 'hints';
     // Readers find all keys behind F1.
     this.#hints.setAttribute('aria-hidden', 'true');
-    this.element.append(working, this.#text, this.#action, this.#hints);
+    const line = document.createElement('div');
+    line.className = 'line';
+    line.append(working, this.#text, this.#action, this.#hints);
+    this.element.append(line);
+    new ResizeObserver(() => this.#resized()).observe(this.#text);
+  }
+
+  /** The line is as high as its text, which is seldom longer than the screen is wide. */
+  #resized() {
+    const height = this.#text.offsetHeight;
+    if (height === this.#height) return;
+    this.#height = height;
+    this.element.style.setProperty('--said', height);
   }
 
   /** @param hints what the next key may be: [key, effect] */
   drawHints(hints) {
-    this.#hints.replaceChildren(...hints.map(([key, effect]) => {
-      const hint = document.createElement('span');
-      const cap = document.createElement('kbd');
+    while (this.#hints.children.length > hints.length) this.#hints.lastChild.remove();
+    hints.forEach(([key, effect], at) => {
+      const hint = this.#hints.children[at] ?? this.#hints.appendChild(emptyHint());
+      const [cap, words] = hint.childNodes;
       cap.textContent = key;
-      hint.append(cap, ` ${effect}`);
-      return hint;
-    }));
+      words.data = ` ${effect}`;
+    });
   }
 
   draw({ text, action }) {

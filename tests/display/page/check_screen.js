@@ -62,7 +62,7 @@ function findMisplaced() {
     if (area.scrollWidth > area.clientWidth + 1) findings.push(`${area.className || 'page'} is ${area.scrollWidth - area.clientWidth} too wide`);
   }
 
-  const kinds = '.text-box, select.control, .button, .check, .grid, .list, .label, .up-down, .bar, .path, .status';
+  const kinds = '.text-box, .combo, .button, .check, .grid, .list, .label, .up-down, .bar, .path, .status';
   const placed = [...top.querySelectorAll(kinds)].filter((element) => seen(element) && element.textContent + element.innerHTML !== '')
     .map((element) => ({ element, box: element.getBoundingClientRect() }));
   placed.forEach(({ element, box }, at) => {

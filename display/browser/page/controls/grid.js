@@ -22,7 +22,8 @@ function sumCell() {
 export class Grid extends View {
   #head = document.createElement('div');
   #body = document.createElement('div');
-  #rows = new Map(); // the drawn rows by their index
+  #drawn = document.createElement('div'); // the rows in it that stand in the page
+  #rows = new Map(); // these by their index
   #current = null; // the drawn current cell
   #scrolledTo = 0;
   #laidOut = false; // it has room on the screen, and is not on the page of a tab behind another
@@ -35,6 +36,7 @@ export class Grid extends View {
   #heads = null; // the caption over it, where it counts the rows
   #empty = null; // what stands there instead of rows
   #editor = null; // the box that floats over a cell while it is edited
+  #opened = null; // that cell
 
   constructor(window, state) {
     const element = document.createElement('div');
@@ -49,6 +51,9 @@ export class Grid extends View {
     this.#head.setAttribute('aria-rowindex', 1);
     this.#body.className = 'grid-body';
     this.#body.setAttribute('role', 'rowgroup');
+    this.#drawn.className = 'grid-rows';
+    this.#drawn.setAttribute('role', 'presentation');
+    this.#body.append(this.#drawn);
     element.append(this.#head, this.#body);
     element.addEventListener('mousedown', (event) => this.#pressed(event));
     element.addEventListener('dblclick', (event) => {
@@ -92,8 +97,8 @@ export class Grid extends View {
   }
 
   /** Paper does not scroll: all rows stand on it. */
-  showWhole(whole) {
-    this.#whole = whole;
+  showOnPaper(printing) {
+    this.#whole = printing;
     this.#drawRows();
   }
 
@@ -116,6 +121,7 @@ export class Grid extends View {
   showSums(rows, frame) {
     this.element.classList.add('summed');
     const group = document.createElement('div');
+    group.className = 'sums';
     group.setAttribute('role', 'rowgroup');
     frame?.standsAs(group);
     this.#sums.className = 'grid-sums';
@@ -254,7 +260,7 @@ export class Grid extends View {
   /** Puts the rows into the page that have to be there now, and takes the others away. */
   #drawRows(wanted = this.#wanted()) {
     this.#remove((index) => !wanted.includes(index));
-    let next = this.#body.firstChild;
+    let next = this.#drawn.firstChild;
     for (const index of wanted) {
       const drawn = this.#rows.get(index);
       if (drawn) {
@@ -263,7 +269,7 @@ export class Grid extends View {
       }
       const row = this.#row(index);
       this.#rows.set(index, row);
-      this.#body.insertBefore(row, next);
+      this.#drawn.insertBefore(row, next);
     }
   }
 
@@ -367,13 +373,21 @@ export class Grid extends View {
     this.#editor = box;
     box.element.classList.add('cell-editor');
     box.focusElement.setAttribute('aria-label', this.state.columns[column].caption);
+    this.#opened = cell;
+    this.#showOpened(true);
     cell.append(box.element);
     box.drawError();
   }
 
   #removeEditor() {
-    this.#editor?.element.remove();
+    if (!this.#editor) return;
+    this.#showOpened(false);
+    this.#editor.element.remove();
     this.#editor = null;
+  }
+
+  #showOpened(opened) {
+    for (const element of [this.#opened, this.#opened.parentElement]) element.classList.toggle('opened', opened);
   }
 
   /** Of every row; 0 while nothing can be seen. */
@@ -427,10 +441,10 @@ export class Grid extends View {
   }
 
   #scrolled() {
+    if (this.element.scrollTop === this.#scrolledTo) return; // by the session, which has had the rows drawn
     this.#drawRows();
-    const byUser = this.element.scrollTop !== this.#scrolledTo;
     this.#scrolledTo = this.element.scrollTop;
     // What was scrolled before the box opens must not reach the session behind the key that opens it.
-    if (byUser && this.state.editor) this.perform({ type: 'scroll' });
+    if (this.state.editor) this.perform({ type: 'scroll' });
   }
 }

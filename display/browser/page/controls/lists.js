@@ -7,10 +7,10 @@ class ItemView extends View {
   #searched = ''; // what was typed in this visit, one letter soon after the other
   #searchedAt = 0;
 
-  constructor(window, state, element) {
-    super(window, state, element, element);
+  constructor(window, state, element, list = element) {
+    super(window, state, element, list);
     // A list that is left forgets it: the first letter in the next one, or at the next visit, is a first one.
-    element.addEventListener('blur', () => { this.#searched = ''; });
+    list.addEventListener('blur', () => { this.#searched = ''; });
   }
 
   /** Chooses the next item that begins with what is being typed. A blank that begins nothing opens the list. */
@@ -45,7 +45,11 @@ class ItemView extends View {
 export class ComboBox extends ItemView {
   constructor(window, state) {
     const select = document.createElement('select');
-    super(window, state, select);
+    // When another item is shown, the browser's form filler looks at its whole form, and that is else the whole page.
+    const element = document.createElement('form');
+    super(window, state, element, select);
+    element.classList.add('combo');
+    element.append(select);
     select.addEventListener('mousedown', (event) => {
       if (!this.desktop.busy) return;
       event.preventDefault();
@@ -60,7 +64,7 @@ export class ComboBox extends ItemView {
 
   open() {
     try {
-      this.element.showPicker?.();
+      this.focusElement.showPicker?.();
     } catch {
       // The browser opens lists only soon after a key or click; arrows choose without that.
     }
@@ -68,10 +72,10 @@ export class ComboBox extends ItemView {
 
   draw(changes, before) {
     if (changes.items) {
-      this.element.replaceChildren(...this.state.items.map((item) => new Option(item)));
+      this.focusElement.replaceChildren(...this.state.items.map((item) => new Option(item)));
     }
     if (this.state.width !== before.width) this.element.style.setProperty('--width', this.state.width);
-    this.element.selectedIndex = this.state.selected;
+    if (this.focusElement.selectedIndex !== this.state.selected) this.focusElement.selectedIndex = this.state.selected;
   }
 }
 

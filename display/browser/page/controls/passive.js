@@ -49,6 +49,7 @@ export class Frame extends View {
     element.dataset.control = this.state.name;
     element.dataset.id = this.state.id;
     element.classList.add('control');
+    element.hidden = this.element.hidden;
     this.element = element;
     this.draw();
   }
@@ -61,6 +62,7 @@ export class Frame extends View {
   draw() {
     const { caption, enabled } = this.state;
     showCaption(this.#caption, caption);
+    this.heading.classList.toggle('nameless', !caption);
     if (caption) this.element.setAttribute('aria-label', plainCaption(caption));
     else this.element.removeAttribute('aria-label');
     this.element.disabled = !enabled;

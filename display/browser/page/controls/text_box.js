@@ -19,9 +19,9 @@ export class TextBox extends View {
     const element = document.createElement('span');
     super(window, state, element, input);
     element.classList.add('text-box');
+    element.classList.toggle('tall', state.lines > 1);
     element.append(input);
     if (state.lines <= 1) input.type = 'text';
-    input.placeholder = ' '; // so that style sheets know an empty one
     input.autocomplete = 'off';
     input.spellcheck = false;
     input.setAttribute('autocapitalize', 'off');
@@ -60,6 +60,11 @@ export class TextBox extends View {
       const [start, length] = changes.selection;
       this.#toShow = { start, length };
     }
+  }
+
+  /** Paper leaves empty boxes out, which its style sheet knows by this. */
+  showOnPaper(printing) {
+    this.focusElement.placeholder = printing ? ' ' : '';
   }
 
   /** Over a cell of a table it stands below the box, or above it where the table ends. */
@@ -227,6 +232,7 @@ export class TextBox extends View {
     if (picks && !this.#pick) this.#pick = this.#pickButton();
     if (!this.#pick) return;
     this.#pick.hidden = !picks;
+    this.element.classList.toggle('picks', Boolean(picks));
     this.#pick.disabled = !this.state.enabled || this.state.locked;
   }
 

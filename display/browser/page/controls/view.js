@@ -31,6 +31,14 @@ export function showChange(shown, who, described = shown, words = '') {
   else described.removeAttribute('aria-description');
 }
 
+/**
+ * Whether all in it is hidden, so that it takes no room. A style sheet could see that for itself, but the browser
+ * would have to look at all places again whenever a row comes into a table.
+ */
+export function showVacancy(place) {
+  place.classList.toggle('vacant', [...place.children].every((child) => child.hidden));
+}
+
 export class View {
   #error = null; // what stands beside it, once there has been something
 
@@ -58,7 +66,10 @@ export class View {
   update(changes) {
     const before = this.state;
     this.state = { ...before, ...changes };
-    this.element.hidden = !this.state.visible;
+    if (this.state.visible !== before.visible) {
+      this.element.hidden = !this.state.visible;
+      if (this.element.parentElement) showVacancy(this.element.parentElement);
+    }
     const target = this.focusElement ?? this.element;
     // A warning is seen as a colour, and read as the description.
     const title = this.state.warning || this.state.tip || '';
