@@ -382,6 +382,7 @@ export class Grid extends View {
   #removeEditor() {
     if (!this.#editor) return;
     this.#showOpened(false);
+    this.#drawn.classList.remove('tells');
     this.#editor.element.remove();
     this.#editor = null;
   }

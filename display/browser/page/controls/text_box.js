@@ -67,6 +67,13 @@ export class TextBox extends View {
     this.focusElement.placeholder = printing ? ' ' : '';
   }
 
+  /** What is told beside the box of a cell may lie over the head and the sums of the table. */
+  drawError() {
+    super.drawError();
+    const { error, refusal } = this.state;
+    this.element.closest('.grid-rows')?.classList.toggle('tells', Boolean(error || refusal));
+  }
+
   /** Over a cell of a table it stands below the box, or above it where the table ends. */
   placeError(error) {
     const table = this.element.closest('.grid');
