@@ -45,7 +45,7 @@ class ItemView extends View {
 export class ComboBox extends ItemView {
   constructor(window, state) {
     const select = document.createElement('select');
-    // When another item is shown, the browser's form filler looks at its whole form, and that is else the whole page.
+    // When another item is shown, the browser's form filler looks at the form around it, or without one at the page.
     const element = document.createElement('form');
     super(window, state, element, select);
     element.classList.add('combo');
