@@ -424,7 +424,9 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     assert.deepEqual(await status.locator('.hints > span').allTextContents(),
       ['F2 Zelle ändern', 'Strg+S Speichern', 'Esc Bearb.Abbr.', 'F1 Tasten']);
 
-    await press('ArrowRight');
+    const size = page.viewportSize();
+    await page.setViewportSize({ ...size, height: 370 }); // the last row stands right above the sums
+    await press('ArrowRight', 'ArrowDown', 'ArrowDown');
     await page.keyboard.type('99999999');
     await press('Enter');
     await message().waitFor();
@@ -432,13 +434,16 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     const error = table.locator('.error');
     await until(() => error.isVisible(), 'what is wrong');
     assert.match(await error.textContent(), /Das ist keine Menge/);
-    const [box, said] = [await confirmed.boundingBox(), await error.boundingBox()];
+    const box = await table.locator('[data-row="2"] > [data-column="3"]').boundingBox();
+    const [said, sums] = [await error.boundingBox(), await table.locator('.grid-sums').boundingBox()];
     assert.ok(said.y >= box.y + box.height && said.y < box.y + 2 * box.height, 'it stands below the cell');
+    assert.ok(said.y + said.height > sums.y + 3, 'and reaches over the sums');
     const seen = await error.evaluate((element) => {
-      const { left, top, width, height } = element.getBoundingClientRect();
-      return document.elementFromPoint(left + width / 2, top + height / 2) === element;
+      const { left, bottom, width } = element.getBoundingClientRect();
+      return document.elementFromPoint(left + width / 2, bottom - 2) === element;
     });
     assert.ok(seen, 'nothing covers it');
+    await page.setViewportSize(size);
     await press('Escape', 'Escape');
     await message().waitFor();
     await message().getByRole('button', { name: 'Ja' }).click();
