@@ -50,12 +50,32 @@ void ControlView::destroy() {
 }
 
 void ControlView::place(const RECT& rect) {
+    table_.reset();
     RECT own = rect;
-    // A box over a cell of a table has no room beside it: there the frame has to do.
     const int beside = static_cast<int>(error_.size().cx);
     if (widthOf(rect) > beside + theme().lineHeight()) own.right -= beside;
     error_.place({own.right, rect.top, rect.right, rect.bottom});
     placeControl(own);
+}
+
+void ControlView::placeOver(const RECT& cell, const RECT& table) {
+    table_ = table;
+    placeControl(cell);
+    placeErrorAtCell();
+    showErrorSign();
+}
+
+void ControlView::placeErrorAtCell() {
+    const SIZE size = error_.size();
+    RECT sign{rect_.left, rect_.bottom, rect_.left + size.cx, rect_.bottom + size.cy};
+    if (sign.bottom > table_->bottom) OffsetRect(&sign, 0, rect_.top - sign.bottom);
+    if (sign.right > table_->right) OffsetRect(&sign, table_->right - sign.right, 0);
+    error_.place(sign);
+}
+
+void ControlView::showErrorSign() {
+    const bool scrolledAway = table_ && IsRectEmpty(&rect_) != FALSE;
+    error_.setVisible(control_.showing() && !scrolledAway);
 }
 
 void ControlView::placeControl(const RECT& rect) {
@@ -82,6 +102,7 @@ void ControlView::enable(bool visible, bool enabled) {
 void ControlView::drawError() {
     const bool had = error_.shown();
     error_.show(control_.error(), handle_);
+    if (table_) placeErrorAtCell();
     if (had != error_.shown()) RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
 }
 
@@ -127,7 +148,7 @@ void ControlView::update() {
     }
     // What is around a control decides too, and that does not make it dirty.
     enable(control_.showing(), control_.usable());
-    error_.setVisible(control_.showing());
+    showErrorSign();
 }
 
 void ControlView::showText(const std::wstring& text) {

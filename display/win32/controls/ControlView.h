@@ -82,6 +82,9 @@ public:
     virtual RECT padding() const { return {}; }
     /// Puts it somewhere, with its error beside it; in coordinates of the window's client area.
     void place(const RECT& rect);
+    /// Puts it over a cell of a table. Its error stands below the cell, or above it where the table ends.
+    /// @param cell what is seen of it: empty when it is scrolled away
+    void placeOver(const RECT& cell, const RECT& table);
     const RECT& rect() const { return rect_; }
     /// The frame or tab page around it: decides about its background.
     void setOnPage(bool onPage) { onPage_ = onPage; }
@@ -156,6 +159,8 @@ private:
     LRESULT pressed(UINT message, WPARAM wParam, LPARAM lParam);
 
     void drawError();
+    void placeErrorAtCell();
+    void showErrorSign();
     /// Draws the frame of a control with an error over its own.
     void frameError() const;
     /// As `measure`, with what stands beside it.
@@ -167,6 +172,7 @@ private:
     HWND handle_ = nullptr;
     WNDPROC nativeProcedure_ = nullptr;
     RECT rect_{};
+    std::optional<RECT> table_; ///< in which it stands over a cell
     Room room_;
     bool shown_ = false; ///< of the control alone, whatever is around it
     bool onPage_ = false;

@@ -112,8 +112,9 @@ void GridView::placeEditor() {
     RECT client{};
     GetClientRect(handle(), &client);
     IntersectRect(&cell, &cell, &client);
-    MapWindowPoints(handle(), host().window(), reinterpret_cast<POINT*>(&cell), 2);
-    host().viewOf(*box).place(cell);
+    for (RECT* place : {&cell, &client})
+        MapWindowPoints(handle(), host().window(), reinterpret_cast<POINT*>(place), 2);
+    host().viewOf(*box).placeOver(cell, client);
 }
 
 void GridView::paint() {

@@ -98,12 +98,12 @@ std::string plain(const std::string& caption) {
     return text;
 }
 
-/// Whether another window lies over one that has room of its own. Over a cell of a table words have none.
+/// Whether a window has no room, or another one lies over it.
 bool covered(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
     MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
-    if (place.right <= place.left) return false;
+    if (place.right <= place.left) return true;
     return ChildWindowFromPointEx(GetParent(window), {place.left + 1, (place.top + place.bottom) / 2},
                                   CWP_SKIPINVISIBLE) != window;
 }
