@@ -101,6 +101,8 @@ constexpr Words wordsOf(OwnText text) {
         return {"{}: hh:mm", "{}: hh:mm"};
     case OwnText::notInList:
         return {"Nicht in der Liste", "Not in the list"};
+    case OwnText::periodEndsEarly:
+        return {"Das Ende liegt vor dem Beginn am {}.", "The end is before the beginning on {}."};
     case OwnText::nothingFound:
         return {"Keine Treffer", "Nothing found"};
     case OwnText::nothingFoundFor:

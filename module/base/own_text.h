@@ -56,6 +56,7 @@ enum class OwnText {
     dateFormat, ///< the field's label
     timeFormat, ///< the field's label
     notInList,
+    periodEndsEarly, ///< the day it begins
     // Lists that are empty: that it is so, and the next step; the captions of its buttons
     nothingFound,
     nothingFoundFor, ///< what was looked for

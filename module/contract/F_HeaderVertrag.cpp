@@ -1,7 +1,9 @@
 #include "module/contract/F_HeaderVertrag.h"
 
 #include "module/base/StatementText.h"
+#include "module/base/date_format.h"
 #include "module/base/number_format.h"
+#include "module/base/own_text.h"
 #include "module/base/text.h"
 #include "module/contract/contract_row.h"
 #include "module/contract/header_captions.h"
@@ -72,6 +74,23 @@ void F_HeaderVertrag::connectDates() {
     connect(txtDate4, [this] { return lblDate4.caption(); });
     connect(txtLieferVon, [this] { return frmLieferVon.caption() + " " + lblLieferVon.caption(); });
     connect(txtLieferBis, [this] { return frmLieferVon.caption() + " " + lblLieferBis.caption(); });
+    for (ui::TextBox* box : {&txtLieferVon, &txtLieferBis}) {
+        box->onLeave = [this, takesDate = std::move(box->onLeave)] {
+            const bool taken = takesDate();
+            markPeriod();
+            return taken;
+        };
+    }
+}
+
+/// Mostly a slip of the year, which would leave the contract without weeks to plan.
+void F_HeaderVertrag::markPeriod() {
+    const auto from = base::parseDate(txtLieferVon.text());
+    const auto to = base::parseDate(txtLieferBis.text());
+    const bool reversed = from && to && *to < *from;
+    txtLieferBis.setWarning(
+        reversed ? base::ownText(base::OwnText::periodEndsEarly, session_.language, {base::dateText(*from)})
+                 : "");
 }
 
 void F_HeaderVertrag::connectCurrency() {
@@ -204,6 +223,7 @@ void F_HeaderVertrag::LoadHeader() {
     const auto row = readRow();
     requireContract(*row);
     row_.show(*row);
+    markPeriod();
     accessLevel_ = static_cast<int>(row->integer("ID_ACCESS_LEVELS", session_.accessLevel));
     changes_.forget();
 }

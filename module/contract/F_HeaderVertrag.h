@@ -24,7 +24,8 @@ namespace tellurix::contract {
 ///
 /// The row is read when the screen opens, and once more directly before "Ok" writes it with one statement:
 /// what a colleague has changed meanwhile stays. Every field is checked or put in form when it is left;
-/// there is no further check at the end, and nothing is mandatory. "Abbrechen" writes nothing.
+/// there is no further check at the end, and nothing is mandatory: a delivery period that ends before it
+/// begins is marked and written as it is. "Abbrechen" writes nothing.
 class F_HeaderVertrag final : public ui::Form, public host::Screen {
 public:
     explicit F_HeaderVertrag(host::HostServices& services);
@@ -39,6 +40,7 @@ public:
 
 private:
     void connectDates();
+    void markPeriod();
     void connectCurrency();
     void connectRow();
     void arrange();

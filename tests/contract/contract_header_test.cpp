@@ -174,6 +174,33 @@ TEST_F(ContractHeader, ABadDateShowsTheMessageAndKeepsTheFocus) {
     EXPECT_EQ(value("SELECT LIEFERVON FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "2025-02-28");
 }
 
+TEST_F(ContractHeader, APeriodThatEndsBeforeItBeginsIsMarkedAndWrittenAsItIs) {
+    editHeader(1, [](User& user) {
+        const auto warning = [&] { return user.control<ui::TextBox>("txtLieferBis").warning(); };
+        EXPECT_EQ(warning(), "");
+        user.type("txtLieferVon", "1.3.2025");
+        user.type("txtLieferBis", "28.2.2025");
+        EXPECT_EQ(warning(), "") << "nobody has left it yet";
+        user.focus("txtLieferVon");
+        EXPECT_EQ(warning(), "Das Ende liegt vor dem Beginn am 01.03.2025.");
+        user.type("txtLieferVon", "28.2.2025");
+        user.focus("txtLieferBis");
+        EXPECT_EQ(warning(), "") << "one day is a period";
+        user.type("txtLieferBis", "27.2.2025");
+        user.click("btnOk");
+    });
+    EXPECT_EQ(value("SELECT LIEFERBIS FROM VERTRAEGE WHERE ID_VERTRAG = 1"), "2025-02-27");
+    editHeader(1, [](User& user) {
+        EXPECT_NE(user.control<ui::TextBox>("txtLieferBis").warning(), "") << "seen as soon as it is opened";
+        user.type("txtLieferBis", "");
+        user.click("btnOk");
+    });
+    editHeader(1, [](User& user) {
+        EXPECT_EQ(user.control<ui::TextBox>("txtLieferBis").warning(), "") << "nothing of the last visit";
+        user.click("btnCancel");
+    });
+}
+
 TEST_F(ContractHeader, ANumberIsWrittenAsItWasReadUnlessTheUserTouchedIt) {
     struct Case {
         const char* rule;
