@@ -144,7 +144,7 @@ class Player {
     for (const { look, media = {}, width, height } of looks) {
       await this.page.emulateMedia({ colorScheme: null, forcedColors: null, ...media });
       await this.page.setViewportSize({ width, height });
-      await this.page.screenshot({ path: `${process.env.TELLURIX_PICTURES}/browser-${look}-${name.text}.png` });
+      await this.page.screenshot({ path: `${process.env.TELLURIX_PICTURES}/browser-${look}-${name.text}.png`, animations: 'disabled' });
     }
     await this.page.emulateMedia({ colorScheme: null, forcedColors: null });
     await this.page.setViewportSize(size);

@@ -325,6 +325,7 @@ describe('the workbench', { skip: program ? false : 'TELLURIX_WORKBENCH names no
     await page.mouse.move(edge.x - 57, edge.y + 5);
     await page.mouse.up();
     await until(async () => Math.abs((await width()) - before + 60) < 8 || [before, await width()], 'narrower by what it was pulled');
+    await support.settled(page); // the session keeps whole characters
     const pulled = await width();
     await page.reload();
     await top('F_VertragPreise');
