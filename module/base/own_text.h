@@ -52,7 +52,7 @@ enum class OwnText {
     takesLines,
     takesNoMore, ///< how many characters fit
     textIsCut,   ///< how many characters were taken, of how many
-    // What stands beside a field with an error
+    // What is said of a field that is wrong or doubtful
     dateFormat, ///< the field's label
     timeFormat, ///< the field's label
     notInList,

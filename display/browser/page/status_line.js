@@ -52,9 +52,9 @@ export class StatusLine {
     while (this.#hints.children.length > hints.length) this.#hints.lastChild.remove();
     hints.forEach(([key, effect], at) => {
       const hint = this.#hints.children[at] ?? this.#hints.appendChild(emptyHint());
-      const [cap, words] = hint.childNodes;
+      const [cap, rest] = hint.childNodes;
       cap.textContent = key;
-      words.data = ` ${effect}`;
+      rest.data = ` ${effect}`;
     });
   }
 
